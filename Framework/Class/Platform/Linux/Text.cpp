@@ -1,0 +1,129 @@
+#include "Text.h"
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <memory>
+#include <string_view>
+
+namespace orv {
+namespace {
+
+struct UpperCase {
+  std::string_view character;  // UTF-8
+  std::string_view upperCase;
+};
+
+// The characters beyond ASCII whose upper case is written with ASCII letters alone. No other
+// character beyond ASCII can become part of an ASCII text, so the rest of Unicode needs no table.
+constexpr std::array<UpperCase, 10> kBeyondAscii = {{
+    {"\u00DF", "SS"},   // sharp s
+    {"\u0131", "I"},    // dotless i
+    {"\u017F", "S"},    // long s
+    {"\uFB00", "FF"},   // the ligatures
+    {"\uFB01", "FI"},   //
+    {"\uFB02", "FL"},   //
+    {"\uFB03", "FFI"},  //
+    {"\uFB04", "FFL"},  //
+    {"\uFB05", "ST"},   //
+    {"\uFB06", "ST"},   //
+}};
+
+// Goes through the upper-case form of a text, byte by byte, without making a copy of it.
+class UpperCaseReader {
+ public:
+  explicit UpperCaseReader(std::string_view text) : text_(text) {}
+
+  /// The next byte; 0 at the end.
+  char Next() {
+    if (rest_.empty()) TakeCharacter();
+    if (rest_.empty()) return '\0';
+    const char next = rest_.front();
+    rest_.remove_prefix(1);
+    return next >= 'a' && next <= 'z' ? static_cast<char>(next - 'a' + 'A') : next;
+  }
+
+ private:
+  void TakeCharacter() {
+    for (const UpperCase &special : kBeyondAscii) {
+      if (text_.starts_with(special.character)) {
+        text_.remove_prefix(special.character.size());
+        rest_ = special.upperCase;
+        return;
+      }
+    }
+    rest_ = text_.substr(0, 1);
+    text_.remove_prefix(rest_.size());
+  }
+
+  std::string_view text_;
+  std::string_view rest_;
+};
+
+bool StartsWith(UpperCaseReader reader, std::string_view upperCase) {
+  for (const char wanted : upperCase) {
+    if (reader.Next() != wanted) return false;
+  }
+  return true;
+}
+
+bool IsDigit(char character) { return character >= '0' && character <= '9'; }
+
+// Takes the run of digits at the front off the text and gives it without its leading zeros.
+std::string_view TakeNumber(std::string_view &text) {
+  std::size_t end = 0;
+  while (end < text.size() && IsDigit(text[end])) ++end;
+  std::string_view number = text.substr(0, end);
+  text.remove_prefix(end);
+  number.remove_prefix(std::min(number.find_first_not_of('0'), number.size()));
+  return number;
+}
+
+// The texts that were handed out, newest first. Texts are only ever added, so a reader needs no
+// lock.
+struct Kept {
+  std::string text;
+  Kept *earlier;
+};
+std::atomic<Kept *> newestKept = nullptr;
+
+}  // namespace
+
+bool UpperCaseContains(ORVStringRef text, const char *upperCase) noexcept {
+  UpperCaseReader position(text);
+  do {
+    if (StartsWith(position, upperCase)) return true;
+  } while (position.Next() != '\0');
+  return false;
+}
+
+bool IsNumericallyGreater(const std::string &text, const std::string &than) {
+  std::string_view left = text;
+  std::string_view right = than;
+  while (!left.empty() && !right.empty()) {
+    if (IsDigit(left.front()) && IsDigit(right.front())) {
+      const std::string_view leftNumber = TakeNumber(left);
+      const std::string_view rightNumber = TakeNumber(right);
+      if (leftNumber.size() != rightNumber.size()) return leftNumber.size() > rightNumber.size();
+      if (leftNumber != rightNumber) return leftNumber > rightNumber;
+    } else {
+      if (left.front() != right.front()) return left.front() > right.front();
+      left.remove_prefix(1);
+      right.remove_prefix(1);
+    }
+  }
+  return !left.empty();
+}
+
+ORVStringRef KeptText(const std::string &text) {
+  Kept *newest = newestKept.load();
+  for (const Kept *kept = newest; kept != nullptr; kept = kept->earlier) {
+    if (kept->text == text) return kept->text.c_str();
+  }
+  auto added = std::make_unique<Kept>(Kept{text, newest});
+  while (!newestKept.compare_exchange_weak(added->earlier, added.get())) {
+  }
+  return added.release()->text.c_str();
+}
+
+}  // namespace orv

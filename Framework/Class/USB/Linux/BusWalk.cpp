@@ -1,0 +1,104 @@
+#include "BusWalk.h"
+
+#include <array>
+#include <charconv>
+#include <cstring>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "USBDevice.h"
+
+namespace orv {
+namespace {
+
+constexpr const char *kDevicesFolder = "/sys/bus/usb/devices";
+
+struct CloseFolder {
+  void operator()(DIR *folder) const { closedir(folder); }
+};
+using Folder = std::unique_ptr<DIR, CloseFolder>;
+
+// Interfaces have a colon in their name ("1-2:1.0"), root hubs are called "usb1" and so on. Neither
+// can be a mixer, and to know it from the name saves opening their files.
+bool MayBeUnit(std::string_view name) {
+  return !name.starts_with('.') && !name.starts_with("usb") &&
+         name.find(':') == std::string_view::npos;
+}
+
+// The kernel's summary of a device, one KEY=VALUE a line: ids and address in a single read.
+using Summary = std::array<char, 1024>;
+
+std::string_view ReadSummary(int folder, const char *name, Summary &summary) {
+  std::array<char, NAME_MAX + sizeof "/uevent"> path;
+  const std::size_t length = std::strlen(name);
+  std::memcpy(path.data(), name, length);
+  std::memcpy(path.data() + length, "/uevent", sizeof "/uevent");
+  const int file = openat(folder, path.data(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) return {};
+  const ssize_t size = read(file, summary.data(), summary.size());
+  close(file);
+  return size > 0 ? std::string_view(summary.data(), static_cast<std::size_t>(size))
+                  : std::string_view();
+}
+
+std::string_view ValueOf(std::string_view key, std::string_view summary) {
+  while (!summary.empty()) {
+    const std::string_view line = summary.substr(0, summary.find('\n'));
+    if (line.starts_with(key) && line.substr(key.size()).starts_with('=')) {
+      return line.substr(key.size() + 1);
+    }
+    summary.remove_prefix(std::min(line.size() + 1, summary.size()));
+  }
+  return {};
+}
+
+// Takes a number and, unless it ends the text, the separator behind it off the front of the text.
+std::optional<std::uint16_t> TakeNumber(std::string_view &text, int base, char separator) {
+  std::uint16_t number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
+  if (error != std::errc()) return std::nullopt;
+  text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+  if (!text.empty()) {
+    if (text.front() != separator) return std::nullopt;
+    text.remove_prefix(1);
+  }
+  return number;
+}
+
+// PRODUCT=4f52/1f/100: vendor, product and release, hexadecimal without leading zeros.
+bool IsMixer(std::string_view product) {
+  return TakeNumber(product, 16, '/') == kMakerUsbVendorId &&
+         TakeNumber(product, 16, '/') == MIXER_USB_PRODUCT_ID;
+}
+
+std::optional<UnitAddress> UnitBehind(int folder, const char *name) {
+  Summary buffer;
+  const std::string_view summary = ReadSummary(folder, name, buffer);
+  if (!IsMixer(ValueOf("PRODUCT", summary))) return std::nullopt;
+  std::string_view busText = ValueOf("BUSNUM", summary);
+  std::string_view deviceText = ValueOf("DEVNUM", summary);
+  const auto bus = TakeNumber(busText, 10, '\n');
+  const auto device = TakeNumber(deviceText, 10, '\n');
+  if (!bus || !device) return std::nullopt;
+  return UnitAddress{*bus, *device};
+}
+
+}  // namespace
+
+std::vector<UnitAddress> ConnectedUnits() {
+  std::vector<UnitAddress> units;
+  const Folder folder(opendir(kDevicesFolder));
+  if (!folder) return units;
+  while (const dirent *entry = readdir(folder.get())) {
+    if (!MayBeUnit(entry->d_name)) continue;
+    if (const auto unit = UnitBehind(dirfd(folder.get()), entry->d_name)) units.push_back(*unit);
+  }
+  return units;
+}
+
+}  // namespace orv

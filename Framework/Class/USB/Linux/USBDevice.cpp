@@ -1,0 +1,62 @@
+#include "USBDevice.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <new>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "BusWalk.h"
+
+namespace orv {
+namespace {
+
+PlatformStatus OpenNode(UnitAddress address, DeviceHandle *handle) {
+  std::array<char, sizeof "/dev/bus/usb/65535/65535"> path;
+  std::snprintf(path.data(), path.size(), "/dev/bus/usb/%03u/%03u", unsigned{address.bus},
+                unsigned{address.device});
+  const int descriptor = open(path.data(), O_RDWR | O_CLOEXEC);
+  if (descriptor < 0) return PlatformStatusFromErrno(errno);
+  *handle = new (std::nothrow) USBDeviceInterface{descriptor};
+  if (*handle == nullptr) {
+    close(descriptor);
+    return kIOReturnNoMemory;
+  }
+  return kIOReturnSuccess;
+}
+
+}  // namespace
+
+std::int32_t CheckUSBAudio(ProductId /*productId*/) noexcept try {
+  return static_cast<std::int32_t>(ConnectedUnits().size());
+} catch (const std::bad_alloc &) {
+  return 0;
+}
+
+PlatformStatus openUSB(DeviceHandle *handle, std::uint32_t n) noexcept try {
+  std::vector<UnitAddress> units = ConnectedUnits();
+  if (n >= units.size() || *handle != nullptr) return kIOReturnError;
+  const auto chosen = units.begin() + n;
+  std::nth_element(units.begin(), chosen, units.end());
+  return OpenNode(*chosen, handle);
+} catch (const std::bad_alloc &) {
+  return kIOReturnNoMemory;
+}
+
+PlatformStatus open_pipes(DeviceHandle *handle, std::uint32_t n) noexcept {
+  if (handle == nullptr) return kIOReturnError;
+  *handle = nullptr;
+  return openUSB(handle, n);
+}
+
+void closeUSB(DeviceHandle *handle) noexcept {
+  if (*handle == nullptr) return;
+  close((*handle)->descriptor);
+  delete *handle;
+  *handle = nullptr;
+}
+
+}  // namespace orv
