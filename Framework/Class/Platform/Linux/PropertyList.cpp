@@ -1,0 +1,234 @@
+#include "PropertyList.h"
+
+#include <cerrno>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+#include <memory>
+#include <string_view>
+#include <utility>
+
+#include <fcntl.h>
+#include <locale.h>
+#include <plist/plist.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "PropertyListLimits.h"
+
+namespace orv {
+namespace {
+
+class File {
+ public:
+  explicit File(int descriptor) : descriptor_(descriptor) {}
+  File(const File &) = delete;
+  File &operator=(const File &) = delete;
+  ~File() {
+    if (descriptor_ >= 0) close(descriptor_);
+  }
+  int Descriptor() const { return descriptor_; }
+  bool IsOpen() const { return descriptor_ >= 0; }
+
+ private:
+  int descriptor_;
+};
+
+// The parser reads and writes real numbers in the thread's locale; in a host that speaks
+// German, 3.5 would come back as 3.
+class NumbersAsInC {
+ public:
+  NumbersAsInC() : c_(newlocale(LC_ALL_MASK, "C", nullptr)), before_(uselocale(c_)) {}
+  NumbersAsInC(const NumbersAsInC &) = delete;
+  NumbersAsInC &operator=(const NumbersAsInC &) = delete;
+  ~NumbersAsInC() {
+    uselocale(before_);
+    if (c_ != nullptr) freelocale(c_);
+  }
+
+ private:
+  locale_t c_;
+  locale_t before_;
+};
+
+struct FreeText {
+  void operator()(char *text) const { std::free(text); }
+};
+using Text = std::unique_ptr<char, FreeText>;
+
+// --- Reading
+// --------------------------------------------------------------------------------------------------------
+
+// Only regular files: a pipe in the file's place would keep the caller waiting.
+std::optional<std::string> ReadContents(const std::string &path) {
+  const File file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  struct stat status = {};
+  if (!file.IsOpen() || fstat(file.Descriptor(), &status) != 0 || !S_ISREG(status.st_mode) ||
+      static_cast<std::uint64_t>(status.st_size) > kLargestPropertyList) {
+    return std::nullopt;
+  }
+  std::string contents(static_cast<std::size_t>(status.st_size), '\0');
+  std::size_t size = 0;
+  while (size < contents.size()) {
+    const ssize_t part = read(file.Descriptor(), contents.data() + size, contents.size() - size);
+    if (part < 0 && errno == EINTR) continue;
+    if (part < 0) return std::nullopt;
+    if (part == 0) break;
+    size += static_cast<std::size_t>(part);
+  }
+  contents.resize(size);
+  return contents;
+}
+
+plist_t Parse(const std::string &contents) {
+  if (!WithinLimits(contents)) return nullptr;
+  const NumbersAsInC locale;
+  plist_t root = nullptr;
+  plist_from_memory(contents.data(), static_cast<std::uint32_t>(contents.size()), &root);
+  return root;
+}
+
+// --- Integer readings
+// -----------------------------------------------------------------------------------------------
+
+std::string_view TextOf(plist_t entry) {
+  std::uint64_t length = 0;
+  const char *const text = plist_get_string_ptr(entry, &length);
+  return text != nullptr ? std::string_view(text, length) : std::string_view();
+}
+
+std::int32_t LowBits(std::uint64_t number) {
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(number));
+}
+
+std::optional<std::int32_t> IntegerOfReal(double real) {
+  const double whole = std::trunc(real);
+  if (!(whole >= std::numeric_limits<std::int32_t>::min() &&
+        whole <= std::numeric_limits<std::int32_t>::max())) {
+    return std::nullopt;
+  }
+  return static_cast<std::int32_t>(whole);
+}
+
+std::optional<std::int32_t> IntegerOfText(std::string_view text) {
+  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
+  std::int64_t number = 0;
+  const char *end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, number);
+  if (error != std::errc() || stop != end) return std::nullopt;
+  return LowBits(static_cast<std::uint64_t>(number));
+}
+
+// --- Writing
+// --------------------------------------------------------------------------------------------------------
+
+bool WriteAll(int descriptor, std::string_view contents) {
+  while (!contents.empty()) {
+    const ssize_t part = write(descriptor, contents.data(), contents.size());
+    if (part < 0 && errno == EINTR) continue;
+    if (part <= 0) return false;
+    contents.remove_prefix(static_cast<std::size_t>(part));
+  }
+  return true;
+}
+
+// A file that was there keeps its permissions; a new one is its owner's alone, as mkostemp makes
+// it.
+void KeepPermissions(const std::string &path, int descriptor) {
+  struct stat status = {};
+  if (stat(path.c_str(), &status) == 0) fchmod(descriptor, status.st_mode & 07777);
+}
+
+// What a power cut must not undo is not only the contents but also the new name.
+void MakeDurable(const std::string &folder) {
+  const File file(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (file.IsOpen()) fsync(file.Descriptor());
+}
+
+bool ReplaceFile(const std::string &path, std::string_view contents) {
+  const std::size_t slash = path.rfind('/');
+  const std::string folder = path.substr(0, slash);
+  std::string temporary = folder + "/." + path.substr(slash + 1) + ".XXXXXX";
+  const File file(mkostemp(temporary.data(), O_CLOEXEC));
+  if (!file.IsOpen()) return false;
+  KeepPermissions(path, file.Descriptor());
+  if (WriteAll(file.Descriptor(), contents) && fsync(file.Descriptor()) == 0 &&
+      rename(temporary.c_str(), path.c_str()) == 0) {
+    MakeDurable(folder);
+    return true;
+  }
+  unlink(temporary.c_str());
+  return false;
+}
+
+}  // namespace
+
+PropertyList::PropertyList() : root_(plist_new_dict()) {}
+
+PropertyList::PropertyList(void *root) : root_(root) {}
+
+PropertyList::PropertyList(PropertyList &&other) noexcept
+    : root_(std::exchange(other.root_, nullptr)) {}
+
+PropertyList &PropertyList::operator=(PropertyList &&other) noexcept {
+  std::swap(root_, other.root_);
+  return *this;
+}
+
+PropertyList::~PropertyList() { plist_free(root_); }
+
+std::optional<PropertyList> PropertyList::ReadFile(const std::string &path) {
+  const auto contents = ReadContents(path);
+  if (!contents) return std::nullopt;
+  PropertyList list(Parse(*contents));
+  if (list.root_ == nullptr || plist_get_node_type(list.root_) != PLIST_DICT) return std::nullopt;
+  return list;
+}
+
+std::optional<std::int32_t> PropertyList::IntegerForKey(const char *key) const {
+  plist_t entry = plist_dict_get_item(root_, key);
+  switch (plist_get_node_type(entry)) {
+    case PLIST_UINT: {
+      std::uint64_t number = 0;
+      plist_get_uint_val(entry, &number);
+      return LowBits(number);
+    }
+    case PLIST_BOOLEAN: {
+      std::uint8_t flag = 0;
+      plist_get_bool_val(entry, &flag);
+      return flag != 0 ? 1 : 0;
+    }
+    case PLIST_REAL: {
+      double real = 0;
+      plist_get_real_val(entry, &real);
+      return IntegerOfReal(real);
+    }
+    case PLIST_STRING:
+      return IntegerOfText(TextOf(entry));
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<std::string> PropertyList::TextForKey(const char *key) const {
+  plist_t entry = plist_dict_get_item(root_, key);
+  if (plist_get_node_type(entry) != PLIST_STRING) return std::nullopt;
+  return std::string(TextOf(entry));
+}
+
+void PropertyList::SetInteger(const char *key, std::int32_t value) {
+  plist_dict_set_item(root_, key, plist_new_uint(static_cast<std::uint64_t>(std::int64_t{value})));
+}
+
+bool PropertyList::WriteAtomically(const std::string &path) const {
+  const NumbersAsInC locale;
+  char *xml = nullptr;
+  std::uint32_t length = 0;
+  plist_to_xml(root_, &xml, &length);
+  const Text text(xml);
+  return text && ReplaceFile(path, std::string_view(text.get(), length));
+}
+
+}  // namespace orv

@@ -1,0 +1,142 @@
+#include "PropertyListLimits.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace orv {
+namespace {
+
+constexpr int kDeepestNesting = 128;
+// As many objects as fit into the largest XML file, near enough.
+constexpr std::size_t kMostObjects = 200'000;
+
+// --- XML
+// ------------------------------------------------------------------------------------------------------------
+
+// Takes the text up to and with `end` off the front. Returns false when `end` does not come.
+bool SkipPast(std::string_view end, std::string_view &text) {
+  const std::size_t found = text.find(end);
+  if (found == std::string_view::npos) return false;
+  text.remove_prefix(found + end.size());
+  return true;
+}
+
+// The length of a tag up to its '>', which may also stand inside quotes; nothing when the tag does
+// not end.
+std::optional<std::size_t> TagLength(std::string_view text) {
+  bool quoted = false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '"') quoted = !quoted;
+    if (text[i] == '>' && !quoted) return i;
+  }
+  return std::nullopt;
+}
+
+// Looks only at tags, as the parser sees them. A document type with declarations of its own is
+// refused: no property list has one, and it is where entities that grow without bound are declared.
+bool XmlWithinLimits(std::string_view text) {
+  int depth = 0;
+  for (std::size_t tag = text.find('<'); tag != std::string_view::npos; tag = text.find('<')) {
+    text.remove_prefix(tag + 1);
+    if (text.starts_with("!--")) {
+      text.remove_prefix(3);
+      if (!SkipPast("-->", text)) return false;
+    } else if (text.starts_with("![CDATA[")) {
+      if (!SkipPast("]]>", text)) return false;
+    } else {
+      const auto length = TagLength(text);
+      if (!length) return false;
+      const std::string_view content = text.substr(0, *length);
+      text.remove_prefix(*length + 1);
+      if (content.starts_with('!')) {
+        if (!content.starts_with("!DOCTYPE") || content.find('[') != content.npos) return false;
+      } else if (content.starts_with('/')) {
+        --depth;
+      } else if (!content.starts_with('?') && !content.ends_with('/')) {
+        if (++depth > kDeepestNesting) return false;
+      }
+    }
+  }
+  return true;
+}
+
+// --- Binary
+// ---------------------------------------------------------------------------------------------------------
+
+constexpr std::string_view kBinaryMagic = "bplist00";
+constexpr std::size_t kTrailerSize = 32;
+
+// The tree of objects in a binary property list, as far as containers and their members go.
+class BinaryTree {
+ public:
+  explicit BinaryTree(std::string_view contents)
+      : contents_(contents),
+        trailer_(contents.size() - kTrailerSize),
+        offsetSize_(Byte(trailer_ + 6)),
+        referenceSize_(Byte(trailer_ + 7)),
+        objectCount_(Number(trailer_ + 8, 8)),
+        root_(Number(trailer_ + 16, 8)),
+        offsetTable_(Number(trailer_ + 24, 8)) {}
+
+  bool WithinLimits() { return Visit(root_, 0); }
+
+ private:
+  static constexpr std::uint8_t kArray = 0xA0;
+  static constexpr std::uint8_t kSet = 0xC0;
+  static constexpr std::uint8_t kDictionary = 0xD0;
+
+  // Bytes and numbers past the end read as 0; what the parser makes of such a file is bounded all
+  // the same, because every visit is counted.
+  std::uint8_t Byte(std::uint64_t position) const {
+    return position < contents_.size() ? static_cast<std::uint8_t>(contents_[position])
+                                       : std::uint8_t{0};
+  }
+
+  std::uint64_t Number(std::uint64_t position, unsigned size) const {
+    std::uint64_t number = 0;
+    for (unsigned i = 0; i < size; ++i) number = number << 8 | Byte(position + i);
+    return number;
+  }
+
+  bool Visit(std::uint64_t object, int depth) {
+    if (depth > kDeepestNesting || ++visited_ > kMostObjects) return false;
+    if (object >= objectCount_) return true;
+    std::uint64_t position = Number(offsetTable_ + object * offsetSize_, offsetSize_);
+    const std::uint8_t marker = Byte(position++);
+    const std::uint8_t kind = marker & 0xF0;
+    if (kind != kArray && kind != kSet && kind != kDictionary) return true;
+    std::uint64_t members = marker & 0x0F;
+    if (members == 0x0F) {  // the count follows as an integer object of its own
+      const unsigned size = 1U << (Byte(position++) & 0x03);
+      members = Number(position, size);
+      position += size;
+    }
+    if (members > kMostObjects) return false;
+    if (kind == kDictionary) members *= 2;  // keys, then values
+    for (std::uint64_t i = 0; i < members; ++i) {
+      if (!Visit(Number(position + i * referenceSize_, referenceSize_), depth + 1)) return false;
+    }
+    return true;
+  }
+
+  std::string_view contents_;
+  std::uint64_t trailer_;
+  std::uint8_t offsetSize_;
+  std::uint8_t referenceSize_;
+  std::uint64_t objectCount_;
+  std::uint64_t root_;
+  std::uint64_t offsetTable_;
+  std::size_t visited_ = 0;
+};
+
+}  // namespace
+
+bool WithinLimits(std::string_view contents) {
+  if (contents.size() > kLargestPropertyList) return false;
+  if (!contents.starts_with(kBinaryMagic)) return XmlWithinLimits(contents);
+  return contents.size() >= kBinaryMagic.size() + kTrailerSize &&
+         BinaryTree(contents).WithinLimits();
+}
+
+}  // namespace orv
