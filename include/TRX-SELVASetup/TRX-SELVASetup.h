@@ -149,6 +149,147 @@ ORV_EXPORT StatusCode ORV_IsUSBConnection(ProductId productId);
 
 /** @} */
 
+/**
+ * @name Change callbacks
+ *
+ * Every setter announces its change to every process of the user, its own included. A host learns of it through the
+ * callback that it registered for that kind of setting and that model; there is one callback a kind and model, the one
+ * registered last. Each successful Register call adds one delivery: after n of them the callback runs n times for each
+ * change. Unregister empties the place of the callback; a later Register fills it again.
+ *
+ * All of these belong to the one thread that receives the notifications.
+ * @{
+ */
+
+/**
+ * Registers the callback for changes of the USB input audio routing.
+ *
+ * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
+ * @param callback   called with channel, index and context; null is accepted and calls nothing.
+ * @param context    handed back to the callback; stays the host's.
+ * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model (nothing changed).
+ *
+ * The receiving thread only. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_RegisterInputAudioChangedCallback(ProductId productId,
+                                                            ChannelIndexCallback callback,
+                                                            void *context);
+
+/**
+ * Removes the callback for changes of the USB input audio routing.
+ *
+ * @param productId  as for the Register function.
+ * @param callback   ignored.
+ * @return ORV_SUCCESS, also when none was registered; ORV_BAD_ARGUMENT for another model (nothing changed).
+ *
+ * The receiving thread only. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_UnregisterInputAudioChangedCallback(ProductId productId,
+                                                              ChannelIndexCallback callback);
+
+/**
+ * Registers the callback for changes of the USB output audio routing.
+ *
+ * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
+ * @param callback   called with channel, index and context; null is accepted and calls nothing.
+ * @param context    handed back to the callback; stays the host's.
+ * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model (nothing changed).
+ *
+ * The receiving thread only. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_RegisterOutputAudioChangedCallback(ProductId productId,
+                                                             ChannelIndexCallback callback,
+                                                             void *context);
+
+/**
+ * Removes the callback for changes of the USB output audio routing.
+ *
+ * @param productId  as for the Register function.
+ * @param callback   ignored.
+ * @return ORV_SUCCESS, also when none was registered; ORV_BAD_ARGUMENT for another model (nothing changed).
+ *
+ * The receiving thread only. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_UnregisterOutputAudioChangedCallback(ProductId productId,
+                                                               ChannelIndexCallback callback);
+
+/**
+ * Registers the callback for changes of the boost level.
+ *
+ * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
+ * @param callback   called with index and context; null is accepted and calls nothing.
+ * @param context    handed back to the callback; stays the host's.
+ * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model (nothing changed).
+ *
+ * The receiving thread only. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_RegisterBoostLevelChangedCallback(ProductId productId,
+                                                            IndexCallback callback, void *context);
+
+/**
+ * Removes the callback for changes of the boost level.
+ *
+ * @param productId  as for the Register function.
+ * @param callback   ignored.
+ * @return ORV_SUCCESS, also when none was registered; ORV_BAD_ARGUMENT for another model (nothing changed).
+ *
+ * The receiving thread only. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_UnregisterBoostLevelChangedCallback(ProductId productId,
+                                                              IndexCallback callback);
+
+/**
+ * Registers the callback for changes of the MIDI channel.
+ *
+ * @param productId  TRX_VOLT.
+ * @param callback   called with index and context; null is accepted and calls nothing.
+ * @param context    handed back to the callback; stays the host's.
+ * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model (nothing changed).
+ *
+ * The receiving thread only. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_RegisterMidiChannelChangedCallback(ProductId productId,
+                                                             IndexCallback callback, void *context);
+
+/**
+ * Removes the callback for changes of the MIDI channel.
+ *
+ * @param productId  as for the Register function.
+ * @param callback   ignored.
+ * @return ORV_SUCCESS, also when none was registered; ORV_BAD_ARGUMENT for another model (nothing changed).
+ *
+ * The receiving thread only. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_UnregisterMidiChannelChangedCallback(ProductId productId,
+                                                               IndexCallback callback);
+
+/**
+ * Would register a callback for changes of the MIDI key mode; no model offers a key mode.
+ *
+ * @param productId  any.
+ * @param callback   ignored.
+ * @param context    ignored.
+ * @return ORV_BAD_ARGUMENT, always; nothing changed.
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_RegisterMidiKeyModeChangedCallback(ProductId productId,
+                                                             IndexCallback callback, void *context);
+
+/**
+ * Would remove the callback for changes of the MIDI key mode; no model offers a key mode.
+ *
+ * @param productId  any.
+ * @param callback   ignored.
+ * @return ORV_BAD_ARGUMENT, always; nothing changed.
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_UnregisterMidiKeyModeChangedCallback(ProductId productId,
+                                                               IndexCallback callback);
+
+/** @} */
+
 #ifdef __cplusplus
 }
 #endif

@@ -1,0 +1,18 @@
+#include <new>
+
+#include <TRX-SELVASetup/EventLoop.h>
+
+#include "Receiver.h"
+
+StatusCode ORV_GetNotificationDescriptor(int32_t *descriptor) {
+  if (descriptor == nullptr) return ORV_BAD_ARGUMENT;
+  *descriptor = orv::NotificationDescriptor();
+  return ORV_SUCCESS;
+}
+
+StatusCode ORV_DispatchNotifications(void) try {
+  orv::Receiver::Instance().Dispatch();
+  return ORV_SUCCESS;
+} catch (const std::bad_alloc &) {
+  return ORV_SUCCESS;
+}

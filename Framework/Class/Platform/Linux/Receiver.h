@@ -1,0 +1,57 @@
+// Receiving: one connection a process, read on the one thread that registers and dispatches.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "NotificationCentre.h"
+#include "SessionBus.h"
+
+namespace orv {
+
+/// The descriptor that is readable whenever something is left to deliver; the same for the life of
+/// the process, -1 when none could be made. Any thread.
+int NotificationDescriptor() noexcept;
+
+/// The observations of this process and what has arrived for them. The receiving thread only.
+class Receiver {
+ public:
+  /// The one receiver; made on first need, never released.
+  static Receiver &Instance();
+
+  void Add(const std::string &name, NotificationHandler handler);
+
+  /// Delivers what has arrived by now. Never blocks; may be called from a handler.
+  void Dispatch();
+
+ private:
+  struct Observation {
+    std::string name;
+    NotificationHandler handler;
+  };
+  enum class Asking { kAndWait, kWithoutWaiting };
+
+  static int Arrived(sd_bus_message *message, void *self, sd_bus_error *error);
+
+  bool Observes(const std::string &name) const;
+  void Connect(Asking asking);
+  int AskFor(const std::string &name, Asking asking);
+  void Disconnect();
+  void CollectArrived();
+  void DeliverFirst();
+
+  void WatchEverything();
+  void WatchBus();
+  void SetTimer(std::uint64_t when);
+
+  std::vector<Observation> observations_;
+  std::deque<Notification> arrived_;
+  Bus bus_;
+  int watchedBus_ = -1;
+  int timer_ = -1;
+  int backlog_ = -1;
+};
+
+}  // namespace orv

@@ -1,0 +1,52 @@
+/*
+ * TRX-SELVASetup on Linux: how notifications reach the host's event loop.
+ *
+ * The library starts no thread, so the host's own loop watches one descriptor and calls one function:
+ *
+ *     struct pollfd loop = {-1, POLLIN, 0};
+ *     ORV_GetNotificationDescriptor(&loop.fd);
+ *     for (;;) {
+ *       if (poll(&loop, 1, -1) > 0) ORV_DispatchNotifications();
+ *     }
+ */
+#ifndef TRX_SELVASETUP_EVENT_LOOP_H
+#define TRX_SELVASETUP_EVENT_LOOP_H
+
+#include <TRX-SELVASetup/TRX-SELVASetup.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/**
+ * Gives the descriptor to watch for reading.
+ *
+ * It is readable whenever something is left to deliver, and stays the same for the life of the process, also when the
+ * session bus goes away and comes back. It may be readable with nothing to deliver, about once a second while the library
+ * looks for a bus that is away. After fork() the child starts without registrations and gets a descriptor of its own.
+ * Watch it with poll, epoll, GLib, Qt or anything else; never read from it, write to it or
+ * close it.
+ *
+ * @param descriptor  receives the descriptor; -1 when the process has no descriptor to spare (ask again later).
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null pointer.
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetNotificationDescriptor(int32_t *descriptor);
+
+/**
+ * Delivers all notifications that have arrived: calls the registered callbacks on the calling thread, in the order in which
+ * each poster announced. Never blocks. What the callbacks themselves cause is delivered by the next call. Callbacks may
+ * call any function of the library, this one included.
+ *
+ * @return ORV_SUCCESS, always.
+ *
+ * The receiving thread only: the one that calls the Register functions. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_DispatchNotifications(void);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* TRX_SELVASETUP_EVENT_LOOP_H */
