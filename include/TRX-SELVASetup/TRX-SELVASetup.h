@@ -149,6 +149,72 @@ ORV_EXPORT StatusCode ORV_IsUSBConnection(ProductId productId);
 
 /** @} */
 
+/** @name Boost level: the level step of the mixer's USB audio output @{ */
+
+/**
+ * Tells how many boost levels there are.
+ *
+ * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
+ * @param count      receives the number of levels, 4.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null count or another model (count untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetNumOfBoostLevelIndex(ProductId productId, uint32_t *count);
+
+/**
+ * Gives the text of a boost level, such as "-10 dB".
+ *
+ * @param productId  as for ORV_GetNumOfBoostLevelIndex.
+ * @param index      the level, 0 (loudest) to 3 (quietest).
+ * @param reserved   ignored.
+ * @param text       receives the text; the library's own, for the life of the process.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null text, another model or another index (text untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetBoostLevelText(ProductId productId, uint32_t index, uint32_t reserved,
+                                            ORVStringRef *text);
+
+/**
+ * Sets the boost level: sends it to every connected mixer, stores it in the model's settings file and announces it to
+ * every process of the user. All three happen also when the level is the one already set; the last two also when no mixer
+ * is connected.
+ *
+ * @param productId  as for ORV_GetNumOfBoostLevelIndex.
+ * @param index      the level, 0 (loudest) to 3 (quietest).
+ * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model or index (nothing done).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_SetBoostLevelIndex(ProductId productId, uint32_t index);
+
+/**
+ * Gives the boost level stored last, by any process.
+ *
+ * @param productId  as for ORV_GetNumOfBoostLevelIndex.
+ * @param index      receives the stored level, 3 when none is stored. A stored number that is no level (written by another
+ *                   program) is handed out unchanged.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null index or another model (index untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetCurrentBoostLevelIndex(ProductId productId, int32_t *index);
+
+/**
+ * Sends the stored boost level (3 when none is stored) to every connected mixer again, for example after one has been
+ * plugged in. Stores and announces nothing.
+ *
+ * @param productId  as for ORV_GetNumOfBoostLevelIndex.
+ * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model or when the stored number is no
+ *         level (nothing sent).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_SetCurrentBoostLevelIndex(ProductId productId);
+
+/** @} */
+
 /**
  * @name Change callbacks
  *
