@@ -1,7 +1,8 @@
 /*
  * TRX-SELVASetup on Linux: how notifications reach the host's event loop.
  *
- * The library starts no thread, so the host's own loop watches one descriptor and calls one function:
+ * The library starts no thread, so the host's own loop watches one descriptor and calls one
+ * function:
  *
  *     struct pollfd loop = {-1, POLLIN, 0};
  *     ORV_GetNotificationDescriptor(&loop.fd);
@@ -21,13 +22,14 @@ extern "C" {
 /**
  * Gives the descriptor to watch for reading.
  *
- * It is readable whenever something is left to deliver, and stays the same for the life of the process, also when the
- * session bus goes away and comes back. It may be readable with nothing to deliver, about once a second while the library
- * looks for a bus that is away. After fork() the child starts without registrations and gets a descriptor of its own.
- * Watch it with poll, epoll, GLib, Qt or anything else; never read from it, write to it or
- * close it.
+ * It is readable whenever something is left to deliver, and stays the same for the life of the
+ * process, also when the session bus goes away and comes back. It may be readable with nothing to
+ * deliver, about once a second while the library looks for a bus that is away. After fork() the
+ * child starts without registrations and gets a descriptor of its own. Watch it with poll, epoll,
+ * GLib, Qt or anything else; never read from it, write to it or close it.
  *
- * @param descriptor  receives the descriptor; -1 when the process has no descriptor to spare (ask again later).
+ * @param descriptor  receives the descriptor; -1 when the process has no descriptor to spare (ask
+ *     again later).
  * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null pointer.
  *
  * Any thread. Since 1.0.
@@ -35,9 +37,10 @@ extern "C" {
 ORV_EXPORT StatusCode ORV_GetNotificationDescriptor(int32_t *descriptor);
 
 /**
- * Delivers all notifications that have arrived: calls the registered callbacks on the calling thread, in the order in which
- * each poster announced. Never blocks. What the callbacks themselves cause is delivered by the next call. Callbacks may
- * call any function of the library, this one included.
+ * Delivers all notifications that have arrived: calls the registered callbacks on the calling
+ * thread, in the order in which each poster announced. Never blocks. What the callbacks themselves
+ * cause is delivered by the next call. Callbacks may call any function of the library, this one
+ * included.
  *
  * @return ORV_SUCCESS, always.
  *

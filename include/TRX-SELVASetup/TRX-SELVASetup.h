@@ -1,8 +1,8 @@
 /*
  * TRX-SELVASetup: read and change the settings of the USB DJ mixers of the TRX-SELVA family.
  *
- * A complete host. It sets the boost level on every connected mixer, waits for the announcement of that change (its own,
- * like anybody else's) and prints it:
+ * A complete host. It sets the boost level on every connected mixer, waits for the announcement of
+ * that change (its own, like anybody else's) and prints it:
  *
  *     #include <poll.h>
  *     #include <stdio.h>
@@ -22,7 +22,10 @@
  *       ORV_RegisterBoostLevelChangedCallback(ORV_PRODUCT_TRX_SELVA, boost_changed, &told);
  *       ORV_SetBoostLevelIndex(ORV_PRODUCT_TRX_SELVA, 1);
  *       ORV_GetNotificationDescriptor(&loop.fd);
- *       while (!told && poll(&loop, 1, 5000) > 0) ORV_DispatchNotifications();
+ *       for (int turn = 0; !told && turn < 50; turn++) {
+ *         poll(&loop, 1, 100);
+ *         ORV_DispatchNotifications();
+ *       }
  *       return told ? 0 : 1;
  *     }
  *
@@ -30,18 +33,19 @@
  *
  * What holds for every function
  *
- * - Each call is synchronous, on the caller's thread. The library starts no thread, takes no lock, keeps no mixer open
- *   between calls and caches nothing.
- * - The result is always a StatusCode. Arguments are checked first, result pointers before anything else; when a check
- *   fails the call answers ORV_BAD_ARGUMENT and has done nothing.
- * - A mixer that cannot be opened or that refuses a request is passed over in silence, and so is a settings file that
- *   cannot be written: such failures never change the result.
- * - The mixers addressed are all connected ones, whichever ProductId is passed. The ProductId selects texts, bounds, the
- *   settings file and the name of the announcement.
- * - Functions may run on several threads at once. The Register and Unregister functions belong to the one thread that
- *   also receives the notifications (on Linux: that calls ORV_DispatchNotifications, see EventLoop.h).
- * - Texts handed out belong to the library, stay valid and unchanged for the life of the process, and are never freed by
- *   the host.
+ * - Each call is synchronous, on the caller's thread. The library starts no thread, takes no lock,
+ *   keeps no mixer open between calls and caches nothing.
+ * - The result is always a StatusCode. Arguments are checked first, result pointers before
+ *   anything else; when a check fails the call answers ORV_BAD_ARGUMENT and has done nothing.
+ * - A mixer that cannot be opened or that refuses a request is passed over in silence, and so is a
+ *   settings file that cannot be written: such failures never change the result.
+ * - The mixers addressed are all connected ones, whichever ProductId is passed. The ProductId
+ *   selects texts, bounds, the settings file and the name of the announcement.
+ * - Functions may run on several threads at once. The Register and Unregister functions belong to
+ *   the one thread that also receives the notifications (on Linux: that calls
+ *   ORV_DispatchNotifications, see EventLoop.h).
+ * - Texts handed out belong to the library, stay valid and unchanged for the life of the process,
+ *   and are never freed by the host.
  */
 #ifndef TRX_SELVASETUP_TRX_SELVASETUP_H
 #define TRX_SELVASETUP_TRX_SELVASETUP_H
@@ -58,10 +62,12 @@
 extern "C" {
 #endif
 
-/** The number of a mixer model; one of the ORV_PRODUCT_ values. Compared as an unsigned number. Since 1.0. */
+/** The number of a mixer model; one of the ORV_PRODUCT_ values. Compared as an unsigned number.
+ * Since 1.0. */
 typedef uint32_t ProductId;
 
-/** The models. TRX_BRISK, TRC_FENNO and TRX_CIRRUS are recognised by name only: every function refuses them. Since 1.0. */
+/** The models. TRX_BRISK, TRC_FENNO and TRX_CIRRUS are recognised by name only: every function
+ * refuses them. Since 1.0. */
 enum {
   ORV_PRODUCT_TRX_ARDEN = 0,
   ORV_PRODUCT_TRX_VOLT = 1,
@@ -83,7 +89,8 @@ enum {
   ORV_SUCCESS = 100,
   /** Done, but the state of the mixer does not let it take effect as asked: show the warning. */
   ORV_SUCCESS_WITH_WARNING = 101,
-  /** A null result pointer, a model that the function does not serve, a number out of range, or a reply out of range. */
+  /** A null result pointer, a model that the function does not serve, a number out of range, or a
+     reply out of range. */
   ORV_BAD_ARGUMENT = 102,
   /** At least one mixer is connected. Only from ORV_IsUSBConnection. */
   ORV_CONNECTED = 103,
@@ -92,8 +99,9 @@ enum {
 };
 
 /**
- * A text: UTF-8, ended by a zero byte (on macOS the platform's string object). Text results belong to the library, stay
- * valid and unchanged for the life of the process, and are neither freed nor changed by the host. Since 1.0.
+ * A text: UTF-8, ended by a zero byte (on macOS the platform's string object). Text results belong
+ * to the library, stay valid and unchanged for the life of the process, and are neither freed nor
+ * changed by the host. Since 1.0.
  */
 #if defined(__APPLE__)
 typedef const struct __CFString *ORVStringRef;
@@ -108,7 +116,8 @@ typedef const char *ORVStringRef;
  * @param index    the index now chosen for that channel.
  * @param context  the pointer given at registration, unchanged.
  *
- * Runs on the thread that delivers notifications, never inside the call that made the change. Since 1.0.
+ * Runs on the thread that delivers notifications, never inside the call that made the change.
+ * Since 1.0.
  */
 typedef void (*ChannelIndexCallback)(int32_t channel, int32_t index, void *context);
 
@@ -118,16 +127,21 @@ typedef void (*ChannelIndexCallback)(int32_t channel, int32_t index, void *conte
  * @param index    the index now chosen.
  * @param context  the pointer given at registration, unchanged.
  *
- * Runs on the thread that delivers notifications, never inside the call that made the change. Since 1.0.
+ * Runs on the thread that delivers notifications, never inside the call that made the change.
+ * Since 1.0.
  */
 typedef void (*IndexCallback)(int32_t index, void *context);
 
-/** @name Models and connection @{ */
+/**
+ * @name Models and connection
+ * @{
+ */
 
 /**
  * Turns the name of a model into its ProductId.
  *
- * The name may stand between other words and in any case: "my trx-selva mixer" is ORV_PRODUCT_TRX_SELVA.
+ * The name may stand between other words and in any case: "my trx-selva mixer" is
+ * ORV_PRODUCT_TRX_SELVA.
  *
  * @param name       the text to look at; stays the caller's.
  * @param productId  receives the model; untouched unless the result is ORV_SUCCESS.
@@ -149,7 +163,10 @@ ORV_EXPORT StatusCode ORV_IsUSBConnection(ProductId productId);
 
 /** @} */
 
-/** @name Boost level: the level step of the mixer's USB audio output @{ */
+/**
+ * @name Boost level: the level step of the mixer's USB audio output
+ * @{
+ */
 
 /**
  * Tells how many boost levels there are.
@@ -169,7 +186,8 @@ ORV_EXPORT StatusCode ORV_GetNumOfBoostLevelIndex(ProductId productId, uint32_t 
  * @param index      the level, 0 (loudest) to 3 (quietest).
  * @param reserved   ignored.
  * @param text       receives the text; the library's own, for the life of the process.
- * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null text, another model or another index (text untouched).
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null text, another model or another index (text
+ *     untouched).
  *
  * Any thread. Since 1.0.
  */
@@ -177,13 +195,14 @@ ORV_EXPORT StatusCode ORV_GetBoostLevelText(ProductId productId, uint32_t index,
                                             ORVStringRef *text);
 
 /**
- * Sets the boost level: sends it to every connected mixer, stores it in the model's settings file and announces it to
- * every process of the user. All three happen also when the level is the one already set; the last two also when no mixer
- * is connected.
+ * Sets the boost level: sends it to every connected mixer, stores it in the model's settings file
+ * and announces it to every process of the user. All three happen also when the level is the one
+ * already set; the last two also when no mixer is connected.
  *
  * @param productId  as for ORV_GetNumOfBoostLevelIndex.
  * @param index      the level, 0 (loudest) to 3 (quietest).
- * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model or index (nothing done).
+ * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model or index
+ *     (nothing done).
  *
  * Any thread. Since 1.0.
  */
@@ -193,8 +212,8 @@ ORV_EXPORT StatusCode ORV_SetBoostLevelIndex(ProductId productId, uint32_t index
  * Gives the boost level stored last, by any process.
  *
  * @param productId  as for ORV_GetNumOfBoostLevelIndex.
- * @param index      receives the stored level, 3 when none is stored. A stored number that is no level (written by another
- *                   program) is handed out unchanged.
+ * @param index      receives the stored level, 3 when none is stored. A stored number that is no
+ *     level (written by another program) is handed out unchanged.
  * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null index or another model (index untouched).
  *
  * Any thread. Since 1.0.
@@ -202,12 +221,12 @@ ORV_EXPORT StatusCode ORV_SetBoostLevelIndex(ProductId productId, uint32_t index
 ORV_EXPORT StatusCode ORV_GetCurrentBoostLevelIndex(ProductId productId, int32_t *index);
 
 /**
- * Sends the stored boost level (3 when none is stored) to every connected mixer again, for example after one has been
- * plugged in. Stores and announces nothing.
+ * Sends the stored boost level (3 when none is stored) to every connected mixer again, for example
+ * after one has been plugged in. Stores and announces nothing.
  *
  * @param productId  as for ORV_GetNumOfBoostLevelIndex.
- * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model or when the stored number is no
- *         level (nothing sent).
+ * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model or when
+ *     the stored number is no level (nothing sent).
  *
  * Any thread. Since 1.0.
  */
@@ -218,10 +237,11 @@ ORV_EXPORT StatusCode ORV_SetCurrentBoostLevelIndex(ProductId productId);
 /**
  * @name Change callbacks
  *
- * Every setter announces its change to every process of the user, its own included. A host learns of it through the
- * callback that it registered for that kind of setting and that model; there is one callback a kind and model, the one
- * registered last. Each successful Register call adds one delivery: after n of them the callback runs n times for each
- * change. Unregister empties the place of the callback; a later Register fills it again.
+ * Every setter announces its change to every process of the user, its own included. A host learns
+ * of it through the callback that it registered for that kind of setting and that model; there is
+ * one callback a kind and model, the one registered last. Each successful Register call adds one
+ * delivery: after n of them the callback runs n times for each change. Unregister empties the place
+ * of the callback; a later Register fills it again.
  *
  * All of these belong to the one thread that receives the notifications.
  * @{
@@ -233,7 +253,8 @@ ORV_EXPORT StatusCode ORV_SetCurrentBoostLevelIndex(ProductId productId);
  * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
  * @param callback   called with channel, index and context; null is accepted and calls nothing.
  * @param context    handed back to the callback; stays the host's.
- * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model (nothing changed).
+ * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model
+ *     (nothing changed).
  *
  * The receiving thread only. Since 1.0.
  */
@@ -246,7 +267,8 @@ ORV_EXPORT StatusCode ORV_RegisterInputAudioChangedCallback(ProductId productId,
  *
  * @param productId  as for the Register function.
  * @param callback   ignored.
- * @return ORV_SUCCESS, also when none was registered; ORV_BAD_ARGUMENT for another model (nothing changed).
+ * @return ORV_SUCCESS, also when none was registered; ORV_BAD_ARGUMENT for another model (nothing
+ *     changed).
  *
  * The receiving thread only. Since 1.0.
  */
@@ -259,7 +281,8 @@ ORV_EXPORT StatusCode ORV_UnregisterInputAudioChangedCallback(ProductId productI
  * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
  * @param callback   called with channel, index and context; null is accepted and calls nothing.
  * @param context    handed back to the callback; stays the host's.
- * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model (nothing changed).
+ * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model
+ *     (nothing changed).
  *
  * The receiving thread only. Since 1.0.
  */
@@ -272,7 +295,8 @@ ORV_EXPORT StatusCode ORV_RegisterOutputAudioChangedCallback(ProductId productId
  *
  * @param productId  as for the Register function.
  * @param callback   ignored.
- * @return ORV_SUCCESS, also when none was registered; ORV_BAD_ARGUMENT for another model (nothing changed).
+ * @return ORV_SUCCESS, also when none was registered; ORV_BAD_ARGUMENT for another model (nothing
+ *     changed).
  *
  * The receiving thread only. Since 1.0.
  */
@@ -285,7 +309,8 @@ ORV_EXPORT StatusCode ORV_UnregisterOutputAudioChangedCallback(ProductId product
  * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
  * @param callback   called with index and context; null is accepted and calls nothing.
  * @param context    handed back to the callback; stays the host's.
- * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model (nothing changed).
+ * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model
+ *     (nothing changed).
  *
  * The receiving thread only. Since 1.0.
  */
@@ -297,7 +322,8 @@ ORV_EXPORT StatusCode ORV_RegisterBoostLevelChangedCallback(ProductId productId,
  *
  * @param productId  as for the Register function.
  * @param callback   ignored.
- * @return ORV_SUCCESS, also when none was registered; ORV_BAD_ARGUMENT for another model (nothing changed).
+ * @return ORV_SUCCESS, also when none was registered; ORV_BAD_ARGUMENT for another model (nothing
+ *     changed).
  *
  * The receiving thread only. Since 1.0.
  */
@@ -310,7 +336,8 @@ ORV_EXPORT StatusCode ORV_UnregisterBoostLevelChangedCallback(ProductId productI
  * @param productId  TRX_VOLT.
  * @param callback   called with index and context; null is accepted and calls nothing.
  * @param context    handed back to the callback; stays the host's.
- * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model (nothing changed).
+ * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model
+ *     (nothing changed).
  *
  * The receiving thread only. Since 1.0.
  */
@@ -322,7 +349,8 @@ ORV_EXPORT StatusCode ORV_RegisterMidiChannelChangedCallback(ProductId productId
  *
  * @param productId  as for the Register function.
  * @param callback   ignored.
- * @return ORV_SUCCESS, also when none was registered; ORV_BAD_ARGUMENT for another model (nothing changed).
+ * @return ORV_SUCCESS, also when none was registered; ORV_BAD_ARGUMENT for another model (nothing
+ *     changed).
  *
  * The receiving thread only. Since 1.0.
  */

@@ -1,0 +1,33 @@
+#include "ControlAddress.h"
+
+#include <cstdlib>
+
+#include <unistd.h>
+
+namespace trxsim {
+
+namespace {
+
+const char *variable(const char *name) {
+  const char *value = std::getenv(name);
+  return value != nullptr && *value != '\0' ? value : nullptr;
+}
+
+}  // namespace
+
+ControlPlace defaultControlPlace() {
+  // The base directory specification has relative paths ignored.
+  const char *runtimeFolder = variable("XDG_RUNTIME_DIR");
+  if (runtimeFolder != nullptr && *runtimeFolder == '/') {
+    return {runtimeFolder, std::string(runtimeFolder) + "/trx-mixer-sim.sock", false};
+  }
+  const std::string folder = "/tmp/trx-mixer-sim-" + std::to_string(getuid());
+  return {folder, folder + "/control.sock", true};
+}
+
+std::string clientControlSocket() {
+  const char *given = variable(kControlVariable);
+  return given != nullptr ? given : defaultControlPlace().socket;
+}
+
+}  // namespace trxsim

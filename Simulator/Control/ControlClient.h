@@ -1,0 +1,42 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "UnixSocket.h"
+
+namespace trxsim {
+
+/// Nobody answers at a control socket, or the simulator went away.
+class SimulatorUnreachable : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// The simulator refused a command; `what()` is its own message.
+class CommandRefused : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// A connection to the run-time control of a simulator. One thread at a time.
+class ControlClient {
+ public:
+  /// Connects to the control socket at `path`. Throws `SimulatorUnreachable`.
+  explicit ControlClient(const std::string &path);
+
+  /// Sends one command line and returns the lines of the reply. Throws `CommandRefused`, or
+  /// `SimulatorUnreachable` when the connection breaks.
+  std::vector<std::string> ask(const std::string &command);
+
+ private:
+  void send(const std::string &line);
+  std::string receiveLine();
+
+  std::string path_;
+  Descriptor socket_;
+  std::string received_;
+};
+
+}  // namespace trxsim

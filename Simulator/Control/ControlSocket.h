@@ -1,0 +1,48 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+#include "UnixSocket.h"
+
+namespace trxsim {
+
+/// A control socket that cannot be made, in words for the user.
+class ControlSocketError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// The listening end of a control socket. At its end the socket file, and a folder made for it, go
+/// away. A file that a dead simulator left behind is taken over; one of a live simulator never.
+class ControlSocket {
+ public:
+  /// At `path`. Throws `ControlSocketError`, also when a live simulator listens there.
+  static ControlSocket at(const std::string &path);
+
+  /// At the default place; when a live simulator has that, in a private folder of its own.
+  static ControlSocket atDefaultPlace();
+
+  ~ControlSocket();
+  ControlSocket(const ControlSocket &) = delete;
+  ControlSocket &operator=(const ControlSocket &) = delete;
+
+  /// Its path.
+  const std::string &path() const { return path_; }
+
+  /// True when it is neither at a place that was asked for nor at the default one.
+  bool isPrivate() const { return isPrivate_; }
+
+  /// Hands the listening socket to a server.
+  Descriptor takeListener() { return std::move(listener_); }
+
+ private:
+  ControlSocket(std::string path, std::string ownFolder, bool isPrivate);
+
+  std::string path_;
+  std::string ownFolder_;  // empty: the folder was there before
+  bool isPrivate_;
+  Descriptor listener_;
+};
+
+}  // namespace trxsim

@@ -1,0 +1,55 @@
+#include "UnixSocket.h"
+
+#include <cerrno>
+#include <cstring>
+#include <optional>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace trxsim {
+
+namespace {
+
+std::optional<sockaddr_un> addressOf(const std::string &path) {
+  sockaddr_un address{};
+  if (path.empty() || path.size() >= sizeof address.sun_path) {
+    errno = ENAMETOOLONG;
+    return std::nullopt;
+  }
+  address.sun_family = AF_UNIX;
+  std::memcpy(address.sun_path, path.c_str(), path.size() + 1);
+  return address;
+}
+
+const sockaddr *generic(const sockaddr_un &address) {
+  return reinterpret_cast<const sockaddr *>(&address);
+}
+
+}  // namespace
+
+Descriptor::~Descriptor() {
+  if (number_ >= 0) close(number_);
+}
+
+Descriptor connectUnixSocket(const std::string &path) {
+  const std::optional<sockaddr_un> address = addressOf(path);
+  if (!address) return Descriptor();
+  Descriptor socketEnd(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  if (!socketEnd) return Descriptor();
+  if (connect(socketEnd.get(), generic(*address), sizeof *address) != 0) return Descriptor();
+  return socketEnd;
+}
+
+Descriptor listenUnixSocket(const std::string &path) {
+  const std::optional<sockaddr_un> address = addressOf(path);
+  if (!address) return Descriptor();
+  Descriptor listener(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+  if (!listener) return Descriptor();
+  if (bind(listener.get(), generic(*address), sizeof *address) != 0) return Descriptor();
+  if (listen(listener.get(), SOMAXCONN) != 0) return Descriptor();
+  return listener;
+}
+
+}  // namespace trxsim

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <utility>
+
+namespace trxsim {
+
+/// Owns one file descriptor and closes it at its end.
+class Descriptor {
+ public:
+  explicit Descriptor(int number = -1) : number_(number) {}
+  Descriptor(Descriptor &&other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor &operator=(Descriptor &&other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+  }
+  Descriptor(const Descriptor &) = delete;
+  Descriptor &operator=(const Descriptor &) = delete;
+  ~Descriptor();
+
+  /// The descriptor itself, -1 when there is none.
+  int get() const { return number_; }
+  explicit operator bool() const { return number_ >= 0; }
+
+ private:
+  int number_;
+};
+
+/// A stream socket connected to `path`; none, with errno set, when nobody answers there.
+Descriptor connectUnixSocket(const std::string &path);
+
+/// A non-blocking stream socket that listens at `path`; none, with errno set, on failure.
+Descriptor listenUnixSocket(const std::string &path);
+
+}  // namespace trxsim

@@ -1,0 +1,107 @@
+// trx-mixer-ctl: sends one command to a running simulator, or runs a program inside it.
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <exception>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+#include <unistd.h>
+
+#include "ControlAddress.h"
+#include "ControlClient.h"
+#include "Environment.h"
+#include "UsageFormatter.h"
+
+namespace {
+
+enum ExitCode { kDone = 0, kRefused = 1, kUsage = 2, kUnreachable = 3, kNoExec = 126, kNotFound };
+
+constexpr const char *kExamples =
+    "Examples:\n"
+    "  trx-mixer-ctl units                       what is on the desk\n"
+    "  trx-mixer-ctl set 1 selector 0 6          turn the first selector of mixer 1\n"
+    "  trx-mixer-ctl fault 1 no-reply selectors  mixer 1 no longer answers that request\n"
+    "  trx-mixer-ctl unplug 2                    pull the cable of unit 2\n"
+    "  trx-mixer-ctl log                         what crossed the wire\n"
+    "  trx-mixer-ctl help                        every command of the simulator\n"
+    "  trx-mixer-ctl run -- bash                 a shell in which the mixers are plugged in\n"
+    "\n"
+    "Exit codes: 0 done, 1 refused by the simulator, 2 usage, 3 no simulator reachable;\n"
+    "run: that of the program, 126 or 127 if it cannot be started.\n";
+
+int runProgram(trxsim::ControlClient &simulator, std::vector<std::string> words) {
+  std::vector<std::string> environment = trxsim::environmentWith(simulator.ask("environment"));
+  const std::vector<char *> variables = trxsim::execVector(environment);
+  const std::vector<char *> arguments = trxsim::execVector(words);
+  execvpe(arguments[0], arguments.data(), variables.data());
+  std::fprintf(stderr, "trx-mixer-ctl: cannot run %s: %s\n", arguments[0], std::strerror(errno));
+  return errno == ENOENT ? kNotFound : kNoExec;
+}
+
+int sendCommand(trxsim::ControlClient &simulator, const std::vector<std::string> &words) {
+  std::string command;
+  for (const std::string &word : words) command += (command.empty() ? "" : " ") + word;
+  for (const std::string &line : simulator.ask(command)) std::printf("%s\n", line.c_str());
+  return kDone;
+}
+
+int talk(const std::string &socket, std::vector<std::string> words) {
+  const bool run = words[0] == "run";
+  if (run) {
+    words.erase(words.begin());
+    if (!words.empty() && words[0] == "--") words.erase(words.begin());
+  }
+  if (words.empty()) {
+    std::fprintf(stderr, "trx-mixer-ctl: run what? For example: trx-mixer-ctl run -- bash\n");
+    return kUsage;
+  }
+  trxsim::ControlClient simulator(socket);
+  return run ? runProgram(simulator, std::move(words)) : sendCommand(simulator, words);
+}
+
+int runTool(int argc, char **argv) {
+  CLI::App app("Control running software mixers.", "trx-mixer-ctl");
+  app.formatter(
+      std::make_shared<trxsim::UsageFormatter>("trx-mixer-ctl [OPTIONS] COMMAND [ARGUMENT...]"));
+  app.footer(kExamples);
+  app.prefix_command();
+  std::string socket = trxsim::clientControlSocket();
+  app.add_option("--control", socket, "control socket of the simulator")
+      ->type_name("SOCKET")
+      ->capture_default_str();
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError &error) {
+    return app.exit(error) == 0 ? kDone : kUsage;
+  }
+  std::vector<std::string> words = app.remaining();
+  if (words.empty()) {
+    std::fprintf(stderr,
+                 "trx-mixer-ctl: no command given. `trx-mixer-ctl help` lists those of the "
+                 "simulator, `trx-mixer-ctl --help` shows examples.\n");
+    return kUsage;
+  }
+  return talk(socket, std::move(words));
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+  try {
+    return runTool(argc, argv);
+  } catch (const trxsim::SimulatorUnreachable &failure) {
+    std::fprintf(stderr,
+                 "trx-mixer-ctl: %s\n"
+                 "Hint: start one with `trx-mixer-sim --units 2 -- bash`, or name its socket with "
+                 "--control.\n",
+                 failure.what());
+    return kUnreachable;
+  } catch (const std::exception &refusal) {
+    std::fprintf(stderr, "trx-mixer-ctl: %s\n", refusal.what());
+    return kRefused;
+  }
+}

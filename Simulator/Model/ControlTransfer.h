@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace trxsim {
+
+/// The setup packet of one control transfer on endpoint 0.
+struct ControlRequest {
+  std::uint8_t requestType = 0;  ///< bmRequestType
+  std::uint8_t request = 0;      ///< bRequest
+  std::uint16_t value = 0;       ///< wValue
+  std::uint16_t index = 0;       ///< wIndex
+  std::uint16_t length = 0;      ///< wLength
+
+  /// True when the data stage, if any, runs from the device to the host.
+  bool isRead() const { return (requestType & 0x80) != 0; }
+};
+
+/// How one control transfer ended, seen from the host.
+enum class Outcome {
+  Done,       ///< Carried out; for a read, `TransferResult::data` holds what came back.
+  Stalled,    ///< The device refused the request.
+  NoReply,    ///< The device keeps silent until the host's time-out.
+  Unplugged,  ///< The device went away during the request.
+  Gone,       ///< The device was gone before the request began; nothing crossed the wire.
+};
+
+/// The end of one control transfer.
+struct TransferResult {
+  Outcome outcome = Outcome::Stalled;
+  std::vector<std::uint8_t> data;  ///< Bytes of the data stage of a read.
+};
+
+}  // namespace trxsim

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <vector>
+
+#include "ControlTransfer.h"
+#include "RequestTable.h"
+
+namespace trxsim {
+
+/// What a mixer reports about itself; may be changed at any time.
+struct MixerState {
+  std::uint8_t leadingByte = 0;                     ///< Before the selectors in their reply.
+  std::vector<std::uint8_t> selectors{0, 0, 0, 0};  ///< One position a mixer channel.
+  std::array<std::uint8_t, 2> serato{0, 0};         ///< First byte: 1 while Serato is active.
+  std::array<std::uint8_t, 2> port{0, 0};           ///< Port state, as it goes over the wire.
+  std::uint16_t firmware = 0x0100;                  ///< Least significant byte first on the wire.
+  std::uint32_t certify = 1;                        ///< Most significant byte first on the wire.
+};
+
+/// One mixer without its cable: answers the ten vendor requests, stalls on everything else, and
+/// keeps the last value written to each setting. Not safe for several threads at once.
+class Mixer {
+ public:
+  /// Answers one request. A reply is never longer than the host asked for.
+  TransferResult answer(const ControlRequest &request);
+
+  /// What the mixer reports.
+  MixerState &state() { return state_; }
+  const MixerState &state() const { return state_; }
+
+  /// The value last written by the write request `id`; nothing when it was never written.
+  std::optional<std::uint16_t> lastWritten(RequestId id) const;
+
+ private:
+  std::vector<std::uint8_t> report(RequestId id) const;
+
+  MixerState state_;
+  std::map<RequestId, std::uint16_t> written_;
+};
+
+}  // namespace trxsim

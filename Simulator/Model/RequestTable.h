@@ -1,0 +1,52 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "ControlTransfer.h"
+
+namespace trxsim {
+
+/// The ten vendor requests that a mixer answers.
+enum class RequestId {
+  Firmware,
+  Selectors,
+  Serato,
+  Port,
+  Certify,
+  MixerOutput,
+  UsbOutputLevel,
+  MidiChannel,
+  MidiKeyMode,
+  MixerInput,
+};
+
+/// One row of the request table.
+struct RequestEntry {
+  RequestId id;
+  std::uint8_t requestType;  ///< bmRequestType
+  std::uint8_t request;      ///< bRequest
+  std::uint16_t index;       ///< wIndex
+  std::string_view word;     ///< Its name in control commands, one word.
+  std::string_view text;     ///< Its name in the wire log.
+
+  /// True for a request that reads from the mixer.
+  bool isRead() const { return (requestType & 0x80) != 0; }
+};
+
+/// All requests, reads first, each half in the order of wIndex.
+const std::array<RequestEntry, 10> &requestTable();
+
+/// The row of `id`.
+const RequestEntry &requestEntry(RequestId id);
+
+/// The row that a setup packet names, or nothing. Exact: a read must carry wValue 0, a write must
+/// have no data stage.
+std::optional<RequestId> requestFor(const ControlRequest &request);
+
+/// The request with this word as its name, or nothing.
+std::optional<RequestId> requestNamed(std::string_view word);
+
+}  // namespace trxsim

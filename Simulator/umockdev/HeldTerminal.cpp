@@ -1,0 +1,33 @@
+#include "HeldTerminal.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+
+#include <fcntl.h>
+#include <sys/ioctl.h>
+
+#include "../Model/Desk.h"
+
+namespace trxsim {
+
+namespace {
+
+[[noreturn]] void fail() {
+  throw DeskError(std::string("cannot make a terminal for `hold`: ") + std::strerror(errno));
+}
+
+}  // namespace
+
+HeldTerminal::HeldTerminal() : primary_(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC)) {
+  char name[64];
+  if (!primary_ || grantpt(primary_.get()) != 0 || unlockpt(primary_.get()) != 0 ||
+      ptsname_r(primary_.get(), name, sizeof name) != 0) {
+    fail();
+  }
+  path_ = name;
+  secondary_ = Descriptor(open(name, O_RDWR | O_NOCTTY | O_CLOEXEC));
+  if (!secondary_ || ioctl(secondary_.get(), TIOCEXCL) != 0) fail();
+}
+
+}  // namespace trxsim

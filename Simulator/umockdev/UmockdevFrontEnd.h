@@ -1,0 +1,75 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <set>
+#include <string>
+
+#include <umockdev.h>
+
+#include "../Model/ControlTransfer.h"
+#include "../Model/FrontEnd.h"
+#include "UsbTree.h"
+
+namespace trxsim {
+
+/// Shows units to the processes that run with libumockdev-preload: a USB tree of their own under
+/// /sys and /dev, in which USBDEVFS_CONTROL reaches the desk. Requests of hosts come in on the
+/// thread of the testbed.
+class UmockdevFrontEnd : public FrontEnd {
+ public:
+  /// Carries out a request of a host on a unit.
+  using Transfer = std::function<TransferResult(int number, const ControlRequest &request)>;
+
+  /// Makes an empty bus in a new testbed.
+  UmockdevFrontEnd();
+  ~UmockdevFrontEnd() override;
+  UmockdevFrontEnd(const UmockdevFrontEnd &) = delete;
+  UmockdevFrontEnd &operator=(const UmockdevFrontEnd &) = delete;
+
+  /// Sets where requests go; with none set, they fail as after an unplug. When this returns, what
+  /// was set before is not called any more.
+  void setTransfer(Transfer transfer);
+
+  /// The folder that holds the tree.
+  std::string rootFolder() const;
+
+  BusAddress plug(int number, const UsbIdentity &identity, OpenFault fault) override;
+  void unplug(int number) override;
+  void setOpenFault(int number, OpenFault fault) override;
+
+ private:
+  struct ObjectRelease {
+    void operator()(gpointer object) const { g_object_unref(object); }
+  };
+  struct Pending;
+
+  static gboolean onIoctl(UMockdevIoctlBase *, UMockdevIoctlClient *client, gpointer self);
+  static gboolean onTimeOut(gpointer pending);
+
+  bool handle(UMockdevIoctlClient &client);
+  void control(UMockdevIoctlClient &client, int number);
+  TransferResult transfer(int number, const ControlRequest &request);
+  void waitInVain(UMockdevIoctlClient &client, int number, unsigned milliseconds);
+  void endPending(int number);
+  void attach(const std::string &node);
+  int nextDeviceNumber();
+
+  // Made before the testbed, whose thread uses it.
+  std::mutex transferMutex_;  // guards and is held during
+  Transfer transfer_;
+  std::mutex mutex_;                       // guards the next three
+  std::map<int, UsbDevice> plugged_;       // by unit
+  std::map<std::string, int> unitOfNode_;  // plugged units only
+  std::set<Pending *> pending_;            // requests that get no reply
+
+  std::unique_ptr<UMockdevTestbed, ObjectRelease> testbed_;
+  std::unique_ptr<UMockdevIoctlBase, ObjectRelease> handler_;
+  UsbTree tree_;
+  std::set<std::string> attached_;  // nodes that the handler listens for
+  int lastDeviceNumber_ = 1;        // that of the root hub
+};
+
+}  // namespace trxsim

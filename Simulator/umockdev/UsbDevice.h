@@ -1,0 +1,51 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "../Model/FrontEnd.h"
+
+namespace trxsim {
+
+/// A file of a sysfs folder: its name and its contents.
+using Attribute = std::pair<std::string, std::string>;
+
+/// One interface of a device: its kernel name, such as "1-2:1.0", and its files.
+struct UsbInterface {
+  std::string name;
+  std::vector<Attribute> attributes;
+};
+
+/// One device on the bus, with everything that the kernel shows of it.
+struct UsbDevice {
+  std::string name;  ///< Kernel name: "1-2" is bus 1, port 2; "usb1" is the root hub.
+  BusAddress address;
+  UsbIdentity identity;
+
+  /// True for the root hub.
+  bool isRootHub() const { return name.starts_with("usb"); }
+
+  /// Its folder, such as "/sys/devices/pci0000:00/0000:00:14.0/usb1/1-2".
+  std::string sysPath() const;
+
+  /// Its device node, such as "/dev/bus/usb/001/003".
+  std::string nodePath() const;
+
+  /// Major and minor number, such as "189:2".
+  std::string deviceNumber() const;
+
+  /// The files of its folder.
+  std::vector<Attribute> attributes() const;
+
+  /// Its interfaces, in order.
+  std::vector<UsbInterface> interfaces() const;
+
+  /// Its descriptors as the device sends them: what its node and "descriptors" read as.
+  std::string descriptors() const;
+};
+
+/// The root hub of bus 1.
+UsbDevice rootHub();
+
+}  // namespace trxsim

@@ -1,0 +1,169 @@
+// trx-mixer-sim: runs a command, and its children, on a desk with software mixers.
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "../Control/CommandInterpreter.h"
+#include "../Control/ControlAddress.h"
+#include "../Control/ControlServer.h"
+#include "../Control/ControlSocket.h"
+#include "../Control/Environment.h"
+#include "../Control/UsageFormatter.h"
+#include "../Model/Desk.h"
+#include "ChildProcess.h"
+#include "UmockdevFrontEnd.h"
+
+namespace {
+
+enum ExitCode { kUsage = 2, kSimulatorFailed = 125 };
+
+constexpr int kMostUnits = 100;
+
+// A socket path must fit in 107 bytes, and that of a mixer takes some 50 below this folder.
+constexpr std::size_t kLongestTemporaryFolder = 50;
+
+constexpr const char *kExamples =
+    "Examples:\n"
+    "  trx-mixer-sim -- trxctl status                one mixer, one command\n"
+    "  trx-mixer-sim --units 2 -- bash               a shell with two mixers plugged in\n"
+    "  trx-mixer-sim --wire-log wire.txt -- ./tests  all requests go to a file too\n"
+    "\n"
+    "While the command runs, from another terminal or from the command itself:\n"
+    "  trx-mixer-ctl units                           what is on the desk\n"
+    "  trx-mixer-ctl set 1 selector 0 6              turn a selector\n"
+    "  trx-mixer-ctl run -- bash                     a second shell on the same desk\n"
+    "  trx-mixer-ctl help                            faults, unplugging and all the rest\n"
+    "\n"
+    "Exit codes: that of the command, 128 + N when signal N ended it; 2 usage, 125 the mixers\n"
+    "could not be set up, 126 the command cannot be run, 127 there is no such command.\n";
+
+struct Options {
+  int units = 1;
+  std::string wireLog;
+  std::string control;
+  std::vector<std::string> command;
+};
+
+/// Folder with what this program brings along for the commands it runs.
+std::string companionFolder() {
+  const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe");
+  return (program.parent_path() / TRX_SIM_COMPANION_FOLDER).lexically_normal();
+}
+
+/// What a process needs to find the mixers.
+trxsim::Environment simulatedEnvironment(const std::string &testbed, const std::string &control) {
+  return {
+      "LD_PRELOAD=" + companionFolder() + "/libtrx-mixer-sim-guard.so:libumockdev-preload.so.0",
+      "UMOCKDEV_DIR=" + testbed,
+      std::string(trxsim::kControlVariable) + '=' + control,
+      // The address sanitizer wants to be loaded first, which it need not be for these libraries.
+      "ASAN_OPTIONS=verify_asan_link_order=0",
+  };
+}
+
+trxsim::WireLog::Sink openWireLog(const std::string &path) {
+  if (path.empty()) return {};
+  const auto file = std::make_shared<std::ofstream>(path);
+  if (!*file) throw std::runtime_error("cannot write the wire log " + path);
+  return [file](const std::string &line) { *file << line << std::endl; };
+}
+
+trxsim::ControlSocket openControl(const std::string &path) {
+  return path.empty() ? trxsim::ControlSocket::atDefaultPlace() : trxsim::ControlSocket::at(path);
+}
+
+/// Sockets below a long temporary folder could not be bound.
+void keepTemporaryFolderShort() {
+  const char *folder = std::getenv("TMPDIR");
+  if (folder != nullptr && std::string(folder).size() > kLongestTemporaryFolder) {
+    setenv("TMPDIR", "/tmp", 1);
+  }
+}
+
+/// Sends the requests of hosts to the desk for as long as it exists.
+class Wiring {
+ public:
+  Wiring(trxsim::UmockdevFrontEnd &frontEnd, trxsim::Desk &desk) : frontEnd_(frontEnd) {
+    frontEnd_.setTransfer([&desk](int number, const trxsim::ControlRequest &request) {
+      return desk.transfer(number, request);
+    });
+  }
+  ~Wiring() { frontEnd_.setTransfer({}); }
+  Wiring(const Wiring &) = delete;
+  Wiring &operator=(const Wiring &) = delete;
+
+ private:
+  trxsim::UmockdevFrontEnd &frontEnd_;
+};
+
+int simulate(const Options &options) {
+  keepTemporaryFolderShort();
+  trxsim::ControlSocket control = openControl(options.control);
+  if (control.isPrivate()) {
+    std::fprintf(stderr, "trx-mixer-sim: the usual control socket is taken; this one is %s\n",
+                 control.path().c_str());
+  }
+  trxsim::UmockdevFrontEnd frontEnd;
+  trxsim::Desk desk(frontEnd, openWireLog(options.wireLog));
+  const Wiring wiring(frontEnd, desk);
+  for (int unit = 0; unit < options.units; ++unit) desk.plugMixer();
+  const trxsim::Environment additions = simulatedEnvironment(frontEnd.rootFolder(), control.path());
+  trxsim::CommandInterpreter interpreter(desk, additions);
+  const trxsim::ControlServer server(control.takeListener(), interpreter);
+  return trxsim::runCommand(options.command, trxsim::environmentWith(additions));
+}
+
+int run(int argc, char **argv) {
+  CLI::App app(
+      "Run a command, and its children, with software mixers plugged in: no hardware, no "
+      "privileges.",
+      "trx-mixer-sim");
+  app.formatter(
+      std::make_shared<trxsim::UsageFormatter>("trx-mixer-sim [OPTIONS] -- COMMAND [ARGUMENT...]"));
+  app.footer(kExamples);
+  app.prefix_command();
+  Options options;
+  app.add_option("--units", options.units, "how many mixers are plugged in at the start")
+      ->check(CLI::Range(0, kMostUnits))
+      ->capture_default_str();
+  app.add_option("--wire-log", options.wireLog, "file that gets a line for each request")
+      ->type_name("FILE");
+  app.add_option("--control", options.control, "socket to listen at for trx-mixer-ctl")
+      ->type_name("SOCKET");
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError &error) {
+    return app.exit(error) == 0 ? 0 : kUsage;
+  }
+  options.command = app.remaining();
+  if (!options.command.empty() && options.command[0] == "--") {
+    options.command.erase(options.command.begin());
+  }
+  if (options.command.empty()) {
+    std::fprintf(stderr,
+                 "trx-mixer-sim: no command given. For a shell with two mixers: trx-mixer-sim "
+                 "--units 2 -- bash\n`trx-mixer-sim --help` shows more.\n");
+    return kUsage;
+  }
+  return simulate(options);
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+  trxsim::blockSignals();
+  try {
+    return run(argc, argv);
+  } catch (const std::exception &failure) {
+    std::fprintf(stderr, "trx-mixer-sim: %s\n", failure.what());
+    return kSimulatorFailed;
+  }
+}

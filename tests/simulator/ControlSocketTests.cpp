@@ -1,0 +1,173 @@
+// The control protocol over its socket: server, client, and who owns the socket file.
+
+#include <thread>
+
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+
+#include "Control/ControlClient.h"
+#include "Control/ControlServer.h"
+#include "Control/ControlSocket.h"
+#include "MakerIds.h"
+#include "RecordingFrontEnd.h"
+#include "TemporaryFolder.h"
+
+namespace trxsim {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+/// Everything that `from` still brings.
+std::string receiveAll(const Descriptor &from) {
+  std::string all;
+  char buffer[4096];
+  for (ssize_t count; (count = recv(from.get(), buffer, sizeof buffer, 0)) > 0;) {
+    all.append(buffer, static_cast<std::size_t>(count));
+  }
+  return all;
+}
+
+class ControlProtocol : public testing::Test {
+ protected:
+  void sendRaw(const Descriptor &to, const std::string &bytes) {
+    std::size_t sent = 0;
+    while (sent < bytes.size()) {
+      const ssize_t count = send(to.get(), bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
+      if (count <= 0) return;  // the server may hang up on us, which is what some tests provoke
+      sent += static_cast<std::size_t>(count);
+    }
+  }
+
+  TemporaryFolder folder;
+  const std::string path = folder / "control.sock";
+  RecordingFrontEnd frontEnd;
+  Desk desk{frontEnd};
+  CommandInterpreter interpreter{desk, {"ONE=1"}};
+  ControlSocket controlSocket = ControlSocket::at(path);
+  ControlServer server{controlSocket.takeListener(), interpreter};
+};
+
+TEST_F(ControlProtocol, AnswersLinesThenOk) {
+  const Descriptor raw = connectUnixSocket(path);
+  sendRaw(raw, "environment\nplug\n");
+  shutdown(raw.get(), SHUT_WR);
+  EXPECT_EQ(receiveAll(raw), "ONE=1\nok\n1\nok\n");
+}
+
+TEST_F(ControlProtocol, AnswersErrorWithItsText) {
+  const Descriptor raw = connectUnixSocket(path);
+  sendRaw(raw, "unplug 1\n");
+  shutdown(raw.get(), SHUT_WR);
+  EXPECT_EQ(receiveAll(raw), "error there is no unit 1; `units` lists them\n");
+}
+
+TEST_F(ControlProtocol, ClientGetsLinesOrTheRefusal) {
+  ControlClient client(path);
+  EXPECT_EQ(client.ask("plug"), Lines{"1"});
+  EXPECT_EQ(client.ask("units"),
+            Lines{"1  mixer " + vendorId() + ":001f  plugged 001/002  faults none"});
+  try {
+    client.ask("unplug 2");
+    FAIL() << "not refused";
+  } catch (const CommandRefused &refusal) {
+    EXPECT_STREQ(refusal.what(), "there is no unit 2; `units` lists them");
+  }
+  EXPECT_EQ(client.ask("environment"), Lines{"ONE=1"});
+}
+
+TEST_F(ControlProtocol, ClientRefusesACommandOfTwoLines) {
+  ControlClient client(path);
+  EXPECT_THROW(client.ask("plug\nplug"), CommandRefused);
+  EXPECT_TRUE(desk.units().empty());
+}
+
+TEST_F(ControlProtocol, ServesManyClientsAtOnce) {
+  std::vector<std::thread> clients;
+  for (int count = 0; count < 8; ++count) {
+    clients.emplace_back([this] {
+      ControlClient client(path);
+      for (int round = 0; round < 20; ++round) client.ask("plug");
+    });
+  }
+  for (std::thread &client : clients) client.join();
+  EXPECT_EQ(desk.units().size(), 160u);
+}
+
+TEST_F(ControlProtocol, LongReplyReachesASlowReaderWhole) {
+  desk.plugMixer();
+  for (int count = 0; count < 20'000; ++count) desk.transfer(1, {0xC0, 0, 0, 0x8002, 5});
+  ControlClient slow(path);
+  const Descriptor unread = connectUnixSocket(path);
+  sendRaw(unread, "log\n");
+  EXPECT_EQ(slow.ask("log").size(), 20'000u);
+}
+
+TEST_F(ControlProtocol, OverlongLineIsAnsweredAndTheConnectionClosed) {
+  const Descriptor raw = connectUnixSocket(path);
+  sendRaw(raw, std::string(100'000, 'x'));
+  EXPECT_EQ(receiveAll(raw), "error the line is too long; a command has at most 4096 characters\n");
+  EXPECT_EQ(ControlClient(path).ask("environment"), Lines{"ONE=1"});
+}
+
+TEST_F(ControlProtocol, BinaryRubbishIsRefusedLineByLine) {
+  std::string rubbish;
+  for (int value = 0; value < 256; ++value) rubbish += static_cast<char>(value);
+  const Descriptor raw = connectUnixSocket(path);
+  sendRaw(raw, rubbish + "\nenvironment\n");
+  shutdown(raw.get(), SHUT_WR);
+  const std::string answer = receiveAll(raw);
+  EXPECT_TRUE(answer.starts_with("error "));
+  EXPECT_TRUE(answer.ends_with("\nONE=1\nok\n"));
+}
+
+TEST_F(ControlProtocol, ClientThatLeavesInMidLineDoesNoHarm) {
+  { sendRaw(connectUnixSocket(path), "unplu"); }
+  { sendRaw(connectUnixSocket(path), "log\nlog\nlog\n"); }
+  EXPECT_EQ(ControlClient(path).ask("environment"), Lines{"ONE=1"});
+}
+
+TEST_F(ControlProtocol, SecondSimulatorIsKeptOffALiveSocket) {
+  try {
+    ControlSocket::at(path);
+    FAIL() << "took the socket of a live simulator";
+  } catch (const ControlSocketError &error) {
+    EXPECT_EQ(error.what(), "another simulator listens at " + path);
+  }
+  EXPECT_EQ(ControlClient(path).ask("environment"), Lines{"ONE=1"});
+}
+
+TEST(ControlSocketFile, OfADeadSimulatorIsTakenOver) {
+  const TemporaryFolder folder;
+  const std::string path = folder / "control.sock";
+  { const Descriptor dead = listenUnixSocket(path); }
+  ASSERT_TRUE(std::filesystem::exists(path));
+  const ControlSocket controlSocket = ControlSocket::at(path);
+  EXPECT_TRUE(connectUnixSocket(path));
+}
+
+TEST(ControlSocketFile, GoesAwayAtTheEnd) {
+  const TemporaryFolder folder;
+  { const ControlSocket socket = ControlSocket::at(folder / "control.sock"); }
+  EXPECT_EQ(folder.entries(), 0u);
+}
+
+TEST(ControlSocketFile, IsNeverMadeFromAnotherFile) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directory(folder / "precious");
+  EXPECT_THROW(ControlSocket::at(folder / "precious"), ControlSocketError);
+  EXPECT_TRUE(std::filesystem::is_directory(folder / "precious"));
+}
+
+TEST(ControlSocketFile, WithAPathThatCannotBeIsRefused) {
+  const TemporaryFolder folder;
+  EXPECT_THROW(ControlSocket::at(folder / "none/control.sock"), ControlSocketError);
+  EXPECT_THROW(ControlSocket::at(folder / std::string(200, 'x')), ControlSocketError);
+}
+
+TEST(ControlClients, SayWhenNobodyAnswers) {
+  const TemporaryFolder folder;
+  EXPECT_THROW(ControlClient(folder / "none.sock"), SimulatorUnreachable);
+}
+
+}  // namespace
+}  // namespace trxsim
