@@ -58,8 +58,7 @@ struct FreeText {
 };
 using Text = std::unique_ptr<char, FreeText>;
 
-// --- Reading
-// --------------------------------------------------------------------------------------------------------
+// --- Reading -------------------------------------------------------------------------------------
 
 // Only regular files: a pipe in the file's place would keep the caller waiting.
 std::optional<std::string> ReadContents(const std::string &path) {
@@ -90,8 +89,7 @@ plist_t Parse(const std::string &contents) {
   return root;
 }
 
-// --- Integer readings
-// -----------------------------------------------------------------------------------------------
+// --- Integer readings ----------------------------------------------------------------------------
 
 std::string_view TextOf(plist_t entry) {
   std::uint64_t length = 0;
@@ -121,8 +119,7 @@ std::optional<std::int32_t> IntegerOfText(std::string_view text) {
   return LowBits(static_cast<std::uint64_t>(number));
 }
 
-// --- Writing
-// --------------------------------------------------------------------------------------------------------
+// --- Writing -------------------------------------------------------------------------------------
 
 bool WriteAll(int descriptor, std::string_view contents) {
   while (!contents.empty()) {

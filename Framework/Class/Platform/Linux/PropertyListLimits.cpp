@@ -11,8 +11,7 @@ constexpr int kDeepestNesting = 128;
 // As many objects as fit into the largest XML file, near enough.
 constexpr std::size_t kMostObjects = 200'000;
 
-// --- XML
-// ------------------------------------------------------------------------------------------------------------
+// --- XML -----------------------------------------------------------------------------------------
 
 // Takes the text up to and with `end` off the front. Returns false when `end` does not come.
 bool SkipPast(std::string_view end, std::string_view &text) {
@@ -51,9 +50,11 @@ bool XmlWithinLimits(std::string_view text) {
       text.remove_prefix(*length + 1);
       if (content.starts_with('!')) {
         if (!content.starts_with("!DOCTYPE") || content.find('[') != content.npos) return false;
+      } else if (content.starts_with('?')) {
+        if (!content.ends_with('?')) return false;  // the parser would go on to the next "?>"
       } else if (content.starts_with('/')) {
         --depth;
-      } else if (!content.starts_with('?') && !content.ends_with('/')) {
+      } else if (!content.ends_with('/')) {
         if (++depth > kDeepestNesting) return false;
       }
     }
@@ -61,8 +62,7 @@ bool XmlWithinLimits(std::string_view text) {
   return true;
 }
 
-// --- Binary
-// ---------------------------------------------------------------------------------------------------------
+// --- Binary --------------------------------------------------------------------------------------
 
 constexpr std::string_view kBinaryMagic = "bplist00";
 constexpr std::size_t kTrailerSize = 32;
@@ -82,6 +82,7 @@ class BinaryTree {
   bool WithinLimits() { return Visit(root_, 0); }
 
  private:
+  static constexpr std::uint8_t kCount = 0x10;  // an integer of 1, 2, 4 or 8 bytes
   static constexpr std::uint8_t kArray = 0xA0;
   static constexpr std::uint8_t kSet = 0xC0;
   static constexpr std::uint8_t kDictionary = 0xD0;
@@ -108,7 +109,9 @@ class BinaryTree {
     if (kind != kArray && kind != kSet && kind != kDictionary) return true;
     std::uint64_t members = marker & 0x0F;
     if (members == 0x0F) {  // the count follows as an integer object of its own
-      const unsigned size = 1U << (Byte(position++) & 0x03);
+      const std::uint8_t countMarker = Byte(position++);
+      if ((countMarker & 0xFC) != kCount) return false;
+      const unsigned size = 1U << (countMarker & 0x03);
       members = Number(position, size);
       position += size;
     }

@@ -69,6 +69,8 @@ bool StartsWith(UpperCaseReader reader, std::string_view upperCase) {
 
 bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 
+unsigned char ByteOf(std::string_view text) { return static_cast<unsigned char>(text.front()); }
+
 // Takes the run of digits at the front off the text and gives it without its leading zeros.
 std::string_view TakeNumber(std::string_view &text) {
   std::size_t end = 0;
@@ -107,7 +109,7 @@ bool IsNumericallyGreater(const std::string &text, const std::string &than) {
       if (leftNumber.size() != rightNumber.size()) return leftNumber.size() > rightNumber.size();
       if (leftNumber != rightNumber) return leftNumber > rightNumber;
     } else {
-      if (left.front() != right.front()) return left.front() > right.front();
+      if (left.front() != right.front()) return ByteOf(left) > ByteOf(right);
       left.remove_prefix(1);
       right.remove_prefix(1);
     }

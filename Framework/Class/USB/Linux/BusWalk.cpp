@@ -30,8 +30,9 @@ bool MayBeUnit(std::string_view name) {
          name.find(':') == std::string_view::npos;
 }
 
-// The kernel's summary of a device, one KEY=VALUE a line: ids and address in a single read.
-using Summary = std::array<char, 1024>;
+// The kernel's summary of a device, one KEY=VALUE a line: ids and address in a single read. The
+// kernel gives no attribute more than this.
+using Summary = std::array<char, 4096>;
 
 std::string_view ReadSummary(int folder, const char *name, Summary &summary) {
   std::array<char, NAME_MAX + sizeof "/uevent"> path;

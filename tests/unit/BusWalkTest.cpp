@@ -1,0 +1,193 @@
+// Which entries of the bus are units, and where they are.
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "BusWalk.h"
+#include "MockBus.h"
+#include "USBDevice.h"
+
+namespace orv {
+namespace {
+
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+using Address = std::pair<int, int>;
+
+class BusWalk : public testing::Test {
+ protected:
+  static std::vector<Address> Units() {
+    std::vector<Address> addresses;
+    for (const UnitAddress &unit : ConnectedUnits()) addresses.emplace_back(unit.bus, unit.device);
+    EXPECT_EQ(CheckUSBAudio(11), static_cast<std::int32_t>(addresses.size()));
+    return addresses;
+  }
+
+  MockBus bus_;
+};
+
+std::string Vendor() {
+  return MixerSummary(1, 1).substr(MixerSummary(1, 1).find("PRODUCT=") + 8, 4);
+}
+
+TEST_F(BusWalk, FindsNothingOnAnEmptyBus) { EXPECT_THAT(Units(), IsEmpty()); }
+
+TEST_F(BusWalk, FindsNothingWhereThereIsNoBus) {
+  bus_.RemoveList();
+  EXPECT_THAT(Units(), IsEmpty());
+}
+
+TEST_F(BusWalk, FindsEveryMixer) {
+  bus_.PlugMixer("1-2", 1, 5);
+  bus_.PlugMixer("1-2.4", 1, 12);
+  bus_.PlugMixer("3-1.1.4", 3, 127);
+  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5), Address(1, 12), Address(3, 127)));
+}
+
+TEST_F(BusWalk, LooksAfreshEachTime) {
+  bus_.PlugMixer("1-2", 1, 5);
+  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5)));
+  bus_.PlugMixer("1-3", 1, 6);
+  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5), Address(1, 6)));
+  bus_.Unlist("1-2");
+  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 6)));
+}
+
+TEST_F(BusWalk, FindsTheSameForEveryModel) {
+  bus_.PlugMixer("1-2", 1, 5);
+  for (const ProductId productId : {0U, 1U, 2U, 11U, 12U, 0xFFFFFFFFU}) {
+    EXPECT_EQ(CheckUSBAudio(productId), 1);
+  }
+}
+
+TEST_F(BusWalk, PassesOverDevicesOfOtherMakersAndModels) {
+  bus_.PlugMixer("1-2", 1, 5);
+  const std::string vendor = Vendor();
+  int port = 10;
+  for (const std::string &product :
+       {vendor + "/1e/100", vendor + "/20/100", vendor + "/1f0/100", vendor + "/f/100",
+        vendor + "/11f/100", vendor + "/0/0", std::string("1/1f/100"), vendor + "0/1f/100",
+        "1" + vendor + "/1f/100", vendor.substr(1) + "/1f/100", std::string("1d6b/2/601"),
+        "1f/" + vendor + "/100"}) {
+    bus_.List("1-" + std::to_string(port), Summary(product, "001", "0" + std::to_string(port)));
+    ++port;
+  }
+  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5)));
+}
+
+TEST_F(BusWalk, PassesOverRootHubsAndInterfacesWhateverTheirIds) {
+  bus_.PlugMixer("1-2", 1, 5);
+  bus_.List("usb1", MixerSummary(1, 1));
+  bus_.List("usb10", MixerSummary(10, 1));
+  bus_.List("1-2:1.0", MixerSummary(1, 5));
+  bus_.List("1-0:1.0", MixerSummary(1, 1));
+  bus_.List("1-2.4:1.3", MixerSummary(1, 6));
+  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5)));
+}
+
+TEST_F(BusWalk, PassesOverEntriesThatAreGone) {
+  bus_.ListDangling("1-1");
+  bus_.PlugMixer("1-2", 1, 5);
+  bus_.ListDangling("1-3");
+  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5)));
+}
+
+TEST_F(BusWalk, PassesOverEntriesWithoutASummary) {
+  bus_.ListWithoutSummary("1-1");
+  bus_.PlugMixer("1-2", 1, 5);
+  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5)));
+}
+
+TEST_F(BusWalk, PassesOverSummariesThatMakeNoSense) {
+  bus_.PlugMixer("1-2", 1, 5);
+  const std::string mixer = Vendor() + "/1f/100";
+  const std::vector<std::string> summaries = {
+      "",
+      "\n",
+      "\n\n\n",
+      "=",
+      "PRODUCT",
+      "PRODUCT=",
+      "PRODUCT=\nBUSNUM=001\nDEVNUM=009\n",
+      "BUSNUM=001\nDEVNUM=009\n",
+      "PRODUCT=" + mixer,
+      "PRODUCT=" + mixer + "\nBUSNUM=001\n",
+      "PRODUCT=" + mixer + "\nDEVNUM=009\n",
+      "PRODUCT=" + mixer + "\nBUSNUM=\nDEVNUM=\n",
+      "XPRODUCT=" + mixer + "\nBUSNUM=001\nDEVNUM=009\n",
+      "PRODUCTS=" + mixer + "\nBUSNUM=001\nDEVNUM=009\n",
+      "product=" + mixer + "\nBUSNUM=001\nDEVNUM=009\n",
+      "PRODUCT =" + mixer + "\nBUSNUM=001\nDEVNUM=009\n",
+      "PRODUCT=" + mixer + "BUSNUM=001\nDEVNUM=009\n",
+      Summary("garbage", "001", "009"),
+      Summary("////", "001", "009"),
+      Summary(" " + mixer, "001", "009"),
+      Summary("-" + mixer, "001", "009"),
+      Summary("0x" + mixer, "001", "009"),
+      Summary(Vendor() + ":1f:100", "001", "009"),
+      Summary(Vendor(), "001", "009"),
+      Summary(Vendor() + "/", "001", "009"),
+      Summary(Vendor() + "/x", "001", "009"),
+      Summary("ffffffffffffffffffffff/1f/100", "001", "009"),
+      Summary(mixer, "one", "009"),
+      Summary(mixer, "001", "nine"),
+      Summary(mixer, "-1", "009"),
+      Summary(mixer, "001", "-9"),
+      Summary(mixer, "0x1", "009"),
+      Summary(mixer, "001", "9x"),
+      Summary(mixer, "65536", "009"),
+      Summary(mixer, "001", "99999999999999999999"),
+      std::string("PRODUCT=\0\0\0", 11),
+      std::string(500, '\0'),
+      std::string(1024, '\n'),
+      std::string(5000, 'P'),
+  };
+  for (const std::string &summary : summaries) {
+    bus_.List("1-9", summary);
+    EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5))) << '"' << summary << '"';
+    bus_.Unlist("1-9");
+  }
+}
+
+TEST_F(BusWalk, ReadsASummaryInAnyOrderAndWithoutALastLineEnd) {
+  bus_.List("1-2", "DEVNUM=009\nBUSNUM=002\nANYTHING=else\nPRODUCT=" + Vendor() + "/1f/100");
+  bus_.List("1-3", "PRODUCT=" + Vendor() + "/1f/100\nBUSNUM=3\nDEVNUM=10");
+  EXPECT_THAT(Units(), UnorderedElementsAre(Address(2, 9), Address(3, 10)));
+}
+
+TEST_F(BusWalk, FindsAMixerBehindManyOtherDevices) {
+  for (int i = 1; i <= 200; ++i) {
+    bus_.List("2-" + std::to_string(i), Summary("1d6b/2/601", "002", std::to_string(i)));
+  }
+  bus_.PlugMixer("9-9", 9, 9);
+  EXPECT_THAT(Units(), UnorderedElementsAre(Address(9, 9)));
+}
+
+// A number must not be taken for another because the rest of it was not read.
+TEST_F(BusWalk, NeverTakesTheBeginningOfANumberForTheWhole) {
+  const std::string summary = "PRODUCT=" + Vendor() + "/1f/100\nBUSNUM=001\nFILL=";
+  for (std::size_t size = 900; size < 1100; ++size) {
+    std::string filled = summary;
+    filled.resize(size, 'x');
+    bus_.List("1-2", filled + "\nDEVNUM=123\n");
+    const auto units = Units();
+    EXPECT_TRUE(units.empty() || units == std::vector<Address>({Address(1, 123)})) << size;
+    bus_.Unlist("1-2");
+  }
+}
+
+TEST(UnitAddress, IsOrderedByBusThenDevice) {
+  EXPECT_LT((UnitAddress{1, 200}), (UnitAddress{2, 1}));
+  EXPECT_LT((UnitAddress{2, 9}), (UnitAddress{2, 10}));
+  EXPECT_LT((UnitAddress{2, 127}), (UnitAddress{10, 1}));
+  EXPECT_EQ((UnitAddress{2, 9}), (UnitAddress{2, 9}));
+}
+
+}  // namespace
+}  // namespace orv

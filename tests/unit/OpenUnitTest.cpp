@@ -1,0 +1,154 @@
+// Opening units by position: which one, and what is said when it does not open.
+#include <algorithm>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "MockBus.h"
+#include "USBDevice.h"
+
+namespace orv {
+namespace {
+
+using testing::ElementsAre;
+
+constexpr auto kGeneralError = static_cast<PlatformStatus>(0xE00002BC);
+constexpr auto kNoDevice = static_cast<PlatformStatus>(0xE00002C0);
+
+// The nodes of all units, opened by position one after the other.
+std::vector<std::string> NodesInOrder() {
+  std::vector<std::string> nodes;
+  DeviceHandle handle = nullptr;
+  for (std::uint32_t n = 0; open_pipes(&handle, n) == 0; ++n) {
+    nodes.push_back(NodeBehind(handle));
+    closeUSB(&handle);
+  }
+  EXPECT_EQ(nodes.size(), static_cast<std::size_t>(CheckUSBAudio(11)));
+  return nodes;
+}
+
+struct Plug {
+  const char *name;
+  unsigned bus;
+  unsigned device;
+};
+
+TEST(OpenUnit, GoesByBusThenDeviceNumberWhateverTheOrderOfTheFolder) {
+  std::vector<Plug> plugs = {{"10-1", 10, 2}, {"2-1", 2, 10}, {"2-3", 2, 9}, {"1-9", 1, 100}};
+  const auto byName = [](const Plug &a, const Plug &b) { return std::string(a.name) < b.name; };
+  std::sort(plugs.begin(), plugs.end(), byName);
+  do {
+    MockBus bus;
+    for (const Plug &plug : plugs) bus.PlugMixer(plug.name, plug.bus, plug.device);
+    EXPECT_THAT(NodesInOrder(), ElementsAre("node 1/100", "node 2/9", "node 2/10", "node 10/2"));
+  } while (std::next_permutation(plugs.begin(), plugs.end(), byName));
+}
+
+TEST(OpenUnit, OpensTheNodeForReadingAndWritingAndNotForChildren) {
+  MockBus bus;
+  bus.PlugMixer("1-2", 1, 5);
+  DeviceHandle handle = nullptr;
+  ASSERT_EQ(open_pipes(&handle, 0), 0);
+  ASSERT_NE(handle, nullptr);
+  EXPECT_EQ(NodeBehind(handle), "node 1/5");
+  EXPECT_EQ(fcntl(handle->descriptor, F_GETFL) & O_ACCMODE, O_RDWR);
+  EXPECT_EQ(fcntl(handle->descriptor, F_GETFD) & FD_CLOEXEC, FD_CLOEXEC);
+  closeUSB(&handle);
+  EXPECT_EQ(handle, nullptr);
+  EXPECT_EQ(bus.OpenFiles(), 0);
+}
+
+TEST(OpenUnit, AnswersTheGeneralErrorBehindTheLastUnit) {
+  MockBus bus;
+  bus.PlugMixer("1-2", 1, 5);
+  bus.PlugMixer("1-3", 1, 6);
+  for (const std::uint32_t n : {2U, 3U, 0xFFFFFFFFU}) {
+    DeviceHandle handle = nullptr;
+    EXPECT_EQ(open_pipes(&handle, n), kGeneralError) << n;
+    EXPECT_EQ(handle, nullptr);
+  }
+}
+
+TEST(OpenUnit, AnswersTheGeneralErrorWithoutAnyUnit) {
+  MockBus bus;
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(handle, nullptr);
+}
+
+TEST(OpenUnit, LeavesAHandleAloneThatIsNotNull) {
+  MockBus bus;
+  bus.PlugMixer("1-2", 1, 5);
+  USBDeviceInterface other = {-1};
+  DeviceHandle handle = &other;
+  EXPECT_EQ(openUSB(&handle, 0), kGeneralError);
+  EXPECT_EQ(handle, &other);
+}
+
+TEST(OpenUnit, ThroughPipesClearsAHandleThatIsNotNull) {
+  MockBus bus;
+  bus.PlugMixer("1-2", 1, 5);
+  USBDeviceInterface other = {-1};
+  DeviceHandle handle = &other;
+  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  ASSERT_NE(handle, nullptr);
+  ASSERT_NE(handle, &other);
+  EXPECT_EQ(NodeBehind(handle), "node 1/5");
+  closeUSB(&handle);
+}
+
+TEST(OpenUnit, SaysThatADeviceIsGoneWhoseNodeIsMissing) {
+  MockBus bus;
+  bus.PlugMixer("1-2", 1, 5);
+  std::filesystem::remove(bus.Node(1, 5));
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(CheckUSBAudio(11), 1);
+  EXPECT_EQ(open_pipes(&handle, 0), kNoDevice);
+  EXPECT_EQ(handle, nullptr);
+}
+
+TEST(OpenUnit, AnswersTheGeneralErrorForAFolderInThePlaceOfTheNode) {
+  MockBus bus;
+  bus.PlugMixer("1-2", 1, 5);
+  std::filesystem::remove(bus.Node(1, 5));
+  std::filesystem::create_directory(bus.Node(1, 5));
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(handle, nullptr);
+}
+
+TEST(OpenUnit, SaysThatADeviceIsGoneForASocketInThePlaceOfTheNode) {
+  MockBus bus;
+  bus.PlugMixer("1-2", 1, 5);
+  std::filesystem::remove(bus.Node(1, 5));
+  ASSERT_EQ(mknod(bus.Node(1, 5).c_str(), S_IFSOCK | 0666, 0), 0);
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), kNoDevice);
+  EXPECT_EQ(handle, nullptr);
+}
+
+TEST(OpenUnit, LeavesNoFileOpen) {
+  MockBus bus;
+  bus.PlugMixer("1-2", 1, 5);
+  bus.ListDangling("1-3");
+  bus.ListWithoutSummary("1-4");
+  bus.PlugMixer("1-5", 1, 6);
+  std::filesystem::remove(bus.Node(1, 6));
+  for (int i = 0; i < 10; ++i) {
+    DeviceHandle handle = nullptr;
+    EXPECT_EQ(open_pipes(&handle, 0), 0);
+    EXPECT_EQ(bus.OpenFiles(), 1);
+    closeUSB(&handle);
+    EXPECT_EQ(open_pipes(&handle, 1), kNoDevice);
+    EXPECT_EQ(bus.OpenFiles(), 0);
+  }
+}
+
+}  // namespace
+}  // namespace orv

@@ -1,0 +1,26 @@
+// A session bus of a test's own.
+#pragma once
+
+#include <string>
+
+#include "TemporaryFolder.h"
+
+namespace orv {
+
+/// Runs a bus daemon for the length of a test and makes it the session bus of this process.
+class PrivateBus {
+ public:
+  PrivateBus();
+  PrivateBus(const PrivateBus &) = delete;
+  PrivateBus &operator=(const PrivateBus &) = delete;
+  ~PrivateBus();
+
+  const std::string &Address() const { return address_; }
+
+ private:
+  TemporaryFolder folder_;
+  std::string address_ = "unix:path=" + (folder_ / "bus");
+  pid_t daemon_ = -1;
+};
+
+}  // namespace orv

@@ -1,0 +1,190 @@
+// The settings file of a model: its path, the merge of one value, the reading with a default.
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "ChildProcess.h"
+#include "PropertyListFile.h"
+#include "SettingsFile.h"
+#include "TemporaryFolder.h"
+
+namespace orv {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Optional;
+using testing::StrEq;
+
+class SettingsFile : public testing::Test {
+ protected:
+  void SetUp() override { setenv("XDG_CONFIG_HOME", folder_.Path().c_str(), 1); }
+  void TearDown() override { unsetenv("XDG_CONFIG_HOME"); }
+
+  // Puts a file of these bytes where the model's settings file belongs.
+  void LeaveFile(const std::string &contents) const {
+    std::filesystem::create_directories(preferences_);
+    WriteBytes(path_, contents);
+  }
+
+  // A result that holds something else before, as a getter's caller may leave it.
+  static std::int32_t Value(const char *key, std::int32_t defaultValue) {
+    std::int32_t result = 4711;
+    GetSettingValue("TRX-SELVA", key, defaultValue, &result);
+    return result;
+  }
+
+  const TemporaryFolder folder_;
+  const std::string preferences_ = folder_ / "orvikaudio/Preferences";
+  const std::string path_ = preferences_ + "/com.orvikaudio.TRX-SELVAautosetup.plist";
+};
+
+TEST_F(SettingsFile, HasAPathForEachModel) {
+  setenv("XDG_CONFIG_HOME", "/config", 1);
+  EXPECT_THAT(
+      SettingsFilePath("TRX-Arden"),
+      Optional(StrEq("/config/orvikaudio/Preferences/com.orvikaudio.TRX-Ardenautosetup.plist")));
+  EXPECT_THAT(
+      SettingsFilePath("TRX-VOLT"),
+      Optional(StrEq("/config/orvikaudio/Preferences/com.orvikaudio.TRX-VOLTautosetup.plist")));
+  EXPECT_THAT(
+      SettingsFilePath("TRX-HALDEN"),
+      Optional(StrEq("/config/orvikaudio/Preferences/com.orvikaudio.TRX-HALDENautosetup.plist")));
+  EXPECT_THAT(
+      SettingsFilePath("TRX-LUMEN"),
+      Optional(StrEq("/config/orvikaudio/Preferences/com.orvikaudio.TRX-LUMENautosetup.plist")));
+  EXPECT_THAT(
+      SettingsFilePath("TRX-MORROW"),
+      Optional(StrEq("/config/orvikaudio/Preferences/com.orvikaudio.TRX-MORROWautosetup.plist")));
+  EXPECT_THAT(
+      SettingsFilePath("TRX-SELVA"),
+      Optional(StrEq("/config/orvikaudio/Preferences/com.orvikaudio.TRX-SELVAautosetup.plist")));
+}
+
+TEST_F(SettingsFile, FollowsTheLibraryFolderAtEachCall) {
+  const TemporaryFolder other;
+  MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
+  setenv("XDG_CONFIG_HOME", other.Path().c_str(), 1);
+  EXPECT_EQ(Value("MaxLevel", 3), 3);
+  MergeSettingValue("TRX-SELVA", "MaxLevel", 2);
+  EXPECT_EQ(Value("MaxLevel", 3), 2);
+  setenv("XDG_CONFIG_HOME", folder_.Path().c_str(), 1);
+  EXPECT_EQ(Value("MaxLevel", 3), 1);
+}
+
+TEST_F(SettingsFile, IsMadeWithItsFoldersByTheFirstMerge) {
+  MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
+  EXPECT_THAT(ShownEntries(path_), ElementsAre("MaxLevel: integer 1"));
+  EXPECT_THAT(folder_.Names(), ElementsAre("orvikaudio"));
+  for (const std::string &made : {folder_ / "orvikaudio", preferences_}) {
+    struct stat status = {};
+    ASSERT_EQ(stat(made.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0700U) << made;
+  }
+}
+
+TEST_F(SettingsFile, IsNotMadeByReading) {
+  EXPECT_FALSE(ReadSettingsFile("TRX-SELVA").has_value());
+  EXPECT_EQ(Value("MaxLevel", 3), 3);
+  EXPECT_THAT(folder_.Names(), IsEmpty());
+}
+
+TEST_F(SettingsFile, KeepsAllOtherEntriesInAMerge) {
+  LeaveFile(
+      XmlList("<key>MaxLevel</key><integer>2</integer>"
+              "<key>Foreign</key><array><string>kept</string><real>0.5</real></array>"));
+  MergeSettingValue("TRX-SELVA", "Output0", 4);
+  EXPECT_THAT(ShownEntries(path_), ElementsAre("Foreign: [text 'kept', real 0.5]",
+                                               "MaxLevel: integer 2", "Output0: integer 4"));
+  MergeSettingValue("TRX-SELVA", "MaxLevel", -1);
+  EXPECT_THAT(ShownEntries(path_), ElementsAre("Foreign: [text 'kept', real 0.5]",
+                                               "MaxLevel: integer -1", "Output0: integer 4"));
+}
+
+TEST_F(SettingsFile, BecomesXmlInAMerge) {
+  LeaveFile(BinaryListOf("\x10\x05"));
+  EXPECT_EQ(Value("a", 0), 5);
+  MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
+  EXPECT_THAT(ShownEntries(path_), ElementsAre("MaxLevel: integer 1", "a: integer 5"));
+}
+
+TEST_F(SettingsFile, ThatIsNoDictionaryIsReplacedByTheNewEntry) {
+  for (const std::string contents :
+       {"<plist><array><integer>2</integer></array></plist>", "<plist><string>x</string></plist>",
+        "no property list", "", "bplist00"}) {
+    LeaveFile(contents);
+    EXPECT_FALSE(ReadSettingsFile("TRX-SELVA").has_value()) << contents;
+    EXPECT_EQ(Value("MaxLevel", 3), 3) << contents;
+    MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
+    EXPECT_THAT(ShownEntries(path_), ElementsAre("MaxLevel: integer 1")) << contents;
+  }
+}
+
+TEST_F(SettingsFile, OfOneModelIsNotThatOfAnother) {
+  MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
+  MergeSettingValue("TRX-VOLT", "MaxLevel", 2);
+  EXPECT_EQ(Value("MaxLevel", 3), 1);
+  std::int32_t volt = 0;
+  GetSettingValue("TRX-VOLT", "MaxLevel", 3, &volt);
+  EXPECT_EQ(volt, 2);
+}
+
+TEST_F(SettingsFile, GivesTheStoredValueInOrOutOfAnyRange) {
+  LeaveFile(
+      XmlList("<key>MaxLevel</key><integer>9</integer>"
+              "<key>Output1</key><integer>-2147483648</integer>"
+              "<key>Text</key><string>12</string><key>Flag</key><true/>"));
+  EXPECT_EQ(Value("MaxLevel", 3), 9);
+  EXPECT_EQ(Value("Output1", 0), -2147483647 - 1);
+  EXPECT_EQ(Value("Text", 0), 12);
+  EXPECT_EQ(Value("Flag", 0), 1);
+}
+
+TEST_F(SettingsFile, GivesTheDefaultWhenTheEntryIsMissingOrNoInteger) {
+  LeaveFile(
+      XmlList("<key>MaxLevel</key><integer>2</integer><key>Text</key><string>x</string>"
+              "<key>List</key><array/>"));
+  EXPECT_EQ(Value("MidiChannel", 0), 0);
+  EXPECT_EQ(Value("Output2", 5), 5);
+  EXPECT_EQ(Value("Text", 3), 3);
+  EXPECT_EQ(Value("List", -1), -1);
+}
+
+TEST_F(SettingsFile, ThatCannotBeWrittenStaysAsItWas) {
+  std::filesystem::create_directories(path_);
+  ExpectQuietSuccess([] {
+    MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
+    EXPECT_EQ(Value("MaxLevel", 3), 3);
+  });
+  EXPECT_TRUE(std::filesystem::is_empty(path_));
+}
+
+TEST_F(SettingsFile, WhoseFolderIsAFileIsNeitherReadNorWritten) {
+  WriteBytes(folder_ / "orvikaudio", "a file");
+  ExpectQuietSuccess([] {
+    MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
+    EXPECT_EQ(Value("MaxLevel", 3), 3);
+  });
+  EXPECT_EQ(ReadBytes(folder_ / "orvikaudio"), "a file");
+}
+
+TEST_F(SettingsFile, OfAUserWithoutLibraryFolderIsNeitherReadNorWritten) {
+  ExpectQuietSuccess([] {
+    BecomeUserWithoutAccount();
+    unsetenv("XDG_CONFIG_HOME");
+    unsetenv("HOME");
+    EXPECT_EQ(SettingsFilePath("TRX-SELVA"), std::nullopt);
+    EXPECT_FALSE(ReadSettingsFile("TRX-SELVA").has_value());
+    MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
+    EXPECT_EQ(Value("MaxLevel", 3), 3);
+  });
+}
+
+}  // namespace
+}  // namespace orv
