@@ -72,49 +72,50 @@ void Receiver::Add(const std::string &name, NotificationHandler handler) {
   const bool isKnown = Observes(name);
   observations_.push_back({name, handler});
   if (!bus_) {
-    Connect(Asking::kAndWait);
-  } else if (!isKnown && AskFor(name, Asking::kAndWait) < 0) {
-    Disconnect();
-    Connect(Asking::kAndWait);
+    Connect();
+  } else if (!isKnown) {
+    AskFor(name);
   }
-  // While the call waited for the bus, notifications may have come in behind the answer.
-  CollectArrived();
+  // The connection may have died with its bus since it was last used; then there may be a new bus.
+  if (!Process(MonotonicNow() + kBusPatience)) {
+    Connect();
+    Process(MonotonicNow() + kBusPatience);
+  }
   WatchEverything();
 }
 
 void Receiver::Dispatch() {
-  if (!bus_ && !observations_.empty()) Connect(Asking::kWithoutWaiting);
-  CollectArrived();
+  if (!bus_ && !observations_.empty()) Connect();
+  Process(MonotonicNow());
   for (std::size_t left = arrived_.size(); left > 0 && !arrived_.empty(); --left) DeliverFirst();
   WatchEverything();
 }
 
-void Receiver::Connect(Asking asking) {
+void Receiver::Connect() {
   bus_ = ConnectToBus();
   if (!bus_) return;
-  for (auto observation = observations_.begin(); observation != observations_.end();
-       ++observation) {
-    const bool isAskedFor =
-        std::any_of(observations_.begin(), observation,
-                    [&](const Observation &earlier) { return earlier.name == observation->name; });
-    if (!isAskedFor && AskFor(observation->name, asking) < 0) {
-      Disconnect();
-      return;
-    }
+  sd_bus_add_filter(bus_.get(), nullptr, Arrived, this);
+  for (auto it = observations_.begin(); it != observations_.end(); ++it) {
+    const bool isAskedFor = std::any_of(observations_.begin(), it, [&](const Observation &earlier) {
+      return earlier.name == it->name;
+    });
+    if (!isAskedFor) AskFor(it->name);
   }
 }
 
-int Receiver::AskFor(const std::string &name, Asking asking) {
-  const std::string rule = MatchRule(name);
-  if (asking == Asking::kAndWait) {
-    return sd_bus_add_match(bus_.get(), nullptr, rule.c_str(), Arrived, this);
-  }
-  return sd_bus_add_match_async(bus_.get(), nullptr, rule.c_str(), Arrived, nullptr, this);
+// The bus answers later, when it has time: what was asked for counts even if nobody waits for the
+// answer.
+void Receiver::AskFor(const std::string &name) {
+  const int result = sd_bus_call_method_async(
+      bus_.get(), nullptr, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+      "AddMatch", Answered, this, "s", MatchRule(name).c_str());
+  if (result >= 0) ++unanswered_;
 }
 
 void Receiver::Disconnect() {
   if (watchedBus_ >= 0) epoll_ctl(NotificationDescriptor(), EPOLL_CTL_DEL, watchedBus_, nullptr);
   watchedBus_ = -1;
+  unanswered_ = 0;
   bus_.reset();
 }
 
@@ -128,10 +129,26 @@ int Receiver::Arrived(sd_bus_message *message, void *self, sd_bus_error * /*erro
   return 0;
 }
 
-void Receiver::CollectArrived() {
-  int result = 1;
-  while (bus_ && result > 0) result = sd_bus_process(bus_.get(), nullptr);
-  if (result < 0) Disconnect();
+int Receiver::Answered(sd_bus_message * /*answer*/, void *self, sd_bus_error * /*error*/) {
+  --static_cast<Receiver *>(self)->unanswered_;
+  return 0;
+}
+
+// Takes in all that has arrived; until the deadline also waits for the bus to answer. Returns
+// whether the connection held.
+bool Receiver::Process(std::uint64_t deadline) {
+  while (bus_) {
+    const int progress = sd_bus_process(bus_.get(), nullptr);
+    if (progress < 0) {
+      Disconnect();
+      return false;
+    }
+    if (progress > 0) continue;
+    const std::uint64_t now = MonotonicNow();
+    if (unanswered_ == 0 || now >= deadline) return true;
+    sd_bus_wait(bus_.get(), deadline - now);
+  }
+  return true;
 }
 
 // A handler may add observations and may dispatch: nothing here refers to the containers while it

@@ -31,15 +31,15 @@ class Receiver {
     std::string name;
     NotificationHandler handler;
   };
-  enum class Asking { kAndWait, kWithoutWaiting };
 
   static int Arrived(sd_bus_message *message, void *self, sd_bus_error *error);
+  static int Answered(sd_bus_message *answer, void *self, sd_bus_error *error);
 
   bool Observes(const std::string &name) const;
-  void Connect(Asking asking);
-  int AskFor(const std::string &name, Asking asking);
+  void Connect();
+  void AskFor(const std::string &name);
   void Disconnect();
-  void CollectArrived();
+  bool Process(std::uint64_t deadline);
   void DeliverFirst();
 
   void WatchEverything();
@@ -49,6 +49,7 @@ class Receiver {
   std::vector<Observation> observations_;
   std::deque<Notification> arrived_;
   Bus bus_;
+  int unanswered_ = 0;  // what the bus was asked for and has not granted yet
   int watchedBus_ = -1;
   int timer_ = -1;
   int backlog_ = -1;

@@ -1,5 +1,7 @@
 #include "SessionBus.h"
 
+#include <string_view>
+
 #include <time.h>
 
 namespace orv {
@@ -40,7 +42,6 @@ int ReadDictionary(sd_bus_message *message, UserInfo &userInfo) {
 Bus ConnectToBus() noexcept {
   sd_bus *bus = nullptr;
   if (sd_bus_open_user_with_description(&bus, "TRX-SELVASetup") < 0) return nullptr;
-  sd_bus_set_method_call_timeout(bus, kBusPatience);
   return Bus(bus);
 }
 
@@ -53,7 +54,11 @@ int SendNotification(sd_bus *bus, const std::string &name, const UserInfo &userI
 }
 
 std::optional<Notification> ReadNotification(sd_bus_message *message) {
-  if (sd_bus_message_has_signature(message, kBusSignature) <= 0) return std::nullopt;
+  if (sd_bus_message_is_signal(message, kBusInterface, kBusMember) <= 0 ||
+      std::string_view(sd_bus_message_get_path(message)) != kBusPath ||
+      sd_bus_message_has_signature(message, kBusSignature) <= 0) {
+    return std::nullopt;
+  }
   const char *name = nullptr;
   Notification notification;
   if (sd_bus_message_read(message, "s", &name) < 0 ||
