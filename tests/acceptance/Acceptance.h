@@ -1,0 +1,65 @@
+// What every suite builds on.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <TRX-SELVASetup/TRX-SELVASetup.h>
+
+#include "Rig.h"
+
+namespace trxtest {
+
+/// The ProductIds to try a function with: all that could name something, and what lies behind.
+inline constexpr ProductId kAllProducts[] = {0, 1, 2,  3,  4,  5,  6,          7,
+                                             8, 9, 10, 11, 12, 13, 0x80000000, 0xFFFFFFFF};
+
+/// Entries of a settings file: the key, and its value as it stands in the file, such as
+/// "<integer>3</integer>".
+using Settings = std::map<std::string, std::string>;
+
+/// A case on a rig of its own.
+class Acceptance : public testing::Test {
+ protected:
+  Rig &rig() { return *rig_; }
+
+  /// The entries of a model's settings file, given by its display name; nothing when it is missing
+  /// or is no XML property list with a dictionary at its root.
+  std::optional<Settings> SettingsOf(const std::string &modelDisplayName);
+
+  /// Puts a file in the place of a model's settings file.
+  void PutSettingsFile(const std::string &modelDisplayName, const std::string &contents);
+
+  /// Puts a settings file with these entries, each "<key>K</key>" followed by its value.
+  void PutSettings(const std::string &modelDisplayName, const std::string &entries);
+
+  /// All files and folders below the user's Library folder, the folder itself included.
+  std::vector<std::string> LibraryListing();
+
+  /// Expects that no request reached a unit, no file was made and nothing was announced. Only for
+  /// cases in which none of that happened before.
+  void ExpectNothingHappened();
+
+  /// Runs the event loop until `isDone`, at most ten seconds. Returns whether it is done.
+  bool RunEventLoopUntil(const std::function<bool()> &isDone);
+
+ private:
+  std::unique_ptr<Rig> rig_ = MakeRig();
+};
+
+/// Waits until `isDone`, at most ten seconds. Returns whether it is done.
+bool WaitUntil(const std::function<bool()> &isDone);
+
+/// The boost change that a setter announces.
+Announcement BoostChange(const std::string &modelDisplayName, std::int32_t product,
+                         std::int32_t index);
+
+}  // namespace trxtest

@@ -1,0 +1,371 @@
+// Callbacks: who is called, with what, how often, and what is ignored.
+#include <climits>
+#include <thread>
+
+#include "../Deliveries.h"
+
+namespace trxtest {
+namespace {
+
+using CallList = std::vector<Call>;
+
+std::string first = "first";
+std::string second = "second";
+std::string arden = "arden";
+std::string volt = "volt";
+std::string halden = "halden";
+std::string lumen = "lumen";
+std::string selva = "selva";
+
+class Callbacks : public Deliveries {};
+
+const std::vector<ProductId> kRefused = {2, 3, 4, 7, 9, 10, 12, 13, 0x80000000, 0xFFFFFFFF};
+
+Announcement ChannelChange(const std::string &name, std::int32_t product, std::int32_t channel,
+                           std::int32_t index) {
+  return {name, {{"ProductID", product}, {"Channel", channel}, {"Index", index}}};
+}
+
+Announcement IndexChange(const std::string &name, std::int32_t product, std::int32_t index) {
+  return {name, {{"ProductID", product}, {"Index", index}}};
+}
+
+TEST_F(Callbacks, SixModelsAreAcceptedForRoutingAndBoostAndOneForTheMidiChannel) {
+  for (const ProductId product : {0U, 1U, 5U, 6U, 8U, 11U}) {
+    EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(product, ChannelIndexA, &first), 100);
+    EXPECT_EQ(ORV_RegisterOutputAudioChangedCallback(product, ChannelIndexA, &first), 100);
+    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexA, &first), 100);
+    EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(product, IndexA, &first),
+              product == 1 ? 100 : 102);
+    EXPECT_EQ(ORV_UnregisterInputAudioChangedCallback(product, ChannelIndexA), 100);
+    EXPECT_EQ(ORV_UnregisterOutputAudioChangedCallback(product, ChannelIndexA), 100);
+    EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(product, IndexA), 100);
+    EXPECT_EQ(ORV_UnregisterMidiChannelChangedCallback(product, IndexA), product == 1 ? 100 : 102);
+  }
+}
+
+TEST_F(Callbacks, EveryOtherModelIsRefused) {
+  for (const ProductId product : kRefused) {
+    EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(product, ChannelIndexA, &first), 102);
+    EXPECT_EQ(ORV_RegisterOutputAudioChangedCallback(product, ChannelIndexA, &first), 102);
+    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexA, &first), 102);
+    EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(product, IndexA, &first), 102);
+    EXPECT_EQ(ORV_UnregisterInputAudioChangedCallback(product, ChannelIndexA), 102);
+    EXPECT_EQ(ORV_UnregisterOutputAudioChangedCallback(product, ChannelIndexA), 102);
+    EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(product, IndexA), 102);
+    EXPECT_EQ(ORV_UnregisterMidiChannelChangedCallback(product, IndexA), 102);
+  }
+  ExpectNothingHappened();
+}
+
+TEST_F(Callbacks, TheKeyModeFunctionsRefuseEveryModel) {
+  for (const ProductId product : kAllProducts) {
+    EXPECT_EQ(ORV_RegisterMidiKeyModeChangedCallback(product, IndexA, &first), 102) << product;
+    EXPECT_EQ(ORV_UnregisterMidiKeyModeChangedCallback(product, IndexA), 102) << product;
+  }
+  for (const char *name : {"TRX-VOLT MidiKeyMode Change", "TRX-SELVA MidiKeyMode Change"}) {
+    rig().Announce(IndexChange(name, 1, 1));
+  }
+  EXPECT_EQ(DeliverAll(), CallList());
+}
+
+TEST_F(Callbacks, UnregisteringWhatWasNeverRegisteredSucceeds) {
+  EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, IndexA), 100);
+  EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, nullptr), 100);
+  EXPECT_EQ(ORV_UnregisterInputAudioChangedCallback(11, nullptr), 100);
+  EXPECT_EQ(ORV_UnregisterOutputAudioChangedCallback(11, nullptr), 100);
+  EXPECT_EQ(ORV_UnregisterMidiChannelChangedCallback(1, nullptr), 100);
+}
+
+TEST_F(Callbacks, OnesOwnChangeComesBackWithTheContext) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 2}}));
+}
+
+TEST_F(Callbacks, NeverRunInsideTheCallThatMadeTheChange) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  for (std::uint32_t i = 0; i < 50; ++i) {
+    ASSERT_EQ(ORV_SetBoostLevelIndex(11, i % 4), 100);
+    ASSERT_EQ(ORV_SetCurrentBoostLevelIndex(11), 100);
+    ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(6, IndexA, &lumen), 100);
+    ASSERT_EQ(Calls(), CallList());
+  }
+  EXPECT_EQ(DeliverAll().size(), 50U);
+}
+
+TEST_F(Callbacks, RunOnTheThreadOfTheEventLoop) {
+  static std::thread::id ranOn;
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(
+                11, [](std::int32_t, void *) { ranOn = std::this_thread::get_id(); }, nullptr),
+            100);
+  std::thread([] { EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100); }).join();
+  EXPECT_TRUE(RunEventLoopUntil([] { return ranOn != std::thread::id(); }));
+  EXPECT_EQ(ranOn, std::this_thread::get_id());
+}
+
+TEST_F(Callbacks, ANullContextIsHandedBackToo) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, nullptr), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"A (null)", -1, 0}}));
+}
+
+TEST_F(Callbacks, OnlyTheModelThatChangedIsCalled) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(0, IndexA, &arden), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(1, IndexA, &volt), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(5, IndexA, &halden), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(6, IndexA, &lumen), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexB, &selva), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"B selva", -1, 1}}));
+  ASSERT_EQ(ORV_SetBoostLevelIndex(0, 2), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(6, 3), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(5, 0), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"A arden", -1, 2}, {"A lumen", -1, 3}, {"A halden", -1, 0}}));
+}
+
+TEST_F(Callbacks, OnlyTheKindThatChangedIsCalledAndRoutingBringsItsChannel) {
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(1, ChannelIndexA, &first), 100);
+  ASSERT_EQ(ORV_RegisterOutputAudioChangedCallback(1, ChannelIndexB, &second), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(1, IndexA, &volt), 100);
+  ASSERT_EQ(ORV_RegisterMidiChannelChangedCallback(1, IndexB, &volt), 100);
+  rig().Announce(ChannelChange("TRX-VOLT InputAudio Change", 1, 2, 7));
+  EXPECT_EQ(DeliverAll(), (CallList{{"A first", 2, 7}}));
+  rig().Announce(ChannelChange("TRX-VOLT OutputAudio Change", 1, 0, 5));
+  EXPECT_EQ(DeliverAll(), (CallList{{"B second", 0, 5}}));
+  rig().Announce(IndexChange("TRX-VOLT BoostLevel Change", 1, 3));
+  EXPECT_EQ(DeliverAll(), (CallList{{"A volt", -1, 3}}));
+  rig().Announce(IndexChange("TRX-VOLT MidiChannel Change", 1, 15));
+  EXPECT_EQ(DeliverAll(), (CallList{{"B volt", -1, 15}}));
+}
+
+TEST_F(Callbacks, EveryModelHasItsOwnNameForEveryKind) {
+  const std::vector<std::pair<ProductId, std::string>> models = {
+      {0, "TRX-Arden"}, {1, "TRX-VOLT"}, {5, "TRX-HALDEN"}, {6, "TRX-LUMEN"}, {11, "TRX-SELVA"}};
+  for (const auto &[product, name] : models) {
+    const auto number = static_cast<std::int32_t>(product);
+    ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(product, ChannelIndexA, &first), 100);
+    ASSERT_EQ(ORV_RegisterOutputAudioChangedCallback(product, ChannelIndexB, &first), 100);
+    ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexA, &first), 100);
+    rig().Announce(ChannelChange(name + " InputAudio Change", number, 1, 2));
+    rig().Announce(ChannelChange(name + " OutputAudio Change", number, 3, 4));
+    rig().Announce(IndexChange(name + " BoostLevel Change", number, 1));
+    EXPECT_EQ(DeliverAll(), (CallList{{"A first", 1, 2}, {"B first", 3, 4}, {"A first", -1, 1}}))
+        << name;
+  }
+}
+
+TEST_F(Callbacks, NamesInOtherSpellingsAreNotHeard) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(0, IndexA, &arden), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  for (const char *name : {"TRX-ARDEN BoostLevel Change", "TRX-SELVA BoostLevel",
+                           "BoostLevel Change", "TRX-SELVA BoostLevel Change ",
+                           "TRX-SELVA  BoostLevel Change", "trx-selva boostlevel change", ""}) {
+    rig().Announce(IndexChange(name, 11, 1));
+  }
+  EXPECT_EQ(DeliverAll(), CallList());
+}
+
+TEST_F(Callbacks, RegisteringNTimesDeliversNTimesToTheLastCallback) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &first), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"A first", -1, 0}}));
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &first), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexB, &second), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(DeliverAll(),
+            (CallList{{"B second", -1, 1}, {"B second", -1, 1}, {"B second", -1, 1}}));
+}
+
+TEST_F(Callbacks, RegisteringTwiceDeliversARoutingChangeTwice) {
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, ChannelIndexA, &first), 100);
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, ChannelIndexA, &first), 100);
+  rig().Announce(ChannelChange("TRX-SELVA InputAudio Change", 11, 1, 7));
+  EXPECT_EQ(DeliverAll(), (CallList{{"A first", 1, 7}, {"A first", 1, 7}}));
+}
+
+TEST_F(Callbacks, ARefusedRegistrationDeliversNothingMore) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &first), 100);
+  ASSERT_EQ(ORV_RegisterMidiChannelChangedCallback(11, IndexB, &second), 102);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(0xFFFFFFFF, IndexB, &second), 102);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(2, IndexB, &second), 102);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  rig().Announce(IndexChange("TRX-SELVA MidiChannel Change", 11, 1));
+  EXPECT_EQ(DeliverAll(), (CallList{{"A first", -1, 1}}));
+}
+
+TEST_F(Callbacks, ANullCallbackIsAcceptedAndCallsNothing) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &first), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, nullptr, &second), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(DeliverAll(), CallList());
+}
+
+TEST_F(Callbacks, AfterUnregisteringChangesAreAnnouncedButNothingIsCalled) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &first), 100);
+  ASSERT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, IndexA), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 1)});
+  EXPECT_EQ(DeliverAll(), CallList());
+}
+
+TEST_F(Callbacks, UnregisteringEmptiesThePlaceWhateverCallbackItNames) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &first), 100);
+  ASSERT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, IndexB), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(DeliverAll(), CallList());
+}
+
+TEST_F(Callbacks, UnregisteringOneModelAndKindLeavesTheOthers) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(0, IndexA, &arden), 100);
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, ChannelIndexA, &selva), 100);
+  ASSERT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, IndexA), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(0, 2), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"A arden", -1, 2}}));
+  rig().Announce(ChannelChange("TRX-SELVA InputAudio Change", 11, 0, 1));
+  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", 0, 1}}));
+}
+
+TEST_F(Callbacks, RegisteringAgainAfterUnregisteringDeliversForBothRegistrations) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &first), 100);
+  ASSERT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, IndexA), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexB, &second), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 3), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"B second", -1, 3}, {"B second", -1, 3}}));
+}
+
+TEST_F(Callbacks, TheProductIdInsideDecidesAndNotTheName) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(5, IndexA, &halden), 100);
+  rig().Announce(IndexChange("TRX-SELVA BoostLevel Change", 5, 2));
+  EXPECT_EQ(DeliverAll(), (CallList{{"A halden", -1, 2}}));
+}
+
+TEST_F(Callbacks, ANameThatNobodyRegisteredForIsNotHeardEvenWithAProductIdThatHasACallback) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  rig().Announce(IndexChange("TRX-LUMEN BoostLevel Change", 11, 2));
+  EXPECT_EQ(DeliverAll(), CallList());
+}
+
+TEST_F(Callbacks, AProductIdOutsideTheTablesOrWithoutACallbackIsIgnored) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, ChannelIndexA, &selva), 100);
+  for (const std::int32_t product : {-1, 12, 13, 7, 0, 256 + 11, 0x10000 + 11, INT_MAX, INT_MIN}) {
+    rig().Announce(IndexChange("TRX-SELVA BoostLevel Change", product, 1));
+    rig().Announce(ChannelChange("TRX-SELVA InputAudio Change", product, 1, 1));
+  }
+  EXPECT_EQ(DeliverAll(), CallList());
+}
+
+TEST_F(Callbacks, AMissingKeyReadsZero) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(0, IndexA, &arden), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, ChannelIndexA, &selva), 100);
+  rig().Announce({"TRX-SELVA BoostLevel Change", {{"ProductID", 11}}});
+  rig().Announce({"TRX-SELVA BoostLevel Change", {{"Index", 2}}});
+  rig().Announce({"TRX-SELVA BoostLevel Change", {}});
+  rig().Announce({"TRX-SELVA InputAudio Change", {{"ProductID", 11}, {"Index", 4}}});
+  rig().Announce({"TRX-SELVA InputAudio Change", {{"ProductID", 11}, {"Channel", 2}}});
+  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 0},
+                                    {"A arden", -1, 2},
+                                    {"A arden", -1, 0},
+                                    {"A selva", 0, 4},
+                                    {"A selva", 2, 0}}));
+}
+
+TEST_F(Callbacks, OtherKeysAndAnotherOrderOfTheKeysDoNotMatter) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  rig().Announce({"TRX-SELVA BoostLevel Change",
+                  {{"Index", 3}, {"index", 1}, {"Channel", 5}, {"", 9}, {"ProductID", 11}}});
+  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 3}}));
+}
+
+TEST_F(Callbacks, NumbersAreHandedOnAsTheyAre) {
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, ChannelIndexA, &selva), 100);
+  rig().Announce(ChannelChange("TRX-SELVA InputAudio Change", 11, INT_MIN, INT_MAX));
+  rig().Announce(ChannelChange("TRX-SELVA InputAudio Change", 11, 9, -2));
+  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", INT_MIN, INT_MAX}, {"A selva", 9, -2}}));
+}
+
+TEST_F(Callbacks, WhatIsNotShapedLikeAnAnnouncementIsIgnored) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, ChannelIndexA, &selva), 100);
+  EXPECT_GT(rig().AnnounceMisshapen(IndexChange("TRX-SELVA BoostLevel Change", 11, 1)), 0);
+  EXPECT_GT(rig().AnnounceMisshapen(ChannelChange("TRX-SELVA InputAudio Change", 11, 1, 1)), 0);
+  EXPECT_EQ(DeliverAll(), CallList());
+}
+
+// --- Between processes -----------------------------------------------------------------------
+
+using Lines = std::vector<std::string>;
+
+TEST_F(Callbacks, AChangeInAnotherProcessArrivesInBothDirections) {
+  const auto host = rig().StartHost();
+  ASSERT_EQ(host->Ask("register BoostLevel 11 host"), "100");
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 2"), "100");
+  EXPECT_EQ(host->TakeCalls(1), (Lines{"host 2"}));
+  EXPECT_TRUE(RunEventLoopUntil([] { return !Calls().empty(); }));
+  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 2}}));
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(host->TakeCalls(1), (Lines{"host 1"}));
+  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 1}}));
+}
+
+TEST_F(Callbacks, EachProcessHasRegistrationsOfItsOwn) {
+  const auto one = rig().StartHost();
+  const auto other = rig().StartHost();
+  ASSERT_EQ(one->Ask("register BoostLevel 11 one"), "100");
+  ASSERT_EQ(one->Ask("register BoostLevel 11 one"), "100");
+  ASSERT_EQ(other->Ask("register BoostLevel 11 other"), "100");
+  ASSERT_EQ(one->Ask("register BoostLevel 5 end"), "100");
+  ASSERT_EQ(other->Ask("register BoostLevel 5 end"), "100");
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(5, 0), 100);
+  EXPECT_EQ(one->TakeCalls(3), (Lines{"one 2", "one 2", "end 0"}));
+  EXPECT_EQ(other->TakeCalls(2), (Lines{"other 2", "end 0"}));
+  ASSERT_EQ(one->Ask("unregister BoostLevel 11"), "100");
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 3), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(5, 1), 100);
+  EXPECT_EQ(one->TakeCalls(1), (Lines{"end 1"}));
+  EXPECT_EQ(other->TakeCalls(2), (Lines{"other 3", "end 1"}));
+}
+
+TEST_F(Callbacks, TwoThousandAnnouncedBeforeTheReceiverLooksAllArriveInOrder) {
+  constexpr int kCount = 2000;
+  const auto receiver = rig().StartHost();
+  const auto setter = rig().StartHost();
+  ASSERT_EQ(receiver->Ask("register BoostLevel 11 r"), "100");
+  ASSERT_EQ(receiver->Ask("stop-receiving"), "done");
+  ASSERT_EQ(setter->Ask("levels 11 " + std::to_string(kCount)), "100");
+  ASSERT_EQ(receiver->Ask("go-on-receiving"), "done");
+  Lines expected;
+  for (int i = 0; i < kCount; ++i) expected.push_back("r " + std::to_string(i % 4));
+  EXPECT_EQ(receiver->TakeCalls(kCount), expected);
+}
+
+TEST_F(Callbacks, EachPosterKeepsItsOrderBesideAnother) {
+  constexpr int kCount = 300;
+  const auto receiver = rig().StartHost();
+  const auto one = rig().StartHost();
+  const auto other = rig().StartHost();
+  ASSERT_EQ(receiver->Ask("register BoostLevel 11 one"), "100");
+  ASSERT_EQ(receiver->Ask("register BoostLevel 6 other"), "100");
+  one->Begin("levels 11 " + std::to_string(kCount));
+  other->Begin("levels 6 " + std::to_string(kCount));
+  std::map<std::string, Lines> byPoster;
+  for (const std::string &line : receiver->TakeCalls(2 * kCount)) {
+    byPoster[line.substr(0, line.find(' '))].push_back(line.substr(line.find(' ') + 1));
+  }
+  Lines expected;
+  for (int i = 0; i < kCount; ++i) expected.push_back(std::to_string(i % 4));
+  EXPECT_EQ(byPoster["one"], expected);
+  EXPECT_EQ(byPoster["other"], expected);
+  EXPECT_EQ(one->Answer(), "100");
+  EXPECT_EQ(other->Answer(), "100");
+}
+
+}  // namespace
+}  // namespace trxtest

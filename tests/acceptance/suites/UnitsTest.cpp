@@ -1,0 +1,219 @@
+// Which units a request reaches, in which order, and what becomes of those that fail. Shown with
+// the boost level: every family goes the same way.
+#include <chrono>
+
+#include "../Acceptance.h"
+
+namespace trxtest {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class Units : public Acceptance {
+ protected:
+  // What level 0 looks like on the wire of a unit that takes it.
+  static std::string Taken(int unit) { return Sent(unit, "0 bytes"); }
+
+  static std::string Sent(int unit, const std::string &outcome) {
+    return "unit " + std::to_string(unit) + " OUT 40 03 wValue 0300 wIndex 8003 wLength 0 -> " +
+           outcome;
+  }
+
+  // Sets level 0, expects success and that it was stored and announced, and returns the wire log.
+  Lines SetLevelZero() {
+    rig().ClearWireLog();
+    EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+    EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>0</integer>"}}));
+    EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 0)});
+    return rig().WireLog();
+  }
+
+  // Sends level 0 again from the settings file.
+  Lines SendLevelZeroAgain() {
+    PutSettings("TRX-SELVA", "<key>MaxLevel</key><integer>0</integer>");
+    rig().ClearWireLog();
+    EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(11), 100);
+    EXPECT_EQ(rig().TakeAnnouncements(0), std::vector<Announcement>());
+    return rig().WireLog();
+  }
+};
+
+TEST_F(Units, NoneConnectedNothingIsSent) {
+  EXPECT_EQ(SetLevelZero(), Lines());
+  EXPECT_EQ(SendLevelZeroAgain(), Lines());
+}
+
+TEST_F(Units, ThreeAreReachedOnceEachInTheOrderOfTheBus) {
+  for (int i = 0; i < 3; ++i) rig().PlugMixer();
+  EXPECT_EQ(SetLevelZero(), (Lines{Taken(1), Taken(2), Taken(3)}));
+  EXPECT_EQ(SendLevelZeroAgain(), (Lines{Taken(1), Taken(2), Taken(3)}));
+}
+
+TEST_F(Units, StrangersInBetweenAreNeverAsked) {
+  rig().PlugStranger(Stranger::kOtherMakerWithTheSameProduct);
+  const int first = rig().PlugMixer();
+  rig().PlugStranger(Stranger::kOtherProductOfTheMaker);
+  rig().PlugStranger(Stranger::kUnrelated);
+  const int second = rig().PlugMixer();
+  rig().PlugStranger(Stranger::kOtherProductOfTheMaker);
+  EXPECT_EQ(SetLevelZero(), (Lines{Taken(first), Taken(second)}));
+  EXPECT_EQ(SendLevelZeroAgain(), (Lines{Taken(first), Taken(second)}));
+}
+
+TEST_F(Units, OnlyStrangersNothingIsSent) {
+  rig().PlugStranger(Stranger::kOtherProductOfTheMaker);
+  rig().PlugStranger(Stranger::kOtherMakerWithTheSameProduct);
+  EXPECT_EQ(SetLevelZero(), Lines());
+}
+
+TEST_F(Units, OneReplugStandsBehindTheOthers) {
+  for (int i = 0; i < 3; ++i) rig().PlugMixer();
+  rig().Unplug(1);
+  EXPECT_EQ(SetLevelZero(), (Lines{Taken(2), Taken(3)}));
+  rig().Replug(1);
+  EXPECT_EQ(SetLevelZero(), (Lines{Taken(2), Taken(3), Taken(1)}));
+}
+
+TEST_F(Units, TheOrderIsThatOfTheBusAndNotThatOfPluggingIn) {
+  const int earlier = rig().PlugMixer();
+  rig().Unplug(earlier);
+  rig().Replug(earlier);  // leaves the first place of the bus free
+  const int later = rig().PlugMixerInFront();
+  EXPECT_EQ(SetLevelZero(), (Lines{Taken(later), Taken(earlier)}));
+}
+
+TEST_F(Units, ManyAreReachedInTheOrderOfTheirNumbersNotOfTheirDigits) {
+  Lines expected;
+  for (int unit = 1; unit <= 12; ++unit) expected.push_back(Taken(rig().PlugMixer()));
+  EXPECT_EQ(SetLevelZero(), expected);
+}
+
+TEST_F(Units, OneThatDoesNotOpenIsPassedOver) {
+  for (int i = 0; i < 3; ++i) rig().PlugMixer();
+  rig().SetFault(2, UnitFault::kRefusesToOpen);
+  EXPECT_EQ(SetLevelZero(), (Lines{Taken(1), Taken(3)}));
+  EXPECT_EQ(SendLevelZeroAgain(), (Lines{Taken(1), Taken(3)}));
+  rig().ClearFaults(2);
+  EXPECT_EQ(SetLevelZero(), (Lines{Taken(1), Taken(2), Taken(3)}));
+}
+
+TEST_F(Units, WhenNoneOpensTheLevelIsStoredAndAnnouncedAllTheSame) {
+  for (const int unit : {rig().PlugMixer(), rig().PlugMixer()}) {
+    rig().SetFault(unit, UnitFault::kRefusesToOpen);
+  }
+  EXPECT_EQ(SetLevelZero(), Lines());
+}
+
+TEST_F(Units, OneThatRefusesTheRequestDoesNotKeepTheOthersFromIt) {
+  for (int i = 0; i < 3; ++i) rig().PlugMixer();
+  rig().SetFault(1, UnitFault::kStalls);
+  EXPECT_EQ(SetLevelZero(), (Lines{Sent(1, "stalled"), Taken(2), Taken(3)}));
+  EXPECT_EQ(SendLevelZeroAgain(), (Lines{Sent(1, "stalled"), Taken(2), Taken(3)}));
+}
+
+TEST_F(Units, OneThatStaysSilentIsGivenUpAfterItsTime) {
+  rig().PlugMixer();
+  rig().PlugMixer();
+  rig().SetFault(1, UnitFault::kStaysSilent);
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(SetLevelZero(), (Lines{Sent(1, "no reply"), Taken(2)}));
+  const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
+  EXPECT_GT(took.count(), 4.9);
+  EXPECT_LT(took.count(), 8.0);
+}
+
+TEST_F(Units, OneThatVanishesDuringTheRequestIsPassedOver) {
+  rig().PlugMixer();
+  rig().PlugMixer();
+  rig().SetFault(2, UnitFault::kVanishes);
+  EXPECT_EQ(SetLevelZero(), (Lines{Taken(1), Sent(2, "unplugged")}));
+  EXPECT_EQ(SetLevelZero(), (Lines{Taken(1)}));
+}
+
+// Each position is looked up afresh: with the first unit gone, position 1 of two is that of nobody.
+TEST_F(Units, WhenTheFirstVanishesTheSecondHasMovedUpAndIsMissed) {
+  rig().PlugMixer();
+  rig().PlugMixer();
+  rig().SetFault(1, UnitFault::kVanishes);
+  EXPECT_EQ(SetLevelZero(), (Lines{Sent(1, "unplugged")}));
+  EXPECT_EQ(SetLevelZero(), (Lines{Taken(2)}));
+}
+
+TEST_F(Units, OneUnpluggedDuringItsRequestEndsTheWait) {
+  const int silent = rig().PlugMixer();
+  rig().SetFault(silent, UnitFault::kStaysSilent);
+  const auto host = rig().StartHost();
+  const auto start = std::chrono::steady_clock::now();
+  host->Begin("call ORV_SetBoostLevelIndex 11 0");
+  ASSERT_TRUE(WaitUntil([&] { return rig().WireLog().size() == 1; }));
+  rig().Unplug(silent);
+  EXPECT_EQ(host->Answer(), "100");
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(4));
+}
+
+TEST_F(Units, OneHeldByAnotherProcessIsPassedOver) {
+  for (int i = 0; i < 3; ++i) rig().PlugMixer();
+  rig().SetFault(2, UnitFault::kHeldByAnotherProcess);
+  const auto host = rig().StartHost();
+  ASSERT_EQ(host->Ask("give-up admin"), "done");
+  EXPECT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 0"), "100");
+  EXPECT_EQ(rig().WireLog(), (Lines{Taken(1), Taken(3)}));
+  EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>0</integer>"}}));
+  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 0)});
+  rig().ClearWireLog();
+  EXPECT_EQ(host->Ask("call ORV_SetCurrentBoostLevelIndex 11"), "100");
+  EXPECT_EQ(rig().WireLog(), (Lines{Taken(1), Taken(3)}));
+}
+
+TEST_F(Units, OneThatTheUserMayNotOpenIsPassedOver) {
+  for (int i = 0; i < 3; ++i) rig().PlugMixer();
+  rig().SetFault(3, UnitFault::kNotPermitted);
+  const auto host = rig().StartHost();
+  ASSERT_EQ(host->Ask("give-up root"), "done");
+  EXPECT_EQ(host->Ask("call ORV_IsUSBConnection 11"), "103");
+  EXPECT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 0"), "100");
+  EXPECT_EQ(rig().WireLog(), (Lines{Taken(1), Taken(2)}));
+}
+
+TEST_F(Units, OnePluggedInAfterASetLearnsTheLevelWhenItIsSentAgain) {
+  EXPECT_EQ(SetLevelZero(), Lines());
+  rig().PlugMixer();
+  EXPECT_EQ(rig().WireLog(), Lines());
+  EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(11), 100);
+  EXPECT_EQ(rig().WireLog(), Lines{Taken(1)});
+}
+
+TEST_F(Units, TheUnitIsToldBeforeTheLevelIsStoredAndAnnounced) {
+  const int silent = rig().PlugMixer();
+  rig().SetFault(silent, UnitFault::kStaysSilent);
+  const auto host = rig().StartHost();
+  host->Begin("call ORV_SetBoostLevelIndex 11 0");
+  ASSERT_TRUE(WaitUntil([&] { return rig().WireLog().size() == 1; }));
+  EXPECT_EQ(LibraryListing(), Lines());
+  EXPECT_EQ(rig().TakeAnnouncements(0), std::vector<Announcement>());
+  rig().Unplug(silent);
+  EXPECT_EQ(host->Answer(), "100");
+  EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>0</integer>"}}));
+  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 0)});
+}
+
+// A file with very many entries takes so long to write that an announcement sent before it would be
+// here long before the file is.
+TEST_F(Units, TheLevelIsStoredBeforeItIsAnnounced) {
+  std::string entries = "<key>MaxLevel</key><integer>3</integer>";
+  for (int i = 0; i < 20'000; ++i) entries += "<key>Entry" + std::to_string(i) + "</key><true/>";
+  PutSettings("TRX-SELVA", entries);
+  const auto host = rig().StartHost();
+  for (const int index : {1, 2}) {
+    host->Begin("call ORV_SetBoostLevelIndex 11 " + std::to_string(index));
+    ASSERT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, index)});
+    const auto settings = SettingsOf("TRX-SELVA");
+    ASSERT_TRUE(settings);
+    EXPECT_EQ(settings->at("MaxLevel"), "<integer>" + std::to_string(index) + "</integer>");
+    EXPECT_EQ(settings->size(), 20'001U);
+    EXPECT_EQ(host->Answer(), "100");
+  }
+}
+
+}  // namespace
+}  // namespace trxtest

@@ -1,0 +1,286 @@
+// EventLoop.h: the descriptor is readable exactly when there is something to do, and dispatching
+// delivers all of it without ever blocking.
+#include <chrono>
+#include <thread>
+
+#include <poll.h>
+
+#include <TRX-SELVASetup/EventLoop.h>
+
+#include "../../Deliveries.h"
+
+namespace trxtest {
+namespace {
+
+using CallList = std::vector<Call>;
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+constexpr milliseconds kSoon{10'000};
+constexpr milliseconds kNow{0};
+// Long enough for anything that is still under way to come in.
+constexpr milliseconds kAWhile{150};
+
+std::string selva = "selva";
+std::string lumen = "lumen";
+
+std::int32_t Descriptor() {
+  std::int32_t descriptor = -1;
+  EXPECT_EQ(ORV_GetNotificationDescriptor(&descriptor), 100);
+  EXPECT_GE(descriptor, 0);
+  return descriptor;
+}
+
+bool IsReadableWithin(milliseconds limit) {
+  pollfd watched = {Descriptor(), POLLIN, 0};
+  return poll(&watched, 1, static_cast<int>(limit.count())) == 1 && watched.revents == POLLIN;
+}
+
+// Dispatches and expects that it did not block.
+void DispatchAtOnce() {
+  const auto start = Clock::now();
+  EXPECT_EQ(ORV_DispatchNotifications(), 100);
+  EXPECT_LT(Clock::now() - start, milliseconds(1000));
+}
+
+class EventLoop : public Deliveries {
+ protected:
+  // Dispatches as a host does, whenever the descriptor is readable, until there is nothing left.
+  void DispatchUntilQuiet() {
+    while (IsReadableWithin(kAWhile)) DispatchAtOnce();
+  }
+};
+
+TEST_F(EventLoop, ANullPointerIsRefused) { EXPECT_EQ(ORV_GetNotificationDescriptor(nullptr), 102); }
+
+TEST_F(EventLoop, WithoutRegistrationsThereIsADescriptorAndNothingToDo) {
+  EXPECT_FALSE(IsReadableWithin(kAWhile));
+  DispatchAtOnce();
+  EXPECT_FALSE(IsReadableWithin(kAWhile));
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_FALSE(IsReadableWithin(kAWhile));
+}
+
+TEST_F(EventLoop, TheDescriptorStaysTheSameForTheLifeOfTheProcess) {
+  const std::int32_t descriptor = Descriptor();
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  EXPECT_EQ(Descriptor(), descriptor);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  DeliverAll();
+  EXPECT_EQ(Descriptor(), descriptor);
+  std::thread([&] { EXPECT_EQ(Descriptor(), descriptor); }).join();
+  rig().StopNotificationService();
+  DispatchAtOnce();
+  EXPECT_EQ(Descriptor(), descriptor);
+  rig().StartNotificationService();
+  EXPECT_TRUE(RunEventLoopUntil([&] {
+    rig().Announce(BoostChange("TRX-SELVA", 11, 2));
+    return !Calls().empty();
+  }));
+  EXPECT_EQ(Descriptor(), descriptor);
+}
+
+TEST_F(EventLoop, ReadableWhenSomethingArrivesAndQuietWhenItIsDelivered) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  DispatchUntilQuiet();
+  const auto host = rig().StartHost();
+  ASSERT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 2"), "100");
+  EXPECT_TRUE(IsReadableWithin(kSoon));
+  EXPECT_TRUE(IsReadableWithin(kNow)) << "it stays so until dispatched";
+  EXPECT_EQ(Calls(), CallList());
+  DispatchAtOnce();
+  EXPECT_EQ(Calls(), (CallList{{"A selva", -1, 2}}));
+  EXPECT_FALSE(IsReadableWithin(kAWhile));
+}
+
+TEST_F(EventLoop, WhatNobodyRegisteredForDoesNotWakeTheHost) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  DispatchUntilQuiet();
+  rig().Announce(BoostChange("TRX-LUMEN", 6, 1));
+  rig().Announce({"Somebody Else's Change", {}});
+  EXPECT_FALSE(IsReadableWithin(kAWhile));
+}
+
+// A hundred fit into the buffer of a socket, so that by then all are with this process.
+TEST_F(EventLoop, OneDispatchDeliversAllThatHasArrived) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  const auto witness = rig().StartHost();
+  ASSERT_EQ(witness->Ask("register BoostLevel 11 w"), "100");
+  const auto host = rig().StartHost();
+  ASSERT_EQ(host->Ask("levels 11 100"), "100");
+  ASSERT_EQ(witness->TakeCalls(100).size(), 100U);
+  ASSERT_EQ(rig().TakeAnnouncements(100).size(), 100U);
+  DispatchAtOnce();
+  EXPECT_EQ(Calls().size(), 100U);
+  EXPECT_FALSE(IsReadableWithin(kAWhile));
+}
+
+// While Register asks the bus and waits for its answer, other notifications come in on the same
+// connection, in front of the answer: nothing in the socket tells of them any more.
+TEST_F(EventLoop, ReadableForWhatArrivedWhileARegistrationWaitedForTheBus) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  const auto host = rig().StartHost();
+  ASSERT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 3"), "100");
+  ASSERT_TRUE(RunEventLoopUntil([] { return !Calls().empty(); }));
+  for (const ProductId product : {0U, 1U, 5U, 6U, 8U}) {
+    DispatchUntilQuiet();
+    Calls().clear();
+    rig().FreezeNotificationService();
+    ASSERT_EQ(host->Ask("levels 11 3"), "100");
+    std::thread thaw([&] {
+      std::this_thread::sleep_for(milliseconds(60));
+      rig().ThawNotificationService();
+    });
+    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexB, &lumen), 100);
+    thaw.join();
+    EXPECT_EQ(Calls(), CallList()) << "delivered inside the registration";
+    while (Calls().size() < 3 && IsReadableWithin(kAWhile)) DispatchAtOnce();
+    EXPECT_EQ(Calls(), (CallList{{"A selva", -1, 0}, {"A selva", -1, 1}, {"A selva", -1, 2}}));
+  }
+}
+
+TEST_F(EventLoop, NothingIsLostWhileOthersAnnounceDuringManyRegistrations) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  const auto host = rig().StartHost();
+  host->Begin("levels 11 400");
+  for (int round = 0; round < 20; ++round) {
+    for (const ProductId product : {0U, 1U, 5U, 6U, 8U}) {
+      ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(product, ChannelIndexB, &lumen), 100);
+      ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexB, &lumen), 100);
+    }
+  }
+  while (Calls().size() < 400 && IsReadableWithin(milliseconds(2000))) DispatchAtOnce();
+  EXPECT_EQ(host->Answer(), "100");
+  ASSERT_EQ(Calls().size(), 400U);
+  for (std::size_t i = 0; i < 400; ++i) {
+    EXPECT_EQ(Calls()[i], (Call{"A selva", -1, static_cast<std::int32_t>(i % 4)})) << i;
+  }
+}
+
+TEST_F(EventLoop, DispatchDoesNotBlockWhileTheBusHangs) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  DispatchUntilQuiet();
+  rig().FreezeNotificationService();
+  DispatchAtOnce();
+  EXPECT_FALSE(IsReadableWithin(kAWhile));
+  rig().ThawNotificationService();
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 1}}));
+}
+
+TEST_F(EventLoop, DispatchDoesNotBlockOnABusThatHangsRightAfterItsRestart) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  rig().StopNotificationService();
+  DispatchAtOnce();
+  rig().StartNotificationService();
+  rig().FreezeNotificationService();
+  const auto end = Clock::now() + milliseconds(1500);  // the library looks again once a second
+  while (Clock::now() < end) {
+    if (IsReadableWithin(milliseconds(50))) DispatchAtOnce();
+  }
+  rig().ThawNotificationService();
+  EXPECT_TRUE(RunEventLoopUntil([&] {
+    rig().Announce(BoostChange("TRX-SELVA", 11, 2));
+    return !Calls().empty();
+  }));
+}
+
+TEST_F(EventLoop, WhileTheBusIsAwayTheHostIsWokenRarely) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  rig().StopNotificationService();
+  int woken = 0;
+  const auto end = Clock::now() + milliseconds(2200);
+  while (Clock::now() < end) {
+    if (!IsReadableWithin(milliseconds(20))) continue;
+    ++woken;
+    DispatchAtOnce();
+  }
+  EXPECT_GE(woken, 1);
+  EXPECT_LE(woken, 5) << "once for the loss, then about once a second";
+}
+
+// --- What callbacks may do -------------------------------------------------------------------
+
+TEST_F(EventLoop, WhatACallbackCausesComesWithTheNextDispatch) {
+  const auto setAgain = [](std::int32_t index, void *context) {
+    IndexA(index, context);
+    if (index == 3) return;
+    EXPECT_EQ(ORV_SetBoostLevelIndex(11, static_cast<std::uint32_t>(index) + 1), 100);
+    EXPECT_TRUE(IsReadableWithin(kSoon)) << "what the callback announced is back already";
+  };
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, setAgain, &selva), 100);
+  DispatchUntilQuiet();
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ASSERT_TRUE(IsReadableWithin(kSoon));
+  DispatchAtOnce();
+  EXPECT_EQ(Calls(), (CallList{{"A selva", -1, 1}}));
+  ASSERT_TRUE(IsReadableWithin(kNow));
+  DispatchAtOnce();
+  EXPECT_EQ(Calls(), (CallList{{"A selva", -1, 1}, {"A selva", -1, 2}}));
+  ASSERT_TRUE(IsReadableWithin(kNow));
+  DispatchAtOnce();
+  EXPECT_EQ(Calls(), (CallList{{"A selva", -1, 1}, {"A selva", -1, 2}, {"A selva", -1, 3}}));
+  EXPECT_FALSE(IsReadableWithin(kAWhile));
+}
+
+TEST_F(EventLoop, ACallbackMayRegisterAnother) {
+  const auto registerAnother = [](std::int32_t index, void *context) {
+    IndexA(index, context);
+    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(6, IndexB, &lumen), 100);
+  };
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, registerAnother, &selva), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 1}}));
+  ASSERT_EQ(ORV_SetBoostLevelIndex(6, 2), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"B lumen", -1, 2}}));
+}
+
+TEST_F(EventLoop, ACallbackMayRegisterItselfAgain) {
+  static int runs;
+  runs = 0;
+  const auto again = [](std::int32_t index, void *context) {
+    IndexA(index, context);
+    if (++runs > 1) return;
+    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexB, &lumen), 100);
+  };
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, again, &selva), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 1}}));
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"B lumen", -1, 2}, {"B lumen", -1, 2}}));
+}
+
+TEST_F(EventLoop, ACallbackMayUnregisterItselfAndOthers) {
+  const auto unregister = [](std::int32_t index, void *context) {
+    IndexA(index, context);
+    EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, nullptr), 100);
+    EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(6, nullptr), 100);
+  };
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, unregister, &selva), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, unregister, &selva), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(6, IndexB, &lumen), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(6, 1), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 1}}));
+}
+
+TEST_F(EventLoop, ACallbackMayDispatchAndNothingIsLostDoubledOrOutOfOrder) {
+  const auto dispatch = [](std::int32_t index, void *context) {
+    IndexA(index, context);
+    EXPECT_EQ(ORV_DispatchNotifications(), 100);
+  };
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, dispatch, &selva), 100);
+  for (const std::uint32_t index : {0U, 1U, 2U, 3U, 0U, 2U}) {
+    ASSERT_EQ(ORV_SetBoostLevelIndex(11, index), 100);
+  }
+  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 0},
+                                    {"A selva", -1, 1},
+                                    {"A selva", -1, 2},
+                                    {"A selva", -1, 3},
+                                    {"A selva", -1, 0},
+                                    {"A selva", -1, 2}}));
+  EXPECT_FALSE(IsReadableWithin(kAWhile));
+}
+
+}  // namespace
+}  // namespace trxtest

@@ -1,0 +1,246 @@
+// What the library does to the process it lives in: threads, descriptors, fork, folders.
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <iterator>
+#include <thread>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "../../Deliveries.h"
+
+namespace trxtest {
+namespace {
+
+namespace fs = std::filesystem;
+using CallList = std::vector<Call>;
+using Lines = std::vector<std::string>;
+
+std::string selva = "selva";
+std::string halden = "halden";
+
+std::ptrdiff_t EntriesOf(const std::string &folder) {
+  return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
+}
+
+std::ptrdiff_t OpenDescriptors(pid_t process) {
+  return EntriesOf("/proc/" + std::to_string(process) + "/fd");
+}
+
+class Process : public Deliveries {};
+
+TEST_F(Process, NoThreadIsEverStarted) {
+  rig().PlugMixer();
+  const auto host = rig().StartHost();
+  const std::string threads = "/proc/" + std::to_string(host->Id()) + "/task";
+  ASSERT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 1"), "100");
+  EXPECT_EQ(EntriesOf(threads), 1);
+  ASSERT_EQ(host->Ask("register BoostLevel 11 host"), "100");
+  EXPECT_EQ(EntriesOf(threads), 1);
+  ASSERT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 2"), "100");
+  ASSERT_EQ(host->TakeCalls(1), Lines{"host 2"});
+  EXPECT_EQ(EntriesOf(threads), 1);
+  rig().StopNotificationService();
+  ASSERT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 2"), "100");
+  EXPECT_EQ(EntriesOf(threads), 1);
+}
+
+TEST_F(Process, AThousandSetsHoldNoMoreDescriptorsThanOne) {
+  rig().PlugMixer();
+  rig().SetFault(rig().PlugMixer(), UnitFault::kStalls);
+  rig().SetFault(rig().PlugMixer(), UnitFault::kRefusesToOpen);
+  const auto host = rig().StartHost();
+  ASSERT_EQ(host->Ask("levels 11 1"), "100");
+  const std::ptrdiff_t held = OpenDescriptors(host->Id());
+  ASSERT_EQ(host->Ask("levels 11 1000"), "100");
+  EXPECT_EQ(OpenDescriptors(host->Id()), held);
+  EXPECT_EQ(rig().WireLog().size(), 2U * 1001U);
+}
+
+TEST_F(Process, AHundredRegistrationsHoldNoMoreDescriptorsThanOne) {
+  const auto host = rig().StartHost();
+  ASSERT_EQ(host->Ask("register BoostLevel 11 host"), "100");
+  const std::ptrdiff_t held = OpenDescriptors(host->Id());
+  for (int round = 0; round < 10; ++round) {
+    for (const char *kind : {"BoostLevel", "InputAudio", "OutputAudio"}) {
+      for (const char *product : {"0", "5", "11"}) {
+        ASSERT_EQ(host->Ask(std::string("register ") + kind + ' ' + product + " host"), "100");
+      }
+    }
+    ASSERT_EQ(host->Ask("register MidiChannel 1 host"), "100");
+  }
+  EXPECT_EQ(OpenDescriptors(host->Id()), held);
+}
+
+TEST_F(Process, RefusedCallsOpenNothing) {
+  const std::ptrdiff_t held = OpenDescriptors(getpid());
+  EXPECT_EQ(ORV_RegisterMidiKeyModeChangedCallback(1, IndexA, nullptr), 102);
+  EXPECT_EQ(ORV_UnregisterMidiKeyModeChangedCallback(1, IndexA), 102);
+  EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(11, IndexA, nullptr), 102);
+  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(2, IndexA, nullptr), 102);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 4), 102);
+  EXPECT_EQ(OpenDescriptors(getpid()), held);
+}
+
+TEST_F(Process, AThreadThatHasSetALevelLeavesNoDescriptorWhenItEnds) {
+  std::thread([] { EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100); }).join();
+  const std::ptrdiff_t held = OpenDescriptors(getpid());
+  for (int i = 0; i < 20; ++i) {
+    std::thread([] { EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100); }).join();
+  }
+  EXPECT_EQ(OpenDescriptors(getpid()), held);
+  EXPECT_EQ(rig().TakeAnnouncements(21).size(), 21U);
+}
+
+TEST_F(Process, TheBusBeingAwayLeavesNoDescriptorBehind) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  DeliverAll();
+  rig().StopNotificationService();
+  rig().RunEventLoop(std::chrono::milliseconds(100));
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  const std::ptrdiff_t held = OpenDescriptors(getpid());
+  for (int i = 0; i < 20; ++i) {
+    ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+    ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+    rig().RunEventLoop(std::chrono::milliseconds(0));
+  }
+  EXPECT_EQ(OpenDescriptors(getpid()), held);
+}
+
+TEST_F(Process, SettersOnEightThreadsReachEveryUnitTearNoFileAndAnnounceAll) {
+  constexpr int kThreads = 8;
+  constexpr int kSets = 25;
+  rig().PlugMixer();
+  rig().PlugMixer();
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  PutSettings("TRX-SELVA",
+              "<key>MaxLevel</key><integer>0</integer><key>Other</key><string>kept</string>");
+  std::atomic<int> running = kThreads;
+  std::vector<std::thread> threads;
+  for (int t = 0; t < kThreads; ++t) {
+    threads.emplace_back([&running, t] {
+      for (int i = 0; i < kSets; ++i) {
+        EXPECT_EQ(ORV_SetBoostLevelIndex(11, static_cast<std::uint32_t>(t + i) % 4), 100);
+        EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(11), 100);
+        EXPECT_EQ(ORV_IsUSBConnection(11), 103);
+        ORVStringRef text = nullptr;
+        EXPECT_EQ(ORV_GetBoostLevelText(11, 3, 0, &text), 100);
+        EXPECT_STREQ(text, "-19 dB");
+      }
+      --running;
+    });
+  }
+  int looks = 0;
+  while (running > 0) {
+    const auto settings = SettingsOf("TRX-SELVA");
+    ASSERT_TRUE(settings) << "missing or torn at look " << looks;
+    ASSERT_EQ(settings->size(), 2U);
+    ASSERT_EQ(settings->at("Other"), "<string>kept</string>");
+    std::int32_t index = -77;
+    ASSERT_EQ(ORV_GetCurrentBoostLevelIndex(11, &index), 100);
+    ASSERT_TRUE(index >= 0 && index < 4) << index;
+    ++looks;
+  }
+  for (std::thread &thread : threads) thread.join();
+  EXPECT_GT(looks, 0);
+  EXPECT_EQ(LibraryListing().size(), 3U) << "temporary files are left";
+  const Lines wire = rig().WireLog();
+  EXPECT_EQ(wire.size(), 2U + 2U * 2U * kThreads * kSets);
+  EXPECT_EQ(std::count_if(wire.begin(), wire.end(),
+                          [](const std::string &line) { return line.starts_with("unit 1 "); }),
+            1 + 2 * kThreads * kSets);
+  const auto announcements = rig().TakeAnnouncements(1 + kThreads * kSets);
+  ASSERT_EQ(announcements.size(), 1U + kThreads * kSets);
+  for (std::int32_t index = 0; index < 4; ++index) {
+    EXPECT_EQ(
+        std::count(announcements.begin(), announcements.end(), BoostChange("TRX-SELVA", 11, index)),
+        kThreads * kSets / 4 + (index == 0 ? 1 : 0));
+  }
+}
+
+// --- fork ------------------------------------------------------------------------------------
+
+// Runs `body` in a forked child and expects that it returns true there.
+void ExpectInChild(const std::function<bool()> &body) {
+  const pid_t child = fork();
+  ASSERT_GE(child, 0);
+  if (child == 0) _exit(body() && !testing::Test::HasFailure() ? 0 : 1);
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "status " << status;
+}
+
+// Long enough for whatever the child could have inherited to try the bus again.
+TEST_F(Process, AForkedChildStartsWithoutRegistrationsAndLeavesTheParentsAlone) {
+  constexpr std::chrono::milliseconds kChildLooks{1500};
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(DeliverAll(), CallList());
+  rig().TakeAnnouncements(2);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ASSERT_EQ(rig().TakeAnnouncements(1).size(), 1U);
+  ExpectInChild([&] {
+    const auto end = std::chrono::steady_clock::now() + kChildLooks;
+    while (std::chrono::steady_clock::now() < end) {
+      rig().RunEventLoop(std::chrono::milliseconds(50));
+    }
+    if (ORV_SetBoostLevelIndex(11, 2) != 100) return false;
+    rig().RunEventLoop(std::chrono::milliseconds(200));
+    return Calls().empty();
+  });
+  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 2)});
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 3), 100);
+  EXPECT_TRUE(RunEventLoopUntil([] { return Calls().size() >= 3; }));
+  EXPECT_EQ(Calls(), (CallList{{"A selva", -1, 1}, {"A selva", -1, 2}, {"A selva", -1, 3}}));
+}
+
+TEST_F(Process, AForkedChildCanRegisterOnItsOwn) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  DeliverAll();
+  ExpectInChild([this] {
+    if (ORV_RegisterBoostLevelChangedCallback(5, IndexB, &halden) != 100) return false;
+    if (ORV_SetBoostLevelIndex(11, 0) != 100 || ORV_SetBoostLevelIndex(5, 2) != 100) return false;
+    return RunEventLoopUntil([] { return !Calls().empty(); }) &&
+           Calls() == CallList{{"B halden", -1, 2}};
+  });
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 3), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 0}, {"A selva", -1, 3}}));
+}
+
+TEST_F(Process, AForkedChildOfAProcessThatOnlySetLevelsSetsAndAnnouncesToo) {
+  rig().PlugMixer();
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ExpectInChild([] { return ORV_SetBoostLevelIndex(11, 2) == 100; });
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 3), 100);
+  EXPECT_EQ(rig().WireLog().size(), 3U);
+  EXPECT_EQ(rig().TakeAnnouncements(3),
+            (std::vector{BoostChange("TRX-SELVA", 11, 1), BoostChange("TRX-SELVA", 11, 2),
+                         BoostChange("TRX-SELVA", 11, 3)}));
+}
+
+// --- Where the user's folders lie -------------------------------------------------------------
+
+TEST_F(Process, TheConfigurationFolderIsLookedUpAfreshAndARelativeOneIsIgnored) {
+  const std::string home = fs::path(rig().LibraryFolder()).parent_path().parent_path() / "someone";
+  ASSERT_EQ(setenv("HOME", home.c_str(), 1), 0);
+  ASSERT_EQ(setenv("XDG_CONFIG_HOME", "relative/folder", 1), 0);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  const std::string file = "/orvikaudio/Preferences/com.orvikaudio.TRX-SELVAautosetup.plist";
+  EXPECT_TRUE(fs::is_regular_file(home + "/.config" + file));
+  EXPECT_FALSE(fs::exists("relative"));
+  ASSERT_EQ(setenv("XDG_CONFIG_HOME", (home + "/elsewhere").c_str(), 1), 0);
+  std::int32_t index = -77;
+  EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(11, &index), 100);
+  EXPECT_EQ(index, 3);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
+  EXPECT_TRUE(fs::is_regular_file(home + "/elsewhere" + file));
+  EXPECT_EQ(LibraryListing(), Lines());
+}
+
+}  // namespace
+}  // namespace trxtest
