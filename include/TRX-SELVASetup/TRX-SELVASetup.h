@@ -164,6 +164,209 @@ ORV_EXPORT StatusCode ORV_IsUSBConnection(ProductId productId);
 /** @} */
 
 /**
+ * @name USB input audio: which mixer signal each channel that the computer records carries
+ * @{
+ */
+
+/**
+ * Tells how many choices a recording channel has.
+ *
+ * @param productId  TRX_SELVA.
+ * @param channel    the recording channel, 0 to 3.
+ * @param count      receives the number of choices: 8, 8, 7 and 1.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null count, another model or channel (count
+ *     untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetNumOfInputAudioIndex(ProductId productId, int32_t channel,
+                                                  int32_t *count);
+
+/**
+ * Gives the text of a choice, such as "Post CH1 Fader".
+ *
+ * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
+ * @param channel    the recording channel: 0 to 3 for TRX_ARDEN, 0 to 2 for TRX_VOLT, 0 to 4 for
+ *     the others.
+ * @param index      the choice: below 8 for TRX_ARDEN; below 2 (channels 0 and 1) or 6 (channel 2)
+ *     for TRX_VOLT; below 9 (channels 0 to 3) or 10 (channel 4) for the others, where numbers past
+ *     a channel's own choices give the text that follows in the tables.
+ * @param reserved   ignored.
+ * @param text       receives the text; the library's own, for the life of the process.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null text, another model, channel or index (text
+ *     untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetUSBInputAudioText(ProductId productId, int32_t channel, uint32_t index,
+                                               uint32_t reserved, ORVStringRef *text);
+
+/**
+ * Chooses the signal of a recording channel: sends it to every connected mixer, stores it,
+ * announces it, then looks at the input selectors of the mixers.
+ *
+ * @param productId  TRX_SELVA.
+ * @param channel    the recording channel, 0 to 2.
+ * @param index      the choice: below 8 for channels 0 and 1, below 7 for channel 2.
+ * @return ORV_SUCCESS. ORV_SUCCESS_WITH_WARNING when all was done, but a control tone (index 0 or
+ *     1) was chosen and a mixer's input selector of that channel stands elsewhere; without a
+ *     mixer, for index 0 to 2: show the text of ORV_GetWarningTextForSetUSBAudioInput.
+ *     ORV_BAD_ARGUMENT for another model, channel or index (nothing done).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_SetUSBInputAudio(ProductId productId, int32_t channel, uint32_t index);
+
+/**
+ * Sends a raw routing value for a recording channel to every connected mixer. Stores and announces
+ * nothing.
+ *
+ * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
+ * @param channel    the recording channel: 0 to 3 for TRX_ARDEN, 0 to 2 for TRX_VOLT, 0 to 4 for
+ *     the others.
+ * @param group      the number for bits 12 to 15 of the value, less 1; -1 leaves them 0. Not
+ *     checked.
+ * @param source     the mixer's code for the signal: below 4 for channels 0 and 1 of TRX_VOLT,
+ *     else below 16.
+ * @return ORV_SUCCESS. ORV_SUCCESS_WITH_WARNING when the value was sent, but a mixer's input
+ *     selector of that channel stands elsewhere (source below 4; TRX_VOLT: channels 0 and 1);
+ *     without a mixer, for source below 3 (TRX_VOLT: always). ORV_BAD_ARGUMENT for another model,
+ *     channel or source (nothing sent).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_SetUSBInputAudioDirect(ProductId productId, int32_t channel,
+                                                 int32_t group, uint32_t source);
+
+/**
+ * Gives the choice stored last for a recording channel, by any process.
+ *
+ * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
+ * @param channel    the recording channel: 0 to 3 for TRX_ARDEN, 0 to 2 for TRX_VOLT, 0 to 5 for
+ *     the others.
+ * @param index      receives the stored index. When none is stored: 3 for TRX_ARDEN; 1 (channels 0
+ *     and 1) or 5 (channel 2) for TRX_VOLT; 0 for the others. Always 0 for channel 5. A stored
+ *     number that is no choice is handed out unchanged.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null index, another model or channel (index
+ *     untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetCurrentUSBInputAudioIndex(ProductId productId, int32_t channel,
+                                                       int32_t *index);
+
+/**
+ * Sends the stored choice of a recording channel to every connected mixer again. Stores and
+ * announces nothing and does not look at the input selectors.
+ *
+ * @param productId  TRX_SELVA.
+ * @param channel    the recording channel, 0 to 2.
+ * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model or
+ *     channel, and when the stored number leads past the routing table (nothing sent).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_SetCurrentUSBInputAudio(ProductId productId, int32_t channel);
+
+/** @} */
+
+/**
+ * @name USB output audio: which mixer channel each channel that the computer plays is assigned to
+ * @{
+ */
+
+/**
+ * Tells how many choices a playback channel has.
+ *
+ * @param productId  TRX_SELVA.
+ * @param channel    the playback channel, 0 to 2.
+ * @param count      receives the number of choices, 3.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null count, another model or channel (count
+ *     untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetNumOfOutputAudioIndex(ProductId productId, int32_t channel,
+                                                   uint32_t *count);
+
+/**
+ * Gives the text of a choice: "CH1", "CH2" or "AUX".
+ *
+ * @param productId  TRX_SELVA.
+ * @param channel    the playback channel, 0 to 2.
+ * @param index      the choice, 0 to 2; 3 gives "CH1" again.
+ * @param reserved   ignored.
+ * @param text       receives the text; the library's own, for the life of the process.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null text, another model, channel or index (text
+ *     untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetUSBOutputAudioText(ProductId productId, int32_t channel,
+                                                uint32_t index, uint32_t reserved,
+                                                ORVStringRef *text);
+
+/**
+ * Assigns a playback channel: sends the assignment to every connected mixer, stores it, announces
+ * it, then asks each mixer for its input selectors.
+ *
+ * @param productId  TRX_SELVA.
+ * @param channel    the playback channel, 0 to 2. Channels 3 and 4 are accepted, stored and
+ *     announced too; the mixers are sent 0 for them.
+ * @param index      the choice, 0 to 2.
+ * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model, channel
+ *     or index (nothing done).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_SetUSBOutputAudio(ProductId productId, int32_t channel, uint32_t index);
+
+/**
+ * Assigns a playback channel to its default for the time being: channel 0 to "CH1", 1 to "CH2", 2
+ * to "AUX". Sends and announces it and asks each mixer for its input selectors, but stores nothing:
+ * the user's choice stays.
+ *
+ * @param productId  TRX_SELVA.
+ * @param channel    the playback channel, 0 to 2. For channels 3 and 4 the mixers are sent 0, and
+ *     index 0 is announced.
+ * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model or channel
+ *     (nothing done).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_SetUSBOutputAudioDefault(ProductId productId, int32_t channel);
+
+/**
+ * Gives the assignment stored last for a playback channel, by any process.
+ *
+ * @param productId  TRX_SELVA.
+ * @param channel    the playback channel, 0 to 2.
+ * @param index      receives the stored index, the channel's own number when none is stored. A
+ *     stored number that is no choice is handed out unchanged.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null index, another model or channel (index
+ *     untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetCurrentUSBOutputAudioIndex(ProductId productId, int32_t channel,
+                                                        int32_t *index);
+
+/**
+ * Sends the stored assignment of a playback channel to every connected mixer again. Stores and
+ * announces nothing.
+ *
+ * @param productId  TRX_SELVA.
+ * @param channel    the playback channel, 0 to 2.
+ * @return ORV_SUCCESS, whatever the mixers answered, and also when the stored number leads past
+ *     the assignment table (nothing is sent then); ORV_BAD_ARGUMENT for another model or channel.
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_SetCurrentUSBOutputAudio(ProductId productId, int32_t channel);
+
+/** @} */
+
+/**
  * @name Boost level: the level step of the mixer's USB audio output
  * @{
  */
@@ -231,6 +434,138 @@ ORV_EXPORT StatusCode ORV_GetCurrentBoostLevelIndex(ProductId productId, int32_t
  * Any thread. Since 1.0.
  */
 ORV_EXPORT StatusCode ORV_SetCurrentBoostLevelIndex(ProductId productId);
+
+/** @} */
+
+/**
+ * @name MIDI channel: which of the sixteen MIDI channels the mixer uses
+ * @{
+ */
+
+/**
+ * Tells how many MIDI channels there are.
+ *
+ * @param productId  TRX_VOLT.
+ * @param count      receives the number of channels, 16.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null count or another model (count untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetNumOfMidiChannelIndex(ProductId productId, uint32_t *count);
+
+/**
+ * Gives the text of a MIDI channel, "CH 1" to "CH 16".
+ *
+ * @param productId  TRX_VOLT.
+ * @param index      the channel, 0 to 15.
+ * @param reserved   ignored.
+ * @param text       receives the text; the library's own, for the life of the process.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null text, another model or index (text untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetMidiChannelText(ProductId productId, uint32_t index, uint32_t reserved,
+                                             ORVStringRef *text);
+
+/**
+ * Sets the MIDI channel: sends it to every connected mixer, stores it and announces it.
+ *
+ * @param productId  TRX_VOLT.
+ * @param index      the channel, 0 to 15.
+ * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model or index
+ *     (nothing done).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_SetMidiChannelIndex(ProductId productId, uint32_t index);
+
+/**
+ * Gives the MIDI channel stored last, by any process.
+ *
+ * @param productId  TRX_VOLT.
+ * @param index      receives the stored channel, 0 when none is stored. A stored number that is no
+ *     channel is handed out unchanged.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null index or another model (index untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetCurrentMidiChannelIndex(ProductId productId, int32_t *index);
+
+/**
+ * Sends the stored MIDI channel (0 when none is stored) to every connected mixer again. Stores and
+ * announces nothing.
+ *
+ * @param productId  TRX_VOLT.
+ * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model, and when
+ *     the stored channel is not one of the first four, 0 to 3 (nothing sent).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_SetCurrentMidiChannelIndex(ProductId productId);
+
+/** @} */
+
+/**
+ * @name MIDI key mode: part of the interface, offered by no model
+ * @{
+ */
+
+/**
+ * Would tell how many key modes there are.
+ *
+ * @param productId  any.
+ * @param count      untouched.
+ * @return ORV_BAD_ARGUMENT, always.
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetNumOfMidiKeyModeIndex(ProductId productId, uint32_t *count);
+
+/**
+ * Would give the text of a key mode.
+ *
+ * @param productId  any.
+ * @param index      ignored.
+ * @param reserved   ignored.
+ * @param text       untouched.
+ * @return ORV_BAD_ARGUMENT, always.
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetMidiKeyModeText(ProductId productId, uint32_t index, uint32_t reserved,
+                                             ORVStringRef *text);
+
+/**
+ * Would set the key mode.
+ *
+ * @param productId  any.
+ * @param index      ignored.
+ * @return ORV_BAD_ARGUMENT, always; nothing sent, stored or announced.
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_SetMidiKeyModeIndex(ProductId productId, uint32_t index);
+
+/**
+ * Would give the stored key mode.
+ *
+ * @param productId  any.
+ * @param index      untouched.
+ * @return ORV_BAD_ARGUMENT, always.
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetCurrentMidiKeyModeIndex(ProductId productId, int32_t *index);
+
+/**
+ * Would send the stored key mode again.
+ *
+ * @param productId  any.
+ * @return ORV_BAD_ARGUMENT, always; nothing sent.
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_SetCurrentMidiKeyModeIndex(ProductId productId);
 
 /** @} */
 
