@@ -164,6 +164,72 @@ ORV_EXPORT StatusCode ORV_IsUSBConnection(ProductId productId);
 /** @} */
 
 /**
+ * @name Status of the mixers: read from the connected mixers at each call
+ * @{
+ */
+
+/**
+ * Gives the certify level of the mixers. With several mixers, that of the last one that could be
+ * opened.
+ *
+ * @param productId  TRX_HALDEN (always 0, without asking a mixer), TRX_LUMEN, TRX_MORROW or
+ *     TRX_SELVA.
+ * @param level      receives the level; 0 when no mixer is connected or the last one did not
+ *     answer.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null level or another model (level untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetMixerCertifyLevel(ProductId productId, uint32_t *level);
+
+/**
+ * Gives the firmware version of the first connected mixer, as the number that the mixer reports.
+ *
+ * @param productId  TRX_SELVA.
+ * @param version    receives the version; 0 when there is no mixer, it cannot be opened or it does
+ *     not answer. Set to 0 for another model too.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null version or another model.
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetFirmwareVersionIndex(ProductId productId, uint32_t *version);
+
+/**
+ * Gives the position of a mixer channel's input selector. With several mixers, that of the last one
+ * that could be opened.
+ *
+ * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
+ * @param channel    the mixer channel: 0 to 3 for TRX_ARDEN, 0 to 2 for TRX_VOLT, 0 to 4 for the
+ *     others. The mixers report no position for the last of them (2 and 4; TRX_ARDEN reports all):
+ *     it reads as 0.
+ * @param selector   receives the position, 0 to 7; untouched when no mixer could be opened.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null selector, another model or channel (selector
+ *     untouched), and when a mixer reports a position of 8 or more (selector holds it; the mixers
+ *     behind it are not asked).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetMixerInputSelectorStatus(ProductId productId, uint32_t channel,
+                                                      uint32_t *selector);
+
+/**
+ * Tells whether Serato is active on the mixers. With several mixers, on the last one that could be
+ * opened.
+ *
+ * @param productId  TRX_ARDEN, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA; TRX_VOLT is refused
+ *     as soon as a mixer can be opened, and accepted before.
+ * @param active     receives 1 or 0; untouched when no mixer is connected.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null pointer or another model, and when a mixer does
+ *     not answer or reports 2 or more (active untouched by that mixer; the mixers behind it are
+ *     not asked).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetMixerSeratoActiveStatus(ProductId productId, uint32_t *active);
+
+/** @} */
+
+/**
  * @name USB input audio: which mixer signal each channel that the computer records carries
  * @{
  */
