@@ -636,6 +636,66 @@ ORV_EXPORT StatusCode ORV_SetCurrentMidiKeyModeIndex(ProductId productId);
 /** @} */
 
 /**
+ * @name Version texts of what is installed
+ *
+ * Each is read from an installed file at each call. On Linux the files lie below the system root:
+ * the folder named by the environment variable TRX_SYSTEM_ROOT (ignored in a set-user-id process),
+ * else the one of the installation.
+ * @{
+ */
+
+/**
+ * Gives the version of the installed package.
+ *
+ * @param productId  TRX_SELVA.
+ * @param text       receives the version; the library's own, for the life of the process.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null text or another model, and when the package is
+ *     not installed (text untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetPkgVersionText(ProductId productId, ORVStringRef *text);
+
+/**
+ * Gives the version of a model's installed audio driver. Linux needs none: the answer there is
+ * ORV_BAD_ARGUMENT.
+ *
+ * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
+ * @param text       receives the version; the library's own, for the life of the process.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null text or another model, and when no driver is
+ *     installed (text untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetDriverVersionText(ProductId productId, ORVStringRef *text);
+
+/**
+ * Gives the version of a model's installed setup application.
+ *
+ * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
+ * @param text       receives the version; the library's own, for the life of the process.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null text or another model, and when the application
+ *     is not installed (text untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetUtilityVersionText(ProductId productId, ORVStringRef *text);
+
+/**
+ * Gives the version of the installed library, which need not be the copy that answers.
+ *
+ * @param productId  TRX_SELVA.
+ * @param text       receives the version; the library's own, for the life of the process.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null text or another model, and when the library is
+ *     not installed (text untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetLibraryVersionText(ProductId productId, ORVStringRef *text);
+
+/** @} */
+
+/**
  * @name Change callbacks
  *
  * Every setter announces its change to every process of the user, its own included. A host learns

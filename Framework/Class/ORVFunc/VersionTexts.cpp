@@ -1,0 +1,80 @@
+// The version texts of what is installed: package, driver, setup application, this library.
+#include <new>
+#include <optional>
+#include <string>
+
+#include <TRX-SELVASetup/TRX-SELVASetup.h>
+
+#include "Product.h"
+#include "PropertyList.h"
+#include "SystemPath.h"
+#include "SystemVersion.h"
+#include "Text.h"
+
+using namespace orv;
+
+namespace {
+
+constexpr const char *kPackageReceipt =
+    "/private/var/db/receipts/com.orvikaudio.TRX-SELVA.pkg.plist";
+constexpr const char *kLibraryInfo =
+    "/Frameworks/TRX-SELVASetup.framework/Versions/A/Resources/Info.plist";
+
+std::optional<PropertyList> ReadInstalled(const std::string &path) {
+  return PropertyList::ReadFile(SystemPath(path));
+}
+
+// Later systems have the audio driver as a plug-in, or still as a kernel extension; earlier ones
+// only the latter.
+std::optional<PropertyList> ReadDriverInfo(const std::string &model, bool isLaterSystem) {
+  const std::string extension = "/Extensions/" + model + " USBAudio.kext/Contents/Info.plist";
+  if (!isLaterSystem) return ReadInstalled("/System/Library" + extension);
+  auto plugIn = ReadInstalled("/Library/Audio/Plug-Ins/HAL/" + model +
+                              " USBAudio.driver/Contents/Info.plist");
+  return plugIn ? std::move(plugIn) : ReadInstalled("/Library" + extension);
+}
+
+StatusCode HandOut(const std::optional<PropertyList> &list, const char *key, ORVStringRef *text) {
+  if (!list) return ORV_BAD_ARGUMENT;
+  const auto value = list->TextForKey(key);
+  if (!value) return ORV_BAD_ARGUMENT;
+  *text = KeptText(*value);
+  return ORV_SUCCESS;
+}
+
+}  // namespace
+
+StatusCode ORV_GetPkgVersionText(ProductId productId, ORVStringRef *text) try {
+  if (text == nullptr || !kSelvaOnly.Contains(productId)) return ORV_BAD_ARGUMENT;
+  return HandOut(ReadInstalled(kPackageReceipt), "PackageVersion", text);
+} catch (const std::bad_alloc &) {
+  return ORV_BAD_ARGUMENT;
+}
+
+StatusCode ORV_GetDriverVersionText(ProductId productId, ORVStringRef *text) try {
+  if (text == nullptr) return ORV_BAD_ARGUMENT;
+  const bool isLaterSystem = SystemMinorVersionAbove10();
+  if (!kEveryServedModel.Contains(productId)) return ORV_BAD_ARGUMENT;
+  return HandOut(ReadDriverInfo(ModelDisplayName(productId), isLaterSystem),
+                 "CFBundleShortVersionString", text);
+} catch (const std::bad_alloc &) {
+  return ORV_BAD_ARGUMENT;
+}
+
+StatusCode ORV_GetUtilityVersionText(ProductId productId, ORVStringRef *text) try {
+  if (text == nullptr || !kEveryServedModel.Contains(productId)) return ORV_BAD_ARGUMENT;
+  const std::string model = ModelDisplayName(productId);
+  const std::string path =
+      "/Applications/Orvik/" + model + "/" + model + " Setup.app/Contents/Info.plist";
+  return HandOut(ReadInstalled(path), "CFBundleVersion", text);
+} catch (const std::bad_alloc &) {
+  return ORV_BAD_ARGUMENT;
+}
+
+StatusCode ORV_GetLibraryVersionText(ProductId productId, ORVStringRef *text) try {
+  if (text == nullptr || !kSelvaOnly.Contains(productId)) return ORV_BAD_ARGUMENT;
+  const std::string library = SystemMinorVersionAbove10() ? "/Library" : "/System/Library";
+  return HandOut(ReadInstalled(library + kLibraryInfo), "CFBundleVersion", text);
+} catch (const std::bad_alloc &) {
+  return ORV_BAD_ARGUMENT;
+}

@@ -1,0 +1,40 @@
+// What is installed on the desk's computer.
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "Acceptance.h"
+
+namespace trxtest {
+
+/// A case that installs files below the library's system root.
+class InstalledFiles : public Acceptance {
+ protected:
+  /// Installs a file; `path` is the absolute path under which it is known.
+  void InstallFile(const std::string &path, const std::string &contents) {
+    const std::filesystem::path place = rig().SystemRoot() + path;
+    std::filesystem::create_directories(place.parent_path());
+    std::ofstream file(place, std::ios::binary);
+    file << contents;
+    ASSERT_TRUE(file.flush()) << place;
+  }
+
+  /// Installs a property list with these entries, each "<key>K</key>" followed by its value.
+  void Install(const std::string &path, const std::string &entries) {
+    InstallFile(path, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>" +
+                          entries + "</dict></plist>\n");
+  }
+
+  void InstallSystem(const std::string &productVersion) {
+    Install("/System/Library/CoreServices/SystemVersion.plist",
+            "<key>ProductVersion</key><string>" + productVersion + "</string>");
+  }
+
+  void Uninstall(const std::string &path) {
+    std::filesystem::remove_all(rig().SystemRoot() + path);
+  }
+};
+
+}  // namespace trxtest
