@@ -334,6 +334,29 @@ ORV_EXPORT StatusCode ORV_GetCurrentUSBInputAudioIndex(ProductId productId, int3
  */
 ORV_EXPORT StatusCode ORV_SetCurrentUSBInputAudio(ProductId productId, int32_t channel);
 
+/**
+ * Gives the text to show when an input routing setter answered ORV_SUCCESS_WITH_WARNING: what is
+ * going on and what to do on the mixer.
+ *
+ * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
+ * @param channel    the recording channel: 0 to 3; 0 to 2 for TRX_VOLT; 0 to 4 for TRX_HALDEN.
+ * @param status     what the setter answered; only ORV_SUCCESS_WITH_WARNING has a text.
+ * @param language   0 English, 1 Japanese, 2 French, 3 German, 4 Italian, 5 Dutch, 6 Spanish, 7
+ *     Russian, 8 Portuguese, 9 Chinese (simplified), 10 Chinese (traditional), 11 Korean, 99 the
+ *     language of the user's system. The text for "no mixer connected" always comes in the
+ *     language of the system, except for TRX_ARDEN and TRX_VOLT, which have one text for all
+ *     cases.
+ * @param text       receives the text, the library's own, for the life of the process; null when
+ *     it is not installed.
+ * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null text, another model, channel, status or
+ *     language (text untouched).
+ *
+ * Any thread. Since 1.0.
+ */
+ORV_EXPORT StatusCode ORV_GetWarningTextForSetUSBAudioInput(ProductId productId, int32_t channel,
+                                                            StatusCode status, int32_t language,
+                                                            ORVStringRef *text);
+
 /** @} */
 
 /**

@@ -1,0 +1,100 @@
+// The warning that a host shows when an input routing was carried out but may not be heard.
+#include <array>
+#include <new>
+#include <string>
+
+#include <TRX-SELVASetup/TRX-SELVASetup.h>
+
+#include "ConnectedUnits.h"
+#include "LocalizedStrings.h"
+#include "Product.h"
+#include "SystemPath.h"
+#include "SystemVersion.h"
+
+using namespace orv;
+
+namespace {
+
+struct Warned {
+  ProductSet models;
+  std::int32_t channels;
+  bool dependsOnPort;  // the warning depends on the unit's port; else there is one for all cases
+};
+
+constexpr std::array<Warned, 4> kWarned = {{
+    {{ORV_PRODUCT_TRX_ARDEN}, 4, false},
+    {{ORV_PRODUCT_TRX_VOLT}, 3, false},
+    {{ORV_PRODUCT_TRX_HALDEN}, 5, true},
+    {{ORV_PRODUCT_TRX_LUMEN, ORV_PRODUCT_TRX_MORROW, ORV_PRODUCT_TRX_SELVA}, 4, true},
+}};
+
+const Warned *RowFor(ProductId productId, std::int32_t channel) {
+  for (const Warned &row : kWarned) {
+    if (row.models.Contains(productId)) {
+      return channel >= 0 && channel < row.channels ? &row : nullptr;
+    }
+  }
+  return nullptr;
+}
+
+constexpr const char *kWithoutUnit = "WARNING1";
+constexpr std::uint32_t kPortWithOwnWarning = 1;
+
+// The port of the first unit; 0 when it cannot be read. A unit of a model without warnings by port
+// is opened all the same, as hosts are used to, but not asked.
+std::uint32_t PortOfFirstUnit(const Warned &row) {
+  std::uint32_t port = 0;
+  VisitUnits(1, [&](DeviceHandle unit) {
+    if (!row.dependsOnPort) return Visit::kStop;
+    std::array<std::uint8_t, 2> reply = {};
+    GetPortInfo(unit, reply.data(), reply.size());
+    port = reply[0] + reply[1] * 256U;
+    return Visit::kStop;
+  });
+  return port;
+}
+
+const char *ChooseKey(const Warned &row, std::int32_t unitCount) {
+  const std::uint32_t port = unitCount > 0 ? PortOfFirstUnit(row) : 0;
+  if (!row.dependsOnPort) return "WARNING";
+  if (unitCount == 0) return kWithoutUnit;
+  return port == kPortWithOwnWarning ? "WARNING3" : "WARNING2";
+}
+
+constexpr std::int32_t kSystemLanguage = 99;
+
+// By language number.
+constexpr std::array<const char *, 12> kLanguageFolders = {
+    "English", "Japanese", "French", "German", "Italian", "Dutch",
+    "Spanish", "ru",       "pt",     "zh_CN",  "zh_TW",   "ko"};
+
+std::string BundlePath() {
+  return SystemPath(SystemMinorVersionAbove10()
+                        ? "/Library/Frameworks/TRX-SELVASetup.framework"
+                        : "/System/Library/Frameworks/TRX-SELVASetup.framework");
+}
+
+}  // namespace
+
+StatusCode ORV_GetWarningTextForSetUSBAudioInput(ProductId productId, int32_t channel,
+                                                 StatusCode status, int32_t language,
+                                                 ORVStringRef *text) try {
+  if (text == nullptr) return ORV_BAD_ARGUMENT;
+  const Warned *const row = RowFor(productId, channel);
+  if (row == nullptr || status != ORV_SUCCESS_WITH_WARNING) return ORV_BAD_ARGUMENT;
+  const std::string key = ChooseKey(*row, CheckUSBAudio(productId));
+  const bool isKnown =
+      language >= 0 && static_cast<std::size_t>(language) < kLanguageFolders.size();
+  if (!isKnown && language != kSystemLanguage) return ORV_BAD_ARGUMENT;
+  // Without a unit there is no telling in which language the host is used: the system's is the safe
+  // one.
+  if (language == kSystemLanguage || key == kWithoutUnit) {
+    *text = LocalizedString(BundlePath(), key.c_str());
+  } else {
+    *text = StringInLanguage(BundlePath(), kLanguageFolders[static_cast<std::size_t>(language)],
+                             key.c_str());
+  }
+  return ORV_SUCCESS;
+} catch (const std::bad_alloc &) {
+  return ORV_BAD_ARGUMENT;
+}

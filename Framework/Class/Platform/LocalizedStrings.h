@@ -1,0 +1,20 @@
+// The library's texts in the languages of its users. They lie in the library's bundle, one folder a
+// language. Any thread.
+#pragma once
+
+#include <string>
+
+#include <TRX-SELVASetup/TRX-SELVASetup.h>
+
+namespace orv {
+
+/// The text for a key in the language of the user's system, or in English where the bundle has no
+/// such language. Null when the bundle or the key is missing.
+ORVStringRef LocalizedString(const std::string &bundlePath, const char *key);
+
+/// The text for a key in one language, given by the name of its folder. Null when the folder or the
+/// key is missing.
+ORVStringRef StringInLanguage(const std::string &bundlePath, const char *languageFolder,
+                              const char *key);
+
+}  // namespace orv
