@@ -1,0 +1,498 @@
+// Every function with every combination of arguments, in range and out of it, on an empty desk:
+// what is accepted, and what becomes of the result. The tables here say what is accepted;
+// everything that does not stand in them is refused.
+#include <limits>
+#include <map>
+#include <span>
+#include <sstream>
+
+#include "../InstalledFiles.h"
+
+namespace trxtest {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+
+constexpr std::int32_t kChannels[] = {-2, -1, 0,   1,   2,     3,      4,    5,
+                                      6,  7,  255, 256, 65536, kLeast, kMost};
+
+constexpr std::uint32_t kIndexes[] = {
+    0,  1,  2,  3,  4,  5,  6,   7,   8,       9,          10,         11,
+    12, 13, 14, 15, 16, 17, 255, 256, 0x10000, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
+
+// The places that a function is tried with: one without a channel or an index has only the first.
+struct Places {
+  std::span<const std::int32_t> channels;
+  std::span<const std::uint32_t> indexes;
+};
+
+constexpr std::int32_t kNoChannel[] = {0};
+constexpr std::uint32_t kNoIndex[] = {0};
+constexpr Places kChannelsAndIndexes = {kChannels, kIndexes};
+constexpr Places kChannelsOnly = {kChannels, kNoIndex};
+constexpr Places kIndexesOnly = {kNoChannel, kIndexes};
+
+// How many indexes each channel of a model has, from index and channel 0 on. A function without a
+// channel has one row, a function without an index has rows of 1.
+using Accepted = std::map<ProductId, std::vector<std::uint32_t>>;
+
+bool Contains(const Accepted &accepted, ProductId product, std::int32_t channel = 0,
+              std::uint32_t index = 0) {
+  const auto model = accepted.find(product);
+  if (model == accepted.end() || channel < 0) return false;
+  const auto place = static_cast<std::size_t>(channel);
+  return place < model->second.size() && index < model->second[place];
+}
+
+const Accepted kAllSix = {{0, {1}}, {1, {1}}, {5, {1}}, {6, {1}}, {8, {1}}, {11, {1}}};
+const Accepted kSelva = {{11, {1}}};
+const Accepted kVolt = {{1, {1}}};
+const Accepted kNobody = {};
+
+// A result before the call.
+constexpr std::int32_t kBefore = -1234567;
+constexpr std::uint32_t kBeforeUnsigned = 0xFEDC1234;
+const char *const kBeforeText = "untouched";
+
+// Compares many outcomes and tells of the first few that differ.
+class Sweep {
+ public:
+  ~Sweep() { EXPECT_EQ(failures_, 0) << "of " << count_ << " calls, the first:\n" << told_.str(); }
+
+  template <typename Value, typename... Arguments>
+  void Expect(const Value &actual, const Value &expected, const char *what,
+              const Arguments &...arguments) {
+    ++count_;
+    if (actual == expected) return;
+    if (++failures_ > 10) return;
+    told_ << what << "(";
+    ((told_ << ' ' << arguments), ...);
+    told_ << " ): " << actual << " and not " << expected << '\n';
+  }
+
+ private:
+  int count_ = 0;
+  int failures_ = 0;
+  std::ostringstream told_;
+};
+
+class Arguments : public InstalledFiles {
+ protected:
+  // Functions (product, result).
+  template <typename Result>
+  static void SweepProducts(const char *name, StatusCode (*function)(ProductId, Result *),
+                            const Accepted &accepted, Result before, Result handedOut,
+                            Result refused) {
+    Sweep sweep;
+    for (const ProductId product : kAllProducts) {
+      const bool isAccepted = Contains(accepted, product);
+      Result result = before;
+      sweep.Expect(function(product, &result), isAccepted ? 100 : 102, name, product);
+      sweep.Expect(result, isAccepted ? handedOut : refused, name, product);
+      sweep.Expect(function(product, nullptr), 102, name, product, "null");
+    }
+  }
+
+  // Functions (product, channel, result). `resultOf` says what an accepted call hands out.
+  template <typename Channel, typename Result, typename ResultOf>
+  static void SweepChannels(const char *name, StatusCode (*function)(ProductId, Channel, Result *),
+                            const Accepted &accepted, Result before, ResultOf resultOf) {
+    Sweep sweep;
+    for (const ProductId product : kAllProducts) {
+      for (const std::int32_t channel : kChannels) {
+        const bool isAccepted = Contains(accepted, product, channel);
+        Result result = before;
+        sweep.Expect(function(product, static_cast<Channel>(channel), &result),
+                     isAccepted ? 100 : 102, name, product, channel);
+        sweep.Expect(result, isAccepted ? Result{resultOf(product, channel)} : before, name,
+                     product, channel);
+        sweep.Expect(function(product, static_cast<Channel>(channel), nullptr), 102, name, product,
+                     channel, "null");
+      }
+    }
+  }
+
+  // Functions that hand out a text.
+  template <typename Call>
+  static void SweepTexts(const char *name, const Accepted &accepted, const Places &places,
+                         Call call) {
+    Sweep sweep;
+    for (const ProductId product : kAllProducts) {
+      for (const std::int32_t channel : places.channels) {
+        for (const std::uint32_t index : places.indexes) {
+          const bool isAccepted = Contains(accepted, product, channel, index);
+          ORVStringRef text = kBeforeText;
+          sweep.Expect(call(product, channel, index, &text), isAccepted ? 100 : 102, name, product,
+                       channel, index);
+          sweep.Expect(text != kBeforeText, isAccepted, name, product, channel, index);
+          sweep.Expect(call(product, channel, index, nullptr), 102, name, product, channel, index,
+                       "null");
+        }
+      }
+    }
+  }
+
+  // Calls setters with everything that is refused, expects 102 and that nothing came of it, then
+  // with everything that is accepted. `statusOf` says what an accepted call answers. Returns how
+  // many were accepted.
+  template <typename Call, typename StatusOf>
+  std::size_t SweepSetter(const char *name, const Accepted &accepted, const Places &places,
+                          Call call, StatusOf statusOf) {
+    std::size_t count = 0;
+    Sweep sweep;
+    for (const bool isAccepted : {false, true}) {
+      for (const ProductId product : kAllProducts) {
+        for (const std::int32_t channel : places.channels) {
+          for (const std::uint32_t index : places.indexes) {
+            if (Contains(accepted, product, channel, index) != isAccepted) continue;
+            sweep.Expect(call(product, channel, index),
+                         isAccepted ? statusOf(product, channel, index) : 102, name, product,
+                         channel, index);
+            count += isAccepted ? 1 : 0;
+          }
+        }
+      }
+      if (!isAccepted) ExpectNothingHappened();
+    }
+    EXPECT_EQ(rig().WireLog(), Lines());
+    return count;
+  }
+
+  static StatusCode Success(ProductId, std::int32_t, std::uint32_t) { return 100; }
+};
+
+TEST_F(Arguments, IsUSBConnectionTakesAnyModel) {
+  for (const ProductId product : kAllProducts) EXPECT_EQ(ORV_IsUSBConnection(product), 104);
+  rig().PlugMixer();
+  for (const ProductId product : kAllProducts) EXPECT_EQ(ORV_IsUSBConnection(product), 103);
+}
+
+// --- Status queries --------------------------------------------------------------------------
+
+TEST_F(Arguments, CertifyLevelTakesFourModelsAndClearsItsResultForThem) {
+  SweepProducts<std::uint32_t>("CertifyLevel", ORV_GetMixerCertifyLevel,
+                               {{5, {1}}, {6, {1}}, {8, {1}}, {11, {1}}}, kBeforeUnsigned, 0,
+                               kBeforeUnsigned);
+  ExpectNothingHappened();
+}
+
+TEST_F(Arguments, FirmwareTakesSelvaAndClearsItsResultForEverybody) {
+  SweepProducts<std::uint32_t>("Firmware", ORV_GetFirmwareVersionIndex, kSelva, kBeforeUnsigned, 0,
+                               0);
+  ExpectNothingHappened();
+}
+
+TEST_F(Arguments, SeratoTakesSixModelsAndLeavesItsResultWithoutAUnit) {
+  SweepProducts<std::uint32_t>("Serato", ORV_GetMixerSeratoActiveStatus, kAllSix, kBeforeUnsigned,
+                               kBeforeUnsigned, kBeforeUnsigned);
+  ExpectNothingHappened();
+}
+
+TEST_F(Arguments, SelectorTakesFourThreeOrFiveChannelsAndLeavesItsResultWithoutAUnit) {
+  SweepChannels("Selector", ORV_GetMixerInputSelectorStatus,
+                {{0, {1, 1, 1, 1}},
+                 {1, {1, 1, 1}},
+                 {5, {1, 1, 1, 1, 1}},
+                 {6, {1, 1, 1, 1, 1}},
+                 {8, {1, 1, 1, 1, 1}},
+                 {11, {1, 1, 1, 1, 1}}},
+                kBeforeUnsigned, [](ProductId, std::int32_t) { return kBeforeUnsigned; });
+  ExpectNothingHappened();
+}
+
+// --- Input audio -----------------------------------------------------------------------------
+
+TEST_F(Arguments, InputAudioCountTakesFourChannelsOfSelva) {
+  SweepChannels("NumOfInputAudioIndex", ORV_GetNumOfInputAudioIndex, {{11, {1, 1, 1, 1}}}, kBefore,
+                [](ProductId, std::int32_t channel) {
+                  constexpr std::int32_t kCounts[] = {8, 8, 7, 1};
+                  return kCounts[channel];
+                });
+  ExpectNothingHappened();
+}
+
+TEST_F(Arguments, InputAudioTextTakesMoreIndexesThanThereAreChoices) {
+  SweepTexts("USBInputAudioText",
+             {{0, {8, 8, 8, 8}},
+              {1, {2, 2, 6}},
+              {5, {9, 9, 9, 9, 10}},
+              {6, {9, 9, 9, 9, 10}},
+              {8, {9, 9, 9, 9, 10}},
+              {11, {9, 9, 9, 9, 10}}},
+             kChannelsAndIndexes,
+             [](ProductId product, std::int32_t channel, std::uint32_t index, ORVStringRef *text) {
+               return ORV_GetUSBInputAudioText(product, channel, index, index, text);
+             });
+  ExpectNothingHappened();
+}
+
+TEST_F(Arguments, SetInputAudioTakesThreeChannelsOfSelva) {
+  const std::size_t count = SweepSetter(
+      "SetUSBInputAudio", {{11, {8, 8, 7}}}, kChannelsAndIndexes, ORV_SetUSBInputAudio,
+      [](ProductId, std::int32_t, std::uint32_t index) { return index < 3 ? 101 : 100; });
+  EXPECT_EQ(count, 23U);
+  EXPECT_EQ(rig().TakeAnnouncements(23).size(), 23U);
+  EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"Output0", "<integer>7</integer>"},
+                                               {"Output1", "<integer>7</integer>"},
+                                               {"Output2", "<integer>6</integer>"}}));
+}
+
+TEST_F(Arguments, SetInputAudioDirectTakesSixModelsAndAnyGroup) {
+  const Accepted accepted = {{0, {16, 16, 16, 16}},     {1, {4, 4, 16}},
+                             {5, {16, 16, 16, 16, 16}}, {6, {16, 16, 16, 16, 16}},
+                             {8, {16, 16, 16, 16, 16}}, {11, {16, 16, 16, 16, 16}}};
+  for (const std::int32_t group : {-1, 0, kLeast, kMost}) {
+    const std::size_t count = SweepSetter(
+        "SetUSBInputAudioDirect", accepted, kChannelsAndIndexes,
+        [group](ProductId product, std::int32_t channel, std::uint32_t source) {
+          return ORV_SetUSBInputAudioDirect(product, channel, group, source);
+        },
+        [](ProductId product, std::int32_t, std::uint32_t source) {
+          return product == 1 || source < 3 ? 101 : 100;
+        });
+    EXPECT_EQ(count, 408U);
+  }
+  ExpectNothingHappened();
+}
+
+TEST_F(Arguments, CurrentInputAudioTakesFourThreeOrSixChannels) {
+  SweepChannels("CurrentUSBInputAudioIndex", ORV_GetCurrentUSBInputAudioIndex,
+                {{0, {1, 1, 1, 1}},
+                 {1, {1, 1, 1}},
+                 {5, {1, 1, 1, 1, 1, 1}},
+                 {6, {1, 1, 1, 1, 1, 1}},
+                 {8, {1, 1, 1, 1, 1, 1}},
+                 {11, {1, 1, 1, 1, 1, 1}}},
+                kBefore, [](ProductId product, std::int32_t channel) {
+                  if (product == 0) return 3;
+                  if (product == 1) return channel == 2 ? 5 : 1;
+                  return 0;
+                });
+  ExpectNothingHappened();
+}
+
+TEST_F(Arguments, SetCurrentInputAudioTakesThreeChannelsOfSelva) {
+  SweepSetter(
+      "SetCurrentUSBInputAudio", {{11, {1, 1, 1}}}, kChannelsOnly,
+      [](ProductId product, std::int32_t channel, std::uint32_t) {
+        return ORV_SetCurrentUSBInputAudio(product, channel);
+      },
+      Success);
+  ExpectNothingHappened();
+}
+
+// --- The warning -----------------------------------------------------------------------------
+
+TEST_F(Arguments, WarningTakes101AndThirteenLanguages) {
+  const Accepted accepted = {{0, {1, 1, 1, 1}}, {1, {1, 1, 1}},    {5, {1, 1, 1, 1, 1}},
+                             {6, {1, 1, 1, 1}}, {8, {1, 1, 1, 1}}, {11, {1, 1, 1, 1}}};
+  constexpr std::int32_t kLanguages[] = {kLeast, -1, 0,  1,  2,  3,  4,   5,   6,   7,   8,    9,
+                                         10,     11, 12, 13, 98, 99, 100, 101, 255, 256, kMost};
+  constexpr StatusCode kStatuses[] = {kLeast, -1, 0, 99, 100, 101, 102, 103, 104, kMost};
+  // Nothing is installed, so that an accepted call hands out null.
+  Sweep sweep;
+  for (const ProductId product : kAllProducts) {
+    for (const std::int32_t channel : kChannels) {
+      for (const StatusCode status : kStatuses) {
+        for (const std::int32_t language : kLanguages) {
+          const bool isLanguage = (language >= 0 && language <= 11) || language == 99;
+          const bool isAccepted =
+              Contains(accepted, product, channel) && status == 101 && isLanguage;
+          ORVStringRef text = kBeforeText;
+          sweep.Expect(
+              ORV_GetWarningTextForSetUSBAudioInput(product, channel, status, language, &text),
+              isAccepted ? 100 : 102, "Warning", product, channel, status, language);
+          sweep.Expect(text == nullptr, isAccepted, "Warning", product, channel, status, language);
+          sweep.Expect(text == kBeforeText, !isAccepted, "Warning", product, channel, status,
+                       language);
+        }
+        sweep.Expect(ORV_GetWarningTextForSetUSBAudioInput(product, channel, status, 0, nullptr),
+                     102, "Warning", product, channel, status, "null");
+      }
+    }
+  }
+  ExpectNothingHappened();
+}
+
+// --- Output audio ----------------------------------------------------------------------------
+
+TEST_F(Arguments, OutputAudioCountTakesThreeChannelsOfSelva) {
+  SweepChannels("NumOfOutputAudioIndex", ORV_GetNumOfOutputAudioIndex, {{11, {1, 1, 1}}},
+                kBeforeUnsigned, [](ProductId, std::int32_t) { return 3U; });
+  ExpectNothingHappened();
+}
+
+TEST_F(Arguments, OutputAudioTextTakesThreeChannelsAndFourIndexesOfSelva) {
+  SweepTexts("USBOutputAudioText", {{11, {4, 4, 4}}}, kChannelsAndIndexes,
+             [](ProductId product, std::int32_t channel, std::uint32_t index, ORVStringRef *text) {
+               return ORV_GetUSBOutputAudioText(product, channel, index, index, text);
+             });
+  ExpectNothingHappened();
+}
+
+TEST_F(Arguments, SetOutputAudioTakesFiveChannelsOfSelva) {
+  const std::size_t count = SweepSetter("SetUSBOutputAudio", {{11, {3, 3, 3, 3, 3}}},
+                                        kChannelsAndIndexes, ORV_SetUSBOutputAudio, Success);
+  EXPECT_EQ(count, 15U);
+  EXPECT_EQ(rig().TakeAnnouncements(15).size(), 15U);
+}
+
+TEST_F(Arguments, SetOutputAudioDefaultTakesFiveChannelsOfSelva) {
+  SweepSetter(
+      "SetUSBOutputAudioDefault", {{11, {1, 1, 1, 1, 1}}}, kChannelsOnly,
+      [](ProductId product, std::int32_t channel, std::uint32_t) {
+        return ORV_SetUSBOutputAudioDefault(product, channel);
+      },
+      Success);
+  EXPECT_EQ(rig().TakeAnnouncements(5).size(), 5U);
+  EXPECT_EQ(LibraryListing(), Lines());
+}
+
+TEST_F(Arguments, CurrentOutputAudioTakesThreeChannelsOfSelva) {
+  SweepChannels("CurrentUSBOutputAudioIndex", ORV_GetCurrentUSBOutputAudioIndex, {{11, {1, 1, 1}}},
+                kBefore, [](ProductId, std::int32_t channel) { return channel; });
+  ExpectNothingHappened();
+}
+
+TEST_F(Arguments, SetCurrentOutputAudioTakesThreeChannelsOfSelva) {
+  SweepSetter(
+      "SetCurrentUSBOutputAudio", {{11, {1, 1, 1}}}, kChannelsOnly,
+      [](ProductId product, std::int32_t channel, std::uint32_t) {
+        return ORV_SetCurrentUSBOutputAudio(product, channel);
+      },
+      Success);
+  ExpectNothingHappened();
+}
+
+// --- Boost level, MIDI channel, MIDI key mode ------------------------------------------------
+
+// The five functions of a family without channels.
+struct Family {
+  const char *name;
+  StatusCode (*count)(ProductId, std::uint32_t *);
+  StatusCode (*text)(ProductId, std::uint32_t, std::uint32_t, ORVStringRef *);
+  StatusCode (*set)(ProductId, std::uint32_t);
+  StatusCode (*current)(ProductId, std::int32_t *);
+  StatusCode (*setCurrent)(ProductId);
+};
+
+class FamilyArguments : public Arguments {
+ protected:
+  // `accepted` holds the indexes of each model that the family serves, `models` only its models.
+  void SweepFamily(const Family &family, const Accepted &accepted, const Accepted &models,
+                   std::uint32_t count, std::int32_t defaultIndex, std::size_t settings) {
+    SweepProducts(family.name, family.count, models, kBeforeUnsigned, count, kBeforeUnsigned);
+    SweepProducts(family.name, family.current, models, kBefore, defaultIndex, kBefore);
+    SweepTexts(family.name, accepted, kIndexesOnly,
+               [&](ProductId product, std::int32_t, std::uint32_t index, ORVStringRef *text) {
+                 return family.text(product, index, index, text);
+               });
+    for (const ProductId product : kAllProducts) {
+      EXPECT_EQ(family.setCurrent(product), Contains(models, product) ? 100 : 102) << product;
+    }
+    const std::size_t sets = SweepSetter(
+        family.name, accepted, kIndexesOnly,
+        [&](ProductId product, std::int32_t, std::uint32_t index) {
+          return family.set(product, index);
+        },
+        Success);
+    EXPECT_EQ(sets, settings);
+    EXPECT_EQ(rig().TakeAnnouncements(settings).size(), settings);
+  }
+};
+
+TEST_F(FamilyArguments, BoostLevelTakesSixModelsAndFourLevels) {
+  SweepFamily(
+      {"BoostLevel", ORV_GetNumOfBoostLevelIndex, ORV_GetBoostLevelText, ORV_SetBoostLevelIndex,
+       ORV_GetCurrentBoostLevelIndex, ORV_SetCurrentBoostLevelIndex},
+      {{0, {4}}, {1, {4}}, {5, {4}}, {6, {4}}, {8, {4}}, {11, {4}}}, kAllSix, 4, 3, 24);
+}
+
+TEST_F(FamilyArguments, MidiChannelTakesVoltAndSixteenChannels) {
+  SweepFamily(
+      {"MidiChannel", ORV_GetNumOfMidiChannelIndex, ORV_GetMidiChannelText, ORV_SetMidiChannelIndex,
+       ORV_GetCurrentMidiChannelIndex, ORV_SetCurrentMidiChannelIndex},
+      {{1, {16}}}, kVolt, 16, 0, 16);
+}
+
+TEST_F(FamilyArguments, MidiKeyModeTakesNothing) {
+  SweepFamily(
+      {"MidiKeyMode", ORV_GetNumOfMidiKeyModeIndex, ORV_GetMidiKeyModeText, ORV_SetMidiKeyModeIndex,
+       ORV_GetCurrentMidiKeyModeIndex, ORV_SetCurrentMidiKeyModeIndex},
+      kNobody, kNobody, 0, 0, 0);
+  ExpectNothingHappened();
+}
+
+// --- Version texts ---------------------------------------------------------------------------
+
+TEST_F(Arguments, VersionTextsTakeSelvaOrSixModelsWhenAllIsInstalled) {
+  InstallSystem("10.15");
+  Install("/private/var/db/receipts/com.orvikaudio.TRX-SELVA.pkg.plist",
+          "<key>PackageVersion</key><string>1</string>");
+  Install("/Library/Frameworks/TRX-SELVASetup.framework/Versions/A/Resources/Info.plist",
+          "<key>CFBundleVersion</key><string>1</string>");
+  for (const std::string model :
+       {"TRX-Arden", "TRX-VOLT", "TRX-HALDEN", "TRX-LUMEN", "TRX-MORROW", "TRX-SELVA"}) {
+    Install("/Library/Extensions/" + model + " USBAudio.kext/Contents/Info.plist",
+            "<key>CFBundleShortVersionString</key><string>1</string>");
+    Install("/Applications/Orvik/" + model + "/" + model + " Setup.app/Contents/Info.plist",
+            "<key>CFBundleVersion</key><string>1</string>");
+  }
+  // All hold the same text, so that all hand out the same place.
+  ORVStringRef one = nullptr;
+  ASSERT_EQ(ORV_GetPkgVersionText(11, &one), 100);
+  ASSERT_STREQ(one, "1");
+  SweepProducts("PkgVersionText", ORV_GetPkgVersionText, kSelva, kBeforeText, one, kBeforeText);
+  SweepProducts("DriverVersionText", ORV_GetDriverVersionText, kAllSix, kBeforeText, one,
+                kBeforeText);
+  SweepProducts("UtilityVersionText", ORV_GetUtilityVersionText, kAllSix, kBeforeText, one,
+                kBeforeText);
+  SweepProducts("LibraryVersionText", ORV_GetLibraryVersionText, kSelva, kBeforeText, one,
+                kBeforeText);
+  ExpectNothingHappened();
+}
+
+// --- Callbacks -------------------------------------------------------------------------------
+
+void NeverCalled(std::int32_t, void *) { ADD_FAILURE() << "nothing was announced"; }
+void NeverCalledWithChannel(std::int32_t, std::int32_t, void *) {
+  ADD_FAILURE() << "nothing was announced";
+}
+
+// Null callbacks and contexts are as good as any other.
+template <typename Callback>
+void SweepRegistration(const char *name, StatusCode (*put)(ProductId, Callback, void *),
+                       StatusCode (*takeAway)(ProductId, Callback), Callback callback,
+                       const Accepted &accepted) {
+  int context = 0;
+  Sweep sweep;
+  for (const ProductId product : kAllProducts) {
+    const StatusCode expected = Contains(accepted, product) ? 100 : 102;
+    sweep.Expect(takeAway(product, callback), expected, name, product, "before");
+    sweep.Expect(put(product, callback, &context), expected, name, product);
+    sweep.Expect(put(product, nullptr, &context), expected, name, product, "null");
+    sweep.Expect(put(product, callback, nullptr), expected, name, product, "no context");
+    sweep.Expect(takeAway(product, nullptr), expected, name, product, "null");
+    sweep.Expect(takeAway(product, callback), expected, name, product, "again");
+  }
+}
+
+TEST_F(Arguments, CallbacksAreForSixModelsTheMidiChannelsForVoltAndTheKeyModesForNobody) {
+  SweepRegistration("InputAudio", ORV_RegisterInputAudioChangedCallback,
+                    ORV_UnregisterInputAudioChangedCallback, NeverCalledWithChannel, kAllSix);
+  SweepRegistration("OutputAudio", ORV_RegisterOutputAudioChangedCallback,
+                    ORV_UnregisterOutputAudioChangedCallback, NeverCalledWithChannel, kAllSix);
+  SweepRegistration("BoostLevel", ORV_RegisterBoostLevelChangedCallback,
+                    ORV_UnregisterBoostLevelChangedCallback, NeverCalled, kAllSix);
+  SweepRegistration("MidiChannel", ORV_RegisterMidiChannelChangedCallback,
+                    ORV_UnregisterMidiChannelChangedCallback, NeverCalled, kVolt);
+  SweepRegistration("MidiKeyMode", ORV_RegisterMidiKeyModeChangedCallback,
+                    ORV_UnregisterMidiKeyModeChangedCallback, NeverCalled, kNobody);
+  ExpectNothingHappened();
+}
+
+}  // namespace
+}  // namespace trxtest
