@@ -34,16 +34,21 @@
  * What holds for every function
  *
  * - Each call is synchronous, on the caller's thread. The library starts no thread, takes no lock,
- *   keeps no mixer open between calls and caches nothing.
+ *   keeps no mixer open between calls and caches nothing. What it keeps is connections to the
+ *   session bus: one for each thread that has set something, one for what is received.
+ * - A call takes as long as the mixers take to answer: up to 5 seconds for each request that a
+ *   mixer leaves without one. A session bus that hangs is waited for once, for 5 seconds.
  * - The result is always a StatusCode. Arguments are checked first, result pointers before
- *   anything else; when a check fails the call answers ORV_BAD_ARGUMENT and has done nothing.
+ *   anything else; when a check fails the call answers ORV_BAD_ARGUMENT and has done nothing,
+ *   unless its description says otherwise.
  * - A mixer that cannot be opened or that refuses a request is passed over in silence, and so is a
  *   settings file that cannot be written: such failures never change the result.
  * - The mixers addressed are all connected ones, whichever ProductId is passed. The ProductId
  *   selects texts, bounds, the settings file and the name of the announcement.
  * - Functions may run on several threads at once. The Register and Unregister functions belong to
  *   the one thread that also receives the notifications (on Linux: that calls
- *   ORV_DispatchNotifications, see EventLoop.h).
+ *   ORV_DispatchNotifications, see EventLoop.h). Of two settings of one model that are stored at
+ *   the very same time, on two threads or in two processes, one may be lost from the file.
  * - Texts handed out belong to the library, stay valid and unchanged for the life of the process,
  *   and are never freed by the host.
  */
@@ -116,8 +121,8 @@ typedef const char *ORVStringRef;
  * @param index    the index now chosen for that channel.
  * @param context  the pointer given at registration, unchanged.
  *
- * Runs on the thread that delivers notifications, never inside the call that made the change.
- * Since 1.0.
+ * Runs on the thread that delivers notifications, never inside the call that made the change. No
+ * exception may leave it. Since 1.0.
  */
 typedef void (*ChannelIndexCallback)(int32_t channel, int32_t index, void *context);
 
@@ -127,8 +132,8 @@ typedef void (*ChannelIndexCallback)(int32_t channel, int32_t index, void *conte
  * @param index    the index now chosen.
  * @param context  the pointer given at registration, unchanged.
  *
- * Runs on the thread that delivers notifications, never inside the call that made the change.
- * Since 1.0.
+ * Runs on the thread that delivers notifications, never inside the call that made the change. No
+ * exception may leave it. Since 1.0.
  */
 typedef void (*IndexCallback)(int32_t index, void *context);
 
@@ -218,7 +223,7 @@ ORV_EXPORT StatusCode ORV_GetMixerInputSelectorStatus(ProductId productId, uint3
  *
  * @param productId  TRX_ARDEN, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA; TRX_VOLT is refused
  *     as soon as a mixer can be opened, and accepted before.
- * @param active     receives 1 or 0; untouched when no mixer is connected.
+ * @param active     receives 1 or 0; untouched when no mixer could be opened.
  * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null pointer or another model, and when a mixer does
  *     not answer or reports 2 or more (active untouched by that mixer; the mixers behind it are
  *     not asked).

@@ -1,10 +1,10 @@
-#include <new>
 #include <string>
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
 #include "ChangeKinds.h"
 #include "ORVFunc.h"
+#include "OutOfMemory.h"
 
 using namespace orv;
 
@@ -14,15 +14,15 @@ namespace {
 // delivery.
 template <typename Callback>
 StatusCode Register(const ChangeKind<Callback> &kind, ProductId productId, Callback callback,
-                    void *context) try {
+                    void *context) {
   if (!kind.models.Contains(productId)) return ORV_BAD_ARGUMENT;
   Observer();
   kind.lastPosted.Empty();
-  AddObserver(std::string(ModelDisplayName(productId)) + kind.nameEnding, kind.observe);
+  WhileMemoryLasts([&] {
+    AddObserver(std::string(ModelDisplayName(productId)) + kind.nameEnding, kind.observe);
+  });
   kind.callbacks[productId] = callback;
   kind.contexts[productId] = context;
-  return ORV_SUCCESS;
-} catch (const std::bad_alloc &) {
   return ORV_SUCCESS;
 }
 

@@ -1,9 +1,9 @@
 #include "ChangeKinds.h"
 
 #include <memory>
-#include <new>
 
 #include "ORVFunc.h"
+#include "OutOfMemory.h"
 
 namespace orv {
 namespace {
@@ -83,22 +83,22 @@ const ChangeKind<IndexCallback> kMidiKeyModeChange = {nullptr,
                                                       midiKeyModeInfo};
 
 void Announce(const ChangeKind<ChannelIndexCallback> &kind, ProductId productId,
-              std::int32_t channel, std::uint32_t index) noexcept try {
-  Post(kind, productId,
-       {{kProductIdKey, static_cast<std::int32_t>(productId)},
-        {kChannelKey, channel},
-        {kIndexKey, static_cast<std::int32_t>(index)}});
-} catch (const std::bad_alloc &) {
-  return;
+              std::int32_t channel, std::uint32_t index) noexcept {
+  WhileMemoryLasts([&] {
+    Post(kind, productId,
+         {{kProductIdKey, static_cast<std::int32_t>(productId)},
+          {kChannelKey, channel},
+          {kIndexKey, static_cast<std::int32_t>(index)}});
+  });
 }
 
 void Announce(const ChangeKind<IndexCallback> &kind, ProductId productId,
-              std::uint32_t index) noexcept try {
-  Post(kind, productId,
-       {{kProductIdKey, static_cast<std::int32_t>(productId)},
-        {kIndexKey, static_cast<std::int32_t>(index)}});
-} catch (const std::bad_alloc &) {
-  return;
+              std::uint32_t index) noexcept {
+  WhileMemoryLasts([&] {
+    Post(kind, productId,
+         {{kProductIdKey, static_cast<std::int32_t>(productId)},
+          {kIndexKey, static_cast<std::int32_t>(index)}});
+  });
 }
 
 }  // namespace orv

@@ -84,52 +84,14 @@ constexpr std::size_t kLumenEntries = 24;
 constexpr std::size_t kMidEntries = 20;
 constexpr std::array<std::int32_t, kLumenEntries + kMidEntries> kLumenThenMid = {
     // TRXLUMEN_TEXT
-    27,
-    28,
-    4,
-    20,
-    21,
-    22,
-    41,
-    39,  //
-    30,
-    31,
-    9,
-    20,
-    21,
-    22,
-    41,
-    39,  //
-    39,
-    4,
-    9,
-    20,
-    21,
-    22,
-    41,
-    0,  //
+    27, 28, 4, 20, 21, 22, 41, 39,  //
+    30, 31, 9, 20, 21, 22, 41, 39,  //
+    39, 4, 9, 20, 21, 22, 41, 0,    //
     // TRXMID_TEXT
-    0,
-    24,
-    0,
-    0,
-    0,
-    0,  //
-    5,
-    25,
-    0,
-    0,
-    0,
-    0,  //
-    4,
-    9,
-    20,
-    21,
-    26,
-    23,  //
-    0,
-    0,
-};
+    0, 24, 0, 0, 0, 0,     //
+    5, 25, 0, 0, 0, 0,     //
+    4, 9, 20, 21, 26, 23,  //
+    0, 0};
 constexpr std::span<const std::int32_t> TRXLUMEN_TEXT = kLumenThenMid;
 constexpr std::span<const std::int32_t> TRXMID_TEXT = TRXLUMEN_TEXT.subspan<kLumenEntries>();
 

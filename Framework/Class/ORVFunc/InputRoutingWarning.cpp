@@ -1,12 +1,12 @@
 // The warning that a host shows when an input routing was carried out but may not be heard.
 #include <array>
-#include <new>
 #include <string>
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
 #include "ConnectedUnits.h"
 #include "LocalizedStrings.h"
+#include "OutOfMemory.h"
 #include "Product.h"
 #include "SystemPath.h"
 #include "SystemVersion.h"
@@ -68,33 +68,38 @@ constexpr std::array<const char *, 12> kLanguageFolders = {
     "English", "Japanese", "French", "German", "Italian", "Dutch",
     "Spanish", "ru",       "pt",     "zh_CN",  "zh_TW",   "ko"};
 
+bool IsNamed(std::int32_t language) {
+  return language >= 0 && static_cast<std::size_t>(language) < kLanguageFolders.size();
+}
+
 std::string BundlePath() {
   return SystemPath(SystemMinorVersionAbove10()
                         ? "/Library/Frameworks/TRX-SELVASetup.framework"
                         : "/System/Library/Frameworks/TRX-SELVASetup.framework");
 }
 
+// Without a unit there is no telling in which language the host is used: the system's is the safe
+// one.
+ORVStringRef WarningText(const std::string &key, std::int32_t language) {
+  if (language == kSystemLanguage || key == kWithoutUnit) {
+    return LocalizedString(BundlePath(), key.c_str());
+  }
+  return StringInLanguage(BundlePath(), kLanguageFolders[static_cast<std::size_t>(language)],
+                          key.c_str());
+}
+
 }  // namespace
 
 StatusCode ORV_GetWarningTextForSetUSBAudioInput(ProductId productId, int32_t channel,
                                                  StatusCode status, int32_t language,
-                                                 ORVStringRef *text) try {
+                                                 ORVStringRef *text) {
   if (text == nullptr) return ORV_BAD_ARGUMENT;
   const Warned *const row = RowFor(productId, channel);
   if (row == nullptr || status != ORV_SUCCESS_WITH_WARNING) return ORV_BAD_ARGUMENT;
-  const std::string key = ChooseKey(*row, CheckUSBAudio(productId));
-  const bool isKnown =
-      language >= 0 && static_cast<std::size_t>(language) < kLanguageFolders.size();
-  if (!isKnown && language != kSystemLanguage) return ORV_BAD_ARGUMENT;
-  // Without a unit there is no telling in which language the host is used: the system's is the safe
-  // one.
-  if (language == kSystemLanguage || key == kWithoutUnit) {
-    *text = LocalizedString(BundlePath(), key.c_str());
-  } else {
-    *text = StringInLanguage(BundlePath(), kLanguageFolders[static_cast<std::size_t>(language)],
-                             key.c_str());
-  }
-  return ORV_SUCCESS;
-} catch (const std::bad_alloc &) {
-  return ORV_BAD_ARGUMENT;
+  const char *const key = ChooseKey(*row, CheckUSBAudio(productId));
+  if (language != kSystemLanguage && !IsNamed(language)) return ORV_BAD_ARGUMENT;
+  return UnlessOutOfMemory<StatusCode>(ORV_BAD_ARGUMENT, [&] {
+    *text = WarningText(key, language);
+    return ORV_SUCCESS;
+  });
 }

@@ -1,10 +1,11 @@
 // The version texts of what is installed: package, driver, setup application, this library.
-#include <new>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
+#include "OutOfMemory.h"
 #include "Product.h"
 #include "PropertyList.h"
 #include "SystemPath.h"
@@ -44,37 +45,38 @@ StatusCode HandOut(const std::optional<PropertyList> &list, const char *key, ORV
 
 }  // namespace
 
-StatusCode ORV_GetPkgVersionText(ProductId productId, ORVStringRef *text) try {
+StatusCode ORV_GetPkgVersionText(ProductId productId, ORVStringRef *text) {
   if (text == nullptr || !kSelvaOnly.Contains(productId)) return ORV_BAD_ARGUMENT;
-  return HandOut(ReadInstalled(kPackageReceipt), "PackageVersion", text);
-} catch (const std::bad_alloc &) {
-  return ORV_BAD_ARGUMENT;
+  return UnlessOutOfMemory<StatusCode>(ORV_BAD_ARGUMENT, [&] {
+    return HandOut(ReadInstalled(kPackageReceipt), "PackageVersion", text);
+  });
 }
 
-StatusCode ORV_GetDriverVersionText(ProductId productId, ORVStringRef *text) try {
+// The system's version is looked at even for a model that is then refused.
+StatusCode ORV_GetDriverVersionText(ProductId productId, ORVStringRef *text) {
   if (text == nullptr) return ORV_BAD_ARGUMENT;
-  const bool isLaterSystem = SystemMinorVersionAbove10();
-  if (!kEveryServedModel.Contains(productId)) return ORV_BAD_ARGUMENT;
-  return HandOut(ReadDriverInfo(ModelDisplayName(productId), isLaterSystem),
-                 "CFBundleShortVersionString", text);
-} catch (const std::bad_alloc &) {
-  return ORV_BAD_ARGUMENT;
+  return UnlessOutOfMemory<StatusCode>(ORV_BAD_ARGUMENT, [&]() -> StatusCode {
+    const bool isLaterSystem = SystemMinorVersionAbove10();
+    if (!kEveryServedModel.Contains(productId)) return ORV_BAD_ARGUMENT;
+    return HandOut(ReadDriverInfo(ModelDisplayName(productId), isLaterSystem),
+                   "CFBundleShortVersionString", text);
+  });
 }
 
-StatusCode ORV_GetUtilityVersionText(ProductId productId, ORVStringRef *text) try {
+StatusCode ORV_GetUtilityVersionText(ProductId productId, ORVStringRef *text) {
   if (text == nullptr || !kEveryServedModel.Contains(productId)) return ORV_BAD_ARGUMENT;
-  const std::string model = ModelDisplayName(productId);
-  const std::string path =
-      "/Applications/Orvik/" + model + "/" + model + " Setup.app/Contents/Info.plist";
-  return HandOut(ReadInstalled(path), "CFBundleVersion", text);
-} catch (const std::bad_alloc &) {
-  return ORV_BAD_ARGUMENT;
+  return UnlessOutOfMemory<StatusCode>(ORV_BAD_ARGUMENT, [&] {
+    const std::string model = ModelDisplayName(productId);
+    const std::string path =
+        "/Applications/Orvik/" + model + "/" + model + " Setup.app/Contents/Info.plist";
+    return HandOut(ReadInstalled(path), "CFBundleVersion", text);
+  });
 }
 
-StatusCode ORV_GetLibraryVersionText(ProductId productId, ORVStringRef *text) try {
+StatusCode ORV_GetLibraryVersionText(ProductId productId, ORVStringRef *text) {
   if (text == nullptr || !kSelvaOnly.Contains(productId)) return ORV_BAD_ARGUMENT;
-  const std::string library = SystemMinorVersionAbove10() ? "/Library" : "/System/Library";
-  return HandOut(ReadInstalled(library + kLibraryInfo), "CFBundleVersion", text);
-} catch (const std::bad_alloc &) {
-  return ORV_BAD_ARGUMENT;
+  return UnlessOutOfMemory<StatusCode>(ORV_BAD_ARGUMENT, [&] {
+    const std::string library = SystemMinorVersionAbove10() ? "/Library" : "/System/Library";
+    return HandOut(ReadInstalled(library + kLibraryInfo), "CFBundleVersion", text);
+  });
 }

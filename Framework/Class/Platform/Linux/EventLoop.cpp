@@ -1,7 +1,6 @@
-#include <new>
-
 #include <TRX-SELVASetup/EventLoop.h>
 
+#include "OutOfMemory.h"
 #include "Receiver.h"
 
 StatusCode ORV_GetNotificationDescriptor(int32_t *descriptor) {
@@ -10,9 +9,7 @@ StatusCode ORV_GetNotificationDescriptor(int32_t *descriptor) {
   return ORV_SUCCESS;
 }
 
-StatusCode ORV_DispatchNotifications(void) try {
-  orv::Receiver::Instance().Dispatch();
-  return ORV_SUCCESS;
-} catch (const std::bad_alloc &) {
+StatusCode ORV_DispatchNotifications(void) {
+  orv::WhileMemoryLasts([] { orv::Receiver::Instance().Dispatch(); });
   return ORV_SUCCESS;
 }

@@ -27,9 +27,10 @@ std::optional<std::string> HomeOfAccount() {
   return found != nullptr ? AbsolutePathFrom(found->pw_dir) : std::nullopt;
 }
 
+// A program that runs with more rights than its user does not let the user say where it writes.
 std::optional<std::string> ConfigurationFolder() {
-  if (auto folder = AbsolutePathFrom(std::getenv("XDG_CONFIG_HOME"))) return folder;
-  auto home = AbsolutePathFrom(std::getenv("HOME"));
+  if (auto folder = AbsolutePathFrom(secure_getenv("XDG_CONFIG_HOME"))) return folder;
+  auto home = AbsolutePathFrom(secure_getenv("HOME"));
   if (!home) home = HomeOfAccount();
   if (!home) return std::nullopt;
   return *home + "/.config";

@@ -1,15 +1,12 @@
 #include "NotificationCentre.h"
 
-#include <new>
-
+#include "OutOfMemory.h"
 #include "Receiver.h"
 
 namespace orv {
 
-void AddObserver(const std::string &name, NotificationHandler handler) noexcept try {
-  Receiver::Instance().Add(name, handler);
-} catch (const std::bad_alloc &) {
-  return;
+void AddObserver(const std::string &name, NotificationHandler handler) noexcept {
+  WhileMemoryLasts([&] { Receiver::Instance().Add(name, handler); });
 }
 
 }  // namespace orv

@@ -2,33 +2,21 @@
 // thread and the library takes no lock. It is made by the thread's first post and closed when the
 // thread ends.
 #include <cerrno>
-#include <new>
 
 #include "NotificationCentre.h"
+#include "OutOfMemory.h"
 #include "SessionBus.h"
 
 namespace orv {
 namespace {
 
-// Waits until all that was sent has left the process, but no longer than the bus may take to
-// answer; what is left then goes out with the next post. Returns a negative errno value when the
-// connection broke.
-int Flush(sd_bus *bus) {
-  const std::uint64_t deadline = MonotonicNow() + kBusPatience;
-  for (;;) {
-    std::uint64_t queued = 0;
-    const int result = sd_bus_get_n_queued_write(bus, &queued);
-    if (result < 0 || (queued == 0 && sd_bus_is_ready(bus) > 0)) return result;
-    const int progress = sd_bus_process(bus, nullptr);
-    if (progress < 0) return progress;
-    const std::uint64_t now = MonotonicNow();
-    if (now >= deadline) return 0;
-    if (progress == 0) sd_bus_wait(bus, deadline - now);
-  }
-}
-
 class Poster {
  public:
+  Poster() = default;
+  Poster(const Poster &) = delete;
+  Poster &operator=(const Poster &) = delete;
+  ~Poster();
+
   // A connection may have died with its bus since the last post; then a second attempt finds the
   // new bus.
   void Post(const std::string &name, const UserInfo &userInfo) {
@@ -38,26 +26,64 @@ class Poster {
 
  private:
   bool Attempt(const std::string &name, const UserInfo &userInfo) {
-    if (!bus_) bus_ = ConnectToBus();
+    if (!bus_) Connect();
     if (!bus_) return false;
-    if (SendNotification(bus_.get(), name, userInfo) >= 0 && Flush(bus_.get()) >= 0) return true;
+    if (SendNotification(bus_.get(), name, userInfo) >= 0 && Flush() >= 0) return true;
     bus_.reset();
     return false;
   }
 
+  void Connect() {
+    bus_ = ConnectToBus();
+    patience_ = kBusPatience;
+  }
+
+  // Waits until all that was sent has left the process, but no longer than the bus may take to
+  // answer; what is left then goes out with the next post, which does not wait again for a bus that
+  // hangs. Takes in what the bus has to say. Returns a negative errno value when the connection
+  // broke.
+  int Flush() {
+    const std::uint64_t deadline = MonotonicNow() + patience_;
+    for (;;) {
+      const int progress = sd_bus_process(bus_.get(), nullptr);
+      if (progress < 0) return progress;
+      if (progress > 0) continue;
+      std::uint64_t queued = 0;
+      const int result = sd_bus_get_n_queued_write(bus_.get(), &queued);
+      if (result < 0) return result;
+      const bool isOut = queued == 0 && sd_bus_is_ready(bus_.get()) > 0;
+      const std::uint64_t now = MonotonicNow();
+      if (isOut || now >= deadline) {
+        patience_ = isOut ? kBusPatience : 0;
+        return 0;
+      }
+      sd_bus_wait(bus_.get(), deadline - now);
+    }
+  }
+
   Bus bus_;
+  std::uint64_t patience_ = kBusPatience;
 };
 
 thread_local Poster poster;
+
+// A thread that ends may still post, from what the host does at exit, when its connection is gone.
+thread_local bool isPosterGone = false;
+
+Poster::~Poster() { isPosterGone = true; }
 
 }  // namespace
 
 // The bus suspends no receiver, so both forms of delivery are the same to it.
 void PostNotification(const std::string &name, const UserInfo &userInfo,
-                      Delivery /*delivery*/) noexcept try {
-  poster.Post(name, userInfo);
-} catch (const std::bad_alloc &) {
-  return;
+                      Delivery /*delivery*/) noexcept {
+  WhileMemoryLasts([&] {
+    if (isPosterGone) {
+      Poster().Post(name, userInfo);
+    } else {
+      poster.Post(name, userInfo);
+    }
+  });
 }
 
 }  // namespace orv

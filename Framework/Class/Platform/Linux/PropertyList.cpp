@@ -62,7 +62,8 @@ using Text = std::unique_ptr<char, FreeText>;
 
 // Only regular files: a pipe in the file's place would keep the caller waiting.
 std::optional<std::string> ReadContents(const std::string &path) {
-  const File file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  const File file(
+      static_cast<int>(TEMP_FAILURE_RETRY(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))));
   struct stat status = {};
   if (!file.IsOpen() || fstat(file.Descriptor(), &status) != 0 || !S_ISREG(status.st_mode) ||
       static_cast<std::uint64_t>(status.st_size) > kLargestPropertyList) {
@@ -121,6 +122,32 @@ std::optional<std::int32_t> IntegerOfText(std::string_view text) {
 
 // --- Writing -------------------------------------------------------------------------------------
 
+// XML has no way to write these characters, not even in a roundabout way; a binary list may hold
+// them.
+bool IsForbiddenInXml(char character) {
+  return static_cast<unsigned char>(character) < 0x20 && character != '\t' && character != '\n' &&
+         character != '\r';
+}
+
+constexpr const char *kReplacementCharacter = "\uFFFD";
+
+std::string AsXml(plist_t root) {
+  const NumbersAsInC locale;
+  char *written = nullptr;
+  std::uint32_t length = 0;
+  plist_to_xml(root, &written, &length);
+  const Text text(written);
+  std::string xml;
+  for (const char character : std::string_view(written, written != nullptr ? length : 0)) {
+    if (IsForbiddenInXml(character)) {
+      xml += kReplacementCharacter;
+    } else {
+      xml += character;
+    }
+  }
+  return xml;
+}
+
 bool WriteAll(int descriptor, std::string_view contents) {
   while (!contents.empty()) {
     const ssize_t part = write(descriptor, contents.data(), contents.size());
@@ -144,6 +171,13 @@ void MakeDurable(const std::string &folder) {
   if (file.IsOpen()) fsync(file.Descriptor());
 }
 
+// A file may stand elsewhere, with a link to it in its place: then it is replaced there, and the
+// link stays.
+std::string FileBehind(const std::string &path) {
+  const Text resolved(realpath(path.c_str(), nullptr));
+  return resolved ? resolved.get() : path;
+}
+
 bool ReplaceFile(const std::string &path, std::string_view contents) {
   const std::size_t slash = path.rfind('/');
   const std::string folder = path.substr(0, slash);
@@ -151,7 +185,7 @@ bool ReplaceFile(const std::string &path, std::string_view contents) {
   const File file(mkostemp(temporary.data(), O_CLOEXEC));
   if (!file.IsOpen()) return false;
   KeepPermissions(path, file.Descriptor());
-  if (WriteAll(file.Descriptor(), contents) && fsync(file.Descriptor()) == 0 &&
+  if (WriteAll(file.Descriptor(), contents) && TEMP_FAILURE_RETRY(fsync(file.Descriptor())) == 0 &&
       rename(temporary.c_str(), path.c_str()) == 0) {
     MakeDurable(folder);
     return true;
@@ -220,12 +254,10 @@ void PropertyList::SetInteger(const char *key, std::int32_t value) {
 }
 
 bool PropertyList::WriteAtomically(const std::string &path) const {
-  const NumbersAsInC locale;
-  char *xml = nullptr;
-  std::uint32_t length = 0;
-  plist_to_xml(root_, &xml, &length);
-  const Text text(xml);
-  return text && ReplaceFile(path, std::string_view(text.get(), length));
+  const std::string xml = AsXml(root_);
+  // What would be refused when it is read again must not take the place of what can be read.
+  if (xml.empty() || xml.size() > kLargestPropertyList) return false;
+  return ReplaceFile(FileBehind(path), xml);
 }
 
 }  // namespace orv

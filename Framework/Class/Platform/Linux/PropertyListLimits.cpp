@@ -83,6 +83,9 @@ class BinaryTree {
 
  private:
   static constexpr std::uint8_t kCount = 0x10;  // an integer of 1, 2, 4 or 8 bytes
+  static constexpr std::uint8_t kData = 0x40;
+  static constexpr std::uint8_t kAsciiText = 0x50;
+  static constexpr std::uint8_t kUnicodeText = 0x60;
   static constexpr std::uint8_t kArray = 0xA0;
   static constexpr std::uint8_t kSet = 0xC0;
   static constexpr std::uint8_t kDictionary = 0xD0;
@@ -100,21 +103,36 @@ class BinaryTree {
     return number;
   }
 
+  // How many bytes, characters or members an object has; too many when that is not told properly.
+  std::uint64_t CountAt(std::uint64_t &position, std::uint8_t marker) const {
+    const std::uint64_t inMarker = marker & 0x0F;
+    if (inMarker != 0x0F) return inMarker;
+    const std::uint8_t countMarker = Byte(position++);
+    if ((countMarker & 0xFC) != kCount) return UINT64_MAX;
+    const unsigned size = 1U << (countMarker & 0x03);
+    const std::uint64_t count = Number(position, size);
+    position += size;
+    return count;
+  }
+
+  // A leaf is copied for each reference to it, so each reference counts.
+  bool TakeLeaf(std::uint64_t bytes) {
+    if (bytes > kLargestPropertyList - leafBytes_) return false;
+    leafBytes_ += bytes;
+    return true;
+  }
+
   bool Visit(std::uint64_t object, int depth) {
     if (depth > kDeepestNesting || ++visited_ > kMostObjects) return false;
     if (object >= objectCount_) return true;
     std::uint64_t position = Number(offsetTable_ + object * offsetSize_, offsetSize_);
     const std::uint8_t marker = Byte(position++);
     const std::uint8_t kind = marker & 0xF0;
-    if (kind != kArray && kind != kSet && kind != kDictionary) return true;
-    std::uint64_t members = marker & 0x0F;
-    if (members == 0x0F) {  // the count follows as an integer object of its own
-      const std::uint8_t countMarker = Byte(position++);
-      if ((countMarker & 0xFC) != kCount) return false;
-      const unsigned size = 1U << (countMarker & 0x03);
-      members = Number(position, size);
-      position += size;
+    if (kind == kData || kind == kAsciiText || kind == kUnicodeText) {
+      return TakeLeaf(CountAt(position, marker));
     }
+    if (kind != kArray && kind != kSet && kind != kDictionary) return true;
+    std::uint64_t members = CountAt(position, marker);
     if (members > kMostObjects) return false;
     if (kind == kDictionary) members *= 2;  // keys, then values
     for (std::uint64_t i = 0; i < members; ++i) {
@@ -131,6 +149,7 @@ class BinaryTree {
   std::uint64_t root_;
   std::uint64_t offsetTable_;
   std::size_t visited_ = 0;
+  std::uint64_t leafBytes_ = 0;
 };
 
 }  // namespace

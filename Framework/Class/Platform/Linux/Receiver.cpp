@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <new>
 
 #include <pthread.h>
 #include <sys/epoll.h>
@@ -10,20 +9,71 @@
 #include <sys/timerfd.h>
 #include <unistd.h>
 
+#include "OutOfMemory.h"
+
 namespace orv {
 namespace {
 
-// The descriptor given to the host is an epoll set. What it watches may change, such as the
-// connection to a bus that was restarted; the descriptor does not.
-std::atomic<int> watchSet = -1;
+// What the host's event loop watches. The descriptor given to the host is the epoll set; what it
+// watches may change, such as the connection to a bus that was restarted, the descriptor does not.
+struct WatchSet {
+  int epoll;
+  int timer;    // when the library needs a turn, whatever arrives
+  int backlog;  // readable while something that has arrived is not delivered
+};
+
+std::atomic<WatchSet *> watchSet = nullptr;
 
 std::atomic<Receiver *> receiver = nullptr;
+
+void Close(const WatchSet *set) {
+  for (const int descriptor : {set->epoll, set->timer, set->backlog}) {
+    if (descriptor >= 0) close(descriptor);
+  }
+  delete set;
+}
+
+bool Watch(int set, int descriptor, std::uint32_t events) {
+  epoll_event event = {};
+  event.events = events;
+  return epoll_ctl(set, EPOLL_CTL_MOD, descriptor, &event) == 0 ||
+         epoll_ctl(set, EPOLL_CTL_ADD, descriptor, &event) == 0;
+}
+
+// All or nothing: a descriptor that would never become readable is of no use to a host.
+WatchSet *MakeWatchSet() {
+  auto *const set = new (std::nothrow) WatchSet{
+      epoll_create1(EPOLL_CLOEXEC), timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC),
+      eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)};
+  if (set == nullptr) return nullptr;
+  if (!Watch(set->epoll, set->timer, EPOLLIN) || !Watch(set->epoll, set->backlog, EPOLLIN)) {
+    Close(set);
+    return nullptr;
+  }
+  return set;
+}
 
 // A forked child shares what its parent watches and must not touch it: it starts with nothing, and
 // what it registers itself is its own.
 void ForgetParent() {
-  close(watchSet.exchange(-1));
-  receiver.store(nullptr);
+  if (const Receiver *const parents = receiver.exchange(nullptr)) parents->CloseConnection();
+  if (const WatchSet *const set = watchSet.exchange(nullptr)) Close(set);
+}
+
+// The one watch set, made on first need; null when it cannot be made.
+WatchSet *TheWatchSet() {
+  WatchSet *existing = watchSet.load();
+  if (existing != nullptr) return existing;
+  WatchSet *const made = MakeWatchSet();
+  if (made == nullptr) return nullptr;
+  if (!watchSet.compare_exchange_strong(existing, made)) {
+    Close(made);  // another thread was faster
+    return existing;
+  }
+  pthread_atfork(nullptr, nullptr, ForgetParent);
+  // What was registered before there was a set is not watched yet: that takes a dispatch.
+  if (receiver.load() != nullptr) eventfd_write(made->backlog, 1);
+  return made;
 }
 
 constexpr std::uint64_t kNever = UINT64_MAX;
@@ -31,35 +81,26 @@ constexpr std::uint64_t kNever = UINT64_MAX;
 // How long to leave a bus that is away in peace before looking for it again, in microseconds.
 constexpr std::uint64_t kBusRetryPause = 1'000'000;
 
-void Watch(int descriptor, std::uint32_t events) {
-  epoll_event event = {};
-  event.events = events;
-  const int set = NotificationDescriptor();
-  if (epoll_ctl(set, EPOLL_CTL_MOD, descriptor, &event) != 0) {
-    epoll_ctl(set, EPOLL_CTL_ADD, descriptor, &event);
+// Setting the timer also takes back that it is readable.
+void SetTimer(int timer, std::uint64_t when) {
+  itimerspec setting = {};
+  if (when != kNever) {
+    const std::uint64_t soonest = std::max<std::uint64_t>(when, 1);  // 0 would switch the timer off
+    setting.it_value.tv_sec = static_cast<time_t>(soonest / 1'000'000);
+    setting.it_value.tv_nsec = static_cast<long>(soonest % 1'000'000 * 1'000);
   }
+  timerfd_settime(timer, TFD_TIMER_ABSTIME, &setting, nullptr);
 }
 
 }  // namespace
 
 int NotificationDescriptor() noexcept {
-  int existing = watchSet.load();
-  if (existing >= 0) return existing;
-  const int made = epoll_create1(EPOLL_CLOEXEC);
-  if (made < 0) return made;
-  if (!watchSet.compare_exchange_strong(existing, made)) {
-    close(made);  // another thread was faster
-    return existing;
-  }
-  pthread_atfork(nullptr, nullptr, ForgetParent);
-  return made;
+  const WatchSet *const set = TheWatchSet();
+  return set != nullptr ? set->epoll : -1;
 }
 
 Receiver &Receiver::Instance() {
-  if (receiver.load() == nullptr) {
-    NotificationDescriptor();
-    receiver.store(new Receiver);
-  }
+  if (receiver.load() == nullptr) receiver.store(new Receiver);
   return *receiver.load();
 }
 
@@ -68,27 +109,39 @@ bool Receiver::Observes(const std::string &name) const {
                      [&](const Observation &observation) { return observation.name == name; });
 }
 
+// Sees to it, however a turn of the receiver ends, that the host is woken for what is left.
+class Receiver::Turn {
+ public:
+  explicit Turn(Receiver &receiver) : receiver_(receiver) {}
+  Turn(const Turn &) = delete;
+  Turn &operator=(const Turn &) = delete;
+  ~Turn() { receiver_.WatchEverything(); }
+
+ private:
+  Receiver &receiver_;
+};
+
 void Receiver::Add(const std::string &name, NotificationHandler handler) {
+  const Turn turn(*this);
   const bool isKnown = Observes(name);
   observations_.push_back({name, handler});
-  if (!bus_) {
-    Connect();
-  } else if (!isKnown) {
-    AskFor(name);
-  }
+  if (bus_ && !isKnown) AskFor(name);
+  if (!bus_) Connect();
   // The connection may have died with its bus since it was last used; then there may be a new bus.
-  if (!Process(MonotonicNow() + kBusPatience)) {
+  if (!Process(patience_)) {
     Connect();
-    Process(MonotonicNow() + kBusPatience);
+    Process(patience_);
   }
-  WatchEverything();
+  // A bus that hangs is waited for once.
+  patience_ = unanswered_ == 0 ? kBusPatience : 0;
 }
 
 void Receiver::Dispatch() {
+  const Turn turn(*this);
   if (!bus_ && !observations_.empty()) Connect();
-  Process(MonotonicNow());
-  for (std::size_t left = arrived_.size(); left > 0 && !arrived_.empty(); --left) DeliverFirst();
-  WatchEverything();
+  Process(0);
+  std::size_t left = arrived_.size();
+  while (left-- > 0 && !arrived_.empty() && receiver.load() == this) DeliverFirst();
 }
 
 void Receiver::Connect() {
@@ -100,16 +153,28 @@ void Receiver::Connect() {
       return earlier.name == it->name;
     });
     if (!isAskedFor) AskFor(it->name);
+    if (!bus_) return;
   }
 }
 
 // The bus answers later, when it has time: what was asked for counts even if nobody waits for the
-// answer.
+// answer. What cannot be asked for, for want of memory or of a bus, is asked for on the next
+// connection, with all else.
 void Receiver::AskFor(const std::string &name) {
-  const int result = sd_bus_call_method_async(
-      bus_.get(), nullptr, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
-      "AddMatch", Answered, this, "s", MatchRule(name).c_str());
-  if (result >= 0) ++unanswered_;
+  const bool isAsked = UnlessOutOfMemory(false, [&] {
+    return sd_bus_call_method_async(bus_.get(), nullptr, "org.freedesktop.DBus",
+                                    "/org/freedesktop/DBus", "org.freedesktop.DBus", "AddMatch",
+                                    Answered, this, "s", MatchRule(name).c_str()) >= 0;
+  });
+  if (isAsked) {
+    ++unanswered_;
+  } else {
+    Disconnect();
+  }
+}
+
+void Receiver::CloseConnection() const {
+  if (watchedBus_ >= 0) close(watchedBus_);
 }
 
 void Receiver::Disconnect() {
@@ -120,13 +185,13 @@ void Receiver::Disconnect() {
 }
 
 // Called by sd-bus, a C library: what cannot be kept for want of memory is lost here.
-int Receiver::Arrived(sd_bus_message *message, void *self, sd_bus_error * /*error*/) try {
-  if (auto notification = ReadNotification(message)) {
-    static_cast<Receiver *>(self)->arrived_.push_back(std::move(*notification));
-  }
-  return 0;
-} catch (const std::bad_alloc &) {
-  return 0;
+int Receiver::Arrived(sd_bus_message *message, void *self, sd_bus_error * /*error*/) {
+  return UnlessOutOfMemory(0, [&] {
+    if (auto notification = ReadNotification(message)) {
+      static_cast<Receiver *>(self)->arrived_.push_back(std::move(*notification));
+    }
+    return 0;
+  });
 }
 
 int Receiver::Answered(sd_bus_message * /*answer*/, void *self, sd_bus_error * /*error*/) {
@@ -134,9 +199,10 @@ int Receiver::Answered(sd_bus_message * /*answer*/, void *self, sd_bus_error * /
   return 0;
 }
 
-// Takes in all that has arrived; until the deadline also waits for the bus to answer. Returns
-// whether the connection held.
-bool Receiver::Process(std::uint64_t deadline) {
+// Takes in all that has arrived; waits so many microseconds for the bus to answer what it was
+// asked. Returns whether the connection held.
+bool Receiver::Process(std::uint64_t patience) {
+  const std::uint64_t deadline = MonotonicNow() + patience;
   while (bus_) {
     const int progress = sd_bus_process(bus_.get(), nullptr);
     if (progress < 0) {
@@ -162,40 +228,29 @@ void Receiver::DeliverFirst() {
   }
 }
 
+// Nothing is left to see to in a child that a handler has forked: the receiver is its parent's.
 void Receiver::WatchEverything() {
-  if (backlog_ < 0) backlog_ = eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC);
-  if (timer_ < 0) timer_ = timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC);
-  Watch(backlog_, EPOLLIN);
-  Watch(timer_, EPOLLIN);
-
+  if (receiver.load() != this) return;
+  const WatchSet *const set = TheWatchSet();
+  if (set == nullptr) return;
   eventfd_t count = 0;
-  eventfd_read(backlog_, &count);
-  if (!arrived_.empty()) eventfd_write(backlog_, 1);
-  WatchBus();
+  eventfd_read(set->backlog, &count);
+  if (!arrived_.empty()) eventfd_write(set->backlog, 1);
+  SetTimer(set->timer, bus_ ? WatchBus(set->epoll) : NextLookForABus());
 }
 
-void Receiver::WatchBus() {
-  if (!bus_) {
-    SetTimer(observations_.empty() ? kNever : MonotonicNow() + kBusRetryPause);
-    return;
-  }
+// Returns when the connection needs a turn whatever arrives.
+std::uint64_t Receiver::WatchBus(int set) {
   watchedBus_ = sd_bus_get_fd(bus_.get());
   const int events = sd_bus_get_events(bus_.get());
-  if (watchedBus_ >= 0 && events >= 0) Watch(watchedBus_, static_cast<std::uint32_t>(events));
+  if (watchedBus_ >= 0 && events >= 0) Watch(set, watchedBus_, static_cast<std::uint32_t>(events));
   std::uint64_t timeLimit = kNever;
   sd_bus_get_timeout(bus_.get(), &timeLimit);
-  SetTimer(timeLimit);
+  return timeLimit;
 }
 
-// Setting the timer also takes back that it is readable.
-void Receiver::SetTimer(std::uint64_t when) {
-  itimerspec setting = {};
-  if (when != kNever) {
-    const std::uint64_t soonest = std::max<std::uint64_t>(when, 1);  // 0 would switch the timer off
-    setting.it_value.tv_sec = static_cast<time_t>(soonest / 1'000'000);
-    setting.it_value.tv_nsec = static_cast<long>(soonest % 1'000'000 * 1'000);
-  }
-  timerfd_settime(timer_, TFD_TIMER_ABSTIME, &setting, nullptr);
+std::uint64_t Receiver::NextLookForABus() const {
+  return observations_.empty() ? kNever : MonotonicNow() + kBusRetryPause;
 }
 
 }  // namespace orv

@@ -26,11 +26,17 @@ class Receiver {
   /// Delivers what has arrived by now. Never blocks; may be called from a handler.
   void Dispatch();
 
+  /// Closes the connection's descriptor and nothing else: for a forked child, which has a copy of
+  /// it.
+  void CloseConnection() const;
+
  private:
   struct Observation {
     std::string name;
     NotificationHandler handler;
   };
+
+  class Turn;
 
   static int Arrived(sd_bus_message *message, void *self, sd_bus_error *error);
   static int Answered(sd_bus_message *answer, void *self, sd_bus_error *error);
@@ -39,20 +45,19 @@ class Receiver {
   void Connect();
   void AskFor(const std::string &name);
   void Disconnect();
-  bool Process(std::uint64_t deadline);
+  bool Process(std::uint64_t patience);
   void DeliverFirst();
 
   void WatchEverything();
-  void WatchBus();
-  void SetTimer(std::uint64_t when);
+  std::uint64_t WatchBus(int set);
+  std::uint64_t NextLookForABus() const;
 
   std::vector<Observation> observations_;
   std::deque<Notification> arrived_;
   Bus bus_;
   int unanswered_ = 0;  // what the bus was asked for and has not granted yet
+  std::uint64_t patience_ = kBusPatience;
   int watchedBus_ = -1;
-  int timer_ = -1;
-  int backlog_ = -1;
 };
 
 }  // namespace orv

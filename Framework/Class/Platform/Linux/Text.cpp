@@ -14,19 +14,26 @@ struct UpperCase {
   std::string_view upperCase;
 };
 
-// The characters beyond ASCII whose upper case is written with ASCII letters alone. No other
-// character beyond ASCII can become part of an ASCII text, so the rest of Unicode needs no table.
-constexpr std::array<UpperCase, 10> kBeyondAscii = {{
-    {"\u00DF", "SS"},   // sharp s
-    {"\u0131", "I"},    // dotless i
-    {"\u017F", "S"},    // long s
-    {"\uFB00", "FF"},   // the ligatures
-    {"\uFB01", "FI"},   //
-    {"\uFB02", "FL"},   //
-    {"\uFB03", "FFI"},  //
-    {"\uFB04", "FFL"},  //
-    {"\uFB05", "ST"},   //
-    {"\uFB06", "ST"},   //
+// The characters beyond ASCII whose upper case has ASCII letters in it. No other can become part of
+// an ASCII text, so the rest of Unicode needs no table.
+constexpr std::array<UpperCase, 17> kBeyondAscii = {{
+    {"\u00DF", "SS"},       // sharp s
+    {"\u0131", "I"},        // dotless i
+    {"\u017F", "S"},        // long s
+    {"\u0149", "\u02BCN"},  // n after an apostrophe
+    {"\u01F0", "J\u030C"},  // letters with marks that have no capital of their own
+    {"\u1E96", "H\u0331"},  //
+    {"\u1E97", "T\u0308"},  //
+    {"\u1E98", "W\u030A"},  //
+    {"\u1E99", "Y\u030A"},  //
+    {"\u1E9A", "A\u02BE"},  //
+    {"\uFB00", "FF"},       // the ligatures
+    {"\uFB01", "FI"},       //
+    {"\uFB02", "FL"},       //
+    {"\uFB03", "FFI"},      //
+    {"\uFB04", "FFL"},      //
+    {"\uFB05", "ST"},       //
+    {"\uFB06", "ST"},       //
 }};
 
 // Goes through the upper-case form of a text, byte by byte, without making a copy of it.

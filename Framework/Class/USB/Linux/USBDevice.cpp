@@ -4,12 +4,12 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <new>
 
 #include <fcntl.h>
 #include <unistd.h>
 
 #include "BusWalk.h"
+#include "OutOfMemory.h"
 
 namespace orv {
 namespace {
@@ -30,20 +30,18 @@ PlatformStatus OpenNode(UnitAddress address, DeviceHandle *handle) {
 
 }  // namespace
 
-std::int32_t CheckUSBAudio(ProductId /*productId*/) noexcept try {
-  return static_cast<std::int32_t>(ConnectedUnits().size());
-} catch (const std::bad_alloc &) {
-  return 0;
+std::int32_t CheckUSBAudio(ProductId /*productId*/) noexcept {
+  return UnlessOutOfMemory(0, [&] { return static_cast<std::int32_t>(ConnectedUnits().size()); });
 }
 
-PlatformStatus openUSB(DeviceHandle *handle, std::uint32_t n) noexcept try {
-  std::vector<UnitAddress> units = ConnectedUnits();
-  if (n >= units.size() || *handle != nullptr) return kIOReturnError;
-  const auto chosen = units.begin() + n;
-  std::nth_element(units.begin(), chosen, units.end());
-  return OpenNode(*chosen, handle);
-} catch (const std::bad_alloc &) {
-  return kIOReturnNoMemory;
+PlatformStatus openUSB(DeviceHandle *handle, std::uint32_t n) noexcept {
+  return UnlessOutOfMemory(kIOReturnNoMemory, [&] {
+    std::vector<UnitAddress> units = ConnectedUnits();
+    if (n >= units.size() || *handle != nullptr) return kIOReturnError;
+    const auto chosen = units.begin() + n;
+    std::nth_element(units.begin(), chosen, units.end());
+    return OpenNode(*chosen, handle);
+  });
 }
 
 PlatformStatus open_pipes(DeviceHandle *handle, std::uint32_t n) noexcept {
