@@ -118,8 +118,7 @@ TEST(Client, KilledInMidRequestDoesNoHarm) {
     Program victim(run.furtherClient(), run.folder);
     const std::string handle = victim.ask(std::string("open ") + kFirst);
     victim.tell("control " + handle + " c0 0 0 8001 2 150");
-    while (run.log().empty()) {
-    }
+    run.waitForRequest();
     victim.signal(SIGKILL);
     EXPECT_EQ(victim.finish(), 1000 + SIGKILL);
   }

@@ -94,8 +94,7 @@ TEST(SimulatorProgram, EndsInMidRequestWithoutFuss) {
   run.control("fault 1 no-reply");
   const std::string handle = run.open("/dev/bus/usb/001/002");
   run.client().tell("control " + handle + " c0 0 0 8001 2 300");
-  while (run.log().empty()) {
-  }
+  run.waitForRequest();
   run.client().signal(SIGTERM);
   run.client().rest();
   EXPECT_EQ(run.client().finish(), 128 + SIGTERM);

@@ -60,8 +60,7 @@ TEST(RequestFault, NoReplyHoldsUpNeitherOtherUnitsNorOtherClients) {
   Program other(run.furtherClient(), run.folder);
   const std::string sameUnit = other.ask(std::string("open ") + kFirst);
   const std::string otherUnit = other.ask(std::string("open ") + kSecond);
-  while (run.log().empty()) {
-  }
+  run.waitForRequest();
   EXPECT_EQ(other.ask("control " + otherUnit + kReadFirmware), "2 00 01");
   EXPECT_EQ(other.ask("control " + sameUnit + kReadFirmware), "2 00 01");
   run.control("unplug 1");
@@ -73,8 +72,7 @@ TEST(RequestFault, NoReplyWithoutTimeOutLastsUntilTheUnitIsUnplugged) {
   run.control("fault 1 no-reply");
   const std::string handle = run.open(kFirst);
   run.client().tell("control " + handle + " c0 0 0 8001 2 0");
-  while (run.log().empty()) {
-  }
+  run.waitForRequest();
   run.control("unplug 1");
   EXPECT_EQ(run.client().answer(), "ENODEV ee ee");
 }

@@ -1,9 +1,11 @@
 #include "SimulatorRun.h"
 
+#include <chrono>
 #include <csignal>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
+#include <thread>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -117,6 +119,14 @@ SimulatorRun::SimulatorRun(int units)
       ready_(program_.ask("variable TRX_MIXER_SIM_CONTROL")),
       control_(socket) {
   EXPECT_EQ(ready_, socket) << program_.errors();
+}
+
+void SimulatorRun::waitForRequest() {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  while (log().empty()) {
+    if (std::chrono::steady_clock::now() > end) throw std::runtime_error("no request is made");
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
 }
 
 std::vector<std::string> SimulatorRun::furtherClient() const {

@@ -63,6 +63,9 @@ class SimulatorRun {
   /// The wire log.
   std::vector<std::string> log() { return control_.ask("log"); }
 
+  /// Waits until a request stands in the wire log, at most ten seconds; throws after that.
+  void waitForRequest();
+
   /// Words that start one more client on the same desk, by way of trx-mixer-ctl.
   std::vector<std::string> furtherClient() const;
 

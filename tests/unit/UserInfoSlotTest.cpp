@@ -1,4 +1,6 @@
 // Who holds a posted dictionary, and for how long.
+#include <algorithm>
+#include <atomic>
 #include <memory>
 #include <thread>
 #include <utility>
@@ -86,6 +88,36 @@ TEST(UserInfoSlot, HoldsOneOfAllThatSeveralThreadsKeepAtOnce) {
   EXPECT_EQ(alive, 1);
 }
 
+// Only one thread keeps, and it empties the slot before it keeps again: none of its dictionaries
+// may be released, whoever is faster at emptying.
+TEST(UserInfoSlot, LeavesEveryDictionaryAliveWhenThreadsEmptyAtOnce) {
+  constexpr int kTimes = 2000;
+  UserInfoSlot &slot = NewSlot();
+  std::atomic<bool> isDone = false;
+  std::vector<std::thread> emptiers;
+  for (int i = 0; i < 2; ++i) {
+    emptiers.emplace_back([&] {
+      while (!isDone) slot.Empty();
+    });
+  }
+  std::vector<std::weak_ptr<const UserInfo>> watches;
+  for (int i = 0; i < kTimes; ++i) {
+    Dictionary dictionary = NewDictionary();
+    watches.push_back(dictionary);
+    slot.Keep(std::move(dictionary));
+    slot.Empty();
+  }
+  isDone = true;
+  for (std::thread &emptier : emptiers) emptier.join();
+  Dictionary last = NewDictionary();
+  slot.Keep(last);
+  EXPECT_EQ(last.use_count(), 2);
+  EXPECT_EQ(std::count_if(watches.begin(), watches.end(),
+                          [](const auto &watch) { return watch.expired(); }),
+            0);
+}
+
+// With two threads that keep, each may release what the other kept. Nothing is released twice.
 TEST(UserInfoSlot, StaysInOrderWhenThreadsKeepAndEmptyAtOnce) {
   constexpr int kTimes = 2000;
   UserInfoSlot &slot = NewSlot();

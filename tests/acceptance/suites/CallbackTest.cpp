@@ -155,6 +155,32 @@ TEST_F(Callbacks, EveryModelHasItsOwnNameForEveryKind) {
   }
 }
 
+// The boost level of TRX-MORROW tells here when all has arrived, and so under its own name too.
+TEST_F(Callbacks, MorrowHasItsOwnNameForTheRoutingKinds) {
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(8, ChannelIndexA, &first), 100);
+  ASSERT_EQ(ORV_RegisterOutputAudioChangedCallback(8, ChannelIndexB, &first), 100);
+  rig().Announce(ChannelChange("TRX-MORROW InputAudio Change", 8, 1, 2));
+  rig().Announce(ChannelChange("TRX-MORROW OutputAudio Change", 8, 3, 4));
+  EXPECT_EQ(DeliverAll(), (CallList{{"A first", 1, 2}, {"B first", 3, 4}}));
+}
+
+TEST_F(Callbacks, EachSetterReachesTheCallbackOfItsKindWithWhatWasSet) {
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, ChannelIndexA, &first), 100);
+  ASSERT_EQ(ORV_RegisterOutputAudioChangedCallback(11, ChannelIndexB, &second), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(ORV_RegisterMidiChannelChangedCallback(1, IndexB, &volt), 100);
+  ASSERT_EQ(ORV_SetUSBInputAudio(11, 2, 5), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"A first", 2, 5}}));
+  ASSERT_EQ(ORV_SetUSBOutputAudio(11, 1, 2), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"B second", 1, 2}}));
+  ASSERT_EQ(ORV_SetUSBOutputAudioDefault(11, 2), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"B second", 2, 2}}));
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 3), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 3}}));
+  ASSERT_EQ(ORV_SetMidiChannelIndex(1, 15), 100);
+  EXPECT_EQ(DeliverAll(), (CallList{{"B volt", -1, 15}}));
+}
+
 TEST_F(Callbacks, NamesInOtherSpellingsAreNotHeard) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(0, IndexA, &arden), 100);
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
@@ -181,6 +207,13 @@ TEST_F(Callbacks, RegisteringTwiceDeliversARoutingChangeTwice) {
   ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, ChannelIndexA, &first), 100);
   ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, ChannelIndexA, &first), 100);
   rig().Announce(ChannelChange("TRX-SELVA InputAudio Change", 11, 1, 7));
+  EXPECT_EQ(DeliverAll(), (CallList{{"A first", 1, 7}, {"A first", 1, 7}}));
+}
+
+TEST_F(Callbacks, RegisteringTwiceDeliversOneSetOfARoutingTwice) {
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, ChannelIndexA, &first), 100);
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, ChannelIndexA, &first), 100);
+  ASSERT_EQ(ORV_SetUSBInputAudio(11, 1, 7), 100);
   EXPECT_EQ(DeliverAll(), (CallList{{"A first", 1, 7}, {"A first", 1, 7}}));
 }
 

@@ -244,6 +244,18 @@ TEST_F(OutputAudio, TheDefaultWithoutAUnitIsAnnounced) {
   EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{Change(2, 2)});
 }
 
+TEST_F(OutputAudio, UnitsThatDoNotOpenStallOrAnswerShortDoNotHoldUpTheDefault) {
+  PlugMixers(3);
+  rig().SetFault(1, UnitFault::kRefusesToOpen);
+  rig().SetFault(2, UnitFault::kStalls);
+  rig().SetShortReplies(3, 1);
+  EXPECT_EQ(ORV_SetUSBOutputAudioDefault(11, 1), 100);
+  EXPECT_EQ(rig().WireLog(), (Lines{Assigned(2, "0201", "stalled"), Assigned(3, "0201"),
+                                    ReadBack(2, "stalled"), ReadBack(3, "1 byte 00")}));
+  EXPECT_EQ(LibraryListing(), Lines());
+  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{Change(1, 1)});
+}
+
 TEST_F(OutputAudio, TheUnitIsToldBeforeTheDefaultIsAnnounced) {
   ExpectUnitToldFirst([] { return ORV_SetUSBOutputAudioDefault(11, 1); },
                       Assigned(1, "0201", "no reply"));

@@ -75,7 +75,7 @@ TEST_F(ProductNames, NothingHappensElsewhere) {
   ExpectNothingHappened();
 }
 
-TEST_F(ProductNames, TheThreeModelsThatAreOnlyRecognisedAreRefusedEverywhere) {
+TEST_F(ProductNames, TheThreeModelsThatAreOnlyRecognisedHaveNoBoostLevelAndNoCallbacks) {
   rig().PlugMixer();
   for (const char *name : {"TRX-BRISK", "TRC-FENNO", "TRX-CIRRUS"}) {
     const ProductId product = Recognised(name);

@@ -2,14 +2,14 @@
 // the boost level: every family goes the same way.
 #include <chrono>
 
-#include "../Acceptance.h"
+#include "../SetterOrder.h"
 
 namespace trxtest {
 namespace {
 
 using Lines = std::vector<std::string>;
 
-class Units : public Acceptance {
+class Units : public SetterOrder {
  protected:
   // What level 0 looks like on the wire of a unit that takes it.
   static std::string Taken(int unit) { return Sent(unit, "0 bytes"); }
@@ -184,35 +184,13 @@ TEST_F(Units, OnePluggedInAfterASetLearnsTheLevelWhenItIsSentAgain) {
 }
 
 TEST_F(Units, TheUnitIsToldBeforeTheLevelIsStoredAndAnnounced) {
-  const int silent = rig().PlugMixer();
-  rig().SetFault(silent, UnitFault::kStaysSilent);
-  const auto host = rig().StartHost();
-  host->Begin("call ORV_SetBoostLevelIndex 11 0");
-  ASSERT_TRUE(WaitUntil([&] { return rig().WireLog().size() == 1; }));
-  EXPECT_EQ(LibraryListing(), Lines());
-  EXPECT_EQ(rig().TakeAnnouncements(0), std::vector<Announcement>());
-  rig().Unplug(silent);
-  EXPECT_EQ(host->Answer(), "100");
+  ExpectUnitToldFirst([] { return ORV_SetBoostLevelIndex(11, 0); }, Sent(1, "no reply"));
   EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>0</integer>"}}));
-  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 0)});
 }
 
-// A file with very many entries takes so long to write that an announcement sent before it would be
-// here long before the file is.
 TEST_F(Units, TheLevelIsStoredBeforeItIsAnnounced) {
-  std::string entries = "<key>MaxLevel</key><integer>3</integer>";
-  for (int i = 0; i < 20'000; ++i) entries += "<key>Entry" + std::to_string(i) + "</key><true/>";
-  PutSettings("TRX-SELVA", entries);
-  const auto host = rig().StartHost();
-  for (const int index : {1, 2}) {
-    host->Begin("call ORV_SetBoostLevelIndex 11 " + std::to_string(index));
-    ASSERT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, index)});
-    const auto settings = SettingsOf("TRX-SELVA");
-    ASSERT_TRUE(settings);
-    EXPECT_EQ(settings->at("MaxLevel"), "<integer>" + std::to_string(index) + "</integer>");
-    EXPECT_EQ(settings->size(), 20'001U);
-    EXPECT_EQ(host->Answer(), "100");
-  }
+  ExpectStoredBeforeAnnounced([] { return ORV_SetBoostLevelIndex(11, 1); }, "TRX-SELVA",
+                              {{"MaxLevel", "<integer>1</integer>"}});
 }
 
 }  // namespace

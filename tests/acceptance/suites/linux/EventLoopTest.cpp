@@ -1,5 +1,6 @@
 // EventLoop.h: the descriptor is readable exactly when there is something to do, and dispatching
 // delivers all of it without ever blocking.
+#include <atomic>
 #include <chrono>
 #include <thread>
 
@@ -127,14 +128,17 @@ TEST_F(EventLoop, ReadableForWhatArrivedWhileARegistrationWaitedForTheBus) {
     Calls().clear();
     rig().FreezeNotificationService();
     ASSERT_EQ(host->Ask("levels 11 3"), "100");
+    std::atomic<bool> thawed = false;
     std::thread thaw([&] {
       std::this_thread::sleep_for(milliseconds(60));
+      thawed = true;
       rig().ThawNotificationService();
     });
     EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexB, &lumen), 100);
+    EXPECT_TRUE(thawed) << "the registration did not wait for the bus";
     thaw.join();
     EXPECT_EQ(Calls(), CallList()) << "delivered inside the registration";
-    while (Calls().size() < 3 && IsReadableWithin(kAWhile)) DispatchAtOnce();
+    while (Calls().size() < 3 && IsReadableWithin(kSoon)) DispatchAtOnce();
     EXPECT_EQ(Calls(), (CallList{{"A selva", -1, 0}, {"A selva", -1, 1}, {"A selva", -1, 2}}));
   }
 }

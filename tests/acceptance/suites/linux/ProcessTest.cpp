@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include "../../Deliveries.h"
+#include "../../InstalledFiles.h"
 
 namespace trxtest {
 namespace {
@@ -161,6 +162,126 @@ TEST_F(Process, SettersOnEightThreadsReachEveryUnitTearNoFileAndAnnounceAll) {
         std::count(announcements.begin(), announcements.end(), BoostChange("TRX-SELVA", 11, index)),
         kThreads * kSets / 4 + (index == 0 ? 1 : 0));
   }
+}
+
+// A desk on which texts are installed too, and functions that threads call over and over.
+class Threads : public InstalledFiles {
+ protected:
+  static constexpr int kThreads = 8;
+  static constexpr int kRounds = 5;
+
+  static void Set() {
+    EXPECT_EQ(ORV_SetUSBInputAudio(11, 0, 3), 100);
+    EXPECT_EQ(ORV_SetUSBInputAudioDirect(11, 1, 0, 5), 100);
+    EXPECT_EQ(ORV_SetUSBOutputAudio(11, 1, 2), 100);
+    EXPECT_EQ(ORV_SetUSBOutputAudioDefault(11, 2), 100);
+    EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+    EXPECT_EQ(ORV_SetMidiChannelIndex(1, 2), 100);
+  }
+
+  static void SendAgain() {
+    EXPECT_EQ(ORV_SetCurrentUSBInputAudio(11, 0), 100);
+    EXPECT_EQ(ORV_SetCurrentUSBOutputAudio(11, 1), 100);
+    EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(11), 100);
+    EXPECT_EQ(ORV_SetCurrentMidiChannelIndex(1), 100);
+  }
+
+  // Whoever stores last may take away what another thread stored in between, so that there is
+  // either what is set here or what holds with nothing stored.
+  static void ExpectStored() {
+    std::int32_t input = -77;
+    EXPECT_EQ(ORV_GetCurrentUSBInputAudioIndex(11, 0, &input), 100);
+    EXPECT_TRUE(input == 3 || input == 0) << input;
+    std::int32_t output = -77;
+    EXPECT_EQ(ORV_GetCurrentUSBOutputAudioIndex(11, 1, &output), 100);
+    EXPECT_TRUE(output == 2 || output == 1) << output;
+    std::int32_t level = -77;
+    EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(11, &level), 100);
+    EXPECT_TRUE(level == 1 || level == 3) << level;
+    std::int32_t midi = -77;
+    EXPECT_EQ(ORV_GetCurrentMidiChannelIndex(1, &midi), 100);
+    EXPECT_EQ(midi, 2);
+  }
+
+  static void ExpectStatus() {
+    EXPECT_EQ(ORV_IsUSBConnection(11), 103);
+    std::uint32_t certify = 77;
+    EXPECT_EQ(ORV_GetMixerCertifyLevel(11, &certify), 100);
+    EXPECT_EQ(certify, 1U);
+    std::uint32_t firmware = 77;
+    EXPECT_EQ(ORV_GetFirmwareVersionIndex(11, &firmware), 100);
+    EXPECT_EQ(firmware, 0x0100U);
+    std::uint32_t selector = 77;
+    EXPECT_EQ(ORV_GetMixerInputSelectorStatus(11, 2, &selector), 100);
+    EXPECT_EQ(selector, 6U);
+    std::uint32_t serato = 77;
+    EXPECT_EQ(ORV_GetMixerSeratoActiveStatus(11, &serato), 100);
+    EXPECT_EQ(serato, 1U);
+  }
+
+  static void ExpectTexts() {
+    ORVStringRef text = nullptr;
+    EXPECT_EQ(ORV_GetPkgVersionText(11, &text), 100);
+    EXPECT_STREQ(text, "1.2.3");
+    EXPECT_EQ(ORV_GetLibraryVersionText(11, &text), 100);
+    EXPECT_STREQ(text, "4.5");
+    EXPECT_EQ(ORV_GetDriverVersionText(11, &text), 102);
+    EXPECT_EQ(ORV_GetUtilityVersionText(11, &text), 102);
+    EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(11, 0, 101, 99, &text), 100);
+    EXPECT_STREQ(text, "a warning");
+    EXPECT_EQ(ORV_GetUSBInputAudioText(11, 0, 3, 0, &text), 100);
+    EXPECT_STREQ(text, "Cross Fader A");
+    EXPECT_EQ(ORV_GetUSBOutputAudioText(11, 0, 2, 0, &text), 100);
+    EXPECT_STREQ(text, "AUX");
+    EXPECT_EQ(ORV_GetBoostLevelText(11, 3, 0, &text), 100);
+    EXPECT_STREQ(text, "-19 dB");
+  }
+
+  void InstallTexts() {
+    const std::string resources = "/Library/Frameworks/TRX-SELVASetup.framework/Resources";
+    InstallSystem("10.15");
+    Install("/private/var/db/receipts/com.orvikaudio.TRX-SELVA.pkg.plist",
+            "<key>PackageVersion</key><string>1.2.3</string>");
+    Install("/Library/Frameworks/TRX-SELVASetup.framework/Versions/A/Resources/Info.plist",
+            "<key>CFBundleVersion</key><string>4.5</string>");
+    std::string warnings;
+    for (const std::string key : {"WARNING", "WARNING1", "WARNING2", "WARNING3"}) {
+      warnings += "<key>" + key + "</key><string>a warning</string>";
+    }
+    Install(resources + "/English.lproj/Localizable.strings", warnings);
+  }
+};
+
+TEST_F(Threads, EightThatCallEverythingAtOnceGetWhatOneWouldGet) {
+  InstallTexts();
+  for (const int unit : {rig().PlugMixer(), rig().PlugMixer()}) {
+    rig().SetSelector(unit, 2, 6);
+    rig().SetSerato(unit, 1, 0);
+  }
+  Set();
+  std::vector<std::thread> threads;
+  for (int t = 0; t < kThreads; ++t) {
+    threads.emplace_back([] {
+      for (int i = 0; i < kRounds; ++i) {
+        Set();
+        SendAgain();
+        ExpectStored();
+        ExpectStatus();
+        ExpectTexts();
+      }
+    });
+  }
+  for (std::thread &thread : threads) thread.join();
+  const Lines wire = rig().WireLog();
+  const auto requestsTo = [&wire](const char *unit) {
+    return std::count_if(wire.begin(), wire.end(),
+                         [unit](const std::string &line) { return line.starts_with(unit); });
+  };
+  EXPECT_EQ(requestsTo("unit 1 "), 10 + 19 * kThreads * kRounds);
+  EXPECT_EQ(requestsTo("unit 2 "), 10 + 17 * kThreads * kRounds)
+      << "all but the firmware version and the port";
+  EXPECT_EQ(rig().TakeAnnouncements(5U + 5U * kThreads * kRounds).size(),
+            5U + 5U * kThreads * kRounds);
 }
 
 // --- fork ------------------------------------------------------------------------------------

@@ -1,0 +1,149 @@
+// Memory that runs out in the middle of a call: no exception leaves the C interface, the answer is
+// one that the call promises, and the next call finds everything in order.
+#include <cstdint>
+#include <cstdlib>
+#include <functional>
+#include <set>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <poll.h>
+
+#include <TRX-SELVASetup/EventLoop.h>
+#include <TRX-SELVASetup/TRX-SELVASetup.h>
+
+#include "FailingMemory.h"
+#include "MockBus.h"
+#include "PrivateBus.h"
+#include "TemporaryFolder.h"
+#include "USBDevice.h"
+
+namespace orv {
+namespace {
+
+using testing::Each;
+using testing::UnorderedElementsAre;
+
+// Makes the call again and again, each time with memory for one allocation more, until it needs no
+// more than it gets. Gives all answers.
+std::set<StatusCode> AnswersWhileMemoryGrows(const std::function<StatusCode()> &call) {
+  std::set<StatusCode> answers;
+  constexpr int kMostAllocations = 2000;
+  for (int allocations = 0; allocations < kMostAllocations; ++allocations) {
+    MemoryLastsFor(allocations);
+    const StatusCode answer = call();
+    const bool wasEnough = !MemoryIsBack();
+    answers.insert(answer);
+    if (wasEnough) return answers;
+  }
+  ADD_FAILURE() << "the call never had enough";
+  return answers;
+}
+
+class OutOfMemory : public testing::Test {
+ protected:
+  OutOfMemory() {
+    setenv("XDG_CONFIG_HOME", folder_.Path().c_str(), 1);
+    setenv("TRX_SYSTEM_ROOT", BUILT_SYSTEM_ROOT, 1);
+    unsetenv("DBUS_SESSION_BUS_ADDRESS");
+    unsetenv("XDG_RUNTIME_DIR");
+    usb_.PlugMixer("1-1", 1, 2);
+    usb_.PlugMixer("1-2", 1, 3);
+  }
+
+  TemporaryFolder folder_;
+  MockBus usb_;
+};
+
+TEST_F(OutOfMemory, AConnectionIsThenNotSeen) {
+  EXPECT_THAT(AnswersWhileMemoryGrows([] { return ORV_IsUSBConnection(11); }),
+              UnorderedElementsAre(103, 104));
+}
+
+TEST_F(OutOfMemory, AUnitIsThenNotOpened) {
+  const auto statuses = AnswersWhileMemoryGrows([] {
+    DeviceHandle unit = nullptr;
+    const PlatformStatus status = open_pipes(&unit, 0);
+    EXPECT_EQ(unit != nullptr, status == 0);
+    closeUSB(&unit);
+    return status;
+  });
+  EXPECT_THAT(statuses, UnorderedElementsAre(0, static_cast<PlatformStatus>(0xE00002BD)));
+}
+
+TEST_F(OutOfMemory, ASetterAnswersAsEverAndTheFileIsOldOrNew) {
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
+  const auto answers = AnswersWhileMemoryGrows([] {
+    const StatusCode answer = ORV_SetBoostLevelIndex(11, 1);
+    MemoryIsBack();
+    std::int32_t stored = -1;
+    ORV_GetCurrentBoostLevelIndex(11, &stored);
+    EXPECT_TRUE(stored == 2 || stored == 1) << stored;
+    return answer;
+  });
+  EXPECT_THAT(answers, Each(100));
+}
+
+TEST_F(OutOfMemory, AGetterGivesTheDefault) {
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
+  const auto answers = AnswersWhileMemoryGrows([] {
+    std::int32_t level = -1;
+    const StatusCode answer = ORV_GetCurrentBoostLevelIndex(11, &level);
+    EXPECT_TRUE(level == 2 || level == 3) << level;
+    return answer;
+  });
+  EXPECT_THAT(answers, Each(100));
+}
+
+TEST_F(OutOfMemory, TextsAreThenRefusedAndUntouched) {
+  for (const auto function :
+       {ORV_GetPkgVersionText, ORV_GetLibraryVersionText, ORV_GetUtilityVersionText}) {
+    const auto answers = AnswersWhileMemoryGrows([&] {
+      ORVStringRef text = nullptr;
+      const StatusCode answer = function(11, &text);
+      EXPECT_EQ(text != nullptr, answer == 100);
+      return answer;
+    });
+    EXPECT_THAT(answers, UnorderedElementsAre(100, 102));
+  }
+  EXPECT_THAT(AnswersWhileMemoryGrows([] {
+                ORVStringRef text = nullptr;
+                return ORV_GetDriverVersionText(11, &text);
+              }),
+              UnorderedElementsAre(102));
+  EXPECT_THAT(AnswersWhileMemoryGrows([] {
+                ORVStringRef text = nullptr;
+                return ORV_GetWarningTextForSetUSBAudioInput(0, 0, 101, 0, &text);
+              }),
+              UnorderedElementsAre(100, 102));
+}
+
+void Count(std::int32_t /*index*/, void *counter) { ++*static_cast<int *>(counter); }
+
+TEST_F(OutOfMemory, RegisteringAndDispatchingAnswerAsEverAndWorkAgainAfterwards) {
+  const PrivateBus bus;
+  int counter = 0;
+  EXPECT_THAT(AnswersWhileMemoryGrows(
+                  [&] { return ORV_RegisterBoostLevelChangedCallback(11, Count, &counter); }),
+              UnorderedElementsAre(100));
+  for (int allocations = 0; allocations < 20; ++allocations) {
+    ORV_SetBoostLevelIndex(11, 1);
+    MemoryLastsFor(allocations);
+    EXPECT_EQ(ORV_DispatchNotifications(), 100);
+    MemoryIsBack();
+  }
+
+  pollfd loop = {-1, POLLIN, 0};
+  ORV_GetNotificationDescriptor(&loop.fd);
+  counter = 0;
+  ORV_SetBoostLevelIndex(11, 3);
+  for (int turn = 0; counter == 0 && turn < 100; ++turn) {
+    poll(&loop, 1, 100);
+    ORV_DispatchNotifications();
+  }
+  EXPECT_GT(counter, 0);
+}
+
+}  // namespace
+}  // namespace orv
