@@ -20,6 +20,7 @@ EXAMPLES = pathlib.Path(os.environ["EXAMPLES"])
 BUILT_BY_BUILD_LINE = pathlib.Path(os.environ["BUILT_BY_BUILD_LINE"])
 BUILT_BY_CMAKE = pathlib.Path(os.environ["BUILT_BY_CMAKE"])
 TRX_MIXER_CTL = os.environ["TRX_MIXER_CTL"]
+VALGRIND = os.environ["VALGRIND"]
 PATIENCE = 20  # seconds until a test that waits gives up
 
 MENU_WITH_FIRST_STORED = """\
@@ -138,6 +139,22 @@ class HostOfTheHeader(HostTest):
 
     def test_built_with_find_package_it_sets_the_level_and_is_told(self):
         self.assert_sets_the_level_and_is_told(self.installed(BUILT_BY_CMAKE / "my-host"))
+
+
+class HostThatExits(HostTest):
+    def test_may_still_set_a_level_from_what_it_does_at_exit(self):
+        program = self.installed(BUILT_BY_BUILD_LINE / "exit-host")
+        done = self.run_host([VALGRIND, "--quiet", "--error-exitcode=9", *program])
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        self.assertEqual([line.split("->")[0].strip() for line in mixer("log").splitlines()],
+                         ["unit 1  OUT  40 03  wValue 0200  wIndex 8003  wLength 0",
+                          "unit 1  OUT  40 03  wValue 0100  wIndex 8003  wLength 0"])
+
+
+class HostThatUnloads(HostTest):
+    def test_keeps_the_texts_that_it_was_given(self):
+        done = self.run_host([str(BUILT_BY_BUILD_LINE / "unloading-host")])
+        self.assertEqual((done.returncode, done.stdout), (0, "-10 dB\n"))
 
 
 class HostInPython(HostTest):
