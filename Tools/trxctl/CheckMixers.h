@@ -1,0 +1,13 @@
+#pragma once
+
+#include <vector>
+
+#include "Check.h"
+
+namespace trxctl {
+
+/// Looks at everything from the USB bus to the answer of a mixer, in this order. What makes no
+/// sense after a problem, such as opening a mixer that is not there, is left out.
+std::vector<Check> CheckMixers();
+
+}  // namespace trxctl

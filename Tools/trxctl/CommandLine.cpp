@@ -1,0 +1,195 @@
+#include "CommandLine.h"
+
+#include <algorithm>
+#include <csignal>
+#include <exception>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Command.h"
+#include "Complete.h"
+#include "Diagnose.h"
+#include "Failure.h"
+#include "HelpFormat.h"
+#include "ModelsCommand.h"
+#include "Nearest.h"
+#include "Reapply.h"
+#include "Setting.h"
+#include "SettingCommand.h"
+#include "Show.h"
+#include "Status.h"
+#include "Text.h"
+#include "Versions.h"
+#include "Watch.h"
+
+namespace trxctl {
+namespace {
+
+constexpr char kOverview[] =
+    "Shows and changes the settings of USB DJ mixers of the TRX-SELVA family.\n"
+    "Without a command: shows the connected mixers and the settings.";
+
+constexpr char kExamples[] =
+    "Examples:\n"
+    "  trxctl                           the connected mixers and the settings\n"
+    "  trxctl boost                     the boost level and the choices\n"
+    "  trxctl boost \"-10 dB\"            set it on every connected mixer\n"
+    "  trxctl input 2 \"REC OUT\"         what the computer records on channel 2\n"
+    "  trxctl diagnose                  why a mixer is not found or cannot be opened\n"
+    "  trxctl boost --model TRX-VOLT    the boost level stored for another model\n"
+    "  trxctl watch                     print each change as it happens\n"
+    "\n"
+    "trxctl COMMAND --help tells more about a command.\n";
+
+std::string ExitCodeHelp() {
+  std::string help = "Exit codes:\n";
+  for (const ExitCodeEntry &entry : ExitCodes()) {
+    help += "  " + std::to_string(static_cast<int>(entry.code)) + "  " +
+            std::string(entry.meaning) + '\n';
+  }
+  help.pop_back();
+  return help;
+}
+
+/// The command line as the parser knows it.
+class Program {
+ public:
+  Program() : app_(kOverview, "trxctl") {
+    app_.formatter(HelpFormat::Make());
+    app_.add_option("--model", model_, "The mixer model (default: TRX-SELVA)")
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast)
+        ->type_name("NAME");
+    app_.add_flag("--json")->description("Answer in JSON, errors included");
+    app_.set_version_flag("--version", "trxctl " TRXCTL_VERSION, "Print the version and exit");
+    app_.set_help_flag("-h,--help", "Print this help and exit");
+    app_.footer(std::string(kExamples) + '\n' + ExitCodeHelp());
+    app_.require_subcommand(0, 1);
+    app_.fallthrough();
+    for (const Setting &setting : Settings()) {
+      commands_.push_back(MakeSettingCommand(app_, setting));
+    }
+    for (const auto make :
+         {MakeStatus, MakeWatch, MakeReapply, MakeDiagnose, MakeVersions, MakeModels}) {
+      commands_.push_back(make(app_));
+    }
+    for (const Command &command : commands_) command.app->group(command.hidden ? "" : "Commands");
+  }
+
+  ExitCode Run(int argc, char **argv, const Terminal &terminal) {
+    // Before the parser, which would take options among the words for its own.
+    if (argc > 1 && std::string_view(argv[1]) == kCompleteWord) {
+      Complete(app_, {argv + 2, argv + argc}, terminal);
+      return ExitCode::kDone;
+    }
+    try {
+      app_.parse(argc, argv);
+    } catch (const CLI::CallForHelp &) {
+      terminal.Print(app_.help(), {{"help", app_.help()}});
+      return ExitCode::kDone;
+    } catch (const CLI::CallForVersion &) {
+      terminal.Print("trxctl " TRXCTL_VERSION "\n",
+                     {{"name", "trxctl"}, {"version", TRXCTL_VERSION}});
+      return ExitCode::kDone;
+    } catch (const CLI::ExtrasError &) {
+      ThrowNotExpected(app_.remaining(true).front());
+    } catch (const CLI::ArgumentMismatch &error) {
+      // The options take one value, the last one given; so what does not match is that there is
+      // none.
+      const std::string message = error.what();
+      throw Failure{ExitCode::kUsage, message.substr(0, message.find(':')) + " needs a value",
+                    UsageHint()};
+    } catch (const CLI::ParseError &error) {
+      throw Failure{ExitCode::kUsage, error.what(), UsageHint()};
+    }
+    return RunChosen(terminal);
+  }
+
+ private:
+  ExitCode RunChosen(const Terminal &terminal) const {
+    const bool model_given = app_.count("--model") != 0;
+    const Session session{ModelNamed(model_), model_given, terminal};
+    const auto chosen = std::find_if(commands_.begin(), commands_.end(),
+                                     [](const Command &command) { return command.app->parsed(); });
+    if (chosen != commands_.end()) return chosen->run(session);
+    Show(session);
+    return ExitCode::kDone;
+  }
+
+  [[noreturn]] void ThrowNotExpected(const std::string &given) const {
+    const auto chosen = app_.get_subcommands();
+    if (given.starts_with('-')) {
+      ThrowUnknown("unknown option " + Quoted(given), Nearest(given, OptionNames()));
+    } else if (chosen.empty()) {
+      ThrowUnknown("unknown command " + Quoted(given), Nearest(given, CommandNames()));
+    }
+    ThrowUnknown(Quoted(given) + " is not expected after " + Quoted(chosen.front()->get_name()),
+                 std::nullopt);
+  }
+
+  [[noreturn]] void ThrowUnknown(const std::string &message,
+                                 const std::optional<std::string> &nearest) const {
+    if (!nearest) throw Failure{ExitCode::kUsage, message, UsageHint()};
+    throw Failure{ExitCode::kUsage, message, "did you mean " + *nearest + "?", {*nearest}};
+  }
+
+  std::vector<std::string> CommandNames() const {
+    std::vector<std::string> names;
+    for (const Command &command : commands_) {
+      if (!command.hidden) names.push_back(command.app->get_name());
+    }
+    return names;
+  }
+
+  /// The options that the command line may hold, given the command in it.
+  std::vector<std::string> OptionNames() const {
+    std::vector<const CLI::App *> apps{&app_};
+    for (const Command &command : commands_) {
+      if (command.app->parsed()) apps.push_back(command.app);
+    }
+    std::vector<std::string> names;
+    for (const CLI::App *app : apps) {
+      for (const CLI::Option *option : app->get_options()) {
+        for (const std::string &name : option->get_lnames()) names.push_back("--" + name);
+      }
+    }
+    return names;
+  }
+
+  std::string UsageHint() const {
+    const auto chosen = app_.get_subcommands();
+    return "see trxctl " + (chosen.empty() ? "" : chosen.front()->get_name() + ' ') + "--help";
+  }
+
+  CLI::App app_;
+  std::string model_{kDefaultModel};
+  std::vector<Command> commands_;
+};
+
+/// Whether errors are wanted in JSON, also when the command line cannot be understood.
+bool AsksForJson(int argc, char **argv) {
+  if (argc > 1 && std::string_view(argv[1]) == kCompleteWord) return false;
+  return std::any_of(argv, argv + argc,
+                     [](const char *word) { return std::string(word) == "--json"; });
+}
+
+}  // namespace
+
+int RunCommandLine(int argc, char **argv) noexcept {
+  ReserveStandardStreams();
+  // Writing to a pipe without a reader is then an error that can be told.
+  std::signal(SIGPIPE, SIG_IGN);
+  const Terminal terminal(AsksForJson(argc, argv));
+  try {
+    return static_cast<int>(Program().Run(argc, argv, terminal));
+  } catch (const Failure &failure) {
+    terminal.Print(failure);
+    return static_cast<int>(failure.code);
+  } catch (const std::exception &error) {
+    terminal.Print(
+        Failure{ExitCode::kFailed, error.what(), "this should not happen; please report it"});
+    return static_cast<int>(ExitCode::kFailed);
+  }
+}
+
+}  // namespace trxctl

@@ -1,0 +1,199 @@
+#include "Complete.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "InputLists.h"
+#include "Knob.h"
+#include "Language.h"
+#include "Text.h"
+
+namespace trxctl {
+namespace {
+
+/// Something that a word could become.
+struct Candidate {
+  std::string text;
+  std::string about;
+};
+
+/// A word without the quotes and escapes that the shell left in it; no text of ours holds any.
+std::string Unquoted(std::string word) {
+  std::erase_if(word, [](char c) { return c == '"' || c == '\'' || c == '\\'; });
+  return word;
+}
+
+std::string FirstLine(const std::string &text) { return text.substr(0, text.find('\n')); }
+
+/// What the words before the cursor say.
+class Situation {
+ public:
+  Situation(const CLI::App &program, const std::vector<std::string> &before) : program_(program) {
+    for (const std::string &word : before) Read(word);
+  }
+
+  std::vector<Candidate> Candidates(bool of_options) const {
+    if (option_ != nullptr) return ValuesOf(*option_);
+    std::vector<Candidate> candidates = PlainWords();
+    if (of_options) AddOptions(candidates);
+    return candidates;
+  }
+
+ private:
+  void Read(const std::string &word) {
+    if (option_ != nullptr) {
+      TakeValue(*option_, word);
+      option_ = nullptr;
+    } else if (const CLI::Option *option = OptionOf(word)) {
+      Take(*option, word);
+    } else if (command_ == nullptr) {
+      command_ = CommandNamed(word);
+    } else {
+      words_.push_back(word);
+    }
+  }
+
+  const CLI::App *CommandNamed(const std::string &word) const {
+    for (const CLI::App *command : program_.get_subcommands(nullptr)) {
+      if (command->get_name() == word) return command;
+    }
+    return nullptr;
+  }
+
+  const CLI::Option *OptionOf(const std::string &word) const {
+    if (!word.starts_with("--")) return nullptr;
+    const std::string name = word.substr(0, word.find('='));
+    const CLI::Option *option = program_.get_option_no_throw(name);
+    if (option == nullptr && command_ != nullptr) option = command_->get_option_no_throw(name);
+    return option;
+  }
+
+  void Take(const CLI::Option &option, const std::string &word) {
+    if (option.get_items_expected_max() == 0) return;
+    const std::size_t equals = word.find('=');
+    if (equals == std::string::npos) {
+      option_ = &option;
+    } else {
+      TakeValue(option, word.substr(equals + 1));
+    }
+  }
+
+  void TakeValue(const CLI::Option &option, const std::string &value) {
+    if (option.check_lname("model")) model_ = value;
+    raw_ = raw_ || option.check_lname("raw");
+  }
+
+  std::vector<Candidate> ValuesOf(const CLI::Option &option) const {
+    std::vector<Candidate> values;
+    if (option.check_lname("model")) {
+      for (const std::string &name : ServedModelNames()) values.push_back({name, ""});
+    } else if (option.check_lname("language")) {
+      for (const std::string &name : LanguageNames()) values.push_back({name, ""});
+    }
+    return values;
+  }
+
+  std::vector<Candidate> PlainWords() const {
+    if (command_ == nullptr) return Commands();
+    const Setting *setting = ChosenSetting();
+    const Model *model = ChosenModel();
+    if (setting == nullptr || model == nullptr) return {};
+    if (setting->has_channels && words_.empty()) return Channels(*setting, *model);
+    if (words_.size() != (setting->has_channels ? 1 : 0) || raw_) return {};
+    return Choices(*setting, *model);
+  }
+
+  std::vector<Candidate> Commands() const {
+    std::vector<Candidate> commands;
+    for (const CLI::App *command : program_.get_subcommands(nullptr)) {
+      if (command->get_group().empty()) continue;
+      commands.push_back({command->get_name(), FirstLine(command->get_description())});
+    }
+    return commands;
+  }
+
+  const Setting *ChosenSetting() const {
+    const auto found = std::find_if(Settings().begin(), Settings().end(), [this](const auto &one) {
+      return one.name == command_->get_name();
+    });
+    return found == Settings().end() ? nullptr : &*found;
+  }
+
+  const Model *ChosenModel() const {
+    const std::vector<const Model *> matching = ModelsMatching(model_);
+    return matching.size() == 1 ? matching.front() : nullptr;
+  }
+
+  std::vector<Candidate> Channels(const Setting &setting, const Model &model) const {
+    std::vector<Candidate> channels;
+    for (const Knob &knob : KnobsOf(setting, model)) {
+      channels.push_back(
+          {std::to_string(knob.channel() + 1), knob.TextOf(knob.Current()).value_or("")});
+    }
+    // Raw values reach channels, too, that have no list.
+    for (auto next = static_cast<int32_t>(channels.size());
+         raw_ && next < CountRawInputChannels(model.id); ++next) {
+      channels.push_back({std::to_string(next + 1), ""});
+    }
+    return channels;
+  }
+
+  std::vector<Candidate> Choices(const Setting &setting, const Model &model) const {
+    // A word that is no number is channel 0, which no model has.
+    int32_t channel = 0;
+    if (setting.has_channels) {
+      const std::string &word = words_.front();
+      std::from_chars(word.data(), word.data() + word.size(), channel);
+    }
+    const Knob knob(setting, model, channel - 1);
+    std::vector<Candidate> choices;
+    if (!knob.Offered() || !knob.TakesChoices()) return choices;
+    for (const std::string &text : knob.Choices()) choices.push_back({text, ""});
+    return choices;
+  }
+
+  void AddOptions(std::vector<Candidate> &candidates) const {
+    std::vector<const CLI::App *> apps{&program_};
+    if (command_ != nullptr) apps.insert(apps.begin(), command_);
+    for (const CLI::App *app : apps) {
+      for (const CLI::Option *option : app->get_options()) {
+        for (const std::string &name : option->get_lnames()) {
+          const std::string text = "--" + name;
+          const bool known =
+              std::any_of(candidates.begin(), candidates.end(),
+                          [&text](const Candidate &one) { return one.text == text; });
+          if (!known) candidates.push_back({text, FirstLine(option->get_description())});
+        }
+      }
+    }
+  }
+
+  const CLI::App &program_;
+  const CLI::App *command_ = nullptr;
+  /// The option whose value comes next.
+  const CLI::Option *option_ = nullptr;
+  std::string model_{kDefaultModel};
+  bool raw_ = false;
+  /// The words behind the command that are no options.
+  std::vector<std::string> words_;
+};
+
+}  // namespace
+
+void Complete(const CLI::App &program, std::vector<std::string> words, const Terminal &terminal) {
+  if (words.empty()) words.emplace_back();
+  std::transform(words.begin(), words.end(), words.begin(), Unquoted);
+  const std::string begun = Lower(words.back());
+  words.pop_back();
+
+  std::string text;
+  nlohmann::ordered_json json = nlohmann::ordered_json::array();
+  for (const Candidate &one : Situation(program, words).Candidates(begun.starts_with('-'))) {
+    if (!Lower(one.text).starts_with(begun)) continue;
+    text += one.text + (one.about.empty() ? "" : '\t' + one.about) + '\n';
+    json.push_back(one.text);
+  }
+  terminal.Print(text, {{"candidates", json}});
+}
+
+}  // namespace trxctl

@@ -1,0 +1,42 @@
+"""Mixers that the system keeps from an ordinary user, and what the user is told to do."""
+
+import unittest
+
+from host import HostTest
+
+RULE_HINT = ("the udev rule that comes with the library lets the user at the desk open mixers; "
+             "once it is installed, plug the mixer in again")
+BUSY_HINT = "end the program that holds the mixer, then try again"
+
+
+class Access(HostTest):
+    def keep_away(self, kind):
+        self.mixer("fault", 1, kind)
+        self.mixer("fault", 2, kind)
+
+    def assert_kept_away(self, kind, reason, hint):
+        self.keep_away(kind)
+        bus, address = min(self.place(1), self.place(2))
+        self.assert_fails(7, ["boost", "--again"],
+                          f"nothing was sent: TRX-SELVA (bus {bus}, address {address}) "
+                          f"may not be opened ({reason})", hint, unprivileged=True)
+        self.assert_nothing_sent()
+        self.assertIn(f"hint: {hint}\n", self.done(unprivileged=True).out)
+        shown = self.done("--json", unprivileged=True).json
+        self.assertEqual([(mixer["accessible"], mixer["reason"]) for mixer in shown["mixers"]],
+                         [(False, reason), (False, reason)])
+
+    def test_no_permission(self):
+        self.assert_kept_away("deny", "Permission denied", RULE_HINT)
+
+    def test_held_by_another_program(self):
+        self.assert_kept_away("hold", "Device or resource busy", BUSY_HINT)
+
+    def test_settings_are_stored_all_the_same(self):
+        self.keep_away("deny")
+        self.assertEqual(self.done("boost", "-10", "--json", unprivileged=True).json["sent_to"], 0)
+        self.assertEqual(self.stored(), {"MaxLevel": 1})
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,248 @@
+"""trxctl diagnose: every problem provoked for real."""
+
+import os
+import pathlib
+import plistlib
+import unittest
+
+from host import HostTest
+
+NOBODY = 65534
+RULE = "70-trx-selva.rules"
+RULE_FOLDERS = ["/etc/udev/rules.d", "/run/udev/rules.d", "/usr/local/lib/udev/rules.d",
+                "/usr/lib/udev/rules.d", "/lib/udev/rules.d"]
+RELOAD = "sudo udevadm control --reload && sudo udevadm trigger"
+
+
+class Diagnose(HostTest):
+    def diagnose(self, code, *words, **options):
+        """The checks by name; of several of a name the first that has a problem."""
+        result = self.run_host("diagnose", "--json", *words, **options)
+        self.assertEqual((result.code, result.err), (code, ""), result)
+        self.assertEqual((result.json["code"], result.json["ok"]), (code, code == 0))
+        checks = {}
+        for check in result.json["checks"]:
+            self.assertEqual(check["ok"], "hint" not in check)
+            if checks.setdefault(check["check"], check)["ok"]:
+                checks[check["check"]] = check
+        return checks
+
+    def assert_problem(self, check, kind, message, hint):
+        self.assertEqual((check["ok"], check["kind"]), (False, kind), check)
+        self.assertIn(message, check["message"])
+        self.assertIn(hint, check["hint"])
+
+    def as_nobody(self):
+        """Options that run trxctl as an ordinary user."""
+        self.config.chmod(0o755)
+        if os.geteuid() != 0:
+            return {}
+        return {"user": NOBODY, "group": NOBODY, "extra_groups": []}
+
+    def test_all_well(self):
+        result = self.done("diagnose")
+        names = [line.split(":")[0] for line in result.out.splitlines()]
+        self.assertEqual(names, ["ok       USB", "ok       maker", "ok       mixer",
+                                 "ok       node", "ok       access", "ok       node",
+                                 "ok       access", "ok       answer", "ok       session bus",
+                                 "ok       Preferences folder", "ok       settings files",
+                                 "ok       installation"])
+        self.assertEqual(set(self.diagnose(0)), {
+            "USB", "maker", "mixer", "node", "access", "answer", "session bus",
+            "Preferences folder", "settings files", "installation"})
+
+    def test_problem_is_a_line_with_what_to_do(self):
+        self.unplug_all()
+        result = self.run_host("diagnose")
+        self.assertEqual((result.code, result.err), (4, ""))
+        self.assertIn("problem  mixer: no mixer is connected\n"
+                      "  hint: connect a mixer by USB, switch it on, and try another cable or port\n",
+                      result.out)
+
+    def test_changes_nothing(self):
+        self.done("diagnose")
+        self.assertNotIn(" OUT ", self.mixer("log"))
+        self.assertFalse((self.config / "orvikaudio").exists())
+
+    def test_system_that_shows_no_usb(self):
+        (self.config / "sys").mkdir()
+        self.env["UMOCKDEV_DIR"] = str(self.config)
+        checks = self.diagnose(1)
+        self.assert_problem(checks["USB"], "failed", "/sys/bus/usb/devices cannot be read",
+                            "a container needs its /sys")
+        self.assertNotIn("mixer", checks)
+
+    def test_system_without_any_usb_device(self):
+        (self.config / "sys/bus/usb/devices").mkdir(parents=True)
+        self.env["UMOCKDEV_DIR"] = str(self.config)
+        self.assert_problem(self.diagnose(1)["USB"], "failed", "no USB device at all",
+                            "switched on in the firmware")
+
+    def test_no_mixer(self):
+        self.unplug_all()
+        checks = self.diagnose(4)
+        self.assert_problem(checks["mixer"], "no_mixer", "no mixer is connected", "switch it on")
+        self.assertTrue(checks["USB"]["ok"] and checks["maker"]["ok"])
+        self.assertNotIn("access", checks)
+
+    def test_other_product_of_the_maker(self):
+        self.unplug_all()
+        unit = self.mixer("plug", "4f52:0020").split()[0]
+        self.addCleanup(self.mixer, "unplug", unit)
+        self.assert_problem(self.diagnose(4)["maker"], "no_mixer", "(4f52:0020)",
+                            "connect a mixer of the TRX-SELVA family")
+
+    def test_other_product_beside_a_mixer_is_no_problem(self):
+        unit = self.mixer("plug", "4f52:0020").split()[0]
+        self.addCleanup(self.mixer, "unplug", unit)
+        self.assertIn("(4f52:0020)", self.diagnose(0)["maker"]["message"])
+
+    def test_node_missing(self):
+        bus, address = self.place(1)
+        node = pathlib.Path(os.environ["UMOCKDEV_DIR"]) / f"dev/bus/usb/{bus:03}/{address:03}"
+        aside = node.with_name("aside")
+        node.rename(aside)
+        self.addCleanup(aside.rename, node)
+        self.assert_problem(self.diagnose(7)["node"], "no_access",
+                            f"/dev/bus/usb/{bus:03}/{address:03}", "plug the mixer out and in")
+
+    def test_refused(self):
+        self.mixer("fault", 1, "refuse")
+        checks = self.diagnose(7)
+        self.assert_problem(checks["access"], "no_access", "No such device or address",
+                            "plug the mixer out and in")
+        self.assertTrue(checks["answer"]["ok"])
+
+    def test_no_permission(self):
+        self.mixer("fault", 1, "deny")
+        installed = [folder for folder in RULE_FOLDERS if os.path.exists(f"{folder}/{RULE}")]
+        check = self.diagnose(7, **self.as_nobody())["access"]
+        self.assert_problem(check, "no_access", RULE, RELOAD)
+        self.assertIn(f"is installed in {', '.join(installed)}" if installed
+                      else "is not installed", check["message"])
+
+    def test_held_by_another_program(self):
+        self.mixer("fault", 1, "hold")
+        bus, address = self.place(1)
+        self.assert_problem(self.diagnose(7, unprivileged=True)["access"], "no_access",
+                            "is held by another program",
+                            f"lsof /dev/bus/usb/{bus:03}/{address:03}")
+
+    def test_no_answer(self):
+        self.mixer("fault", 1, "stall")
+        self.assert_problem(self.diagnose(1)["answer"], "failed", "does not answer",
+                            "switch the mixer off and on again")
+
+    def test_no_session_bus(self):
+        self.env.pop("DBUS_SESSION_BUS_ADDRESS")
+        self.env["XDG_RUNTIME_DIR"] = str(self.config)
+        self.assert_problem(self.diagnose(1)["session bus"], "failed", "there is none",
+                            "dbus-run-session")
+
+    def test_folder_that_may_not_be_made(self):
+        options = self.as_nobody()
+        self.config.chmod(0o555)
+        self.assert_problem(self.diagnose(8, **options)["Preferences folder"], "not_stored",
+                            f"{self.config}: Permission denied", "make that folder writable")
+
+    def test_file_in_the_place_of_the_folder(self):
+        (self.config / "orvikaudio").write_text("a file where the folder should be")
+        self.assert_problem(self.diagnose(8)["Preferences folder"], "not_stored",
+                            "orvikaudio: Not a directory", "remove what is in its place")
+
+    def test_folder_that_is_there(self):
+        self.store({"MaxLevel": 1})
+        checks = self.diagnose(0)
+        self.assertEqual(checks["Preferences folder"]["message"],
+                         str(self.config / "orvikaudio/Preferences"))
+        self.assertEqual(checks["settings files"]["message"], "1 file in good order")
+
+    def test_broken_settings_file(self):
+        self.store({}, "TRX-LUMEN")
+        for contents in ("no property list", "<plist><array/></plist>", ""):
+            self.settings_file("TRX-LUMEN").write_text(contents)
+            self.assert_problem(self.diagnose(1)["settings files"], "failed",
+                                "TRX-LUMENautosetup.plist: is no property list", "remove it")
+        self.assertTrue(self.diagnose(0, "--model", "TRX-SELVA")["settings files"]["ok"])
+
+    def level(self):
+        """The boost level as the library answers it; 3 when nothing is stored."""
+        return self.done("boost", "--json").json["current"]["index"]
+
+    def files(self):
+        return self.diagnose(0)["settings files"]["message"]
+
+    def grow(self, size):
+        """Makes the settings file that large, to the byte, and changes nothing it says."""
+        contents = self.settings_file().read_bytes()
+        self.settings_file().write_bytes(contents + b"\n" * (size - len(contents)))
+
+    def test_large_list_that_the_library_reads(self):
+        for size in (100_000, 4 * 1024 * 1024):
+            self.store({"MaxLevel": 0})
+            self.grow(size)
+            self.assertEqual((self.level(), self.files()), (0, "1 file in good order"), size)
+
+    def test_list_that_is_too_large_for_the_library(self):
+        self.store({"MaxLevel": 0})
+        self.grow(4 * 1024 * 1024 + 1)
+        self.assertEqual(self.level(), 3)
+        self.assert_problem(self.diagnose(1)["settings files"], "failed",
+                            "is too large for settings", "remove it")
+
+    def test_binary_list_that_the_library_reads(self):
+        self.store({})
+        self.settings_file().write_bytes(plistlib.dumps({"MaxLevel": 0}, fmt=plistlib.FMT_BINARY))
+        self.assertEqual((self.level(), self.files()), (0, "1 file in good order"))
+
+    def test_binary_list_that_ends_too_early(self):
+        self.store({})
+        self.settings_file().write_text("bplist00garbage")
+        self.assertEqual(self.level(), 3)
+        self.assert_problem(self.diagnose(1)["settings files"], "failed", "is no property list",
+                            "remove it")
+
+    def test_what_was_not_looked_into_is_not_called_in_good_order(self):
+        self.store({"MaxLevel": 1}, "TRX-VOLT")
+        self.store({})
+        for contents in (b"bplist00" + b"garbage" * 10, b"garbage" * 10_000,
+                         plistlib.dumps({"MaxLevel": 3})):
+            self.settings_file().write_bytes(contents)
+            self.assertEqual(self.files(),
+                             "1 file in good order, 1 file without effect on any setting")
+
+    def test_settings_without_a_configuration_variable(self):
+        self.env.pop("XDG_CONFIG_HOME")
+        self.env["HOME"] = str(self.config)
+        self.config /= ".config"
+        self.store({"MaxLevel": 1})
+        checks = self.diagnose(0)
+        self.assertEqual(checks["settings files"]["message"], "1 file in good order")
+        self.assertEqual(checks["Preferences folder"]["message"],
+                         str(self.config / "orvikaudio/Preferences"))
+
+    def test_settings_file_that_may_not_be_read(self):
+        self.store({})
+        for folder in (self.config / "orvikaudio", self.config / "orvikaudio/Preferences"):
+            folder.chmod(0o777)
+        self.settings_file().chmod(0)
+        self.assert_problem(self.diagnose(1, **self.as_nobody())["settings files"], "failed",
+                            "cannot be read: Permission denied", "readable for this user")
+
+    def test_folder_in_the_place_of_a_settings_file(self):
+        self.settings_file().mkdir(parents=True)
+        self.assert_problem(self.diagnose(1)["settings files"], "failed", "is no file", "remove it")
+
+    def test_nothing_installed(self):
+        self.env["TRX_SYSTEM_ROOT"] = str(self.config)
+        self.assert_problem(self.diagnose(1)["installation"], "failed",
+                            "the version of the library are missing", "TRX_SYSTEM_ROOT")
+
+    def test_the_first_problem_decides(self):
+        self.unplug_all()
+        self.env["TRX_SYSTEM_ROOT"] = str(self.config)
+        self.assertFalse(self.diagnose(4)["installation"]["ok"])
+
+
+if __name__ == "__main__":
+    unittest.main()

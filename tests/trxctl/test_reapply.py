@@ -1,0 +1,87 @@
+"""trxctl reapply: everything that is stored, sent once more."""
+
+import unittest
+
+from host import HostTest
+
+VOLT = ["--model", "TRX-VOLT"]
+
+
+class Reapply(HostTest):
+    def test_sends_everything_stored(self):
+        self.store({"Output0": 2, "Output1": 7, "Output2": 1, "Input0": 2, "Input1": 0, "Input2": 1,
+                    "MaxLevel": 1})
+        self.assertEqual(self.done("reapply").out,
+                         "TRX-SELVA settings sent again\n"
+                         "  input audio channel 1: Post CH1 Fader\n"
+                         "  input audio channel 2: REC OUT\n"
+                         "  input audio channel 3: Post CH1 Fader\n"
+                         "  output audio channel 1: AUX\n"
+                         "  output audio channel 2: CH1\n"
+                         "  output audio channel 3: CH2\n"
+                         "  boost level: -10 dB\n"
+                         "Sent to 2 of 2 connected mixers.\n")
+        for request, values in (("mixer output", ["0106", "020a", "0311"]),
+                                ("mixer input", ["0104", "0200", "0301"]),
+                                ("USB output level", ["0200"])):
+            self.assertEqual(self.sent(request),
+                             [(unit, value) for unit in (1, 2) for value in values])
+
+    def test_sends_the_defaults_when_nothing_is_stored(self):
+        self.done("reapply")
+        self.assertEqual(self.levels_sent(), [(1, "0000"), (2, "0000")])
+        self.assertIsNone(self.stored())
+
+    def test_says_what_could_not_be_sent_and_why(self):
+        self.store({"Output1": 9, "MaxLevel": 1})
+        result = self.run_host("reapply")
+        self.assertEqual((result.code, result.err), (3, ""))
+        self.assertTrue(result.out.endswith(
+            "  boost level: -10 dB\nSent to 2 of 2 connected mixers.\nNot sent:\n"
+            "  input audio channel 2: the stored number 9 is no input audio choice\n"), result)
+        self.assertEqual(self.sent("mixer output"),
+                         [(1, "0103"), (1, "030a"), (2, "0103"), (2, "030a")])
+
+    def test_json(self):
+        self.store({"Input1": 5})
+        result = self.run_host("reapply", "--json")
+        self.assertEqual((result.code, result.err), (3, ""))
+        self.assertEqual(list(result.json),
+                         ["model", "sent", "not_sent", "connected", "sent_to", "mixers"])
+        self.assertEqual(len(result.json["sent"]), 6)
+        self.assertEqual(result.json["sent"][0], {"setting": "input", "channel": 1, "index": 0,
+                                                  "text": "CH1 Control Tone PHONO"})
+        self.assertEqual(result.json["not_sent"], [
+            {"setting": "output", "channel": 2, "index": 5, "text": None,
+             "reason": "the stored number 5 is no output audio choice"}])
+
+    def test_midi_channel_that_cannot_be_sent_again(self):
+        self.store({"MidiChannel": 9}, "TRX-VOLT")
+        result = self.run_host("reapply", *VOLT)
+        self.assertEqual(result.code, 3)
+        self.assertIn("  MIDI channel: the stored MIDI channel is CH 10; only CH 1 to CH 4 can be "
+                      "sent again\n", result.out)
+
+    def test_lists_that_can_only_be_read_are_no_failure(self):
+        self.store({"MidiChannel": 2}, "TRX-VOLT")
+        result = self.done("reapply", "--json", *VOLT).json
+        self.assertEqual([one["setting"] for one in result["sent"]], ["boost", "midi"])
+        self.assertEqual([one["reason"] for one in result["not_sent"]],
+                         ["TRX-VOLT takes no choice from the list"] * 3)
+        for model in ("TRX-Arden", "TRX-HALDEN", "TRX-LUMEN", "TRX-MORROW"):
+            sent = self.done("reapply", "--json", "--model", model).json["sent"]
+            self.assertEqual([one["setting"] for one in sent], ["boost"], model)
+
+    def test_without_a_mixer(self):
+        self.unplug_all()
+        self.assert_fails(4, ["reapply"], "no mixer is connected, so nothing was sent",
+                          "connect a mixer and switch it on, then try again")
+
+    def test_without_access(self):
+        for unit in (1, 2):
+            self.mixer("fault", unit, "refuse")
+        self.assertEqual(self.run_host("reapply", "--json").json["error"]["kind"], "no_access")
+
+
+if __name__ == "__main__":
+    unittest.main()
