@@ -1,0 +1,47 @@
+# shellcheck shell=bash disable=SC2034
+# What the other scripts share: the Debian packages that the project needs, their installation, and the build.
+
+build_packages=(
+  cmake g++ ninja-build pkg-config
+  libplist-dev libsystemd-dev
+  libcli11-dev nlohmann-json3-dev
+  libumockdev-dev umockdev libglib2.0-dev
+  dbus-daemon
+)
+
+test_packages=(
+  libgtest-dev libgmock-dev
+  clang python3 dbus-bin doxygen valgrind locales binutils util-linux procps
+  libglib2.0-bin mandoc zsh fish
+)
+
+lint_packages=(
+  clang-format clang-tidy cppcheck shellcheck
+)
+
+# Installs those of the named packages that are missing; does nothing, and needs no network and no rights, when none is.
+install_missing() {
+  local missing=() package
+  for package in "$@"; do
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || {
+      echo "These packages are missing, and installing them needs root or sudo: ${missing[*]}" >&2
+      return 1
+    }
+    as_root=(sudo)
+  fi
+  echo "Installing ${missing[*]}"
+  "${as_root[@]}" apt-get update -qq
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# Configures a preset, with or without the tests (ON or OFF), and builds it.
+build_preset() {
+  cmake --preset "$1" -DBUILD_TESTING="$2" --log-level=WARNING >/dev/null
+  cmake --build --preset "$1"
+}
