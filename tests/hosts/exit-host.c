@@ -1,4 +1,5 @@
-/* Sets one level while it runs and another one while it exits, when the connections of its threads are gone already. */
+/* Sets one level while it runs and another one while it exits, when the connections of its threads
+ * are gone already. */
 #include <stdlib.h>
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
