@@ -112,13 +112,13 @@ bool Receiver::Observes(const std::string &name) const {
 // Sees to it, however a turn of the receiver ends, that the host is woken for what is left.
 class Receiver::Turn {
  public:
-  explicit Turn(Receiver &receiver) : receiver_(receiver) {}
+  explicit Turn(Receiver &owner) : owner_(owner) {}
   Turn(const Turn &) = delete;
   Turn &operator=(const Turn &) = delete;
-  ~Turn() { receiver_.WatchEverything(); }
+  ~Turn() { owner_.WatchEverything(); }
 
  private:
-  Receiver &receiver_;
+  Receiver &owner_;
 };
 
 void Receiver::Add(const std::string &name, NotificationHandler handler) {
