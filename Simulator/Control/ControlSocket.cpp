@@ -70,6 +70,12 @@ ControlSocket::~ControlSocket() {
   if (!ownFolder_.empty()) rmdir(ownFolder_.c_str());
 }
 
+Descriptor ControlSocket::listener() const {
+  Descriptor copy(fcntl(listener_.get(), F_DUPFD_CLOEXEC, 0));
+  if (!copy) fail(path_);
+  return copy;
+}
+
 ControlSocket ControlSocket::at(const std::string &path) {
   return ControlSocket(std::filesystem::absolute(path), {}, false);
 }

@@ -33,8 +33,9 @@ class ControlSocket {
   /// True when it is neither at a place that was asked for nor at the default one.
   bool isPrivate() const { return isPrivate_; }
 
-  /// Hands the listening socket to a server.
-  Descriptor takeListener() { return std::move(listener_); }
+  /// The listening socket for a server, a descriptor of its own. This one stays open as well: until
+  /// the file is gone, nobody may take it for a dead simulator's.
+  Descriptor listener() const;
 
  private:
   ControlSocket(std::string path, std::string ownFolder, bool isPrivate);

@@ -117,7 +117,7 @@ int simulate(const Options &options) {
   for (int unit = 0; unit < options.units; ++unit) desk.plugMixer();
   const trxsim::Environment additions = simulatedEnvironment(frontEnd.rootFolder(), control.path());
   trxsim::CommandInterpreter interpreter(desk, additions);
-  const trxsim::ControlServer server(control.takeListener(), interpreter);
+  const trxsim::ControlServer server(control.listener(), interpreter);
   return trxsim::runCommand(options.command, trxsim::environmentWith(additions));
 }
 

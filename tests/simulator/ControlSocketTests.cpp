@@ -44,7 +44,7 @@ class ControlProtocol : public testing::Test {
   Desk desk{frontEnd};
   CommandInterpreter interpreter{desk, {"ONE=1"}};
   ControlSocket controlSocket = ControlSocket::at(path);
-  ControlServer server{controlSocket.takeListener(), interpreter};
+  ControlServer server{controlSocket.listener(), interpreter};
 };
 
 TEST_F(ControlProtocol, AnswersLinesThenOk) {
@@ -143,6 +143,14 @@ TEST(ControlSocketFile, OfADeadSimulatorIsTakenOver) {
   ASSERT_TRUE(std::filesystem::exists(path));
   const ControlSocket controlSocket = ControlSocket::at(path);
   EXPECT_TRUE(connectUnixSocket(path));
+}
+
+TEST(ControlSocketFile, OfASimulatorThatIsEndingIsNotTakenOver) {
+  const TemporaryFolder folder;
+  const std::string path = folder / "control.sock";
+  const ControlSocket ending = ControlSocket::at(path);
+  { const Descriptor ofTheServer = ending.listener(); }
+  EXPECT_THROW(ControlSocket::at(path), ControlSocketError);
 }
 
 TEST(ControlSocketFile, GoesAwayAtTheEnd) {
