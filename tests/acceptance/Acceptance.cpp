@@ -83,15 +83,26 @@ void Acceptance::PutSettings(const std::string &modelDisplayName, const std::str
   PutSettingsFile(modelDisplayName, kBeforeEntries + entries + kBehindEntries);
 }
 
-std::vector<std::string> Acceptance::LibraryListing() {
+std::vector<std::string> Acceptance::ListLibrary() {
   const fs::path folder = rig().LibraryFolder();
   if (!fs::exists(folder)) return {};
-  std::vector<std::string> names = {folder.filename()};
+  if (fs::is_empty(folder)) return {"./"};
+  std::vector<std::string> names;
   for (const fs::directory_entry &entry : fs::recursive_directory_iterator(folder)) {
-    names.push_back(fs::relative(entry.path(), folder.parent_path()));
+    const std::string name = fs::relative(entry.path(), folder);
+    if (!entry.is_directory()) names.push_back(name);
+    if (entry.is_directory() && fs::is_empty(entry.path())) names.push_back(name + '/');
   }
   std::sort(names.begin(), names.end());
   return names;
+}
+
+std::vector<std::string> Acceptance::LibraryListing() {
+  const std::vector<std::string> now = ListLibrary();
+  std::vector<std::string> added;
+  std::set_difference(now.begin(), now.end(), libraryAtStart_.begin(), libraryAtStart_.end(),
+                      std::back_inserter(added));
+  return added;
 }
 
 void Acceptance::ExpectNothingHappened() {

@@ -15,6 +15,7 @@
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
 #include "Rig.h"
+#include "Texts.h"
 
 namespace trxtest {
 
@@ -41,7 +42,9 @@ class Acceptance : public testing::Test {
   /// Puts a settings file with these entries, each "<key>K</key>" followed by its value.
   void PutSettings(const std::string &modelDisplayName, const std::string &entries);
 
-  /// All files and folders below the user's Library folder, the folder itself included.
+  /// All files and empty folders below the user's Library folder, relative to it, but for those
+  /// that were there at the start. A folder ends with a slash; the empty Library folder itself is
+  /// "./".
   std::vector<std::string> LibraryListing();
 
   /// Expects that no request reached a unit, no file was made and nothing was announced. Only for
@@ -52,7 +55,10 @@ class Acceptance : public testing::Test {
   bool RunEventLoopUntil(const std::function<bool()> &isDone);
 
  private:
+  std::vector<std::string> ListLibrary();
+
   std::unique_ptr<Rig> rig_ = MakeRig();
+  std::vector<std::string> libraryAtStart_ = ListLibrary();
 };
 
 /// Waits until `isDone`, at most ten seconds. Returns whether it is done.

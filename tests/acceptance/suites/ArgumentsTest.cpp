@@ -55,7 +55,7 @@ const Accepted kNobody = {};
 // A result before the call.
 constexpr std::int32_t kBefore = -1234567;
 constexpr std::uint32_t kBeforeUnsigned = 0xFEDC1234;
-const char *const kBeforeText = "untouched";
+const ORVStringRef kBeforeText = TextOf("untouched");
 
 // Compares many outcomes and tells of the first few that differ.
 class Sweep {
@@ -444,7 +444,7 @@ TEST_F(Arguments, VersionTextsTakeSelvaOrSixModelsWhenAllIsInstalled) {
   // All hold the same text, so that all hand out the same place.
   ORVStringRef one = nullptr;
   ASSERT_EQ(ORV_GetPkgVersionText(11, &one), 100);
-  ASSERT_STREQ(one, "1");
+  ASSERT_EQ(CharactersOf(one), "1");
   SweepProducts("PkgVersionText", ORV_GetPkgVersionText, kSelva, kBeforeText, one, kBeforeText);
   SweepProducts("DriverVersionText", ORV_GetDriverVersionText, kAllSix, kBeforeText, one,
                 kBeforeText);

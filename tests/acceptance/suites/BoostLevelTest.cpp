@@ -36,7 +36,7 @@ TEST_F(BoostLevel, TextsRunFromTheLoudestToTheQuietestForEveryServedModel) {
       for (std::uint32_t index = 0; index < 4; ++index) {
         ORVStringRef text = nullptr;
         ASSERT_EQ(ORV_GetBoostLevelText(product, index, reserved, &text), 100);
-        texts.emplace_back(text);
+        texts.push_back(CharactersOf(text));
       }
       EXPECT_EQ(texts, (Lines{"-5 dB", "-10 dB", "-15 dB", "-19 dB"})) << product << reserved;
     }
@@ -48,9 +48,9 @@ TEST_F(BoostLevel, TextIsRefusedForOtherModelsOtherIndexesAndANullResult) {
     std::vector<std::uint32_t> indexes = kIndexesOutOfRange;
     if (!IsServed(product)) indexes.insert(indexes.end(), {0, 1, 2, 3});
     for (const std::uint32_t index : indexes) {
-      ORVStringRef text = "untouched";
+      ORVStringRef text = TextOf("untouched");
       EXPECT_EQ(ORV_GetBoostLevelText(product, index, 0, &text), 102) << product << ' ' << index;
-      EXPECT_STREQ(text, "untouched") << product << ' ' << index;
+      EXPECT_EQ(CharactersOf(text), "untouched") << product << ' ' << index;
     }
     EXPECT_EQ(ORV_GetBoostLevelText(product, 0, 0, nullptr), 102) << product;
     EXPECT_EQ(ORV_GetBoostLevelText(product, 4, 0, nullptr), 102) << product;
@@ -64,7 +64,7 @@ TEST_F(BoostLevel, ATextOnceHandedOutStaysTheSame) {
   ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
   ASSERT_EQ(ORV_GetBoostLevelText(0, 1, 9, &again), 100);
   EXPECT_EQ(first, again);
-  EXPECT_STREQ(first, "-10 dB");
+  EXPECT_EQ(CharactersOf(first), "-10 dB");
 }
 
 TEST_F(BoostLevel, SettingIsRefusedForOtherModelsAndIndexesAndNothingIsDone) {
@@ -125,14 +125,12 @@ TEST_F(BoostLevel, EveryModelReachesTheSameUnitAndHasAFileAndAnAnnouncementOfIts
               std::vector{BoostChange(name, static_cast<std::int32_t>(product), 1)});
     rig().ClearWireLog();
   }
-  EXPECT_EQ(LibraryListing(),
-            (Lines{"orvikaudio", "orvikaudio/Preferences",
-                   "orvikaudio/Preferences/com.orvikaudio.TRX-Ardenautosetup.plist",
-                   "orvikaudio/Preferences/com.orvikaudio.TRX-HALDENautosetup.plist",
-                   "orvikaudio/Preferences/com.orvikaudio.TRX-LUMENautosetup.plist",
-                   "orvikaudio/Preferences/com.orvikaudio.TRX-MORROWautosetup.plist",
-                   "orvikaudio/Preferences/com.orvikaudio.TRX-SELVAautosetup.plist",
-                   "orvikaudio/Preferences/com.orvikaudio.TRX-VOLTautosetup.plist"}));
+  EXPECT_EQ(LibraryListing(), (Lines{"Preferences/com.orvikaudio.TRX-Ardenautosetup.plist",
+                                     "Preferences/com.orvikaudio.TRX-HALDENautosetup.plist",
+                                     "Preferences/com.orvikaudio.TRX-LUMENautosetup.plist",
+                                     "Preferences/com.orvikaudio.TRX-MORROWautosetup.plist",
+                                     "Preferences/com.orvikaudio.TRX-SELVAautosetup.plist",
+                                     "Preferences/com.orvikaudio.TRX-VOLTautosetup.plist"}));
 }
 
 TEST_F(BoostLevel, WithoutAUnitTheLevelIsStoredAndAnnouncedAllTheSame) {

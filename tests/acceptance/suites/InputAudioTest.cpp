@@ -47,7 +47,7 @@ class InputAudio : public SetterOrder {
       Lines &row = rows.emplace_back();
       for (std::uint32_t index = 0;
            ORV_GetUSBInputAudioText(product, channel, index, 0, &text) == 100; ++index) {
-        row.emplace_back(text);
+        row.push_back(CharactersOf(text));
       }
     }
     return rows;
@@ -146,7 +146,7 @@ TEST_F(InputAudio, TheReservedArgumentNeverChangesTheTextAndATextStaysTheSame) {
     EXPECT_EQ(ORV_GetUSBInputAudioText(11, 1, 6, reserved, &again), 100);
     EXPECT_EQ(first, again);
   }
-  EXPECT_STREQ(first, "AUX");
+  EXPECT_EQ(CharactersOf(first), "AUX");
 }
 
 // --- Choosing --------------------------------------------------------------------------------

@@ -20,7 +20,7 @@ constexpr const char *kEarlierFramework = "/System/Library/Frameworks/TRX-SELVAS
 const Lines kFolders = {"English", "Japanese", "French", "German", "Italian", "Dutch",
                         "Spanish", "ru",       "pt",     "zh_CN",  "zh_TW",   "ko"};
 
-const char *const kUntouched = "untouched";
+const ORVStringRef kUntouched = TextOf("untouched");
 
 class InputRoutingWarning : public InstalledFiles {
  protected:
@@ -56,7 +56,7 @@ class InputRoutingWarning : public InstalledFiles {
     ORVStringRef text = kUntouched;
     const StatusCode answer =
         ORV_GetWarningTextForSetUSBAudioInput(product, channel, status, language, &text);
-    if (answer == 100) return text != nullptr ? text : "(null)";
+    if (answer == 100) return CharactersOf(text);
     return std::to_string(answer) + (text == kUntouched ? "" : " and touched");
   }
 
@@ -278,7 +278,7 @@ TEST_F(InputRoutingWarning, ATextHandedOutStaysUnchangedWhenTheFileChanges) {
   EXPECT_EQ(Warning(0, 0, 3), "neu");
   Uninstall(kLaterFramework);
   EXPECT_EQ(Warning(0, 0, 3), "(null)");
-  EXPECT_STREQ(first, "German WARNING");
+  EXPECT_EQ(CharactersOf(first), "German WARNING");
 }
 
 TEST_F(InputRoutingWarning, FollowsAnInputRoutingThatAnswered101) {

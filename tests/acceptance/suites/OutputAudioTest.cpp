@@ -63,7 +63,7 @@ TEST_F(OutputAudio, TextsAreTheSameOnEveryChannelAndAFourthGivesTheFirstAgain) {
       for (const std::uint32_t index : {0U, 1U, 2U, 3U}) {
         ORVStringRef text = nullptr;
         ASSERT_EQ(ORV_GetUSBOutputAudioText(11, channel, index, reserved, &text), 100);
-        texts.emplace_back(text);
+        texts.push_back(CharactersOf(text));
       }
       EXPECT_EQ(texts, (Lines{"CH1", "CH2", "AUX", "CH1"})) << channel;
     }
@@ -71,13 +71,13 @@ TEST_F(OutputAudio, TextsAreTheSameOnEveryChannelAndAFourthGivesTheFirstAgain) {
 }
 
 TEST_F(OutputAudio, TextsEndAtTheThirdChannelAndTheFourthIndex) {
-  ORVStringRef text = "untouched";
+  ORVStringRef text = TextOf("untouched");
   EXPECT_EQ(ORV_GetUSBOutputAudioText(11, 2, 4, 0, &text), 102);
   EXPECT_EQ(ORV_GetUSBOutputAudioText(11, 3, 0, 0, &text), 102);
   EXPECT_EQ(ORV_GetUSBOutputAudioText(11, 4, 0, 0, &text), 102);
   EXPECT_EQ(ORV_GetUSBOutputAudioText(11, -1, 3, 0, &text), 102);
   EXPECT_EQ(ORV_GetUSBOutputAudioText(8, 0, 0, 0, &text), 102);
-  EXPECT_STREQ(text, "untouched");
+  EXPECT_EQ(CharactersOf(text), "untouched");
 }
 
 // --- Assigning -------------------------------------------------------------------------------

@@ -14,7 +14,7 @@ constexpr ProductId kUntouched = 4711;
 
 ProductId Recognised(const std::string &name) {
   ProductId product = kUntouched;
-  const StatusCode status = ORV_GetProductId(name.c_str(), &product);
+  const StatusCode status = ORV_GetProductId(TextOf(name), &product);
   EXPECT_EQ(status, product == kUntouched ? 102 : 100) << name;
   return product;
 }
@@ -64,7 +64,7 @@ TEST_F(ProductNames, NullPointersAreRefused) {
   ProductId product = kUntouched;
   EXPECT_EQ(ORV_GetProductId(nullptr, &product), 102);
   EXPECT_EQ(product, kUntouched);
-  EXPECT_EQ(ORV_GetProductId("TRX-SELVA", nullptr), 102);
+  EXPECT_EQ(ORV_GetProductId(TextOf("TRX-SELVA"), nullptr), 102);
   EXPECT_EQ(ORV_GetProductId(nullptr, nullptr), 102);
 }
 

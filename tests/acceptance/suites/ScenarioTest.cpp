@@ -21,7 +21,7 @@ TEST_F(Scenario, AHostFindsItsMixersSetsThemHearsOfItAndSendsTheLevelAgain) {
   rig().SetFault(rig().PlugMixer(), UnitFault::kRefusesToOpen);
 
   ProductId product = 0;
-  ASSERT_EQ(ORV_GetProductId("Orvik Trx-Selva", &product), 100);
+  ASSERT_EQ(ORV_GetProductId(TextOf("Orvik Trx-Selva"), &product), 100);
   ASSERT_EQ(product, 11U);
   EXPECT_EQ(ORV_IsUSBConnection(product), 103);
   EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexA, &selva), 100);

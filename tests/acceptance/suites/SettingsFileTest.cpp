@@ -13,8 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 using Lines = std::vector<std::string>;
 
-const Lines kOnlyTheSelvaFile = {"orvikaudio", "orvikaudio/Preferences",
-                                 "orvikaudio/Preferences/com.orvikaudio.TRX-SELVAautosetup.plist"};
+const Lines kOnlyTheSelvaFile = {"Preferences/com.orvikaudio.TRX-SELVAautosetup.plist"};
 
 class SettingsFile : public Acceptance {
  protected:
@@ -181,18 +180,17 @@ TEST_F(SettingsFile, AFolderInItsPlaceIsLeftAndTheSetterSucceeds) {
   EXPECT_EQ(CurrentLevel(), 3);
   EXPECT_EQ(rig().WireLog().size(), 1U);
   EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 1)});
-  Lines expected = kOnlyTheSelvaFile;
-  expected.push_back(kOnlyTheSelvaFile.back() + "/inside");
-  EXPECT_EQ(LibraryListing(), expected);
+  EXPECT_EQ(LibraryListing(), Lines{kOnlyTheSelvaFile.back() + "/inside/"});
 }
 
 TEST_F(SettingsFile, AFileInTheFoldersPlaceIsLeftAndTheSetterSucceeds) {
+  fs::remove(rig().LibraryFolder() + "/Preferences");
   fs::create_directories(rig().LibraryFolder());
   std::ofstream(rig().LibraryFolder() + "/Preferences") << "in the way";
   EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
   EXPECT_EQ(CurrentLevel(), 3);
   EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 1)});
-  EXPECT_EQ(LibraryListing(), (Lines{"orvikaudio", "orvikaudio/Preferences"}));
+  EXPECT_EQ(LibraryListing(), Lines{"Preferences"});
 }
 
 TEST_F(SettingsFile, WithoutSpaceTheOldOneStaysAndNothingIsLeftBesideIt) {

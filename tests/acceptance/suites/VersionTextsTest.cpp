@@ -26,11 +26,11 @@ class VersionTexts : public InstalledFiles {
  protected:
   // What a query answers; "102" when it refuses and leaves its result alone.
   static std::string Ask(Query query, ProductId product) {
-    static const char *const kUntouched = "untouched";
-    ORVStringRef text = kUntouched;
+    const ORVStringRef untouched = TextOf("untouched");
+    ORVStringRef text = untouched;
     const StatusCode status = query(product, &text);
-    if (status == 100) return text;
-    return std::to_string(status) + (text == kUntouched ? "" : " and touched");
+    if (status == 100) return CharactersOf(text);
+    return std::to_string(status) + (text == untouched ? "" : " and touched");
   }
 
   static std::string Library() { return Ask(ORV_GetLibraryVersionText, 11); }
@@ -324,7 +324,9 @@ TEST_F(VersionTexts, ATextHandedOutStaysUnchangedWhenTheFileChangesOrGoes) {
   }
   Uninstall(kReceipt);
   EXPECT_EQ(Ask(ORV_GetPkgVersionText, 11), "102");
-  EXPECT_EQ(Lines(texts.begin(), texts.end()), expected);
+  Lines characters;
+  for (const ORVStringRef text : texts) characters.push_back(CharactersOf(text));
+  EXPECT_EQ(characters, expected);
 }
 
 TEST_F(VersionTexts, TheSameTextIsHandedOutAtTheSamePlaceWhereverItWasRead) {
@@ -342,8 +344,8 @@ TEST_F(VersionTexts, TheSameTextIsHandedOutAtTheSamePlaceWhereverItWasRead) {
   EXPECT_EQ(again, first);
   ASSERT_EQ(ORV_GetUtilityVersionText(11, &again), 100);
   EXPECT_EQ(again, first);
-  EXPECT_STREQ(first, "5.6.7");
-  EXPECT_STREQ(other, "8");
+  EXPECT_EQ(CharactersOf(first), "5.6.7");
+  EXPECT_EQ(CharactersOf(other), "8");
 }
 
 TEST_F(VersionTexts, AskingForVersionsLeavesUnitsAndSettingsAlone) {

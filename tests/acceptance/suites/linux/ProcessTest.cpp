@@ -149,7 +149,7 @@ TEST_F(Process, SettersOnEightThreadsReachEveryUnitTearNoFileAndAnnounceAll) {
   }
   for (std::thread &thread : threads) thread.join();
   EXPECT_GT(looks, 0);
-  EXPECT_EQ(LibraryListing().size(), 3U) << "temporary files are left";
+  EXPECT_EQ(LibraryListing().size(), 1U) << "temporary files are left";
   const Lines wire = rig().WireLog();
   EXPECT_EQ(wire.size(), 2U + 2U * 2U * kThreads * kSets);
   EXPECT_EQ(std::count_if(wire.begin(), wire.end(),
