@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "../Model/Descriptors.h"
+
 namespace trxsim {
 
 namespace {
@@ -11,38 +13,8 @@ constexpr const char *kHubPath = "/sys/devices/pci0000:00/0000:00:14.0/usb1";
 constexpr int kUsbDeviceMajor = 189;
 constexpr int kDevicesPerBus = 128;
 
-/// Class, subclass and protocol with the driver that the kernel binds.
-struct InterfaceKind {
-  std::uint8_t classCode;
-  std::uint8_t subclass;
-  std::uint8_t protocol;
-  const char *driver;  // null: no driver takes it
-};
-
-/// What differs between the kinds of device on the desk.
-struct DeviceKind {
-  std::uint16_t release;  // bcdDevice
-  std::uint16_t version;  // bcdUSB
-  std::uint8_t classCode;
-  std::uint8_t protocol;
-  const char *speed;
-  int ports;
-  std::vector<InterfaceKind> interfaces;
-};
-
 const DeviceKind &kindOf(const UsbDevice &device) {
-  static const DeviceKind hub{0x0601, 0x0200, 9, 1, "480", 16, {{9, 0, 0, "hub"}}};
-  static const DeviceKind mixer{
-      0x0100,
-      0x0200,
-      0,
-      0,
-      "480",
-      0,
-      {{1, 1, 0, "snd-usb-audio"}, {1, 2, 0, "snd-usb-audio"}, {1, 3, 0, "snd-usb-audio"}}};
-  static const DeviceKind stranger{0x0100, 0x0200, 0, 0, "480", 0, {{0xFF, 0, 0, nullptr}}};
-  if (device.isRootHub()) return hub;
-  return device.identity.isMixer ? mixer : stranger;
+  return device.isRootHub() ? rootHubKind() : kindOf(device.identity);
 }
 
 template <typename... Values>
@@ -88,10 +60,6 @@ std::string interfaceUevent(const UsbDevice &device, const InterfaceKind &kind, 
          "\nTYPE=" + typeText(kindOf(device)) +
          format("\nINTERFACE=%d/%d/%d\nMODALIAS=", kind.classCode, kind.subclass, kind.protocol) +
          interfaceAlias(device, kind, number) + '\n';
-}
-
-void append(std::string &bytes, std::initializer_list<int> values) {
-  for (const int value : values) bytes += static_cast<char>(value & 0xFF);
 }
 
 int low(int value) { return value & 0xFF; }
@@ -176,22 +144,10 @@ std::vector<UsbInterface> UsbDevice::interfaces() const {
 }
 
 std::string UsbDevice::descriptors() const {
-  const DeviceKind &kind = kindOf(*this);
-  const int interfaceCount = static_cast<int>(kind.interfaces.size());
-  const int total = 9 + 9 * interfaceCount;
-  std::string bytes;
-  append(bytes, {18, 1, low(kind.version), high(kind.version), kind.classCode, 0, kind.protocol, 64,
-                 low(identity.vendor), high(identity.vendor), low(identity.product),
-                 high(identity.product), low(kind.release), high(kind.release),
-                 identity.manufacturer.empty() ? 0 : 1, identity.productName.empty() ? 0 : 2,
-                 identity.serial.empty() ? 0 : 3, 1});
-  append(bytes, {9, 2, low(total), high(total), interfaceCount, 1, 0, 0xC0, 0});
-  int number = 0;
-  for (const InterfaceKind &interface : kind.interfaces) {
-    append(bytes,
-           {9, 4, number++, 0, 0, interface.classCode, interface.subclass, interface.protocol, 0});
-  }
-  return bytes;
+  const std::vector<std::uint8_t> device = deviceDescriptor(identity, kindOf(*this));
+  const std::vector<std::uint8_t> configuration = configurationDescriptor(kindOf(*this));
+  return std::string(device.begin(), device.end()) +
+         std::string(configuration.begin(), configuration.end());
 }
 
 }  // namespace trxsim

@@ -1,0 +1,103 @@
+#include "Descriptors.h"
+
+#include <array>
+#include <string>
+
+namespace trxsim {
+
+namespace {
+
+enum DescriptorType : std::uint8_t { kDevice = 1, kConfiguration, kString, kInterface };
+
+enum TextNumber : std::uint8_t { kNoText, kManufacturer, kProduct, kSerial };
+
+constexpr std::uint8_t kSelfPowered = 0xC0;
+constexpr std::uint16_t kEnglish = 0x0409;
+
+std::uint8_t low(std::size_t value) { return static_cast<std::uint8_t>(value & 0xFF); }
+std::uint8_t high(std::size_t value) { return static_cast<std::uint8_t>(value >> 8); }
+
+const std::string &textOf(const UsbIdentity &identity, unsigned number) {
+  static const std::string none;
+  const std::array<const std::string *, 4> texts{&none, &identity.manufacturer,
+                                                 &identity.productName, &identity.serial};
+  return number < texts.size() ? *texts[number] : none;
+}
+
+std::uint8_t numberOf(const UsbIdentity &identity, TextNumber text) {
+  return textOf(identity, text).empty() ? std::uint8_t{kNoText} : std::uint8_t{text};
+}
+
+}  // namespace
+
+const DeviceKind &rootHubKind() {
+  static const DeviceKind hub{0x0601, 0x0200, 9, 1, "480", 16, {{9, 0, 0, "hub"}}};
+  return hub;
+}
+
+const DeviceKind &kindOf(const UsbIdentity &identity) {
+  static const DeviceKind mixer{
+      0x0100,
+      0x0200,
+      0,
+      0,
+      "480",
+      0,
+      {{1, 1, 0, "snd-usb-audio"}, {1, 2, 0, "snd-usb-audio"}, {1, 3, 0, "snd-usb-audio"}}};
+  static const DeviceKind stranger{0x0100, 0x0200, 0, 0, "480", 0, {{0xFF, 0, 0, nullptr}}};
+  return identity.isMixer ? mixer : stranger;
+}
+
+std::vector<std::uint8_t> deviceDescriptor(const UsbIdentity &identity, const DeviceKind &kind) {
+  constexpr std::uint8_t kLength = 18;
+  constexpr std::uint8_t kPacketSize = 64;
+  return {kLength,
+          kDevice,
+          low(kind.version),
+          high(kind.version),
+          kind.classCode,
+          0,
+          kind.protocol,
+          kPacketSize,
+          low(identity.vendor),
+          high(identity.vendor),
+          low(identity.product),
+          high(identity.product),
+          low(kind.release),
+          high(kind.release),
+          numberOf(identity, kManufacturer),
+          numberOf(identity, kProduct),
+          numberOf(identity, kSerial),
+          1};
+}
+
+std::vector<std::uint8_t> configurationDescriptor(const DeviceKind &kind) {
+  constexpr std::uint8_t kLength = 9;
+  const std::size_t total = kLength * (1 + kind.interfaces.size());
+  std::vector<std::uint8_t> bytes{
+      kLength, kConfiguration, low(total), high(total), low(kind.interfaces.size()), 1,
+      0,       kSelfPowered,   0};
+  std::uint8_t number = 0;
+  for (const InterfaceKind &interface : kind.interfaces) {
+    const std::array<std::uint8_t, kLength> one{
+        kLength, kInterface,          number++,           0,
+        0,       interface.classCode, interface.subclass, interface.protocol,
+        0};
+    bytes.insert(bytes.end(), one.begin(), one.end());
+  }
+  return bytes;
+}
+
+std::vector<std::uint8_t> stringDescriptor(const UsbIdentity &identity, unsigned number) {
+  if (number == 0) return {4, kString, low(kEnglish), high(kEnglish)};
+  const std::string &text = textOf(identity, number);
+  if (text.empty()) return {};
+  std::vector<std::uint8_t> bytes{low(2 + 2 * text.size()), kString};
+  for (const char character : text) {
+    bytes.push_back(static_cast<std::uint8_t>(character));
+    bytes.push_back(0);
+  }
+  return bytes;
+}
+
+}  // namespace trxsim

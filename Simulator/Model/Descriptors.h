@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "FrontEnd.h"
+
+namespace trxsim {
+
+/// Class, subclass and protocol of an interface, and the driver that the kernel has for it.
+struct InterfaceKind {
+  std::uint8_t classCode;
+  std::uint8_t subclass;
+  std::uint8_t protocol;
+  const char *driver;  ///< Null: no driver takes it.
+};
+
+/// What differs between the kinds of device on the desk.
+struct DeviceKind {
+  std::uint16_t release;  ///< bcdDevice
+  std::uint16_t version;  ///< bcdUSB
+  std::uint8_t classCode;
+  std::uint8_t protocol;
+  const char *speed;
+  int ports;
+  std::vector<InterfaceKind> interfaces;
+};
+
+/// The hub that the units of a simulated bus sit at.
+const DeviceKind &rootHubKind();
+
+/// The kind of a unit.
+const DeviceKind &kindOf(const UsbIdentity &identity);
+
+/// The device descriptor, as it goes over the wire.
+std::vector<std::uint8_t> deviceDescriptor(const UsbIdentity &identity, const DeviceKind &kind);
+
+/// The only configuration with its interfaces, as it goes over the wire.
+std::vector<std::uint8_t> configurationDescriptor(const DeviceKind &kind);
+
+/// The text with this number, as it goes over the wire; number 0 is the list of languages. Nothing
+/// when the device has no such text. Texts are ASCII.
+std::vector<std::uint8_t> stringDescriptor(const UsbIdentity &identity, unsigned number);
+
+}  // namespace trxsim
