@@ -50,6 +50,12 @@ void Desk::replug(int number) {
   connect(number, unit);
 }
 
+void Desk::lost(int number, const BusAddress &address) {
+  const std::lock_guard lock(mutex_);
+  Unit &unit = find(number);
+  if (unit.address == address) disconnect(number, unit);
+}
+
 std::map<int, Unit> Desk::units() const {
   const std::lock_guard lock(mutex_);
   return units_;
@@ -88,8 +94,10 @@ void Desk::clearFaults(int number) {
 
 TransferResult Desk::transfer(int number, const ControlRequest &request) {
   const std::lock_guard lock(mutex_);
-  Unit &unit = find(number);
-  if (!unit.address) return {Outcome::Gone, {}};
+  // A unit that a front end could not plug in after all may have been seen by a host already.
+  const auto found = units_.find(number);
+  if (found == units_.end() || !found->second.address) return {Outcome::Gone, {}};
+  Unit &unit = found->second;
   TransferResult result = answer(unit, request);
   log_.add(number, request, result);
   if (result.outcome == Outcome::Unplugged) disconnect(number, unit);

@@ -49,6 +49,10 @@ class Desk {
   /// Plugs a unit in again; it gets a new device number.
   void replug(int number);
 
+  /// Notes that unit `number` went away by itself; nothing happens when it is not at `address` any
+  /// more.
+  void lost(int number, const BusAddress &address);
+
   /// A copy of all units, by number.
   std::map<int, Unit> units() const;
 

@@ -21,11 +21,13 @@ struct UsbIdentity {
 struct BusAddress {
   int bus = 0;
   int device = 0;
+
+  bool operator==(const BusAddress &) const = default;
 };
 
 /// The side that shows units to hosts. The desk calls it with its lock held, one call at a time;
 /// it must not call the desk from within these functions. Requests of hosts come in the other way,
-/// through `Desk::transfer`.
+/// through a `RequestGate`.
 class FrontEnd {
  public:
   virtual ~FrontEnd() = default;

@@ -72,11 +72,6 @@ UmockdevFrontEnd::~UmockdevFrontEnd() {
   testbed_.reset();
 }
 
-void UmockdevFrontEnd::setTransfer(Transfer transfer) {
-  const std::lock_guard lock(transferMutex_);
-  transfer_ = std::move(transfer);
-}
-
 std::string UmockdevFrontEnd::rootFolder() const {
   return takeText(umockdev_testbed_get_root_dir(testbed_.get()));
 }
@@ -160,7 +155,7 @@ void UmockdevFrontEnd::control(UMockdevIoctlClient &client, int number) {
       return;
     }
   }
-  const TransferResult result = transfer(
+  const TransferResult result = requests_.transfer(
       number, {packet.bRequestType, packet.bRequest, packet.wValue, packet.wIndex, packet.wLength});
   switch (result.outcome) {
     case Outcome::Done:
@@ -178,11 +173,6 @@ void UmockdevFrontEnd::control(UMockdevIoctlClient &client, int number) {
       fail(client, ENODEV);
       break;
   }
-}
-
-TransferResult UmockdevFrontEnd::transfer(int number, const ControlRequest &request) {
-  const std::lock_guard lock(transferMutex_);
-  return transfer_ ? transfer_(number, request) : TransferResult{Outcome::Gone, {}};
 }
 
 void UmockdevFrontEnd::waitInVain(UMockdevIoctlClient &client, int number, unsigned milliseconds) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -11,6 +10,7 @@
 
 #include "../Model/ControlTransfer.h"
 #include "../Model/FrontEnd.h"
+#include "../Model/RequestGate.h"
 #include "UsbTree.h"
 
 namespace trxsim {
@@ -20,18 +20,14 @@ namespace trxsim {
 /// thread of the testbed.
 class UmockdevFrontEnd : public FrontEnd {
  public:
-  /// Carries out a request of a host on a unit.
-  using Transfer = std::function<TransferResult(int number, const ControlRequest &request)>;
-
   /// Makes an empty bus in a new testbed.
   UmockdevFrontEnd();
   ~UmockdevFrontEnd() override;
   UmockdevFrontEnd(const UmockdevFrontEnd &) = delete;
   UmockdevFrontEnd &operator=(const UmockdevFrontEnd &) = delete;
 
-  /// Sets where requests go; with none set, they fail as after an unplug. When this returns, what
-  /// was set before is not called any more.
-  void setTransfer(Transfer transfer);
+  /// Where the requests of hosts come out.
+  RequestGate &requests() { return requests_; }
 
   /// The folder that holds the tree.
   std::string rootFolder() const;
@@ -51,15 +47,13 @@ class UmockdevFrontEnd : public FrontEnd {
 
   bool handle(UMockdevIoctlClient &client);
   void control(UMockdevIoctlClient &client, int number);
-  TransferResult transfer(int number, const ControlRequest &request);
   void waitInVain(UMockdevIoctlClient &client, int number, unsigned milliseconds);
   void endPending(int number);
   void attach(const std::string &node);
   int nextDeviceNumber();
 
   // Made before the testbed, whose thread uses it.
-  std::mutex transferMutex_;  // guards and is held during
-  Transfer transfer_;
+  RequestGate requests_;
   std::mutex mutex_;                       // guards the next three
   std::map<int, UsbDevice> plugged_;       // by unit
   std::map<std::string, int> unitOfNode_;  // plugged units only

@@ -18,8 +18,10 @@
 #include "../Control/Environment.h"
 #include "../Control/UsageFormatter.h"
 #include "../Model/Desk.h"
+#include "../Model/RequestGate.h"
+#include "../umockdev/UmockdevFrontEnd.h"
+#include "../usbip/UsbipFrontEnd.h"
 #include "ChildProcess.h"
-#include "UmockdevFrontEnd.h"
 
 namespace {
 
@@ -47,6 +49,7 @@ constexpr const char *kExamples =
 
 struct Options {
   int units = 1;
+  bool usbip = false;
   std::string wireLog;
   std::string control;
   std::vector<std::string> command;
@@ -58,12 +61,16 @@ std::string companionFolder() {
   return (program.parent_path() / TRX_SIM_COMPANION_FOLDER).lexically_normal();
 }
 
-/// What a process needs to find the mixers.
+std::string controlEntry(const std::string &socket) {
+  return std::string(trxsim::kControlVariable) + '=' + socket;
+}
+
+/// What a process needs to find mixers that only it is to see.
 trxsim::Environment simulatedEnvironment(const std::string &testbed, const std::string &control) {
   return {
       "LD_PRELOAD=" + companionFolder() + "/libtrx-mixer-sim-guard.so:libumockdev-preload.so.0",
       "UMOCKDEV_DIR=" + testbed,
-      std::string(trxsim::kControlVariable) + '=' + control,
+      controlEntry(control),
       // The address sanitizer wants to be loaded first, which it need not be for these libraries.
       "ASAN_OPTIONS=verify_asan_link_order=0",
   };
@@ -91,34 +98,51 @@ void keepTemporaryFolderShort() {
 /// Sends the requests of hosts to the desk for as long as it exists.
 class Wiring {
  public:
-  Wiring(trxsim::UmockdevFrontEnd &frontEnd, trxsim::Desk &desk) : frontEnd_(frontEnd) {
-    frontEnd_.setTransfer([&desk](int number, const trxsim::ControlRequest &request) {
-      return desk.transfer(number, request);
-    });
+  Wiring(trxsim::RequestGate &requests, trxsim::Desk &desk) : requests_(requests) {
+    requests_.open(desk);
   }
-  ~Wiring() { frontEnd_.setTransfer({}); }
+  ~Wiring() { requests_.close(); }
   Wiring(const Wiring &) = delete;
   Wiring &operator=(const Wiring &) = delete;
 
  private:
-  trxsim::UmockdevFrontEnd &frontEnd_;
+  trxsim::RequestGate &requests_;
 };
 
-int simulate(const Options &options) {
+/// Plugs the mixers in and runs the command. `additions` is what its environment needs.
+template <typename FrontEnd>
+int simulate(const Options &options, const trxsim::ControlSocket &control, FrontEnd &frontEnd,
+             const trxsim::Environment &additions) {
+  trxsim::Desk desk(frontEnd, openWireLog(options.wireLog));
+  const Wiring wiring(frontEnd.requests(), desk);
+  for (int unit = 0; unit < options.units; ++unit) desk.plugMixer();
+  trxsim::CommandInterpreter interpreter(desk, additions);
+  const trxsim::ControlServer server(control.listener(), interpreter);
+  return trxsim::runCommand(options.command, trxsim::environmentWith(additions));
+}
+
+/// On a bus that only the command and its children see.
+int simulateForCommand(const Options &options, const trxsim::ControlSocket &control) {
   keepTemporaryFolderShort();
-  trxsim::ControlSocket control = openControl(options.control);
+  trxsim::UmockdevFrontEnd frontEnd;
+  const trxsim::Environment additions = simulatedEnvironment(frontEnd.rootFolder(), control.path());
+  return simulate(options, control, frontEnd, additions);
+}
+
+/// On the buses of the running kernel.
+int simulateForMachine(const Options &options, const trxsim::ControlSocket &control) {
+  trxsim::UsbipFrontEnd frontEnd;
+  return simulate(options, control, frontEnd, {controlEntry(control.path())});
+}
+
+int simulate(const Options &options) {
+  const trxsim::ControlSocket control = openControl(options.control);
   if (control.isPrivate()) {
     std::fprintf(stderr, "trx-mixer-sim: the usual control socket is taken; this one is %s\n",
                  control.path().c_str());
   }
-  trxsim::UmockdevFrontEnd frontEnd;
-  trxsim::Desk desk(frontEnd, openWireLog(options.wireLog));
-  const Wiring wiring(frontEnd, desk);
-  for (int unit = 0; unit < options.units; ++unit) desk.plugMixer();
-  const trxsim::Environment additions = simulatedEnvironment(frontEnd.rootFolder(), control.path());
-  trxsim::CommandInterpreter interpreter(desk, additions);
-  const trxsim::ControlServer server(control.listener(), interpreter);
-  return trxsim::runCommand(options.command, trxsim::environmentWith(additions));
+  return options.usbip ? simulateForMachine(options, control)
+                       : simulateForCommand(options, control);
 }
 
 int run(int argc, char **argv) {
@@ -134,6 +158,9 @@ int run(int argc, char **argv) {
   app.add_option("--units", options.units, "how many mixers are plugged in at the start")
       ->check(CLI::Range(0, kMostUnits))
       ->capture_default_str();
+  app.add_flag("--usbip", options.usbip,
+               "plug the mixers into the running kernel, for every program on the machine; needs "
+               "root and the kernel module vhci-hcd");
   app.add_option("--wire-log", options.wireLog, "file that gets a line for each request")
       ->type_name("FILE");
   app.add_option("--control", options.control, "socket to listen at for trx-mixer-ctl")

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <atomic>
+#include <functional>
+#include <string>
+#include <thread>
+
+#include "../Control/UnixSocket.h"
+#include "DeviceSession.h"
+
+namespace trxsim {
+
+/// The cable between one plugged unit and the kernel: serves a session over a stream socket, on a
+/// thread of its own, so that a request that waits for the desk holds up no other unit.
+class DeviceConnection {
+ public:
+  /// Told, on the connection's thread, what the kernel did that ended it.
+  using Broken = std::function<void(const std::string &reason)>;
+
+  DeviceConnection(Descriptor socket, DeviceSession session, Broken broken);
+
+  /// Pulls the cable and waits for the thread; not to be used on that thread.
+  ~DeviceConnection();
+  DeviceConnection(const DeviceConnection &) = delete;
+  DeviceConnection &operator=(const DeviceConnection &) = delete;
+
+  /// Ends the connection from any thread, without waiting; requests under way get no answer.
+  void pull();
+
+  /// True once nothing is served any more.
+  bool isFinished() const { return isFinished_; }
+
+ private:
+  void serve();
+  std::string serveToTheEnd();
+  bool send(const std::vector<std::uint8_t> &bytes) const;
+
+  Descriptor socket_;
+  DeviceSession session_;
+  Broken broken_;
+  std::atomic<bool> isPulled_{false};
+  std::atomic<bool> isFinished_{false};
+  std::thread thread_;
+};
+
+}  // namespace trxsim

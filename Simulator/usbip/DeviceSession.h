@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <set>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "../Model/ControlTransfer.h"
+#include "../Model/FrontEnd.h"
+#include "Frames.h"
+#include "StandardRequests.h"
+
+namespace trxsim {
+
+/// The device's half of a USB/IP conversation about one plugged unit: bytes of the kernel in, bytes
+/// for the kernel out. Does no input or output. One thread at a time.
+class DeviceSession {
+ public:
+  /// Carries out a request that is not a standard one.
+  using Transfer = std::function<TransferResult(const ControlRequest &request)>;
+
+  DeviceSession(UsbIdentity identity, Transfer transfer);
+
+  /// Takes bytes of the kernel, in pieces of any length, and answers with those to send back.
+  std::vector<std::uint8_t> receive(std::span<const std::uint8_t> bytes);
+
+  /// True once nothing more is answered: the unit was unplugged, or there was an error.
+  bool isOver() const { return isUnplugged_ || !error_.empty(); }
+
+  /// What the kernel sent wrong; empty when it did not.
+  const std::string &error() const { return error_; }
+
+  /// True between the first and the last byte of a frame.
+  bool isInMidFrame() const { return !received_.empty(); }
+
+ private:
+  void handle(const SubmitFrame &frame);
+  void handle(const UnlinkFrame &frame);
+  TransferResult answer(const SubmitFrame &frame);
+  void reply(std::span<const std::uint8_t> bytes);
+
+  StandardRequests standard_;
+  Transfer transfer_;
+  std::vector<std::uint8_t> received_;  // the beginning of a frame
+  std::vector<std::uint8_t> replies_;
+  std::set<std::uint32_t> unanswered_;  // requests that get no reply until they are taken back
+  bool isUnplugged_ = false;
+  std::string error_;
+};
+
+}  // namespace trxsim

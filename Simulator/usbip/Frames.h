@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "../Model/ControlTransfer.h"
+
+namespace trxsim {
+
+/// The kernel hands over a request for the device.
+struct SubmitFrame {
+  std::uint32_t sequence = 0;  ///< The kernel's number for it, to be repeated in the reply.
+  std::uint32_t endpoint = 0;
+  bool isRead = false;             ///< The data stage, if any, runs from the device to the kernel.
+  std::uint32_t length = 0;        ///< Of the data stage.
+  ControlRequest setup;            ///< Means something at endpoint 0 only.
+  std::vector<std::uint8_t> data;  ///< The data stage of a write.
+};
+
+/// The kernel takes back a request that it handed over before.
+struct UnlinkFrame {
+  std::uint32_t sequence = 0;
+  std::uint32_t victim = 0;  ///< The sequence number of the request that is taken back.
+};
+
+using Frame = std::variant<SubmitFrame, UnlinkFrame>;
+
+/// The frames at the front of some bytes.
+struct DecodedFrames {
+  std::vector<Frame> frames;
+  std::size_t used = 0;  ///< How many bytes they take; what follows is the beginning of a frame.
+  std::string error;     ///< Why what follows can never become a frame; empty when it can.
+};
+
+/// Takes apart what a kernel sends to a device, as USB/IP defines it. Accepts any bytes.
+DecodedFrames decodeFrames(std::span<const std::uint8_t> bytes);
+
+/// The reply to a submitted request: `status` is 0 or a negative error number, `length` what was
+/// transferred, `data` the data stage of a read.
+std::vector<std::uint8_t> encodeSubmitReply(std::uint32_t sequence, std::int32_t status,
+                                            std::uint32_t length,
+                                            std::span<const std::uint8_t> data);
+
+/// The reply to a request that was taken back: `status` is 0 when it had been answered before.
+std::vector<std::uint8_t> encodeUnlinkReply(std::uint32_t sequence, std::int32_t status);
+
+}  // namespace trxsim

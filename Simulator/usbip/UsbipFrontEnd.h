@@ -1,0 +1,61 @@
+#pragma once
+
+#include <list>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+
+#include "../Model/FrontEnd.h"
+#include "../Model/RequestGate.h"
+#include "DeviceConnection.h"
+#include "DeviceNode.h"
+#include "VhciController.h"
+
+namespace trxsim {
+
+/// Plugs units into the running kernel: every program on the machine sees them as USB devices.
+/// Requests of hosts come in on a thread of each unit.
+class UsbipFrontEnd : public FrontEnd {
+ public:
+  /// Throws `DeskError` when this user or this kernel cannot have them.
+  UsbipFrontEnd() = default;
+  ~UsbipFrontEnd() override;
+  UsbipFrontEnd(const UsbipFrontEnd &) = delete;
+  UsbipFrontEnd &operator=(const UsbipFrontEnd &) = delete;
+
+  /// Where the requests of hosts come out.
+  RequestGate &requests() { return requests_; }
+
+  BusAddress plug(int number, const UsbIdentity &identity, OpenFault fault) override;
+  void unplug(int number) override;
+  void setOpenFault(int number, OpenFault fault) override;
+
+ private:
+  struct Plugged {
+    int plugging = 0;  // which of all pluggings it is
+    VhciPort port;
+    std::unique_ptr<DeviceConnection> connection;
+    std::optional<BusAddress> address;  // nothing until the kernel shows the unit to hosts
+    std::optional<DeviceNode> node;     // the same
+    bool isBroken = false;
+  };
+
+  void connect(int number, const UsbIdentity &identity);
+  BusAddress waitForKernel(const Plugged &unit) const;
+  void show(int number, const BusAddress &address, OpenFault fault);
+  void pull(int number);
+  void waitUntilGone(const Plugged &unit) const;
+  void onBroken(int number, int plugging, const std::string &reason);
+  void forgetEnded();
+
+  RequestGate requests_;
+  VhciController controller_;
+  int pluggings_ = 0;
+  std::mutex mutex_;  // guards the next two; held by whoever changes them
+  std::map<int, Plugged> plugged_;
+  std::list<std::unique_ptr<DeviceConnection>> pulled_;  // until their threads have ended
+};
+
+}  // namespace trxsim

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "../Model/FrontEnd.h"
+
+namespace trxsim {
+
+/// A port of the kernel's virtual host controllers that takes devices of high speed.
+struct VhciPort {
+  int number = 0;      ///< As the kernel counts it, over all controllers and speeds.
+  int controller = 0;  ///< Which of the controllers it belongs to.
+  int hubPort = 0;     ///< Which port of that controller's hub it is, from 1.
+  bool isFree = false;
+};
+
+/// The high-speed ports of one controller, in their order, from what its status file says. Lines
+/// that say something else are passed over.
+std::vector<VhciPort> parseVhciStatus(std::string_view text, int controller);
+
+/// The kernel's virtual host controllers (vhci-hcd), by way of sysfs. One thread at a time.
+class VhciController {
+ public:
+  /// Looks for everything below `root`, which is "/" for the running kernel. Throws `DeskError`,
+  /// with what to do about it, when this user may not attach devices or the kernel cannot.
+  explicit VhciController(std::filesystem::path root = "/");
+
+  /// All high-speed ports, in the order of the buses.
+  std::vector<VhciPort> ports() const;
+
+  /// Gives the kernel's end of a connection to the first free port, which becomes its device's.
+  /// Throws `DeskError` when there is none.
+  VhciPort attach(int socket, unsigned deviceId) const;
+
+  /// Takes the device off a port; does nothing when none is there.
+  void detach(const VhciPort &port) const;
+
+  /// Where the device at a port is found; nothing while the kernel does not show it to hosts.
+  std::optional<BusAddress> addressAt(const VhciPort &port) const;
+
+  /// The device node that belongs to an address.
+  std::filesystem::path nodeOf(const BusAddress &address) const;
+
+ private:
+  std::optional<std::filesystem::path> statusFile(int controller) const;
+  std::string busName(int controller) const;
+
+  std::filesystem::path root_;
+};
+
+}  // namespace trxsim
