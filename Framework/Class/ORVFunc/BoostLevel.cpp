@@ -7,6 +7,7 @@
 #include "ConnectedUnits.h"
 #include "Product.h"
 #include "SettingsFile.h"
+#include "Text.h"
 
 using namespace orv;
 
@@ -16,7 +17,7 @@ constexpr ProductSet kModels = kEveryServedModel;
 constexpr const char *kKey = "MaxLevel";
 constexpr std::int32_t kDefaultIndex = 3;
 
-constexpr std::array<ORVStringRef, 4> BoostLevelText = {"-5 dB", "-10 dB", "-15 dB", "-19 dB"};
+constexpr std::array<const char *, 4> BoostLevelText = {"-5 dB", "-10 dB", "-15 dB", "-19 dB"};
 
 // The mixer counts from the quietest level, hosts from the loudest.
 constexpr std::array<std::uint8_t, 4> _convDbTable = {3, 2, 1, 0};
@@ -37,7 +38,7 @@ StatusCode ORV_GetBoostLevelText(ProductId productId, uint32_t index, uint32_t /
                                  ORVStringRef *text) {
   if (text == nullptr || !kModels.Contains(productId)) return ORV_BAD_ARGUMENT;
   if (index >= BoostLevelText.size()) return ORV_BAD_ARGUMENT;
-  *text = BoostLevelText[index];
+  *text = TextOfLiteral(BoostLevelText[index]);
   return ORV_SUCCESS;
 }
 

@@ -8,6 +8,7 @@
 #include "ConnectedUnits.h"
 #include "Product.h"
 #include "SettingsFile.h"
+#include "Text.h"
 
 using namespace orv;
 
@@ -15,7 +16,7 @@ namespace {
 
 // --- Texts ---------------------------------------------------------------------------------------
 
-constexpr std::array<ORVStringRef, 42> InputAudioText = {
+constexpr std::array<const char *, 42> InputAudioText = {
     "CH1 Timecode PHONO",        // 0
     "CH1 Timecode CD/LINE",      // 1
     "CH1 Timecode DIGITAL",      // 2
@@ -254,7 +255,7 @@ StatusCode ORV_GetUSBInputAudioText(ProductId productId, int32_t channel, uint32
   const TextTable *const table = RowOf(kTextTables, productId);
   if (table == nullptr || !IsBelow(table->accepted, channel, index)) return ORV_BAD_ARGUMENT;
   const std::int32_t number = table->entries[static_cast<uint32_t>(channel) * table->width + index];
-  *text = InputAudioText[static_cast<std::size_t>(number)];
+  *text = TextOfLiteral(InputAudioText[static_cast<std::size_t>(number)]);
   return ORV_SUCCESS;
 }
 

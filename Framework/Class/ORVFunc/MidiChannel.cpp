@@ -7,6 +7,7 @@
 #include "ConnectedUnits.h"
 #include "Product.h"
 #include "SettingsFile.h"
+#include "Text.h"
 
 using namespace orv;
 
@@ -16,7 +17,7 @@ constexpr ProductSet kModels = kVoltOnly;
 constexpr const char *kKey = "MidiChannel";
 constexpr std::int32_t kDefaultIndex = 0;
 
-constexpr std::array<ORVStringRef, 16> MidiChannelText = {
+constexpr std::array<const char *, 16> MidiChannelText = {
     "CH 1", "CH 2",  "CH 3",  "CH 4",  "CH 5",  "CH 6",  "CH 7",  "CH 8",
     "CH 9", "CH 10", "CH 11", "CH 12", "CH 13", "CH 14", "CH 15", "CH 16"};
 
@@ -37,7 +38,7 @@ StatusCode ORV_GetMidiChannelText(ProductId productId, uint32_t index, uint32_t 
                                   ORVStringRef *text) {
   if (text == nullptr || !kModels.Contains(productId)) return ORV_BAD_ARGUMENT;
   if (index >= MidiChannelText.size()) return ORV_BAD_ARGUMENT;
-  *text = MidiChannelText[index];
+  *text = TextOfLiteral(MidiChannelText[index]);
   return ORV_SUCCESS;
 }
 

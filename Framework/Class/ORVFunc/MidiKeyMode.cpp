@@ -5,7 +5,7 @@
 
 namespace {
 
-[[maybe_unused]] constexpr std::array<ORVStringRef, 2> MidiKeyModeText = {"Toggle", "Trigger"};
+[[maybe_unused]] constexpr std::array<const char *, 2> MidiKeyModeText = {"Toggle", "Trigger"};
 
 }  // namespace
 

@@ -8,6 +8,7 @@
 #include "ConnectedUnits.h"
 #include "Product.h"
 #include "SettingsFile.h"
+#include "Text.h"
 
 using namespace orv;
 
@@ -18,7 +19,7 @@ constexpr std::int32_t kChannelsTakenBySetters = 5;
 constexpr std::uint32_t kChoices = 3;
 constexpr std::uint32_t kChoicesWithText = 4;
 
-constexpr std::array<ORVStringRef, 4> OutputAudioText = {"CH1", "CH2", "AUX", nullptr};
+constexpr std::array<const char *, 4> OutputAudioText = {"CH1", "CH2", "AUX", nullptr};
 
 // Places in OutputAudioText, a row a channel. A text is asked for with one index more than a row
 // holds, which reads on into the next row: hence the fourth.
@@ -82,7 +83,7 @@ StatusCode ORV_GetUSBOutputAudioText(ProductId productId, int32_t channel, uint3
   if (channel < 0 || channel >= kChannels) return ORV_BAD_ARGUMENT;
   if (index >= kChoicesWithText) return ORV_BAD_ARGUMENT;
   const std::int32_t number = TRXSELVA_OUT_TEXT[static_cast<uint32_t>(channel) * kChoices + index];
-  *text = OutputAudioText[static_cast<std::size_t>(number)];
+  *text = TextOfLiteral(OutputAudioText[static_cast<std::size_t>(number)]);
   return ORV_SUCCESS;
 }
 

@@ -1,9 +1,12 @@
-// The platform's string operations. Any thread.
+// The platform's string operations, TextOfLiteral among them. Any thread.
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
+
+#include "TextOfLiteral.h"
 
 namespace orv {
 
@@ -17,6 +20,6 @@ bool IsNumericallyGreater(const std::string &text, const std::string &than);
 
 /// A text of the same characters that can be handed to a host: it stays valid and unchanged for the
 /// life of the process. Asking again for the same characters takes no more memory.
-ORVStringRef KeptText(const std::string &text);
+ORVStringRef KeptText(std::string_view text);
 
 }  // namespace orv

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
-#include <memory>
 #include <string_view>
+
+#include "KeptTexts.h"
 
 namespace orv {
 namespace {
@@ -88,13 +88,17 @@ std::string_view TakeNumber(std::string_view &text) {
   return number;
 }
 
-// The texts that were handed out, newest first. Texts are only ever added, so a reader needs no
-// lock.
-struct Kept {
-  std::string text;
-  Kept *earlier;
+// A text is its characters.
+class CharactersAsText {
+ public:
+  explicit CharactersAsText(const std::string &characters) : characters_(characters.c_str()) {}
+  ORVStringRef Reference() const { return characters_; }
+
+ private:
+  const char *characters_;
 };
-std::atomic<Kept *> newestKept = nullptr;
+
+KeptTexts<CharactersAsText> keptTexts;
 
 }  // namespace
 
@@ -124,15 +128,6 @@ bool IsNumericallyGreater(const std::string &text, const std::string &than) {
   return !left.empty();
 }
 
-ORVStringRef KeptText(const std::string &text) {
-  Kept *newest = newestKept.load();
-  for (const Kept *kept = newest; kept != nullptr; kept = kept->earlier) {
-    if (kept->text == text) return kept->text.c_str();
-  }
-  auto added = std::make_unique<Kept>(Kept{text, newest});
-  while (!newestKept.compare_exchange_weak(added->earlier, added.get())) {
-  }
-  return added.release()->text.c_str();
-}
+ORVStringRef KeptText(std::string_view text) { return keptTexts.Keep(text); }
 
 }  // namespace orv
