@@ -3,7 +3,7 @@
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
 #include "ChangeKinds.h"
-#include "ORVFunc.h"
+#include "Observer.h"
 #include "OutOfMemory.h"
 
 using namespace orv;
@@ -16,11 +16,10 @@ template <typename Callback>
 StatusCode Register(const ChangeKind<Callback> &kind, ProductId productId, Callback callback,
                     void *context) {
   if (!kind.models.Contains(productId)) return ORV_BAD_ARGUMENT;
-  Observer();
+  MakeObserver();
   kind.lastPosted.Empty();
-  WhileMemoryLasts([&] {
-    AddObserver(std::string(ModelDisplayName(productId)) + kind.nameEnding, kind.observe);
-  });
+  WhileMemoryLasts(
+      [&] { Observe(std::string(ModelDisplayName(productId)) + kind.nameEnding, kind.operation); });
   kind.callbacks[productId] = callback;
   kind.contexts[productId] = context;
   return ORV_SUCCESS;

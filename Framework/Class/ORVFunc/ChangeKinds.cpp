@@ -2,7 +2,6 @@
 
 #include <memory>
 
-#include "ORVFunc.h"
 #include "OutOfMemory.h"
 
 namespace orv {
@@ -26,12 +25,6 @@ UserInfoSlot boostLevelInfo;
 UserInfoSlot midiChannelInfo;
 UserInfoSlot midiKeyModeInfo;
 
-// Calls one operation of the observer. The centre knows only plain functions.
-template <void (ORVFunc::*operation)(const Notification &)>
-void Observe(const Notification &notification) {
-  (Observer()->*operation)(notification);
-}
-
 template <typename Callback>
 void Post(const ChangeKind<Callback> &kind, ProductId productId,
           std::initializer_list<UserInfo::Entry> entries) {
@@ -48,28 +41,28 @@ void Post(const ChangeKind<Callback> &kind, ProductId productId,
 const ChangeKind<ChannelIndexCallback> kInputAudioChange = {" InputAudio Change",
                                                             kEveryServedModel,
                                                             Delivery::kImmediately,
-                                                            Observe<&ORVFunc::inputAudioChanged>,
+                                                            ObserverOperation::kInputAudioChanged,
                                                             InputAudioChangedCallback,
                                                             InputAudioChangedContext,
                                                             inputAudioInfo};
 const ChangeKind<ChannelIndexCallback> kOutputAudioChange = {" OutputAudio Change",
                                                              kEveryServedModel,
                                                              Delivery::kImmediately,
-                                                             Observe<&ORVFunc::outputAudioChanged>,
+                                                             ObserverOperation::kOutputAudioChanged,
                                                              OutputAudioChangedCallback,
                                                              OutputAudioChangedContext,
                                                              outputAudioInfo};
 const ChangeKind<IndexCallback> kBoostLevelChange = {" BoostLevel Change",
                                                      kEveryServedModel,
                                                      Delivery::kPlain,
-                                                     Observe<&ORVFunc::boostLevelChanged>,
+                                                     ObserverOperation::kBoostLevelChanged,
                                                      BoostLevelChangedCallback,
                                                      BoostLevelChangedContext,
                                                      boostLevelInfo};
 const ChangeKind<IndexCallback> kMidiChannelChange = {" MidiChannel Change",
                                                       kVoltOnly,
                                                       Delivery::kPlain,
-                                                      Observe<&ORVFunc::midiChannelChanged>,
+                                                      ObserverOperation::kMidiChannelChanged,
                                                       MidiChannelChangedCallback,
                                                       MidiChannelChangedContext,
                                                       midiChannelInfo};
@@ -77,7 +70,7 @@ const ChangeKind<IndexCallback> kMidiChannelChange = {" MidiChannel Change",
 const ChangeKind<IndexCallback> kMidiKeyModeChange = {nullptr,
                                                       kNoModel,
                                                       Delivery::kPlain,
-                                                      Observe<&ORVFunc::midiKeyModeChanged>,
+                                                      ObserverOperation::kMidiKeyModeChanged,
                                                       MidiKeyModeChangedCallback,
                                                       MidiKeyModeChangedContext,
                                                       midiKeyModeInfo};

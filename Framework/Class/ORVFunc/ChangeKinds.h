@@ -7,6 +7,7 @@
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
 #include "NotificationCentre.h"
+#include "Observer.h"
 #include "Product.h"
 #include "UserInfoSlot.h"
 
@@ -29,7 +30,7 @@ struct ChangeKind {
   const char *nameEnding;  // stands behind the model's name
   ProductSet models;
   Delivery delivery;
-  NotificationHandler observe;
+  ObserverOperation operation;
   CallbackTable<Callback> &callbacks;
   ContextTable &contexts;
   UserInfoSlot &lastPosted;

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "Notification.h"
+#include "NotificationHandler.h"
 
 namespace orv {
 
@@ -17,9 +18,6 @@ enum class Delivery { kPlain, kImmediately };
 /// thread posts arrives in that order.
 void PostNotification(const std::string &name, const UserInfo &userInfo,
                       Delivery delivery) noexcept;
-
-/// What an observation calls.
-using NotificationHandler = void (*)(const Notification &);
 
 /// Adds one observation of a name, for the life of the process: the handler is called once for each
 /// notification and observation. In effect when the call returns; without a notification service,
