@@ -1,8 +1,8 @@
 /*
  * TRX-SELVASetup: read and change the settings of the USB DJ mixers of the TRX-SELVA family.
  *
- * A complete host. It sets the boost level on every connected mixer, waits for the announcement of
- * that change (its own, like anybody else's) and prints it:
+ * A complete host for Linux. It sets the boost level on every connected mixer, waits for the
+ * announcement of that change (its own, like anybody else's) and prints it:
  *
  *     #include <poll.h>
  *     #include <stdio.h>
@@ -34,10 +34,10 @@
  * What holds for every function
  *
  * - Each call is synchronous, on the caller's thread. The library starts no thread, takes no lock,
- *   keeps no mixer open between calls and caches nothing. What it keeps is connections to the
- *   session bus: one for each thread that has set something, one for what is received.
+ *   keeps no mixer open between calls and caches nothing. What it keeps, on Linux, is connections
+ *   to the session bus: one for each thread that has set something, one for what is received.
  * - A call takes as long as the mixers take to answer: up to 5 seconds for each request that a
- *   mixer leaves without one. A session bus that hangs is waited for once, for 5 seconds.
+ *   mixer leaves without one. On Linux, a session bus that hangs is waited for once, for 5 seconds.
  * - The result is always a StatusCode. Arguments are checked first, result pointers before
  *   anything else; when a check fails the call answers ORV_BAD_ARGUMENT and has done nothing,
  *   unless its description says otherwise.
@@ -47,8 +47,9 @@
  *   selects texts, bounds, the settings file and the name of the announcement.
  * - Functions may run on several threads at once. The Register and Unregister functions belong to
  *   the one thread that also receives the notifications (on Linux: that calls
- *   ORV_DispatchNotifications, see EventLoop.h). Of two settings of one model that are stored at
- *   the very same time, on two threads or in two processes, one may be lost from the file.
+ *   ORV_DispatchNotifications, see EventLoop.h; on macOS: the main thread, while its run loop
+ * runs). Of two settings of one model that are stored at the very same time, on two threads or in
+ * two processes, one may be lost from the file.
  * - Texts handed out belong to the library, stay valid and unchanged for the life of the process,
  *   and are never freed by the host.
  */
@@ -104,11 +105,14 @@ enum {
 };
 
 /**
- * A text: UTF-8, ended by a zero byte (on macOS the platform's string object). Text results belong
- * to the library, stay valid and unchanged for the life of the process, and are neither freed nor
- * changed by the host. Since 1.0.
+ * A text: UTF-8, ended by a zero byte (on macOS the platform's string object, a CFStringRef or
+ * NSString). Text results belong to the library, stay valid and unchanged for the life of the
+ * process, and are neither freed, nor released, nor changed by the host. Since 1.0.
+ *
+ * A library built over another implementation of Foundation hands out string objects as on macOS;
+ * its hosts are compiled with ORV_TEXT_IS_CFSTRING defined.
  */
-#if defined(__APPLE__)
+#if defined(__APPLE__) || defined(ORV_TEXT_IS_CFSTRING)
 typedef const struct __CFString *ORVStringRef;
 #else
 typedef const char *ORVStringRef;
