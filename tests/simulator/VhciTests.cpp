@@ -1,0 +1,154 @@
+// The kernel's virtual host controllers as sysfs shows them, in a folder laid out like it.
+
+#include <fstream>
+#include <sstream>
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include "Model/Desk.h"
+#include "TemporaryFolder.h"
+#include "usbip/VhciController.h"
+
+namespace trxsim {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char *kStatus =
+    "hub port sta spd dev      sockfd local_busid\n"
+    "hs  0000 006 003 00010001 000003 3-1\n"
+    "hs  0001 004 000 00000000 000000 0-0\n"
+    "hs  0002 005 000 00000000 000000 0-0\n"
+    "hs  0003 004 000 00000000 000000 0-0\n"
+    "ss  0004 004 000 00000000 000000 0-0\n"
+    "ss  0005 004 000 00000000 000000 0-0\n";
+
+constexpr const char *kSecondStatus =
+    "hub port sta spd dev      sockfd local_busid\n"
+    "hs  0008 007 000 00000000 000000 0-0\n"
+    "hs  0009 004 000 00000000 000000 0-0\n"
+    "ss  0012 004 000 00000000 000000 0-0\n";
+
+std::string portText(const VhciPort &port) {
+  return std::to_string(port.number) + " = " + std::to_string(port.controller) + '-' +
+         std::to_string(port.hubPort) + (port.isFree ? " free" : " taken");
+}
+
+std::vector<std::string> texts(const std::vector<VhciPort> &ports) {
+  std::vector<std::string> all;
+  for (const VhciPort &port : ports) all.push_back(portText(port));
+  return all;
+}
+
+class Vhci : public testing::Test {
+ protected:
+  Vhci() {
+    write(kFirst + "/attach", "");
+    write(kFirst + "/detach", "");
+    write(kFirst + "/status", kStatus);
+    write(kFirst + "/status.1", kSecondStatus);
+    write(kFirst + "/usb3/speed", "480\n");
+    write(kFirst + "/usb4/speed", "5000\n");
+    write(kSecond + "/usb6/speed", "5000\n");
+    write(kSecond + "/usb5/speed", "480\n");
+  }
+
+  void write(const std::string &path, const std::string &text) const {
+    fs::create_directories(fs::path(root / path).parent_path());
+    std::ofstream(root / path) << text;
+  }
+
+  std::string read(const std::string &path) const {
+    std::stringstream text;
+    text << std::ifstream(root / path).rdbuf();
+    return text.str();
+  }
+
+  void showDevice(const std::string &name, const std::string &bus,
+                  const std::string &device) const {
+    write("sys/bus/usb/devices/" + name + "/busnum", bus + '\n');
+    write("sys/bus/usb/devices/" + name + "/devnum", device + '\n');
+  }
+
+  const std::string kFirst = "sys/devices/platform/vhci_hcd.0";
+  const std::string kSecond = "sys/devices/platform/vhci_hcd.1";
+  TemporaryFolder root;
+};
+
+TEST(VhciStatus, ListsTheHighSpeedPorts) {
+  EXPECT_EQ(
+      texts(parseVhciStatus(kStatus, 0)),
+      (std::vector<std::string>{"0 = 0-1 taken", "1 = 0-2 free", "2 = 0-3 taken", "3 = 0-4 free"}));
+}
+
+TEST(VhciStatus, PassesOverWhatItDoesNotKnow) {
+  EXPECT_TRUE(parseVhciStatus("", 0).empty());
+  EXPECT_TRUE(parseVhciStatus("hs\nhs x\nhs 1\nhs 1 x\nqs 1 4\n\n", 0).empty());
+  EXPECT_EQ(texts(parseVhciStatus("hs 0010 004", 2)), std::vector<std::string>{"10 = 2-1 free"});
+}
+
+TEST_F(Vhci, PortsOfAllControllersComeInTheOrderOfTheirBuses) {
+  EXPECT_EQ(texts(VhciController(root.path()).ports()),
+            (std::vector<std::string>{"0 = 0-1 taken", "1 = 0-2 free", "2 = 0-3 taken",
+                                      "3 = 0-4 free", "8 = 1-1 taken", "9 = 1-2 free"}));
+}
+
+TEST_F(Vhci, AttachTakesTheFirstFreePortAtHighSpeed) {
+  const VhciController vhci(root.path());
+  EXPECT_EQ(portText(vhci.attach(17, 0x00010002)), "1 = 0-2 free");
+  EXPECT_EQ(read(kFirst + "/attach"), "1 17 65538 3");
+}
+
+TEST_F(Vhci, AttachGoesOnToTheNextController) {
+  write(kFirst + "/status", "hs  0000 006 003 00010001 000003 3-1\n");
+  EXPECT_EQ(portText(VhciController(root.path()).attach(17, 1)), "9 = 1-2 free");
+}
+
+TEST_F(Vhci, AttachSaysWhenNoPortIsFree) {
+  write(kFirst + "/status", "hs  0000 006 003 00010001 000003 3-1\n");
+  write(kFirst + "/status.1", "hs  0008 006 003 00010001 000003 3-1\n");
+  const VhciController vhci(root.path());
+  try {
+    vhci.attach(17, 1);
+    FAIL() << "found a port";
+  } catch (const DeskError &error) {
+    EXPECT_STREQ(
+        error.what(),
+        "all 2 ports of the virtual USB host controllers are taken; `unplug` a unit first");
+  }
+  EXPECT_EQ(read(kFirst + "/attach"), "");
+}
+
+TEST_F(Vhci, DetachNamesThePort) {
+  VhciController(root.path()).detach({9, 1, 2, false});
+  EXPECT_EQ(read(kFirst + "/detach"), "9");
+}
+
+TEST_F(Vhci, AddressIsThatOfTheDeviceAtTheHighSpeedHub) {
+  const VhciController vhci(root.path());
+  const VhciPort port{9, 1, 2, false};
+  showDevice("6-2", "6", "2");
+  EXPECT_FALSE(vhci.addressAt(port));
+  showDevice("5-2", "5", "14");
+  EXPECT_FALSE(vhci.addressAt(port)) << "there is no device node yet";
+  write("dev/bus/usb/005/014", "");
+  EXPECT_EQ(vhci.addressAt(port), (BusAddress{5, 14}));
+}
+
+TEST_F(Vhci, WithoutControllersSaysWhatToDo) {
+  if (geteuid() == 0) setenv("PATH", root.path().c_str(), 1);  // no modprobe is to be found
+  const TemporaryFolder empty;
+  try {
+    const VhciController vhci(empty.path());
+    FAIL() << "found a controller";
+  } catch (const DeskError &error) {
+    const std::string text = error.what();
+    EXPECT_NE(text.find(geteuid() == 0 ? "`modprobe vhci-hcd`" : "sudo"), std::string::npos)
+        << text;
+    EXPECT_NE(text.find("Without --usbip"), std::string::npos) << text;
+  }
+}
+
+}  // namespace
+}  // namespace trxsim
