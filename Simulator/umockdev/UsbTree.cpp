@@ -1,13 +1,11 @@
 #include "UsbTree.h"
 
-#include <cerrno>
 #include <cstring>
 #include <fstream>
 #include <string_view>
 
-#include <sys/stat.h>
-
 #include "../Model/Desk.h"
+#include "../OpenFaults/RefusingNode.h"
 
 namespace trxsim {
 
@@ -46,13 +44,6 @@ std::string flatName(const UsbDevice &device) {
 void makeNode(const fs::path &node, const std::string &contents, fs::perms permissions) {
   writeFile(node, contents);
   fs::permissions(node, permissions);
-}
-
-// Opening a socket file fails with ENXIO for everybody.
-void makeRefusingNode(const fs::path &node) {
-  if (mknod(node.c_str(), S_IFSOCK | 0666, 0) != 0) {
-    throw DeskError(std::string("cannot make a socket file for `refuse`: ") + std::strerror(errno));
-  }
 }
 
 // As a udev rule for the mixer leaves it: everybody at the desk may open it.

@@ -4,7 +4,7 @@
 #include <map>
 #include <string>
 
-#include "HeldTerminal.h"
+#include "../OpenFaults/HeldTerminal.h"
 #include "UsbDevice.h"
 
 namespace trxsim {

@@ -1,23 +1,105 @@
 #include "DeviceNode.h"
 
+#include <cerrno>
+#include <cstring>
+#include <string>
+#include <system_error>
 #include <utility>
 
+#include <stdlib.h>
+#include <sys/mount.h>
+
 #include "../Model/Desk.h"
+#include "../OpenFaults/RefusingNode.h"
 
 namespace trxsim {
 
 namespace fs = std::filesystem;
 
-DeviceNode::DeviceNode(fs::path path)
-    : path_(std::move(path)), usual_(fs::status(path_).permissions()) {}
+namespace {
+
+constexpr fs::perms kForEverybody = static_cast<fs::perms>(0666);
+
+/// A new folder that goes away with everything in it.
+class PassingFolder {
+ public:
+  PassingFolder() {
+    char folder[] = "/tmp/trx-mixer-sim-XXXXXX";
+    if (mkdtemp(folder) == nullptr) {
+      throw DeskError(std::string("cannot make a folder for `refuse`: ") + std::strerror(errno));
+    }
+    path_ = folder;
+  }
+  ~PassingFolder() {
+    std::error_code error;
+    fs::remove_all(path_, error);
+  }
+  PassingFolder(const PassingFolder &) = delete;
+  PassingFolder &operator=(const PassingFolder &) = delete;
+
+  const fs::path &path() const { return path_; }
+
+ private:
+  fs::path path_;
+};
+
+}  // namespace
+
+DeviceNode::~DeviceNode() { restore(); }
 
 void DeviceNode::set(OpenFault fault) {
-  if (fault == OpenFault::Refuse || fault == OpenFault::Hold) {
-    throw DeskError(
-        "a running kernel opens every device that is there; of the faults of opening, "
-        "only `deny` can be had with --usbip");
+  restore();
+  switch (fault) {
+    case OpenFault::None:
+      break;
+    case OpenFault::Deny:
+      deny();
+      break;
+    case OpenFault::Refuse:
+      refuse();
+      break;
+    case OpenFault::Hold:
+      hold();
+      break;
   }
-  fs::permissions(path_, fault == OpenFault::Deny ? fs::perms::none : usual_);
+}
+
+void DeviceNode::deny() {
+  usual_ = fs::status(path_).permissions();
+  fs::permissions(path_, fs::perms::none);
+}
+
+// What is laid over the node stays there without its name.
+void DeviceNode::refuse() {
+  const PassingFolder folder;
+  makeRefusingNode(folder.path() / "node");
+  cover(folder.path() / "node");
+}
+
+void DeviceNode::hold() {
+  held_.emplace();
+  // The terminal is this user's; that it is held is to be the only thing in the way.
+  fs::permissions(held_->path(), kForEverybody);
+  cover(held_->path());
+}
+
+void DeviceNode::restore() {
+  if (std::exchange(isCovered_, false)) umount2(path_.c_str(), MNT_DETACH);
+  held_.reset();
+  if (!usual_) return;
+  // The kernel may have taken the node away already.
+  std::error_code error;
+  fs::permissions(path_, *std::exchange(usual_, std::nullopt), error);
+}
+
+// The kernel opens every device that is there, so another file is laid over its node. With the node
+// that goes away by itself, even when this process is killed.
+void DeviceNode::cover(const fs::path &file) {
+  if (mount(file.c_str(), path_.c_str(), nullptr, MS_BIND, nullptr) != 0) {
+    held_.reset();
+    throw DeskError("cannot lay a file over " + path_.string() + ": " + std::strerror(errno));
+  }
+  isCovered_ = true;
 }
 
 }  // namespace trxsim

@@ -1,23 +1,37 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
+#include <utility>
 
 #include "../Model/Fault.h"
+#include "../OpenFaults/HeldTerminal.h"
 
 namespace trxsim {
 
-/// What happens when a host opens the device node of a plugged unit. One thread at a time.
+/// The kernel's device node of a plugged unit, and what happens when a host opens it. At its end
+/// the node is again as the system made it. One thread at a time.
 class DeviceNode {
  public:
-  /// Leaves the node as the system made it.
-  explicit DeviceNode(std::filesystem::path path);
+  explicit DeviceNode(std::filesystem::path path) : path_(std::move(path)) {}
+  ~DeviceNode();
+  DeviceNode(const DeviceNode &) = delete;
+  DeviceNode &operator=(const DeviceNode &) = delete;
 
   /// Makes opening the node fail, or work again. Throws `DeskError` when that cannot be.
   void set(OpenFault fault);
 
  private:
+  void restore();
+  void deny();
+  void refuse();
+  void hold();
+  void cover(const std::filesystem::path &file);
+
   std::filesystem::path path_;
-  std::filesystem::perms usual_;
+  std::optional<std::filesystem::perms> usual_;  // nothing while they are in force
+  bool isCovered_ = false;
+  std::optional<HeldTerminal> held_;
 };
 
 }  // namespace trxsim

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <thread>
 #include <utility>
+#include <vector>
 
 #include <sys/socket.h>
 
@@ -39,7 +40,11 @@ std::pair<Descriptor, Descriptor> makeCable() {
 }  // namespace
 
 UsbipFrontEnd::~UsbipFrontEnd() {
-  while (!plugged_.empty()) pull(plugged_.begin()->first);
+  std::vector<Plugged> units;
+  while (!plugged_.empty()) units.push_back(take(plugged_.begin()->first));
+  // The kernel takes its time for each, so all are pulled before the first is waited for.
+  for (Plugged &unit : units) pull(unit);
+  for (Plugged &unit : units) waitUntilGone(unit);
 }
 
 BusAddress UsbipFrontEnd::plug(int number, const UsbIdentity &identity, OpenFault fault) {
@@ -50,12 +55,16 @@ BusAddress UsbipFrontEnd::plug(int number, const UsbIdentity &identity, OpenFaul
     show(number, address, fault);
     return address;
   } catch (...) {
-    pull(number);
+    unplug(number);
     throw;
   }
 }
 
-void UsbipFrontEnd::unplug(int number) { pull(number); }
+void UsbipFrontEnd::unplug(int number) {
+  Plugged unit = take(number);
+  pull(unit);
+  waitUntilGone(unit);
+}
 
 void UsbipFrontEnd::setOpenFault(int number, OpenFault fault) {
   const std::lock_guard lock(mutex_);
@@ -91,31 +100,30 @@ void UsbipFrontEnd::show(int number, const BusAddress &address, OpenFault fault)
   Plugged &unit = plugged_.at(number);
   if (unit.isBroken) throw DeskError(kNotTakenUp);
   unit.address = address;
-  unit.node.emplace(controller_.nodeOf(address));
+  unit.node = std::make_unique<DeviceNode>(controller_.nodeOf(address));
   if (fault != OpenFault::None) unit.node->set(fault);
 }
 
-// The thread of the connection may be the one that is here, or wait for the desk, which is locked;
-// it is not waited for.
-void UsbipFrontEnd::pull(int number) {
-  Plugged unit;
-  {
-    const std::lock_guard lock(mutex_);
-    unit = std::move(plugged_.at(number));
-    plugged_.erase(number);
-  }
-  if (!unit.connection->isFinished()) controller_.detach(unit.port);
-  unit.connection->pull();
-  waitUntilGone(unit);
+UsbipFrontEnd::Plugged UsbipFrontEnd::take(int number) {
   const std::lock_guard lock(mutex_);
-  pulled_.push_back(std::move(unit.connection));
+  return std::move(plugged_.extract(number).mapped());
 }
 
-void UsbipFrontEnd::waitUntilGone(const Plugged &unit) const {
+void UsbipFrontEnd::pull(Plugged &unit) {
+  unit.node.reset();
+  if (!unit.connection->isFinished()) controller_.detach(unit.port);
+  unit.connection->pull();
+}
+
+// The thread of the connection is not waited for: it may be the one that is here, or wait for the
+// desk, which is locked.
+void UsbipFrontEnd::waitUntilGone(Plugged &unit) {
   const Clock::time_point end = Clock::now() + kKernelTakesAtMost;
   while (unit.address && controller_.addressAt(unit.port) == unit.address && Clock::now() < end) {
     std::this_thread::sleep_for(kLookAgainAfter);
   }
+  const std::lock_guard lock(mutex_);
+  pulled_.push_back(std::move(unit.connection));
 }
 
 void UsbipFrontEnd::onBroken(int number, int plugging, const std::string &reason) {

@@ -38,15 +38,16 @@ class UsbipFrontEnd : public FrontEnd {
     VhciPort port;
     std::unique_ptr<DeviceConnection> connection;
     std::optional<BusAddress> address;  // nothing until the kernel shows the unit to hosts
-    std::optional<DeviceNode> node;     // the same
+    std::unique_ptr<DeviceNode> node;   // the same
     bool isBroken = false;
   };
 
   void connect(int number, const UsbIdentity &identity);
   BusAddress waitForKernel(const Plugged &unit) const;
   void show(int number, const BusAddress &address, OpenFault fault);
-  void pull(int number);
-  void waitUntilGone(const Plugged &unit) const;
+  Plugged take(int number);
+  void pull(Plugged &unit);
+  void waitUntilGone(Plugged &unit);
   void onBroken(int number, int plugging, const std::string &reason);
   void forgetEnded();
 

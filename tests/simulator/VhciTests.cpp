@@ -8,6 +8,7 @@
 
 #include "Model/Desk.h"
 #include "TemporaryFolder.h"
+#include "usbip/DeviceNode.h"
 #include "usbip/VhciController.h"
 
 namespace trxsim {
@@ -134,6 +135,32 @@ TEST_F(Vhci, AddressIsThatOfTheDeviceAtTheHighSpeedHub) {
   EXPECT_FALSE(vhci.addressAt(port)) << "there is no device node yet";
   write("dev/bus/usb/005/014", "");
   EXPECT_EQ(vhci.addressAt(port), (BusAddress{5, 14}));
+}
+
+TEST_F(Vhci, DeniedNodeIsGivenBackAsTheSystemMadeIt) {
+  write("dev/bus/usb/005/014", "");
+  const fs::path path = root / "dev/bus/usb/005/014";
+  const auto permissions = [&path] { return static_cast<int>(fs::status(path).permissions()); };
+  fs::permissions(path, static_cast<fs::perms>(0664));
+  {
+    DeviceNode node(path);
+    EXPECT_EQ(permissions(), 0664);
+    node.set(OpenFault::Deny);
+    EXPECT_EQ(permissions(), 0);
+    node.set(OpenFault::None);
+    EXPECT_EQ(permissions(), 0664);
+    node.set(OpenFault::Deny);
+    node.set(OpenFault::Deny);
+  }
+  EXPECT_EQ(permissions(), 0664);
+}
+
+TEST_F(Vhci, NodeThatIsGoneNeedsNothingBack) {
+  write("dev/bus/usb/005/014", "");
+  DeviceNode node(root / "dev/bus/usb/005/014");
+  node.set(OpenFault::Deny);
+  fs::remove(root / "dev/bus/usb/005/014");
+  EXPECT_NO_THROW(node.set(OpenFault::None));
 }
 
 TEST_F(Vhci, WithoutControllersSaysWhatToDo) {
