@@ -72,4 +72,11 @@ int runCommand(std::vector<std::string> words, Environment environment) {
   return error == ENOENT ? kNotFound : kCannotRun;
 }
 
+void waitForEnd() {
+  sigset_t signals = handledSignals();
+  sigdelset(&signals, SIGCHLD);
+  while (sigwaitinfo(&signals, nullptr) < 0 && errno == EINTR) {
+  }
+}
+
 }  // namespace trxsim

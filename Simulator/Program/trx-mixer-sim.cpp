@@ -1,4 +1,5 @@
-// trx-mixer-sim: runs a command, and its children, on a desk with software mixers.
+// trx-mixer-sim: runs a command on a desk with software mixers, which its children see, or the
+// whole machine.
 
 #include <cstdio>
 #include <cstdlib>
@@ -37,6 +38,7 @@ constexpr const char *kExamples =
     "  trx-mixer-sim -- trxctl status                one mixer, one command\n"
     "  trx-mixer-sim --units 2 -- bash               a shell with two mixers plugged in\n"
     "  trx-mixer-sim --wire-log wire.txt -- ./tests  all requests go to a file too\n"
+    "  sudo trx-mixer-sim --usbip --units 2          two mixers for every program, until Ctrl-C\n"
     "\n"
     "While the command runs, from another terminal or from the command itself:\n"
     "  trx-mixer-ctl units                           what is on the desk\n"
@@ -109,6 +111,14 @@ class Wiring {
   trxsim::RequestGate &requests_;
 };
 
+/// Without a command: until the user has had enough.
+int keepPluggedIn(int units) {
+  std::printf("trx-mixer-sim: mixers plugged in: %d; Ctrl-C unplugs them\n", units);
+  std::fflush(stdout);
+  trxsim::waitForEnd();
+  return 0;
+}
+
 /// Plugs the mixers in and runs the command. `additions` is what its environment needs.
 template <typename FrontEnd>
 int simulate(const Options &options, const trxsim::ControlSocket &control, FrontEnd &frontEnd,
@@ -118,6 +128,7 @@ int simulate(const Options &options, const trxsim::ControlSocket &control, Front
   for (int unit = 0; unit < options.units; ++unit) desk.plugMixer();
   trxsim::CommandInterpreter interpreter(desk, additions);
   const trxsim::ControlServer server(control.listener(), interpreter);
+  if (options.command.empty()) return keepPluggedIn(options.units);
   return trxsim::runCommand(options.command, trxsim::environmentWith(additions));
 }
 
@@ -148,7 +159,7 @@ int simulate(const Options &options) {
 int run(int argc, char **argv) {
   CLI::App app(
       "Run a command, and its children, with software mixers plugged in: no hardware, no "
-      "privileges.",
+      "privileges. With --usbip, every program on the machine sees them; that needs root.",
       "trx-mixer-sim");
   app.formatter(
       std::make_shared<trxsim::UsageFormatter>("trx-mixer-sim [OPTIONS] -- COMMAND [ARGUMENT...]"));
@@ -159,8 +170,8 @@ int run(int argc, char **argv) {
       ->check(CLI::Range(0, kMostUnits))
       ->capture_default_str();
   app.add_flag("--usbip", options.usbip,
-               "plug the mixers into the running kernel, for every program on the machine; needs "
-               "root and the kernel module vhci-hcd");
+               "plug the mixers into the running kernel; needs root and the kernel module "
+               "vhci-hcd, but no command");
   app.add_option("--wire-log", options.wireLog, "file that gets a line for each request")
       ->type_name("FILE");
   app.add_option("--control", options.control, "socket to listen at for trx-mixer-ctl")
@@ -174,7 +185,7 @@ int run(int argc, char **argv) {
   if (!options.command.empty() && options.command[0] == "--") {
     options.command.erase(options.command.begin());
   }
-  if (options.command.empty()) {
+  if (options.command.empty() && !options.usbip) {
     std::fprintf(stderr,
                  "trx-mixer-sim: no command given. For a shell with two mixers: trx-mixer-sim "
                  "--units 2 -- bash\n`trx-mixer-sim --help` shows more.\n");

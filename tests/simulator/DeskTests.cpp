@@ -50,6 +50,29 @@ TEST_F(DeskTest, ReplugKeepsTheNumberAndTheSettingsButNotTheAddress) {
   EXPECT_EQ(desk.unit(1).mixer->lastWritten(RequestId::UsbOutputLevel), 0x0300);
 }
 
+TEST_F(DeskTest, UnitThatWentAwayByItselfIsUnplugged) {
+  desk.plugMixer();
+  desk.lost(1, *desk.unit(1).address);
+  EXPECT_FALSE(desk.unit(1).address);
+  EXPECT_EQ(frontEnd.calls, (std::vector<std::string>{"plug 1", "unplug 1"}));
+}
+
+TEST_F(DeskTest, LossOfAUnitThatWasPluggedInAgainIsOldNews) {
+  desk.plugMixer();
+  const BusAddress first = *desk.unit(1).address;
+  desk.unplug(1);
+  desk.lost(1, first);
+  desk.replug(1);
+  desk.lost(1, first);
+  EXPECT_TRUE(desk.unit(1).address);
+  EXPECT_EQ(frontEnd.calls, (std::vector<std::string>{"plug 1", "unplug 1", "plug 1"}));
+}
+
+TEST_F(DeskTest, RequestToAUnitThatWasNeverPluggedInLeavesNoTrace) {
+  EXPECT_EQ(desk.transfer(1, kReadSelectors).outcome, Outcome::Gone);
+  EXPECT_TRUE(desk.log().empty());
+}
+
 TEST_F(DeskTest, RequestToAnUnpluggedUnitLeavesNoTrace) {
   desk.plugMixer();
   desk.unplug(1);

@@ -1,9 +1,11 @@
 // The programs trx-mixer-sim and trx-mixer-ctl as their users meet them.
 
 #include <csignal>
+#include <filesystem>
 #include <fstream>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "MakerIds.h"
 #include "SimulatorRun.h"
@@ -67,6 +69,24 @@ TEST(SimulatorProgram, HelpTeachesWithExamples) {
   Program program(simulate({"--help"}), folder);
   EXPECT_NE(program.rest().find("trx-mixer-sim --units 2 -- bash"), std::string::npos);
   EXPECT_EQ(program.finish(), 0);
+}
+
+TEST(SimulatorProgram, WithoutRootSaysWhatTheRunningKernelNeeds) {
+  const TemporaryFolder folder;
+  // Another user must get at it, wherever the build is.
+  std::filesystem::permissions(folder.path(), std::filesystem::perms::all);
+  std::filesystem::copy_file(TRX_MIXER_SIM, folder / "trx-mixer-sim");
+  Words words{folder / "trx-mixer-sim", "--usbip", "--control", folder / "control.sock"};
+  if (geteuid() == 0) {
+    const Words asNobody{"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"};
+    words.insert(words.begin(), asNobody.begin(), asNobody.end());
+  }
+  Program program(words, folder);
+  EXPECT_EQ(program.finish(), 125);
+  EXPECT_EQ(program.errors(),
+            "trx-mixer-sim: plugging mixers into the running kernel needs root: try again with "
+            "sudo. Without --usbip no privileges are needed\n");
+  EXPECT_EQ(folder.entries(), 1u);
 }
 
 TEST(SimulatorProgram, LeavesNothingBehind) {
