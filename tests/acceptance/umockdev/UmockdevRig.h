@@ -1,83 +1,15 @@
 #pragma once
 
-#include <memory>
-#include <optional>
-#include <string>
-#include <vector>
-
-#include <Control/ControlClient.h>
-
-#include "../Rig.h"
-#include "BusObserver.h"
-#include "PrivateBus.h"
+#include "../linux/SimulatorRig.h"
 
 namespace trxtest {
 
-/// The variable that names the private folder of a case; set once the process runs under the
-/// simulator.
-inline constexpr const char *kFolderVariable = "TRX_ACCEPTANCE_FOLDER";
-
-/// Where things lie in the private folder of a case.
-std::string ControlSocketIn(const std::string &folder);
-std::string ConfigurationFolderIn(const std::string &folder);
-std::string RuntimeFolderIn(const std::string &folder);
-std::string SystemRootIn(const std::string &folder);
-
-/// The rig over umockdev's simulated sysfs and usbfs, and a session bus of its own. Its process
-/// runs under trx-mixer-sim (see main.cpp).
-class UmockdevRig : public Rig {
+/// The rig over umockdev's simulated sysfs and usbfs.
+class UmockdevRig : public SimulatorRig {
  public:
-  /// `folder` is the private folder of the case.
-  explicit UmockdevRig(const std::string &folder);
+  using SimulatorRig::SimulatorRig;
 
-  int PlugMixer() override;
   int PlugMixerInFront() override;
-  int PlugStranger(Stranger kind) override;
-  void Unplug(int unit) override;
-  void Replug(int unit) override;
-
-  void SetChannels(int unit, unsigned count) override;
-  void SetSelector(int unit, unsigned channel, std::uint8_t position) override;
-  void SetLeadingByte(int unit, std::uint8_t value) override;
-  void SetSerato(int unit, std::uint8_t first, std::uint8_t second) override;
-  void SetPort(int unit, std::uint8_t first, std::uint8_t second) override;
-  void SetFirmware(int unit, std::uint16_t version) override;
-  void SetCertifyLevel(int unit, std::uint32_t level) override;
-
-  void SetFault(int unit, UnitFault fault) override;
-  void SetShortReplies(int unit, unsigned bytes) override;
-  void ClearFaults(int unit) override;
-
-  std::vector<std::string> WireLog() override;
-  void ClearWireLog() override;
-
-  std::string LibraryFolder() override;
-  std::string SettingsFile(const std::string &modelDisplayName) override;
-  std::string SystemRoot() override;
-
-  std::vector<Announcement> TakeAnnouncements(std::size_t count) override;
-  void Announce(const Announcement &announcement) override;
-  int AnnounceMisshapen(const Announcement &announcement) override;
-
-  void StopNotificationService() override;
-  void StartNotificationService() override;
-  void FreezeNotificationService() override;
-  void ThawNotificationService() override;
-  void LoseNotificationService(LostService how) override;
-
-  void RunEventLoop(std::chrono::milliseconds limit) override;
-
-  std::unique_ptr<HostProcess> StartHost() override;
-
- private:
-  template <typename... Words>
-  std::vector<std::string> Tell(const Words &...words);
-  int DeviceNumberOf(int unit);
-
-  std::string folder_;
-  trxsim::ControlClient simulator_;
-  PrivateBus bus_;
-  std::optional<BusObserver> observer_;
 };
 
 }  // namespace trxtest

@@ -16,7 +16,7 @@
 namespace trxtest {
 namespace {
 
-constexpr int kPatienceMilliseconds = 10'000;
+constexpr int kPatienceMilliseconds = 60'000;
 
 // The installed configuration would look for services to activate and differs between systems.
 constexpr const char *kConfigurationBeforeAddress = R"(<!DOCTYPE busconfig PUBLIC

@@ -10,7 +10,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::seconds kPatience{10};
+constexpr std::chrono::seconds kPatience{60};
 
 constexpr const char *kPath = "/com/orvikaudio/Setup";
 constexpr const char *kInterface = "com.orvikaudio.Setup";
