@@ -13,7 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::seconds kPatience{10};
+constexpr std::chrono::seconds kPatience{60};
 constexpr std::chrono::milliseconds kStep{20};
 
 constexpr const char *kBeforeEntries =

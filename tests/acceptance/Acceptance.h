@@ -51,7 +51,7 @@ class Acceptance : public testing::Test {
   /// cases in which none of that happened before.
   void ExpectNothingHappened();
 
-  /// Runs the event loop until `isDone`, at most ten seconds. Returns whether it is done.
+  /// Runs the event loop until `isDone`, at most a minute. Returns whether it is done.
   bool RunEventLoopUntil(const std::function<bool()> &isDone);
 
  private:
@@ -61,7 +61,7 @@ class Acceptance : public testing::Test {
   std::vector<std::string> libraryAtStart_ = ListLibrary();
 };
 
-/// Waits until `isDone`, at most ten seconds. Returns whether it is done.
+/// Waits until `isDone`, at most a minute. Returns whether it is done.
 bool WaitUntil(const std::function<bool()> &isDone);
 
 /// The boost change that a setter announces.

@@ -19,8 +19,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::seconds kPatienceForAnswer{20};
-constexpr std::chrono::seconds kPatienceForCalls{10};
+constexpr std::chrono::seconds kPatienceForAnswer{120};
+constexpr std::chrono::seconds kPatienceForCalls{60};
 
 int MillisecondsUntil(Clock::time_point deadline) {
   const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());

@@ -12,7 +12,7 @@ namespace trxtest {
 
 /// A running acceptance-host (host/main.cpp lists its commands). It receives notifications in its
 /// event loop whenever it has no command to carry out. Ends with this object. Functions throw when
-/// the process is gone or keeps silent for twenty seconds. One thread at a time.
+/// the process is gone or keeps silent for two minutes. One thread at a time.
 class HostProcess {
  public:
   /// Starts `program` in the environment of this process.
@@ -31,7 +31,7 @@ class HostProcess {
   std::string Answer();
 
   /// Waits until the callbacks of the process have run `count` times since the last call, but at
-  /// most ten seconds; then returns a line for each run, whether fewer or more.
+  /// most a minute; then returns a line for each run, whether fewer or more.
   std::vector<std::string> TakeCalls(std::size_t count);
 
   pid_t Id() const { return id_; }
