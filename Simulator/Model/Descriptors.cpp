@@ -9,6 +9,9 @@ namespace {
 
 enum DescriptorType : std::uint8_t { kDevice = 1, kConfiguration, kString, kInterface };
 
+constexpr std::uint8_t kClassSpecific = 0x24;
+constexpr std::uint8_t kHeader = 1;
+
 enum TextNumber : std::uint8_t { kNoText, kManufacturer, kProduct, kSerial };
 
 constexpr std::uint8_t kSelfPowered = 0xC0;
@@ -28,23 +31,32 @@ std::uint8_t numberOf(const UsbIdentity &identity, TextNumber text) {
   return textOf(identity, text).empty() ? std::uint8_t{kNoText} : std::uint8_t{text};
 }
 
+// The control interface says that interfaces 1 and 2 belong to it; without this header the kernel's
+// driver does not take any of them.
+std::vector<std::uint8_t> audioHeader() {
+  return {10, kClassSpecific, kHeader, 0x00, 0x01, 10, 0, 2, 1, 2};
+}
+
+std::vector<std::uint8_t> midiHeader() { return {7, kClassSpecific, kHeader, 0x00, 0x01, 7, 0}; }
+
 }  // namespace
 
 const DeviceKind &rootHubKind() {
-  static const DeviceKind hub{0x0601, 0x0200, 9, 1, "480", 16, {{9, 0, 0, "hub"}}};
+  static const DeviceKind hub{0x0601, 0x0200, 9, 1, "480", 16, {{9, 0, 0, "hub", {}}}};
   return hub;
 }
 
 const DeviceKind &kindOf(const UsbIdentity &identity) {
-  static const DeviceKind mixer{
-      0x0100,
-      0x0200,
-      0,
-      0,
-      "480",
-      0,
-      {{1, 1, 0, "snd-usb-audio"}, {1, 2, 0, "snd-usb-audio"}, {1, 3, 0, "snd-usb-audio"}}};
-  static const DeviceKind stranger{0x0100, 0x0200, 0, 0, "480", 0, {{0xFF, 0, 0, nullptr}}};
+  static const DeviceKind mixer{0x0100,
+                                0x0200,
+                                0,
+                                0,
+                                "480",
+                                0,
+                                {{1, 1, 0, "snd-usb-audio", audioHeader()},
+                                 {1, 2, 0, "snd-usb-audio", {}},
+                                 {1, 3, 0, "snd-usb-audio", midiHeader()}}};
+  static const DeviceKind stranger{0x0100, 0x0200, 0, 0, "480", 0, {{0xFF, 0, 0, nullptr, {}}}};
   return identity.isMixer ? mixer : stranger;
 }
 
@@ -73,18 +85,21 @@ std::vector<std::uint8_t> deviceDescriptor(const UsbIdentity &identity, const De
 
 std::vector<std::uint8_t> configurationDescriptor(const DeviceKind &kind) {
   constexpr std::uint8_t kLength = 9;
-  const std::size_t total = kLength * (1 + kind.interfaces.size());
-  std::vector<std::uint8_t> bytes{
-      kLength, kConfiguration, low(total), high(total), low(kind.interfaces.size()), 1,
-      0,       kSelfPowered,   0};
+  std::vector<std::uint8_t> interfaces;
   std::uint8_t number = 0;
   for (const InterfaceKind &interface : kind.interfaces) {
     const std::array<std::uint8_t, kLength> one{
         kLength, kInterface,          number++,           0,
         0,       interface.classCode, interface.subclass, interface.protocol,
         0};
-    bytes.insert(bytes.end(), one.begin(), one.end());
+    interfaces.insert(interfaces.end(), one.begin(), one.end());
+    interfaces.insert(interfaces.end(), interface.classSpecific.begin(),
+                      interface.classSpecific.end());
   }
+  const std::size_t total = kLength + interfaces.size();
+  std::vector<std::uint8_t> bytes{kLength, kConfiguration, low(total), high(total), number, 1,
+                                  0,       kSelfPowered,   0};
+  bytes.insert(bytes.end(), interfaces.begin(), interfaces.end());
   return bytes;
 }
 

@@ -7,12 +7,14 @@
 
 namespace trxsim {
 
-/// Class, subclass and protocol of an interface, and the driver that the kernel has for it.
+/// Class, subclass and protocol of an interface, the driver that the kernel has for it, and what
+/// its class wants to be told in addition.
 struct InterfaceKind {
   std::uint8_t classCode;
   std::uint8_t subclass;
   std::uint8_t protocol;
-  const char *driver;  ///< Null: no driver takes it.
+  const char *driver;                       ///< Null: no driver takes it.
+  std::vector<std::uint8_t> classSpecific;  ///< Descriptors, as they go over the wire.
 };
 
 /// What differs between the kinds of device on the desk.

@@ -49,10 +49,10 @@ std::string vendorOnTheWire() { return vendorId().substr(2) + vendorId().substr(
 TEST_F(Usbip, MixerTellsItsDescriptors) {
   EXPECT_EQ(mixer->request("80060001 00001200"),
             "0 12010002 00000040 " + vendorOnTheWire() + "1f00 00010102 0301");
-  EXPECT_EQ(mixer->request("80060002 00000900"), "0 09022400 030100c0 00");
+  EXPECT_EQ(mixer->request("80060002 00000900"), "0 09023500 030100c0 00");
   EXPECT_EQ(mixer->request("80060002 0000ff00"),
-            "0 09022400 030100c0 00"
-            "090400 00000101 00000904 01000001 02000009 04020000 01030000");
+            "0 09023500 030100c0 00090400 00000101 00000a24 0100010a 00020102 "
+            "09040100 00010200 00090402 00000103 00000724 01000107 00");
 }
 
 TEST_F(Usbip, MixerTellsItsTexts) {
