@@ -9,7 +9,7 @@ namespace trxsim {
 
 bool loadKernelModule(const std::string &name) {
   std::string program = "modprobe";
-  std::string quietly = "--quiet";
+  std::string quietly = "-q";
   std::string module = name;
   char *const arguments[] = {program.data(), quietly.data(), module.data(), nullptr};
   posix_spawn_file_actions_t actions;
