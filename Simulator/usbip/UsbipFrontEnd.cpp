@@ -106,7 +106,9 @@ void UsbipFrontEnd::show(int number, const BusAddress &address, OpenFault fault)
 
 UsbipFrontEnd::Plugged UsbipFrontEnd::take(int number) {
   const std::lock_guard lock(mutex_);
-  return std::move(plugged_.extract(number).mapped());
+  Plugged unit = std::move(plugged_.at(number));
+  plugged_.erase(number);
+  return unit;
 }
 
 void UsbipFrontEnd::pull(Plugged &unit) {
