@@ -10,7 +10,7 @@
 
 namespace trxtest {
 
-/// A running acceptance-host (host/main.cpp lists its commands). It receives notifications in its
+/// A running acceptance-host (host/Commands.h lists its commands). It receives notifications in its
 /// event loop whenever it has no command to carry out. Ends with this object. Functions throw when
 /// the process is gone or keeps silent for two minutes. One thread at a time.
 class HostProcess {

@@ -162,6 +162,8 @@ std::string ConfigurationFolderIn(const std::string &folder) { return folder + "
 std::string RuntimeFolderIn(const std::string &folder) { return folder + "/run"; }
 std::string SystemRootIn(const std::string &folder) { return folder + "/system"; }
 
+bool IsInCase() { return std::getenv(kFolderVariable) != nullptr; }
+
 std::string PrivateFolder() {
   const char *folder = std::getenv(kFolderVariable);
   if (folder == nullptr) throw std::runtime_error("not under the simulator");

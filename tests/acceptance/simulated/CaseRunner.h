@@ -1,6 +1,6 @@
-// The main program of the rigs of Linux. Every case runs in a process of its own, started under
-// trx-mixer-sim with a private folder: the library's registrations last as long as a process, and
-// no case may see what another left behind.
+// The main program of the rigs whose mixers are software. Every case runs in a process of its own,
+// started under a simulator with a private folder: the library's registrations last as long as a
+// process, and no case may see what another left behind.
 #pragma once
 
 #include <string>
@@ -11,6 +11,9 @@ namespace trxtest {
 /// Runs the cases that the arguments select, each by itself on an empty desk, and returns the exit
 /// code. `simulatorOptions` choose the front end of the simulator.
 int RunCases(int argc, char **argv, const std::vector<std::string> &simulatorOptions);
+
+/// Whether this process runs under the simulator, for one case.
+bool IsInCase();
 
 /// The private folder of the case that this process runs. Throws outside of a case.
 std::string PrivateFolder();

@@ -1,7 +1,7 @@
 // When the service that carries announcements is away, comes, goes, comes back or hangs.
 #include <chrono>
 
-#include "../Deliveries.h"
+#include "../../Deliveries.h"
 
 namespace trxtest {
 namespace {

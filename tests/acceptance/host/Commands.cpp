@@ -1,46 +1,22 @@
-// acceptance-host: a process with the library that does what it is told.
-//
-// One command a line on standard input; each is answered by one line "= ANSWER". A callback that
-// runs prints "! TAG INDEX" or "! TAG CHANNEL INDEX". While no command is there the process sits in
-// its event loop.
-//
-//   call FUNCTION NUMBER...           calls an exported function; answers its status, then what it
-//                                     handed out
-//   register FUNCTION PRODUCT TAG     registers a callback whose context is the tag
-//   unregister FUNCTION PRODUCT
-//   levels PRODUCT COUNT              sets the boost level COUNT times, 0 1 2 3 0 1 ...
-//   stop-receiving, go-on-receiving   the event loop leaves notifications alone, or not
-//   give-up admin                     goes on without CAP_SYS_ADMIN
-//   give-up root                      goes on as the user nobody, if it was root
-//   give-up space                     goes on as on a full disk: no file can be written
-#include <csignal>
+#include "Commands.h"
+
 #include <cstdint>
-#include <cstdio>
 #include <functional>
 #include <iostream>
 #include <list>
 #include <map>
 #include <sstream>
 #include <stdexcept>
-#include <string>
 #include <vector>
 
-#include <grp.h>
-#include <linux/capability.h>
-#include <poll.h>
-#include <sys/prctl.h>
-#include <sys/resource.h>
-#include <sys/syscall.h>
-#include <unistd.h>
-
-#include <TRX-SELVASetup/EventLoop.h>
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
+#include "Rights.h"
+
+namespace trxtest {
 namespace {
 
 using Numbers = std::vector<std::uint32_t>;
-
-constexpr uid_t kNobody = 65534;
 
 // --- Exported functions ----------------------------------------------------------------------
 
@@ -98,7 +74,7 @@ void ChannelIndexChanged(std::int32_t channel, std::int32_t index, void *tag) {
 
 // --- Commands --------------------------------------------------------------------------------
 
-bool receiving = true;
+bool isReceiving = true;
 
 std::string Call(std::istream &words) {
   std::string name;
@@ -146,29 +122,6 @@ std::string SetLevels(std::istream &words) {
   return std::to_string(ORV_SUCCESS);
 }
 
-// An ordinary user does not have it in the first place.
-std::string GiveUpAdmin() {
-  __user_cap_header_struct header = {_LINUX_CAPABILITY_VERSION_3, 0};
-  __user_cap_data_struct sets[_LINUX_CAPABILITY_U32S_3] = {};
-  if (syscall(SYS_capget, &header, sets) != 0) return "failed";
-  constexpr std::uint32_t kBit = 1U << CAP_SYS_ADMIN;
-  sets[0].effective &= ~kBit;
-  sets[0].permitted &= ~kBit;
-  return syscall(SYS_capset, &header, sets) == 0 ? "done" : "failed";
-}
-
-std::string GiveUpRoot() {
-  if (geteuid() != 0) return "done";
-  const bool isDone = setgroups(0, nullptr) == 0 && setgid(kNobody) == 0 && setuid(kNobody) == 0;
-  return isDone ? "done" : "failed";
-}
-
-std::string GiveUpSpace() {
-  signal(SIGXFSZ, SIG_IGN);
-  const rlimit nothing = {0, 0};
-  return setrlimit(RLIMIT_FSIZE, &nothing) == 0 ? "done" : "failed";
-}
-
 const std::map<std::string, std::string (*)()> kThingsToGiveUp = {
     {"admin", GiveUpAdmin}, {"root", GiveUpRoot}, {"space", GiveUpSpace}};
 
@@ -185,12 +138,12 @@ const std::map<std::string, std::function<std::string(std::istream &)>> kCommand
     {"levels", SetLevels},
     {"stop-receiving",
      [](std::istream &) {
-       receiving = false;
+       isReceiving = false;
        return std::string("done");
      }},
     {"go-on-receiving",
      [](std::istream &) {
-       receiving = true;
+       isReceiving = true;
        return std::string("done");
      }},
     {"give-up", GiveUp},
@@ -207,7 +160,10 @@ std::string Answer(const std::string &line) {
   }
 }
 
-// Carries out the complete lines of what was read so far; keeps the rest.
+}  // namespace
+
+bool IsReceiving() { return isReceiving; }
+
 void CarryOut(std::string &input) {
   for (std::size_t end = input.find('\n'); end != std::string::npos; end = input.find('\n')) {
     const std::string line = input.substr(0, end);
@@ -216,23 +172,4 @@ void CarryOut(std::string &input) {
   }
 }
 
-}  // namespace
-
-int main() {
-  prctl(PR_SET_PDEATHSIG, SIGKILL);
-  std::string input;
-  pollfd waiting[2] = {{STDIN_FILENO, POLLIN, 0}, {-1, POLLIN, 0}};
-  for (;;) {
-    std::int32_t descriptor = -1;
-    ORV_GetNotificationDescriptor(&descriptor);
-    waiting[1].fd = receiving ? descriptor : -1;
-    if (poll(waiting, 2, -1) < 0) continue;
-    if (waiting[1].revents != 0) ORV_DispatchNotifications();
-    if (waiting[0].revents == 0) continue;
-    char part[4096];
-    const ssize_t size = read(STDIN_FILENO, part, sizeof part);
-    if (size <= 0) return 0;
-    input.append(part, static_cast<std::size_t>(size));
-    CarryOut(input);
-  }
-}
+}  // namespace trxtest
