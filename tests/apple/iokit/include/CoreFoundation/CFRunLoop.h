@@ -1,0 +1,3 @@
+#pragma once
+
+typedef struct __CFRunLoopSource *CFRunLoopSourceRef;

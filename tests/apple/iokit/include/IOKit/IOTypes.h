@@ -1,0 +1,9 @@
+#pragma once
+
+#include <mach/mach.h>
+
+typedef mach_port_t io_object_t;
+typedef io_object_t io_iterator_t;
+typedef io_object_t io_service_t;
+
+#define IO_OBJECT_NULL ((io_object_t)0)
