@@ -19,15 +19,16 @@ inline constexpr std::uint16_t MIXER_USB_PRODUCT_ID = 31;
 /// The number of connected units; 0 when the bus cannot be looked at. The model does not matter.
 std::int32_t CheckUSBAudio(ProductId productId) noexcept;
 
-/// Opens the unit at position n (0-based, in the order of the bus) into a handle that must be null
-/// on entry. Called by open_pipes only. Returns 0, or kIOReturnError when there is no such unit or
-/// the handle was not null (it is left alone then), or what the system said of a node that could
-/// not be opened (the handle stays null).
+/// Opens the unit at position n (0-based, in the order of the bus, on macOS of the registry) into a
+/// handle that must be null on entry. Called by open_pipes only. Returns 0, or kIOReturnError when
+/// there is no such unit or the handle was not null (it is left alone then), or what the system
+/// said: on Linux of the unit's node that could not be opened (the handle stays null), on macOS of
+/// the device that was looked at last, which may be another one (the handle holds the unit).
 PlatformStatus openUSB(DeviceHandle *handle, std::uint32_t n) noexcept;
 
 /// Sets the handle to null, then opens the unit at position n into it. Returns what openUSB
-/// returns, and kIOReturnError for a null pointer. The handle is the caller's to close with
-/// closeUSB.
+/// returns, and kIOReturnError for a null pointer. After 0 the handle is the caller's to close with
+/// closeUSB; after anything else it is passed over, whatever it holds.
 PlatformStatus open_pipes(DeviceHandle *handle, std::uint32_t n) noexcept;
 
 /// Closes an open unit and sets the handle to null; leaves a null handle alone.

@@ -1,0 +1,127 @@
+// Counting the mixers, call for call.
+#include "IOKitTest.h"
+#include "USBDevice.h"
+
+namespace trxtest {
+namespace {
+
+using orv::CheckUSBAudio;
+
+// Counting begins, up to the walk: `port` is what the registry is asked through.
+Lines CountBegins(const std::string &port, const std::string &services) {
+  return {
+      "IOServiceMatching(IOUSBDevice) = dictionary 1",
+      "CFNumberCreate(default, SInt32, 20306) = number 1",
+      "CFDictionarySetValue(dictionary 1, idVendor, number 1)",
+      "CFNumberCreate(default, SInt32, 31) = number 2",
+      "CFDictionarySetValue(dictionary 1, idProduct, number 2)",
+      "IOServiceGetMatchingServices(" + port + ", dictionary 1) = " + services,
+  };
+}
+
+class Count : public IOKitTest {};
+
+TEST_F(Count, OfNoDeviceAtAll) {
+  EXPECT_EQ(CheckUSBAudio(11), 0);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            Joined({{MasterPortGiven()},
+                    CountBegins("master port", "iterator 1"),
+                    {"IOIteratorNext(iterator 1) = nothing", "IOObjectRelease(iterator 1)"}}));
+}
+
+TEST_F(Count, OfOneMixer) {
+  devices().PlugMixer();
+  EXPECT_EQ(CheckUSBAudio(11), 1);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            Joined({{MasterPortGiven()},
+                    CountBegins("master port", "iterator 1"),
+                    {"IOIteratorNext(iterator 1) = device 1", "IOObjectRelease(device 1)",
+                     "IOIteratorNext(iterator 1) = nothing", "IOObjectRelease(iterator 1)"}}));
+}
+
+TEST_F(Count, OfThreeMixersWithStrangersBetween) {
+  devices().PlugUnrelated();
+  devices().PlugMixer();
+  devices().PlugOtherProductOfTheMaker();
+  devices().PlugMixer();
+  devices().PlugOtherMakerWithTheSameProduct();
+  devices().PlugMixer();
+  EXPECT_EQ(CheckUSBAudio(11), 3);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            Joined({{MasterPortGiven()},
+                    CountBegins("master port", "iterator 1"),
+                    {"IOIteratorNext(iterator 1) = device 2", "IOObjectRelease(device 2)",
+                     "IOIteratorNext(iterator 1) = device 4", "IOObjectRelease(device 4)",
+                     "IOIteratorNext(iterator 1) = device 6", "IOObjectRelease(device 6)",
+                     "IOIteratorNext(iterator 1) = nothing", "IOObjectRelease(iterator 1)"}}));
+}
+
+TEST_F(Count, DoesNotCountStrangers) {
+  devices().PlugUnrelated();
+  devices().PlugOtherProductOfTheMaker();
+  devices().PlugOtherMakerWithTheSameProduct();
+  EXPECT_EQ(CheckUSBAudio(11), 0);
+}
+
+TEST_F(Count, IsTheSameForEveryModel) {
+  devices().PlugMixer();
+  for (const ProductId model : {0U, 1U, 2U, 7U, 11U, 12U, 0xFFFFFFFFU}) {
+    EXPECT_EQ(CheckUSBAudio(model), 1) << model;
+  }
+}
+
+TEST_F(Count, CountsMixersThatCannotBeOpenedToo) {
+  devices().SetFaults(devices().PlugMixer(), {.plugIn = kIOReturnExclusiveAccess});
+  EXPECT_EQ(CheckUSBAudio(11), 1);
+}
+
+TEST_F(Count, DoesNotMindAFailingMasterPort) {
+  devices().PlugMixer();
+  IOKitDouble::SetFaults({.masterPort = kIOReturnNoResources});
+  EXPECT_EQ(CheckUSBAudio(11), 1);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            Joined({{MasterPortRefused("E00002BE")},
+                    CountBegins("null port", "iterator 1"),
+                    {"IOIteratorNext(iterator 1) = device 1", "IOObjectRelease(device 1)",
+                     "IOIteratorNext(iterator 1) = nothing", "IOObjectRelease(iterator 1)"}}));
+}
+
+TEST_F(Count, IsZeroWithoutADictionary) {
+  devices().PlugMixer();
+  IOKitDouble::SetFaults({.noDictionary = true});
+  EXPECT_EQ(CheckUSBAudio(11), 0);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            (Lines{MasterPortGiven(), "IOServiceMatching(IOUSBDevice) = nothing"}));
+  EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1}));
+}
+
+TEST_F(Count, IsZeroWhenTheRegistryCannotBeAsked) {
+  devices().PlugMixer();
+  IOKitDouble::SetFaults({.services = kIOReturnError});
+  EXPECT_EQ(CheckUSBAudio(11), 0);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            Joined({{MasterPortGiven()}, CountBegins("master port", "E00002BC")}));
+  EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2}));
+}
+
+TEST_F(Count, IsZeroWithoutAnIterator) {
+  devices().PlugMixer();
+  IOKitDouble::SetFaults({.noIterator = true});
+  EXPECT_EQ(CheckUSBAudio(11), 0);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            Joined({{MasterPortGiven()}, CountBegins("master port", "nothing")}));
+  EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2}));
+}
+
+TEST_F(Count, LeavesThePortAndTheTwoNumbersAndNothingElse) {
+  devices().PlugMixer();
+  devices().PlugMixer();
+  CheckUSBAudio(11);
+  EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2}));
+  CheckUSBAudio(11);
+  CheckUSBAudio(11);
+  EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 3, .numbers = 6}));
+}
+
+}  // namespace
+}  // namespace trxtest

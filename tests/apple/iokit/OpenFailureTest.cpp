@@ -1,0 +1,303 @@
+// Opening when a step of it fails: what is done still, what is released, what is answered.
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "IOKitTest.h"
+#include "USBDevice.h"
+
+namespace trxtest {
+namespace {
+
+using orv::closeUSB;
+using orv::DeviceHandle;
+using orv::open_pipes;
+using orv::openUSB;
+using orv::PlatformStatus;
+
+constexpr auto kGeneralError = static_cast<PlatformStatus>(0xE00002BC);
+constexpr auto kHeld = static_cast<PlatformStatus>(0xE00002C5);
+constexpr auto kNoResources = static_cast<PlatformStatus>(0xE00002BE);
+
+class OpenFailure : public IOKitTest {
+ protected:
+  // A handle in use, which nothing here may touch: it shows what the walk itself answers.
+  DeviceHandle InUse() { return &nothing_; }
+
+ private:
+  IOUSBDeviceInterface *nothing_ = nullptr;
+};
+
+// --- In front of the walk ----------------------------------------------------------------------
+
+TEST_F(OpenFailure, OfTheMasterPortEndsItAtOnce) {
+  devices().PlugMixer();
+  IOKitDouble::SetFaults({.masterPort = kNoResources});
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(IOKitDouble::TakeCalls(), (Lines{
+                                          MasterPortRefused("E00002BE"),
+                                          "mach_port_deallocate(mach_task_self, null port)",
+                                      }));
+  handle = InUse();
+  EXPECT_EQ(openUSB(&handle, 0), kNoResources);
+  EXPECT_EQ(handle, InUse());
+  EXPECT_EQ(IOKitDouble::Alive(), References());
+}
+
+TEST_F(OpenFailure, OfTheDictionaryGivesThePortBack) {
+  devices().PlugMixer();
+  IOKitDouble::SetFaults({.noDictionary = true});
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(IOKitDouble::TakeCalls(), (Lines{
+                                          MasterPortGiven(),
+                                          "IOServiceMatching(IOUSBDevice) = nothing",
+                                          "mach_port_deallocate(mach_task_self, master port)",
+                                      }));
+  handle = InUse();
+  EXPECT_EQ(openUSB(&handle, 0), 0);
+  EXPECT_EQ(IOKitDouble::Alive(), References());
+}
+
+TEST_F(OpenFailure, OfTheServicesGivesThePortBack) {
+  devices().PlugMixer();
+  IOKitDouble::SetFaults({.services = kNoResources});
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            (Lines{
+                MasterPortGiven(),
+                "IOServiceMatching(IOUSBDevice) = dictionary 1",
+                "IOServiceGetMatchingServices(master port, dictionary 1) = E00002BE",
+                "mach_port_deallocate(mach_task_self, master port)",
+            }));
+  handle = InUse();
+  EXPECT_EQ(openUSB(&handle, 0), kNoResources);
+  EXPECT_EQ(IOKitDouble::Alive(), References());
+}
+
+TEST_F(OpenFailure, OfTheIteratorGivesThePortBack) {
+  devices().PlugMixer();
+  IOKitDouble::SetFaults({.noIterator = true});
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            (Lines{
+                MasterPortGiven(),
+                "IOServiceMatching(IOUSBDevice) = dictionary 1",
+                "IOServiceGetMatchingServices(master port, dictionary 1) = nothing",
+                "mach_port_deallocate(mach_task_self, master port)",
+            }));
+  EXPECT_EQ(IOKitDouble::Alive(), References());
+}
+
+// --- A plug-in that cannot be made -------------------------------------------------------------
+
+TEST_F(OpenFailure, OfAPlugInInFrontOfTheMixerIsForgotten) {
+  devices().SetFaults(devices().PlugUnrelated(), {.plugIn = kHeld});
+  devices().PlugMixer();
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_NE(handle, nullptr);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            Joined({WalkBegins(), Found("1", " = E00002C5"), Kept("2"), WalkEnds()}));
+  closeUSB(&handle);
+  EXPECT_EQ(IOKitDouble::Alive(), References());
+}
+
+TEST_F(OpenFailure, OfAPlugInBehindTheMixerIsWhatTheCallerIsTold) {
+  devices().PlugMixer();
+  devices().SetFaults(devices().PlugUnrelated(), {.plugIn = kHeld});
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), kHeld);
+  EXPECT_NE(handle, nullptr);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            Joined({WalkBegins(), Kept("1"), Found("2", " = E00002C5"), WalkEnds()}));
+  EXPECT_EQ(IOKitDouble::Alive(), (References{.interfaces = 1}));
+}
+
+TEST_F(OpenFailure, OfAPlugInIsForgottenWhenAnotherDeviceFollows) {
+  devices().PlugMixer();
+  devices().SetFaults(devices().PlugUnrelated(), {.plugIn = kHeld});
+  devices().PlugUnrelated();
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_NE(handle, nullptr);
+}
+
+TEST_F(OpenFailure, OfAMixersOwnPlugInMovesTheMixersBehindItUp) {
+  devices().SetFaults(devices().PlugMixer(), {.plugIn = kHeld});
+  devices().PlugMixer();
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            Joined({WalkBegins(), Found("1", " = E00002C5"), Kept("2"), WalkEnds()}));
+}
+
+TEST_F(OpenFailure, OfTheOnlyMixersPlugInIsTheGeneralError) {
+  devices().SetFaults(devices().PlugMixer(), {.plugIn = kHeld});
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(handle, nullptr);
+}
+
+TEST_F(OpenFailure, OfAPlugInShowsItsStatusToAHandleInUse) {
+  devices().SetFaults(devices().PlugMixer(), {.plugIn = kHeld});
+  DeviceHandle handle = InUse();
+  EXPECT_EQ(openUSB(&handle, 0), kHeld);
+  EXPECT_EQ(handle, InUse());
+}
+
+TEST_F(OpenFailure, OfAPlugInThatSaysItWasMade) {
+  devices().SetFaults(devices().PlugMixer(), {.noPlugIn = true});
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(IOKitDouble::TakeCalls(), Joined({WalkBegins(), Found("1"), WalkEnds()}));
+  EXPECT_EQ(IOKitDouble::Alive(), References());
+}
+
+// --- An interface that is not given ------------------------------------------------------------
+
+TEST_F(OpenFailure, OfTheInterfaceMakesTheDeviceNone) {
+  devices().SetFaults(devices().PlugMixer(), {.query = E_NOINTERFACE, .noInterface = true});
+  devices().PlugMixer();
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_EQ(
+      IOKitDouble::TakeCalls(),
+      Joined({WalkBegins(), Found("1"), Exchanged("1", " = 80000004"), Kept("2"), WalkEnds()}));
+  closeUSB(&handle);
+  EXPECT_EQ(IOKitDouble::Alive(), References());
+}
+
+TEST_F(OpenFailure, OfTheInterfaceBehindTheMixerDoesNotCostTheMixer) {
+  devices().PlugMixer();
+  devices().SetFaults(devices().PlugUnrelated(), {.query = E_NOINTERFACE, .noInterface = true});
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_NE(handle, nullptr);
+  closeUSB(&handle);
+  EXPECT_EQ(IOKitDouble::Alive(), References());
+}
+
+TEST_F(OpenFailure, OfTheInterfaceAloneIsTheGeneralError) {
+  devices().SetFaults(devices().PlugMixer(), {.noInterface = true});
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(IOKitDouble::Alive(), References());
+}
+
+TEST_F(OpenFailure, OfTheQueryDoesNotMatterWhenTheInterfaceIsGivenAllTheSame) {
+  devices().SetFaults(devices().PlugMixer(), {.query = E_NOINTERFACE});
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_NE(handle, nullptr);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            Joined({WalkBegins(), Found("1"), Exchanged("1", " = 80000004"), ReadInFull("1"),
+                    WalkEnds()}));
+}
+
+// --- A read that fails -------------------------------------------------------------------------
+
+struct FailingRead {
+  const char *name;
+  DeviceFaults faults;
+  Lines asked;  // Up to the one that fails.
+};
+
+const std::array<FailingRead, 4> kFailingReads = {{
+    {"Class", {.readClass = kNoResources}, {"GetDeviceClass = E00002BE"}},
+    {"SubClass",
+     {.readSubClass = kNoResources},
+     {"GetDeviceClass", "GetDeviceSubClass = E00002BE"}},
+    {"Vendor",
+     {.readVendor = kNoResources},
+     {"GetDeviceClass", "GetDeviceSubClass", "GetDeviceVendor = E00002BE"}},
+    {"Product",
+     {.readProduct = kNoResources},
+     {"GetDeviceClass", "GetDeviceSubClass", "GetDeviceVendor", "GetDeviceProduct = E00002BE"}},
+}};
+
+class OpenFailureOfRead : public OpenFailure, public testing::WithParamInterface<FailingRead> {
+ protected:
+  static Lines Asked(const std::string &device) {
+    Lines lines;
+    for (const std::string &call : GetParam().asked) {
+      lines.push_back("interface of device " + device + ": " + call);
+    }
+    return lines;
+  }
+};
+
+TEST_P(OpenFailureOfRead, MakesAMixerNoneAndReleasesIt) {
+  devices().SetFaults(devices().PlugMixer(), GetParam().faults);
+  devices().PlugMixer();
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_EQ(IOKitDouble::TakeCalls(), Joined({WalkBegins(), Found("1"), Exchanged("1"), Asked("1"),
+                                              InterfaceReleased("1"), Kept("2"), WalkEnds()}));
+  closeUSB(&handle);
+  EXPECT_EQ(IOKitDouble::Alive(), References());
+}
+
+TEST_P(OpenFailureOfRead, BehindTheMixerIsWhatTheCallerIsTold) {
+  devices().PlugMixer();
+  devices().SetFaults(devices().PlugUnrelated(), GetParam().faults);
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), kNoResources);
+  EXPECT_NE(handle, nullptr);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            Joined({WalkBegins(), Kept("1"), Found("2"), Exchanged("2"), Asked("2"), WalkEnds()}));
+  EXPECT_EQ(IOKitDouble::Alive(), (References{.interfaces = 2}));
+}
+
+TEST_P(OpenFailureOfRead, OfTheOnlyMixerIsTheGeneralError) {
+  devices().SetFaults(devices().PlugMixer(), GetParam().faults);
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(handle, nullptr);
+  EXPECT_EQ(IOKitDouble::Alive(), References());
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, OpenFailureOfRead, testing::ValuesIn(kFailingReads),
+                         NameOf<FailingRead>);
+
+// --- What Release answers ----------------------------------------------------------------------
+
+TEST_F(OpenFailure, OfNothingLeavesWhatTheLastReleaseAnswered) {
+  devices().SetFaults(devices().PlugUnrelated(), {.release = 7});
+  DeviceHandle handle = InUse();
+  EXPECT_EQ(openUSB(&handle, 0), 7);
+  devices().SetFaults(1, {.release = 0xE00002C5});
+  EXPECT_EQ(openUSB(&handle, 0), kHeld);
+  EXPECT_EQ(handle, InUse());
+}
+
+TEST_F(OpenFailure, OfAReadIsForgottenOverWhatReleaseAnswered) {
+  devices().SetFaults(devices().PlugUnrelated(), {.readClass = kNoResources, .release = 3});
+  DeviceHandle handle = InUse();
+  EXPECT_EQ(openUSB(&handle, 0), 3);
+}
+
+TEST_F(OpenFailure, NoReleaseInFrontOfTheMixerReachesTheCaller) {
+  devices().SetFaults(devices().PlugUnrelated(), {.release = 7});
+  devices().PlugMixer();
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_NE(handle, nullptr);
+}
+
+// --- Positions behind the chosen mixer ---------------------------------------------------------
+
+TEST_F(OpenFailure, NoSecondMixerIsChosenBehindTheFirst) {
+  for (int i = 0; i < 4; ++i) devices().PlugMixer();
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_EQ(IOKitDouble::TakeCalls(),
+            Joined({WalkBegins(), Kept("1"), Kept("2"), Kept("3"), Kept("4"), WalkEnds()}));
+  EXPECT_EQ(IOKitDouble::Alive(), (References{.interfaces = 4}));
+}
+
+}  // namespace
+}  // namespace trxtest
