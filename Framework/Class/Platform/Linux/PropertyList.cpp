@@ -1,11 +1,8 @@
 #include "PropertyList.h"
 
 #include <cerrno>
-#include <charconv>
-#include <cmath>
 #include <cstdlib>
 #include <cstring>
-#include <limits>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -16,6 +13,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "IntegerReading.h"
 #include "PropertyListLimits.h"
 
 namespace orv {
@@ -90,34 +88,10 @@ plist_t Parse(const std::string &contents) {
   return root;
 }
 
-// --- Integer readings ----------------------------------------------------------------------------
-
 std::string_view TextOf(plist_t entry) {
   std::uint64_t length = 0;
   const char *const text = plist_get_string_ptr(entry, &length);
   return text != nullptr ? std::string_view(text, length) : std::string_view();
-}
-
-std::int32_t LowBits(std::uint64_t number) {
-  return static_cast<std::int32_t>(static_cast<std::uint32_t>(number));
-}
-
-std::optional<std::int32_t> IntegerOfReal(double real) {
-  const double whole = std::trunc(real);
-  if (!(whole >= std::numeric_limits<std::int32_t>::min() &&
-        whole <= std::numeric_limits<std::int32_t>::max())) {
-    return std::nullopt;
-  }
-  return static_cast<std::int32_t>(whole);
-}
-
-std::optional<std::int32_t> IntegerOfText(std::string_view text) {
-  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
-  std::int64_t number = 0;
-  const char *end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, number);
-  if (error != std::errc() || stop != end) return std::nullopt;
-  return LowBits(static_cast<std::uint64_t>(number));
 }
 
 // --- Writing -------------------------------------------------------------------------------------
