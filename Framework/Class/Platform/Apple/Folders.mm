@@ -1,0 +1,18 @@
+#include "Folders.h"
+
+#import "FoundationCall.h"
+
+namespace orv {
+
+std::optional<std::string> LibraryFolder() {
+  return UnlessRaised<std::optional<std::string>>(std::nullopt, [] {
+    NSArray *const folders =
+        NSSearchPathForDirectoriesInDomains(NSLibraryDirectory, NSUserDomainMask, YES);
+    return CharactersOf([folders count] > 0 ? [folders objectAtIndex:0] : nil);
+  });
+}
+
+// The platform makes its users' folders itself. Where one is missing, files cannot be written.
+void MakeFolder(const std::string & /*path*/) {}
+
+}  // namespace orv

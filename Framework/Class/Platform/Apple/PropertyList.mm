@@ -1,0 +1,77 @@
+#include "PropertyList.h"
+
+#include <cstring>
+#include <utility>
+
+#import "FoundationCall.h"
+#include "IntegerReading.h"
+
+namespace orv {
+namespace {
+
+NSMutableDictionary *DictionaryIn(void *root) { return static_cast<NSMutableDictionary *>(root); }
+
+bool IsReal(NSNumber *number) {
+  const char *const type = [number objCType];
+  return std::strcmp(type, @encode(double)) == 0 || std::strcmp(type, @encode(float)) == 0;
+}
+
+std::optional<std::int32_t> IntegerOfEntry(id entry) {
+  if ([entry isKindOfClass:[NSNumber class]]) {
+    return IsReal(entry) ? IntegerOfReal([entry doubleValue])
+                         : LowBits([entry unsignedLongLongValue]);
+  }
+  if (![entry isKindOfClass:[NSString class]]) return std::nullopt;
+  const auto text = CharactersOf(entry);
+  return text ? IntegerOfText(*text) : std::nullopt;
+}
+
+}  // namespace
+
+PropertyList::PropertyList() : root_([[NSMutableDictionary alloc] initWithCapacity:1]) {}
+
+PropertyList::PropertyList(PropertyList &&other) noexcept
+    : root_(std::exchange(other.root_, nullptr)) {}
+
+PropertyList &PropertyList::operator=(PropertyList &&other) noexcept {
+  std::swap(root_, other.root_);
+  return *this;
+}
+
+PropertyList::~PropertyList() { [DictionaryIn(root_) release]; }
+
+std::optional<PropertyList> PropertyList::ReadFile(const std::string &path) {
+  PropertyList list;
+  const bool isRead = UnlessRaised(false, [&] {
+    NSDictionary *const read = [NSDictionary dictionaryWithContentsOfFile:StringOf(path)];
+    if (read == nil) return false;
+    [DictionaryIn(list.root_) addEntriesFromDictionary:read];
+    return true;
+  });
+  return isRead ? std::optional<PropertyList>(std::move(list)) : std::nullopt;
+}
+
+std::optional<std::int32_t> PropertyList::IntegerForKey(const char *key) const {
+  return UnlessRaised<std::optional<std::int32_t>>(std::nullopt, [&] {
+    return IntegerOfEntry([DictionaryIn(root_) objectForKey:StringOf(key)]);
+  });
+}
+
+std::optional<std::string> PropertyList::TextForKey(const char *key) const {
+  return UnlessRaised<std::optional<std::string>>(std::nullopt, [&] {
+    id entry = [DictionaryIn(root_) objectForKey:StringOf(key)];
+    return CharactersOf([entry isKindOfClass:[NSString class]] ? entry : nil);
+  });
+}
+
+void PropertyList::SetInteger(const char *key, std::int32_t value) {
+  WhileNothingIsRaised(
+      [&] { [DictionaryIn(root_) setObject:[NSNumber numberWithInt:value] forKey:StringOf(key)]; });
+}
+
+bool PropertyList::WriteAtomically(const std::string &path) const {
+  return UnlessRaised(
+      false, [&] { return [DictionaryIn(root_) writeToFile:StringOf(path) atomically:YES] != NO; });
+}
+
+}  // namespace orv
