@@ -13,6 +13,7 @@ test_packages=(
   libgtest-dev libgmock-dev
   clang python3 dbus-bin doxygen valgrind locales binutils util-linux procps
   libglib2.0-bin mandoc zsh fish
+  libgnustep-base-dev gnustep-base-runtime gobjc
 )
 
 lint_packages=(

@@ -1,0 +1,94 @@
+// What the library asks of the notification centre, message by message.
+#import <Foundation/Foundation.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <TRX-SELVASetup/TRX-SELVASetup.h>
+
+#include "CentreRecorder.h"
+#include "ChangeKinds.h"
+#include "HeapGrowth.h"
+
+namespace orv {
+namespace {
+
+using testing::AllOf;
+using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Lt;
+
+void CallsNothing(std::int32_t, std::int32_t, void *) {}
+void CallsNothing(std::int32_t, void *) {}
+
+TEST(PostedMessage, OfARoutingChangeIsTheFormThatIsDeliveredImmediately) {
+  const CentreRecorder centre;
+  Announce(kInputAudioChange, 11, 1, 7);
+  Announce(kOutputAudioChange, 0, -1, 2);
+  EXPECT_THAT(centre.Messages(),
+              ElementsAre("postNotificationName:\"TRX-SELVA InputAudio Change\" object:nil "
+                          "userInfo:{Channel i 1, Index i 7, ProductID i 11} "
+                          "deliverImmediately:YES",
+                          "postNotificationName:\"TRX-Arden OutputAudio Change\" object:nil "
+                          "userInfo:{Channel i -1, Index i 2, ProductID i 0} "
+                          "deliverImmediately:YES"));
+}
+
+TEST(PostedMessage, OfAnyOtherChangeIsThePlainForm) {
+  const CentreRecorder centre;
+  Announce(kBoostLevelChange, 5, 3);
+  Announce(kMidiChannelChange, 1, 15);
+  EXPECT_THAT(centre.Messages(),
+              ElementsAre("postNotificationName:\"TRX-HALDEN BoostLevel Change\" object:nil "
+                          "userInfo:{Index i 3, ProductID i 5}",
+                          "postNotificationName:\"TRX-VOLT MidiChannel Change\" object:nil "
+                          "userInfo:{Index i 15, ProductID i 1}"));
+}
+
+TEST(RegisteredMessage, NamesTheOperationOfTheKind) {
+  const CentreRecorder centre;
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, CallsNothing, nullptr), 100);
+  ASSERT_EQ(ORV_RegisterOutputAudioChangedCallback(0, CallsNothing, nullptr), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(8, CallsNothing, nullptr), 100);
+  ASSERT_EQ(ORV_RegisterMidiChannelChangedCallback(1, CallsNothing, nullptr), 100);
+  EXPECT_THAT(centre.Messages(), ElementsAre("addObserver:ORVFunc selector:inputAudioChanged: "
+                                             "name:\"TRX-SELVA InputAudio Change\" object:nil",
+                                             "addObserver:ORVFunc selector:outputAudioChanged: "
+                                             "name:\"TRX-Arden OutputAudio Change\" object:nil",
+                                             "addObserver:ORVFunc selector:boostLevelChanged: "
+                                             "name:\"TRX-MORROW BoostLevel Change\" object:nil",
+                                             "addObserver:ORVFunc selector:midiChannelChanged: "
+                                             "name:\"TRX-VOLT MidiChannel Change\" object:nil"));
+}
+
+TEST(RegisteredMessage, IsSentOnceForEachRegistrationAndToOneObserver) {
+  const CentreRecorder centre;
+  for (int i = 0; i < 3; ++i) {
+    ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, CallsNothing, nullptr), 100);
+  }
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(6, nullptr, nullptr), 100);
+  EXPECT_THAT(centre.Messages(), ElementsAre("addObserver:ORVFunc selector:boostLevelChanged: "
+                                             "name:\"TRX-SELVA BoostLevel Change\" object:nil",
+                                             "addObserver:ORVFunc selector:boostLevelChanged: "
+                                             "name:\"TRX-SELVA BoostLevel Change\" object:nil",
+                                             "addObserver:ORVFunc selector:boostLevelChanged: "
+                                             "name:\"TRX-SELVA BoostLevel Change\" object:nil",
+                                             "addObserver:ORVFunc selector:inputAudioChanged: "
+                                             "name:\"TRX-LUMEN InputAudio Change\" object:nil"));
+  ASSERT_EQ(centre.Observers().size(), 4U);
+  EXPECT_THAT(centre.Observers(), Each(centre.Observers().front()));
+  EXPECT_EQ([static_cast<id>(const_cast<void *>(centre.Observers().front())) retainCount], 1U);
+}
+
+TEST(RegisteredMessage, IsNotSentByARefusedRegistrationNorByUnregistering) {
+  const CentreRecorder centre;
+  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(2, CallsNothing, nullptr), 102);
+  EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(11, CallsNothing, nullptr), 102);
+  EXPECT_EQ(ORV_RegisterMidiKeyModeChangedCallback(1, CallsNothing, nullptr), 102);
+  EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, nullptr), 100);
+  EXPECT_EQ(ORV_UnregisterMidiKeyModeChangedCallback(1, nullptr), 102);
+  EXPECT_THAT(centre.Messages(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace orv

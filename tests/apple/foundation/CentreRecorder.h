@@ -1,0 +1,26 @@
+// The messages that the notification centre gets.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace orv {
+
+/// Takes the place of the notification centre's operations for the length of a test: what is asked
+/// of the centre is written down and not done.
+class CentreRecorder {
+ public:
+  CentreRecorder();
+  CentreRecorder(const CentreRecorder &) = delete;
+  CentreRecorder &operator=(const CentreRecorder &) = delete;
+  ~CentreRecorder();
+
+  /// One line a message: its selector, then its arguments. A dictionary is shown in the order of
+  /// its keys, an object by its class.
+  const std::vector<std::string> &Messages() const;
+
+  /// The observers, one a message that adds one.
+  const std::vector<const void *> &Observers() const;
+};
+
+}  // namespace orv

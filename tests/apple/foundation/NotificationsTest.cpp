@@ -1,0 +1,149 @@
+// Notifications between two processes, through the daemon.
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <TRX-SELVASetup/TRX-SELVASetup.h>
+
+#include "ChangeKinds.h"
+#include "NotificationDaemon.h"
+#include "RunLoop.h"
+
+namespace orv {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Notifications : public testing::Test {
+ protected:
+  // One line a call: what the host wrote into its context, then the arguments.
+  std::vector<std::string> calls_;
+
+  struct Context {
+    std::vector<std::string> *calls;
+    const char *name;
+  };
+
+  static void Called(std::int32_t channel, std::int32_t index, void *context) {
+    const auto *told = static_cast<const Context *>(context);
+    told->calls->push_back(std::string(told->name) + " " + std::to_string(channel) + " " +
+                           std::to_string(index));
+  }
+  static void Called(std::int32_t index, void *context) {
+    const auto *told = static_cast<const Context *>(context);
+    told->calls->push_back(std::string(told->name) + " " + std::to_string(index));
+  }
+
+  // Runs another process that makes these announcements, one an argument of announcer.mm.
+  static void AnnounceElsewhere(std::vector<std::string> announcements) {
+    announcements.insert(announcements.begin(), ANNOUNCER);
+    std::vector<char *> arguments;
+    for (std::string &announcement : announcements) arguments.push_back(announcement.data());
+    arguments.push_back(nullptr);
+    const pid_t process = fork();
+    if (process == 0) {
+      execv(ANNOUNCER, arguments.data());
+      _exit(127);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(process, &status, 0), process);
+    ASSERT_EQ(status, 0);
+  }
+
+  // Runs the run loop until the last announcement of a test has come: what comes in between has
+  // come by then.
+  bool HasCome(const std::string &last) {
+    return RunLoopUntil([&] { return !calls_.empty() && calls_.back() == last; });
+  }
+
+  const trxtest::NotificationDaemon daemon_;
+  Context selva_ = {&calls_, "selva"};
+  Context arden_ = {&calls_, "arden"};
+  Context volt_ = {&calls_, "volt"};
+};
+
+TEST_F(Notifications, ReachTheCallbackOfTheirKindAndModelInAnotherProcess) {
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, Called, &selva_), 100);
+  ASSERT_EQ(ORV_RegisterOutputAudioChangedCallback(0, Called, &arden_), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &selva_), 100);
+  ASSERT_EQ(ORV_RegisterMidiChannelChangedCallback(1, Called, &volt_), 100);
+  AnnounceElsewhere(
+      {"input=11,1,7", "output=0,-2,2147483647", "boost=0,1", "boost=11,-3", "midi=1,15"});
+  EXPECT_TRUE(HasCome("volt 15"));
+  EXPECT_THAT(calls_, ElementsAre("selva 1 7", "arden -2 2147483647", "selva -3", "volt 15"));
+}
+
+TEST_F(Notifications, ReachTheProcessThatAnnouncesToo) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &selva_), 100);
+  Announce(kBoostLevelChange, 11, 2);
+  EXPECT_THAT(calls_, IsEmpty()) << "inside the announcement";
+  EXPECT_TRUE(HasCome("selva 2"));
+  EXPECT_THAT(calls_, ElementsAre("selva 2"));
+}
+
+TEST_F(Notifications, CallOnceForEachRegistrationTheCallbackRegisteredLast) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &arden_), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &volt_), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &selva_), 100);
+  ASSERT_EQ(ORV_RegisterMidiChannelChangedCallback(1, Called, &volt_), 100);
+  AnnounceElsewhere({"boost=11,1", "midi=1,0"});
+  EXPECT_TRUE(HasCome("volt 0"));
+  EXPECT_THAT(calls_, ElementsAre("selva 1", "selva 1", "selva 1", "volt 0"));
+}
+
+TEST_F(Notifications, CallNothingOnceUnregistered) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &selva_), 100);
+  ASSERT_EQ(ORV_RegisterMidiChannelChangedCallback(1, Called, &volt_), 100);
+  ASSERT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, nullptr), 100);
+  AnnounceElsewhere({"boost=11,1", "midi=1,0"});
+  EXPECT_TRUE(HasCome("volt 0"));
+  EXPECT_THAT(calls_, ElementsAre("volt 0"));
+}
+
+TEST_F(Notifications, GoByTheModelInTheDictionaryNotInTheName) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &selva_), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(0, Called, &arden_), 100);
+  AnnounceElsewhere({"TRX-SELVA BoostLevel Change={ ProductID = <*I0>; Index = <*I5>; }"});
+  EXPECT_TRUE(HasCome("arden 5"));
+  EXPECT_THAT(calls_, ElementsAre("arden 5"));
+}
+
+TEST_F(Notifications, ReadAMissingKeyAsZero) {
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(0, Called, &arden_), 100);
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, Called, &selva_), 100);
+  AnnounceElsewhere({"TRX-SELVA InputAudio Change={ ProductID = <*I11>; Index = <*I4>; }",
+                     "TRX-SELVA InputAudio Change={ ProductID = <*I11>; Channel = <*I2>; }",
+                     "TRX-SELVA InputAudio Change={ Channel = <*I1>; Index = <*I6>; }",
+                     "TRX-SELVA InputAudio Change={}",
+                     "TRX-SELVA InputAudio Change=", "input=11,1,1"});
+  EXPECT_TRUE(HasCome("selva 1 1"));
+  EXPECT_THAT(calls_, ElementsAre("selva 0 4", "selva 2 0", "arden 1 6", "arden 0 0", "arden 0 0",
+                                  "selva 1 1"));
+}
+
+TEST_F(Notifications, OfAnotherShapeOrOfNoModelAreIgnored) {
+  for (const ProductId product : {0U, 1U, 5U, 6U, 8U, 11U}) {
+    ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(product, Called, &selva_), 100);
+  }
+  AnnounceElsewhere({"TRX-SELVA BoostLevel Change={ ProductID = <*I12>; Index = <*I1>; }",
+                     "TRX-SELVA BoostLevel Change={ ProductID = <*I-1>; Index = <*I1>; }",
+                     "TRX-SELVA BoostLevel Change={ ProductID = <*I2147483647>; Index = <*I1>; }",
+                     "TRX-SELVA BoostLevel Change={ ProductID = eleven; Index = <*I1>; }",
+                     "TRX-SELVA BoostLevel Change={ ProductID = <*I11>; Index = \"1\"; }",
+                     "TRX-SELVA BoostLevel Change={ ProductID = <*I11>; Index = (<*I1>); }",
+                     "TRX-SELVA BoostLevel Change={ ProductID = <*I11>; Index = {}; }",
+                     "TRX-SELVA BoostLevel Change={ ProductID = <*I11>; Index = <0b>; }",
+                     "TRX-SELVA BoostLevel Change={ ProductID = <*I11>; Index = <*I1>; Else = x; }",
+                     "boost=11,3"});
+  EXPECT_TRUE(HasCome("selva 3"));
+  EXPECT_THAT(calls_, ElementsAre("selva 3"));
+}
+
+}  // namespace
+}  // namespace orv

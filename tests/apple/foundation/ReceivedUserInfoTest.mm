@@ -1,0 +1,81 @@
+// What is read out of a notification object.
+#import <Foundation/Foundation.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "HeapGrowth.h"
+#include "NotificationHandler.h"
+
+namespace orv {
+namespace {
+
+using testing::IsEmpty;
+using testing::Lt;
+using testing::Pair;
+using testing::UnorderedElementsAre;
+
+class ReceivedUserInfoTest : public testing::Test {
+ protected:
+  ~ReceivedUserInfoTest() override { [pool_ drain]; }
+
+  static std::optional<UserInfo> Received(NSDictionary *userInfo) {
+    return ReceivedUserInfo([NSNotification notificationWithName:@"name"
+                                                          object:nil
+                                                        userInfo:userInfo]);
+  }
+
+  static NSNumber *Integer(int number) { return [NSNumber numberWithInt:number]; }
+
+  NSAutoreleasePool *const pool_ = [[NSAutoreleasePool alloc] init];
+};
+
+TEST_F(ReceivedUserInfoTest, HasEveryIntegerUnderItsName) {
+  const auto received = Received([NSDictionary
+      dictionaryWithObjectsAndKeys:Integer(11), @"ProductID", Integer(-2), @"Channel", nil]);
+  ASSERT_TRUE(received);
+  EXPECT_THAT(received->Entries(),
+              UnorderedElementsAre(Pair("ProductID", 11), Pair("Channel", -2)));
+}
+
+TEST_F(ReceivedUserInfoTest, IsEmptyWithoutADictionaryOrWithAnEmptyOne) {
+  const auto none = Received(nil);
+  ASSERT_TRUE(none);
+  EXPECT_THAT(none->Entries(), IsEmpty());
+  const auto empty = Received([NSDictionary dictionary]);
+  ASSERT_TRUE(empty);
+  EXPECT_THAT(empty->Entries(), IsEmpty());
+}
+
+TEST_F(ReceivedUserInfoTest, IsNothingWhenAValueIsNoNumber) {
+  for (id value in
+       [NSArray arrayWithObjects:@"11", [NSNull null], [NSArray array], [NSDictionary dictionary],
+                                 [NSData data], [NSDate date], nil]) {
+    EXPECT_FALSE(Received([NSDictionary
+        dictionaryWithObjectsAndKeys:Integer(11), @"ProductID", value, @"Index", nil]))
+        << class_getName([value class]);
+  }
+}
+
+TEST_F(ReceivedUserInfoTest, IsNothingWhenAKeyIsNoText) {
+  EXPECT_FALSE(Received([NSDictionary
+      dictionaryWithObjectsAndKeys:Integer(11), @"ProductID", Integer(1), Integer(1), nil]));
+}
+
+TEST_F(ReceivedUserInfoTest, IsNothingWhenWhatCameIsNoNotification) {
+  EXPECT_FALSE(ReceivedUserInfo(@"no notification"));
+}
+
+TEST_F(ReceivedUserInfoTest, LeavesNothingBehind) {
+  NSNotification *const notification = [NSNotification
+      notificationWithName:@"name"
+                    object:nil
+                  userInfo:[NSDictionary dictionaryWithObjectsAndKeys:
+                                             Integer(11), @"ProductID", Integer(-2),
+                                             @"a name that does not fit into the text", nil]];
+  EXPECT_THAT(HeapGrowth(10'000, [&] { ReceivedUserInfo(notification); }), Lt(kNothingPerCall));
+  EXPECT_THAT(HeapGrowth(10'000, [] { ReceivedUserInfo(@"no notification"); }),
+              Lt(kNothingPerCall));
+}
+
+}  // namespace
+}  // namespace orv
