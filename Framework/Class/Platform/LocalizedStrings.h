@@ -9,7 +9,8 @@
 namespace orv {
 
 /// The text for a key in the language of the user's system, or in English where the bundle has no
-/// such language. Null when the bundle or the key is missing.
+/// such language. Null when the bundle is missing; when the key is, null or the key itself, as the
+/// platform has it.
 ORVStringRef LocalizedString(const std::string &bundlePath, const char *key);
 
 /// The text for a key in one language, given by the name of its folder. Null when the folder or the

@@ -3,7 +3,9 @@
 #include <chrono>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <stdexcept>
+#include <string>
 #include <thread>
 
 #include <sys/prctl.h>
@@ -18,10 +20,17 @@ namespace {
 constexpr auto kPatience = std::chrono::seconds(20);
 constexpr auto kPause = std::chrono::milliseconds(5);
 
-// The daemon gives its port a name once it can be reached.
+// Once the daemon can be reached it leaves a file under its name, with two lines: the path of its
+// port and the number of its process.
 bool IsReachable() {
-  const std::string names = PortsFolderOfUser();
-  return std::filesystem::exists(names) && !std::filesystem::is_empty(names);
+  std::error_code missing;
+  for (const auto &file : std::filesystem::directory_iterator(PortsFolderOfUser(), missing)) {
+    std::ifstream lines(file.path());
+    std::string port;
+    std::string process;
+    if (std::getline(lines, port) && std::getline(lines, process) && !lines.eof()) return true;
+  }
+  return false;
 }
 
 void WaitUntilReachable() {
@@ -38,7 +47,7 @@ void WaitUntilReachable() {
 
 NotificationDaemon::NotificationDaemon() : daemon_(fork()) {
   if (daemon_ == 0) {
-    prctl(PR_SET_PDEATHSIG, SIGTERM);
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
     execl(GDNC, GDNC, "--no-fork", nullptr);
     _exit(127);
   }
@@ -46,7 +55,7 @@ NotificationDaemon::NotificationDaemon() : daemon_(fork()) {
 }
 
 NotificationDaemon::~NotificationDaemon() {
-  kill(daemon_, SIGTERM);
+  kill(daemon_, SIGKILL);
   waitpid(daemon_, nullptr, 0);
 }
 
