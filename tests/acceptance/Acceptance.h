@@ -51,6 +51,10 @@ class Acceptance : public testing::Test {
   /// cases in which none of that happened before.
   void ExpectNothingHappened();
 
+  /// Plugs in a stranger that works, behind all that are plugged in. On a platform that opens units
+  /// by asking every device, one that fails in the last place would spoil the opening of all.
+  void PlugSomethingHealthyBehind() { rig().PlugStranger(Stranger::kUnrelated); }
+
   /// Runs the event loop until `isDone`, at most a minute. Returns whether it is done.
   bool RunEventLoopUntil(const std::function<bool()> &isDone);
 

@@ -32,6 +32,13 @@ class InstalledFiles : public Acceptance {
             "<key>ProductVersion</key><string>" + productVersion + "</string>");
   }
 
+  /// Makes a framework folder, whose files are installed, the links that platforms look through.
+  void LinkResources(const std::string &framework) {
+    const std::string folder = rig().SystemRoot() + framework;
+    std::filesystem::create_directory_symlink("A", folder + "/Versions/Current");
+    std::filesystem::create_directory_symlink("Versions/Current/Resources", folder + "/Resources");
+  }
+
   void Uninstall(const std::string &path) {
     std::filesystem::remove_all(rig().SystemRoot() + path);
   }

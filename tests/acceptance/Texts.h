@@ -8,7 +8,8 @@
 namespace trxtest {
 
 /// A text with these characters (UTF-8), alive for the rest of the process; the same text for the
-/// same characters. Null when they cannot stand in a text of the platform.
+/// same characters. Not before main() begins. Null when they cannot stand in a text of the
+/// platform.
 ORVStringRef TextOf(const std::string &characters);
 
 /// The characters of a text (UTF-8); "(null)" for none.

@@ -55,7 +55,7 @@ const Accepted kNobody = {};
 // A result before the call.
 constexpr std::int32_t kBefore = -1234567;
 constexpr std::uint32_t kBeforeUnsigned = 0xFEDC1234;
-const ORVStringRef kBeforeText = TextOf("untouched");
+ORVStringRef BeforeText() { return TextOf("untouched"); }
 
 // Compares many outcomes and tells of the first few that differ.
 class Sweep {
@@ -124,10 +124,10 @@ class Arguments : public InstalledFiles {
       for (const std::int32_t channel : places.channels) {
         for (const std::uint32_t index : places.indexes) {
           const bool isAccepted = Contains(accepted, product, channel, index);
-          ORVStringRef text = kBeforeText;
+          ORVStringRef text = BeforeText();
           sweep.Expect(call(product, channel, index, &text), isAccepted ? 100 : 102, name, product,
                        channel, index);
-          sweep.Expect(text != kBeforeText, isAccepted, name, product, channel, index);
+          sweep.Expect(text != BeforeText(), isAccepted, name, product, channel, index);
           sweep.Expect(call(product, channel, index, nullptr), 102, name, product, channel, index,
                        "null");
         }
@@ -301,12 +301,12 @@ TEST_F(Arguments, WarningTakes101AndThirteenLanguages) {
           const bool isLanguage = (language >= 0 && language <= 11) || language == 99;
           const bool isAccepted =
               Contains(accepted, product, channel) && status == 101 && isLanguage;
-          ORVStringRef text = kBeforeText;
+          ORVStringRef text = BeforeText();
           sweep.Expect(
               ORV_GetWarningTextForSetUSBAudioInput(product, channel, status, language, &text),
               isAccepted ? 100 : 102, "Warning", product, channel, status, language);
           sweep.Expect(text == nullptr, isAccepted, "Warning", product, channel, status, language);
-          sweep.Expect(text == kBeforeText, !isAccepted, "Warning", product, channel, status,
+          sweep.Expect(text == BeforeText(), !isAccepted, "Warning", product, channel, status,
                        language);
         }
         sweep.Expect(ORV_GetWarningTextForSetUSBAudioInput(product, channel, status, 0, nullptr),
@@ -445,13 +445,13 @@ TEST_F(Arguments, VersionTextsTakeSelvaOrSixModelsWhenAllIsInstalled) {
   ORVStringRef one = nullptr;
   ASSERT_EQ(ORV_GetPkgVersionText(11, &one), 100);
   ASSERT_EQ(CharactersOf(one), "1");
-  SweepProducts("PkgVersionText", ORV_GetPkgVersionText, kSelva, kBeforeText, one, kBeforeText);
-  SweepProducts("DriverVersionText", ORV_GetDriverVersionText, kAllSix, kBeforeText, one,
-                kBeforeText);
-  SweepProducts("UtilityVersionText", ORV_GetUtilityVersionText, kAllSix, kBeforeText, one,
-                kBeforeText);
-  SweepProducts("LibraryVersionText", ORV_GetLibraryVersionText, kSelva, kBeforeText, one,
-                kBeforeText);
+  SweepProducts("PkgVersionText", ORV_GetPkgVersionText, kSelva, BeforeText(), one, BeforeText());
+  SweepProducts("DriverVersionText", ORV_GetDriverVersionText, kAllSix, BeforeText(), one,
+                BeforeText());
+  SweepProducts("UtilityVersionText", ORV_GetUtilityVersionText, kAllSix, BeforeText(), one,
+                BeforeText());
+  SweepProducts("LibraryVersionText", ORV_GetLibraryVersionText, kSelva, BeforeText(), one,
+                BeforeText());
   ExpectNothingHappened();
 }
 

@@ -366,19 +366,6 @@ TEST_F(Callbacks, EachProcessHasRegistrationsOfItsOwn) {
   EXPECT_EQ(other->TakeCalls(2), (Lines{"other 3", "end 1"}));
 }
 
-TEST_F(Callbacks, TwoThousandAnnouncedBeforeTheReceiverLooksAllArriveInOrder) {
-  constexpr int kCount = 2000;
-  const auto receiver = rig().StartHost();
-  const auto setter = rig().StartHost();
-  ASSERT_EQ(receiver->Ask("register BoostLevel 11 r"), "100");
-  ASSERT_EQ(receiver->Ask("stop-receiving"), "done");
-  ASSERT_EQ(setter->Ask("levels 11 " + std::to_string(kCount)), "100");
-  ASSERT_EQ(receiver->Ask("go-on-receiving"), "done");
-  Lines expected;
-  for (int i = 0; i < kCount; ++i) expected.push_back("r " + std::to_string(i % 4));
-  EXPECT_EQ(receiver->TakeCalls(kCount), expected);
-}
-
 TEST_F(Callbacks, EachPosterKeepsItsOrderBesideAnother) {
   constexpr int kCount = 300;
   const auto receiver = rig().StartHost();

@@ -167,6 +167,7 @@ TEST_F(Units, OneHeldByAnotherProcessIsPassedOver) {
 
 TEST_F(Units, OneThatTheUserMayNotOpenIsPassedOver) {
   for (int i = 0; i < 3; ++i) rig().PlugMixer();
+  PlugSomethingHealthyBehind();
   rig().SetFault(3, UnitFault::kNotPermitted);
   const auto host = rig().StartHost();
   ASSERT_EQ(host->Ask("give-up root"), "done");

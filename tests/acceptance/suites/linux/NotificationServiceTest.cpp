@@ -8,6 +8,7 @@ namespace {
 
 using CallList = std::vector<Call>;
 using Clock = std::chrono::steady_clock;
+using Lines = std::vector<std::string>;
 
 std::string selva = "selva";
 std::string lumen = "lumen";
@@ -147,6 +148,19 @@ TEST_F(NotificationService, WhileItHangsRegistrationsWaitOnceAndCountLater) {
   ASSERT_TRUE(WaitUntilHeard());
   ASSERT_EQ(ORV_SetBoostLevelIndex(11, 3), 100);
   EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 3}}));
+}
+
+TEST_F(NotificationService, TwoThousandAnnouncedBeforeTheReceiverLooksAllArriveInOrder) {
+  constexpr int kCount = 2000;
+  const auto receiver = rig().StartHost();
+  const auto setter = rig().StartHost();
+  ASSERT_EQ(receiver->Ask("register BoostLevel 11 r"), "100");
+  ASSERT_EQ(receiver->Ask("stop-receiving"), "done");
+  ASSERT_EQ(setter->Ask("levels 11 " + std::to_string(kCount)), "100");
+  ASSERT_EQ(receiver->Ask("go-on-receiving"), "done");
+  Lines expected;
+  for (int i = 0; i < kCount; ++i) expected.push_back("r " + std::to_string(i % 4));
+  EXPECT_EQ(receiver->TakeCalls(kCount), expected);
 }
 
 }  // namespace

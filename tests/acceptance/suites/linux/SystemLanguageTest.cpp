@@ -113,5 +113,18 @@ TEST_F(SystemLanguage, ALanguageThatIsNamedIsNotReplacedByTheSystems) {
   EXPECT_EQ(Warning(11, 3), "French 1");
 }
 
+class MissingWarning : public InstalledFiles {};
+
+TEST_F(MissingWarning, InTheSystemsLanguageHasNoText) {
+  constexpr const char *kFramework = "/Library/Frameworks/TRX-SELVASetup.framework";
+  InstallSystem("10.15");
+  Install(std::string(kFramework) + "/Versions/A/Resources/English.lproj/Localizable.strings",
+          "<key>WARNING2</key><string>two</string>");
+  LinkResources(kFramework);
+  ORVStringRef text = TextOf("untouched");
+  EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(11, 0, 101, 3, &text), 100);
+  EXPECT_EQ(CharactersOf(text), "(null)");
+}
+
 }  // namespace
 }  // namespace trxtest

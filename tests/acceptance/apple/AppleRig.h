@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "../simulated/SimulatedUnits.h"
+#include "NotificationDaemon.h"
+#include "RemoteDevices.h"
+
+namespace trxtest {
+
+/// The rig over GNUstep and the double of IOKit: the mixers of a trx-mixer-registry under which the
+/// process runs, a user of its own, and a daemon that carries that user's notifications.
+class AppleRig : public SimulatedUnits {
+ public:
+  AppleRig();
+  ~AppleRig() override;
+
+  std::string LibraryFolder() override;
+  std::string SettingsFile(const std::string &modelDisplayName) override;
+  std::string SystemRoot() override;
+
+  std::vector<Announcement> TakeAnnouncements(std::size_t count) override;
+  void Announce(const Announcement &announcement) override;
+  int AnnounceMisshapen(const Announcement &announcement) override;
+
+  /// @name The platform's own service is there as long as a user is: these throw. @{
+  void StopNotificationService() override;
+  void StartNotificationService() override;
+  void LoseNotificationService(LostService how) override;
+  /// @}
+
+  /// Posts of this process wait while it is frozen, but not longer than five seconds.
+  void FreezeNotificationService() override;
+  void ThawNotificationService() override;
+
+  void RunEventLoop(std::chrono::milliseconds limit) override;
+
+  std::unique_ptr<HostProcess> StartHost() override;
+
+ private:
+  RemoteDevices devices_;
+  NotificationDaemon daemon_;
+  HostProcess observer_;
+};
+
+}  // namespace trxtest

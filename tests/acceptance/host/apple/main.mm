@@ -1,0 +1,54 @@
+// acceptance-host: a process with the library that does what it is told on standard input (see
+// Commands.h). While no command is there it sits in its event loop.
+#include <cstdlib>
+#include <string>
+
+#import <Foundation/Foundation.h>
+#include <IOKitDouble.h>
+#include <poll.h>
+#include <unistd.h>
+
+#include "../../apple/RegistryProtocol.h"
+#include "../../apple/RemoteDevices.h"
+#include "../Commands.h"
+#include "../Rights.h"
+
+namespace trxtest {
+
+// What keeps a device of the double from being opened binds every process alike.
+std::string GiveUpAdmin() { return "done"; }
+std::string GiveUpRoot() { return "done"; }
+
+}  // namespace trxtest
+
+namespace {
+
+constexpr NSTimeInterval kTurn = 0.01;
+
+// Without anything to wait for, the run loop comes back at once.
+void TakeATurn() {
+  NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+  if (trxtest::IsReceiving()) {
+    [[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode
+                             beforeDate:[NSDate dateWithTimeIntervalSinceNow:kTurn]];
+  }
+  [pool release];
+}
+
+}  // namespace
+
+int main() {
+  trxtest::RemoteDevices devices(std::getenv(trxtest::kRegistryVariable));
+  trxtest::IOKitDouble::Show(&devices);
+  std::string input;
+  for (;;) {
+    TakeATurn();
+    pollfd commands = {STDIN_FILENO, POLLIN, 0};
+    if (poll(&commands, 1, 1) <= 0) continue;
+    char part[4096];
+    const ssize_t size = read(STDIN_FILENO, part, sizeof part);
+    if (size <= 0) return 0;
+    input.append(part, static_cast<std::size_t>(size));
+    trxtest::CarryOut(input);
+  }
+}

@@ -1,0 +1,40 @@
+// A first unit that does not open, for functions that ask the first unit only: here a unit has its
+// place on the bus whether it opens or not.
+#include "../../InstalledFiles.h"
+
+namespace trxtest {
+namespace {
+
+constexpr const char *kFramework = "/Library/Frameworks/TRX-SELVASetup.framework";
+constexpr const char *kItalian =
+    "/Library/Frameworks/TRX-SELVASetup.framework/Versions/A/Resources/Italian.lproj/"
+    "Localizable.strings";
+
+class FirstUnit : public InstalledFiles {
+ protected:
+  void SetUp() override {
+    for (int i = 0; i < 2; ++i) rig().SetPort(rig().PlugMixer(), 1, 0);
+    rig().SetFault(1, UnitFault::kRefusesToOpen);
+  }
+};
+
+TEST_F(FirstUnit, ThatDoesNotOpenHasFirmwareZeroAndTheSecondIsNotAsked) {
+  std::uint32_t version = 77;
+  EXPECT_EQ(ORV_GetFirmwareVersionIndex(11, &version), 100);
+  EXPECT_EQ(version, 0U);
+  ExpectNothingHappened();
+}
+
+TEST_F(FirstUnit, ThatDoesNotOpenCountsAsConnectedForAWarningAndTheSecondIsNotAsked) {
+  InstallSystem("10.15");
+  Install(kItalian,
+          "<key>WARNING2</key><string>two</string><key>WARNING3</key><string>three</string>");
+  LinkResources(kFramework);
+  ORVStringRef text = nullptr;
+  EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(11, 0, 101, 4, &text), 100);
+  EXPECT_EQ(CharactersOf(text), "two");
+  ExpectNothingHappened();
+}
+
+}  // namespace
+}  // namespace trxtest
