@@ -121,7 +121,7 @@ void UsbipFrontEnd::pull(Plugged &unit) {
 // desk, which is locked.
 void UsbipFrontEnd::waitUntilGone(Plugged &unit) {
   const Clock::time_point end = Clock::now() + kKernelTakesAtMost;
-  while (unit.address && controller_.addressAt(unit.port) == unit.address && Clock::now() < end) {
+  while (unit.address && controller_.hasTracesOf(*unit.address, unit.port) && Clock::now() < end) {
     std::this_thread::sleep_for(kLookAgainAfter);
   }
   const std::lock_guard lock(mutex_);

@@ -127,14 +127,24 @@ void VhciController::detach(const VhciPort &port) const {
 }
 
 std::optional<BusAddress> VhciController::addressAt(const VhciPort &port) const {
-  const std::string bus = busName(port.controller);
-  if (bus.empty()) return std::nullopt;
-  const fs::path device = root_ / kDeviceList / (bus + '-' + std::to_string(port.hubPort));
+  const fs::path device = folderOf(port);
   const std::optional<int> busNumber = numberOf(device / "busnum");
   const std::optional<int> deviceNumber = numberOf(device / "devnum");
   if (!busNumber || !deviceNumber) return std::nullopt;
   const BusAddress address{*busNumber, *deviceNumber};
   return fs::exists(nodeOf(address)) ? std::optional(address) : std::nullopt;
+}
+
+// The node goes first, then the numbers, and the entry in the list of devices last.
+bool VhciController::hasTracesOf(const BusAddress &address, const VhciPort &port) const {
+  const fs::path device = folderOf(port);
+  return fs::exists(device) &&
+         numberOf(device / "devnum").value_or(address.device) == address.device;
+}
+
+// Does not exist when the controller has no bus.
+fs::path VhciController::folderOf(const VhciPort &port) const {
+  return root_ / kDeviceList / (busName(port.controller) + '-' + std::to_string(port.hubPort));
 }
 
 fs::path VhciController::nodeOf(const BusAddress &address) const {

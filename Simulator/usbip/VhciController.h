@@ -42,12 +42,17 @@ class VhciController {
   /// Where the device at a port is found; nothing while the kernel does not show it to hosts.
   std::optional<BusAddress> addressAt(const VhciPort &port) const;
 
+  /// Whether anything is left of the device that was at `address`: the kernel takes one away piece
+  /// by piece, and hosts may still find it when it cannot be opened any more.
+  bool hasTracesOf(const BusAddress &address, const VhciPort &port) const;
+
   /// The device node that belongs to an address.
   std::filesystem::path nodeOf(const BusAddress &address) const;
 
  private:
   std::optional<std::filesystem::path> statusFile(int controller) const;
   std::string busName(int controller) const;
+  std::filesystem::path folderOf(const VhciPort &port) const;
 
   std::filesystem::path root_;
 };
