@@ -26,7 +26,10 @@ constexpr const char *kConfigurationBeforeAddress = R"(<!DOCTYPE busconfig PUBLI
   <type>session</type>
   <auth>EXTERNAL</auth>
   <listen>)";
+// Whoever connects while the bus is frozen is to have his time to say who he is, as on a usual
+// session bus, where that is minutes.
 constexpr const char *kConfigurationBehindAddress = R"(</listen>
+  <limit name="auth_timeout">240000</limit>
   <policy context="default">
     <allow user="*"/>
     <allow own="*"/>
