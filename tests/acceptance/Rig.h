@@ -53,6 +53,10 @@ class Rig {
   virtual void Unplug(int unit) = 0;
   /// Plugs an unplugged unit in again, behind all others.
   virtual void Replug(int unit) = 0;
+
+  /// Whether a unit that vanishes in a request is off the bus by the time that the request has
+  /// ended. Otherwise it may be there a moment longer, as one that takes no requests.
+  virtual bool VanishedUnitsAreForgottenAtOnce() { return true; }
   /// @}
 
   /// @name What a mixer reports. At the start 4 channels, all bytes 0, firmware 0x0100, certify
@@ -96,7 +100,7 @@ class Rig {
 
   /// @name Announcements, as an observer sees them that has nothing of the library @{
 
-  /// Waits until `count` announcements have arrived since the last call, but at most ten seconds;
+  /// Waits until `count` announcements have arrived since the last call, but at most a minute;
   /// then hands out all that have arrived, whether fewer or more.
   virtual std::vector<Announcement> TakeAnnouncements(std::size_t count) = 0;
   /// Announces as another program would. What is announced here stays in order.

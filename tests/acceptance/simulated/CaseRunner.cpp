@@ -132,6 +132,7 @@ int RunEachByItself(const Words &arguments, const Words &simulatorOptions, const
   for (const std::string &name : cases) {
     const pid_t child = fork();
     if (child == 0) {
+      prctl(PR_SET_PDEATHSIG, SIGKILL);
       Words own = arguments;
       own.push_back("--gtest_filter=" + name);
       RunUnderSimulator(own, simulatorOptions);
@@ -184,8 +185,7 @@ int RunCases(int argc, char **argv, const Words &simulatorOptions) {
     std::fprintf(stderr, "no such case\n");
     return 1;
   }
-  if (cases.size() > 1) return RunEachByItself(arguments, simulatorOptions, cases);
-  RunUnderSimulator(arguments, simulatorOptions);
+  return RunEachByItself(arguments, simulatorOptions, cases);
 }
 
 }  // namespace trxtest

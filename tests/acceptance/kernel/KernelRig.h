@@ -1,0 +1,34 @@
+#pragma once
+
+#include <set>
+#include <vector>
+
+#include "../linux/SimulatorRig.h"
+
+namespace trxtest {
+
+/// The rig over the USB stack of the running kernel. It needs the machine for itself, which is a
+/// virtual one, with root's rights.
+class KernelRig : public SimulatorRig {
+ public:
+  explicit KernelRig(const std::string &folder);
+
+  int PlugMixer() override;
+  int PlugMixerInFront() override;
+  int PlugStranger(Stranger kind) override;
+  void Unplug(int unit) override;
+  void Replug(int unit) override;
+  void ClearFaults(int unit) override;
+
+  bool VanishedUnitsAreForgottenAtOnce() override { return false; }
+
+ private:
+  void NoteArrival(int unit);
+  void LetEverybodyIn(int unit);
+  int BusOf(int unit);
+  std::vector<int> PluggedInTheOrderOfTheBus();
+
+  std::set<int> plugged_;
+};
+
+}  // namespace trxtest

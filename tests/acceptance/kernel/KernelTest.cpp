@@ -1,0 +1,231 @@
+// What only a real USB stack shows: what it answers in the place where units go away, and whom it
+// lets in.
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <fcntl.h>
+#include <linux/usbdevice_fs.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "../Acceptance.h"
+
+namespace trxtest {
+namespace {
+
+namespace fs = std::filesystem;
+using Lines = std::vector<std::string>;
+
+constexpr const char *kDevices = "/sys/bus/usb/devices";
+
+// Ends with the descriptor closed.
+class Node {
+ public:
+  explicit Node(const std::string &path) : descriptor_(open(path.c_str(), O_RDWR | O_CLOEXEC)) {}
+  ~Node() { close(descriptor_); }
+  Node(const Node &) = delete;
+  Node &operator=(const Node &) = delete;
+
+  // The number of bytes that came, or minus the error. Reads the four bytes of the certify level.
+  int Read(std::array<std::uint8_t, 4> &buffer, unsigned milliseconds) const {
+    usbdevfs_ctrltransfer transfer = {0xC0, 0, 0, 0x8007, 4, milliseconds, buffer.data()};
+    const int count = ioctl(descriptor_, USBDEVFS_CONTROL, &transfer);
+    return count < 0 ? -errno : count;
+  }
+
+  bool ClaimInterface(unsigned number) const {
+    return ioctl(descriptor_, USBDEVFS_CLAIMINTERFACE, &number) == 0;
+  }
+
+ private:
+  int descriptor_;
+};
+
+std::string WordOf(const fs::path &file) {
+  std::string word;
+  std::ifstream(file) >> word;
+  return word;
+}
+
+// The folders of all mixers in sysfs.
+std::vector<fs::path> Mixers() {
+  std::vector<fs::path> mixers;
+  for (const fs::directory_entry &entry : fs::directory_iterator(kDevices)) {
+    if (WordOf(entry.path() / "idVendor") == "4f52" &&
+        WordOf(entry.path() / "idProduct") == "001f") {
+      mixers.push_back(entry.path());
+    }
+  }
+  return mixers;
+}
+
+std::string NodeOf(const fs::path &device) {
+  const auto threeDigits = [](const std::string &number) {
+    return std::string(3 - number.size(), '0') + number;
+  };
+  return "/dev/bus/usb/" + threeDigits(WordOf(device / "busnum")) + '/' +
+         threeDigits(WordOf(device / "devnum"));
+}
+
+class Kernel : public Acceptance {
+ protected:
+  static std::string Sent(int unit, const std::string &outcome) {
+    return "unit " + std::to_string(unit) + " OUT 40 03 wValue 0200 wIndex 8003 wLength 0 -> " +
+           outcome;
+  }
+
+  static bool IsUnit(const std::string &line, int unit) {
+    return line.starts_with("unit " + std::to_string(unit) + ' ');
+  }
+};
+
+TEST_F(Kernel, APluggedMixerIsADeviceOfTheKernelWithANode) {
+  EXPECT_EQ(Mixers().size(), 0U);
+  rig().PlugMixer();
+  const auto mixers = Mixers();
+  ASSERT_EQ(mixers.size(), 1U);
+  EXPECT_EQ(fs::canonical(mixers[0]).string().find("/sys/devices/platform/vhci_hcd.0/usb"), 0U);
+  struct stat status = {};
+  ASSERT_EQ(stat(NodeOf(mixers[0]).c_str(), &status), 0);
+  EXPECT_TRUE(S_ISCHR(status.st_mode));
+  EXPECT_EQ(ORV_IsUSBConnection(11), 103);
+  rig().Unplug(1);
+  EXPECT_EQ(Mixers().size(), 0U);
+  EXPECT_EQ(ORV_IsUSBConnection(11), 104);
+}
+
+TEST_F(Kernel, RootHubsAndStrangersAreNoUnits) {
+  rig().PlugStranger(Stranger::kOtherProductOfTheMaker);
+  int hubs = 0;
+  int strangers = 0;
+  for (const fs::directory_entry &entry : fs::directory_iterator(kDevices)) {
+    const std::string vendor = WordOf(entry.path() / "idVendor");
+    hubs += vendor == "1d6b" ? 1 : 0;
+    strangers += vendor == "4f52" ? 1 : 0;
+  }
+  EXPECT_EQ(hubs, 16);
+  EXPECT_EQ(strangers, 1);
+  EXPECT_EQ(ORV_IsUSBConnection(11), 104);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(rig().WireLog(), Lines());
+}
+
+TEST_F(Kernel, AReplugGivesANewDeviceNumberUnderWhichTheUnitIsFound) {
+  rig().PlugMixer();
+  const std::string before = NodeOf(Mixers().at(0));
+  rig().Unplug(1);
+  EXPECT_FALSE(fs::exists(before));
+  rig().Replug(1);
+  const std::string after = NodeOf(Mixers().at(0));
+  EXPECT_NE(after, before);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(rig().WireLog(), Lines{Sent(1, "0 bytes")});
+}
+
+TEST_F(Kernel, ARequestOfAUnitThatIsPulledOutEndsWithShutdown) {
+  rig().PlugMixer();
+  rig().SetFault(1, UnitFault::kStaysSilent);
+  const Node node(NodeOf(Mixers().at(0)));
+  std::array<std::uint8_t, 4> buffer = {};
+  int result = 0;
+  std::thread request([&] { result = node.Read(buffer, 60'000); });
+  EXPECT_TRUE(WaitUntil([&] { return rig().WireLog().size() == 1; }));
+  rig().Unplug(1);
+  request.join();
+  EXPECT_EQ(result, -ESHUTDOWN);
+  EXPECT_EQ(node.Read(buffer, 60'000), -ENODEV);
+}
+
+// Whether the kernel has forgotten the first by the time that the library looks for the next is up
+// to the kernel, so that the next to be served may be the second or the third.
+TEST_F(Kernel, WhenAUnitIsPulledOutInTheMiddleOfASetTheNextIsServed) {
+  for (int i = 0; i < 3; ++i) rig().PlugMixer();
+  rig().SetFault(1, UnitFault::kStaysSilent);
+  const auto host = rig().StartHost();
+  host->Begin("call ORV_SetBoostLevelIndex 11 1");
+  ASSERT_TRUE(WaitUntil([&] { return rig().WireLog().size() == 1; }));
+  rig().Unplug(1);
+  EXPECT_EQ(host->Answer(), "100");
+  const Lines reached = rig().WireLog();
+  ASSERT_GE(reached.size(), 2U);
+  EXPECT_EQ(reached[0], Sent(1, "no reply"));
+  EXPECT_TRUE(reached[1] == Sent(2, "0 bytes") || reached[1] == Sent(3, "0 bytes")) << reached[1];
+  EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>1</integer>"}}));
+  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 1)});
+  rig().ClearWireLog();
+  EXPECT_EQ(host->Ask("call ORV_SetCurrentBoostLevelIndex 11"), "100");
+  EXPECT_EQ(rig().WireLog(), (Lines{Sent(2, "0 bytes"), Sent(3, "0 bytes")}));
+}
+
+TEST_F(Kernel, AStallIsABrokenPipe) {
+  rig().PlugMixer();
+  rig().SetFault(1, UnitFault::kStalls);
+  std::array<std::uint8_t, 4> buffer = {};
+  EXPECT_EQ(Node(NodeOf(Mixers().at(0))).Read(buffer, 60'000), -EPIPE);
+  std::uint32_t level = 77;
+  EXPECT_EQ(ORV_GetMixerCertifyLevel(11, &level), 100);
+  EXPECT_EQ(level, 0U);
+}
+
+TEST_F(Kernel, ASilentUnitIsGivenUpAfterTheTimeOfTheRequestAndAnswersTheNext) {
+  rig().PlugMixer();
+  rig().SetFault(1, UnitFault::kStaysSilent);
+  const Node node(NodeOf(Mixers().at(0)));
+  std::array<std::uint8_t, 4> buffer = {};
+  EXPECT_EQ(node.Read(buffer, 300), -ETIMEDOUT);
+  rig().ClearFaults(1);
+  EXPECT_EQ(node.Read(buffer, 60'000), 4);
+  EXPECT_EQ(buffer, (std::array<std::uint8_t, 4>{0, 0, 0, 1}));
+}
+
+TEST_F(Kernel, AShortReplyLeavesTheRestOfTheBuffer) {
+  rig().PlugMixer();
+  rig().SetCertifyLevel(1, 0x01020304);
+  rig().SetShortReplies(1, 3);
+  std::array<std::uint8_t, 4> buffer = {0xEE, 0xEE, 0xEE, 0xEE};
+  EXPECT_EQ(Node(NodeOf(Mixers().at(0))).Read(buffer, 60'000), 3);
+  EXPECT_EQ(buffer, (std::array<std::uint8_t, 4>{0x01, 0x02, 0x03, 0xEE}));
+}
+
+TEST_F(Kernel, AnOrdinaryUserReachesTheUnitsWhoseNodesLetHimIn) {
+  rig().PlugMixer();
+  rig().PlugMixer();
+  rig().SetFault(1, UnitFault::kNotPermitted);
+  const auto host = rig().StartHost();
+  ASSERT_EQ(host->Ask("give-up root"), "done");
+  EXPECT_EQ(host->Ask("call ORV_IsUSBConnection 11"), "103");
+  EXPECT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 1"), "100");
+  EXPECT_EQ(rig().WireLog(), Lines{Sent(2, "0 bytes")});
+  rig().ClearFaults(1);
+  EXPECT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 1"), "100");
+  EXPECT_EQ(rig().WireLog(), (Lines{Sent(2, "0 bytes"), Sent(1, "0 bytes"), Sent(2, "0 bytes")}));
+}
+
+// As an audio driver does, be it the kernel's or one of a program.
+TEST_F(Kernel, AnInterfaceThatADriverHasStaysItsOwn) {
+  rig().PlugMixer();
+  const fs::path device = Mixers().at(0);
+  const Node driver(NodeOf(device));
+  ASSERT_TRUE(driver.ClaimInterface(0));
+  const fs::path link = device / (device.filename().string() + ":1.0") / "driver";
+  ASSERT_EQ(fs::read_symlink(link).filename(), "usbfs");
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  std::uint32_t level = 77;
+  EXPECT_EQ(ORV_GetMixerCertifyLevel(11, &level), 100);
+  EXPECT_EQ(level, 1U);
+  EXPECT_EQ(fs::read_symlink(link).filename(), "usbfs");
+  EXPECT_EQ(rig().WireLog(), (Lines{Sent(1, "0 bytes"),
+                                    "unit 1 IN c0 00 wValue 0000 wIndex 8007 wLength 4 -> 4 "
+                                    "bytes 00 00 00 01"}));
+}
+
+}  // namespace
+}  // namespace trxtest
