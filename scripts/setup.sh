@@ -14,6 +14,7 @@ test_packages=(
   clang python3 dbus-bin doxygen valgrind locales binutils util-linux procps
   libglib2.0-bin mandoc zsh fish
   libgnustep-base-dev gnustep-base-runtime gobjc
+  qemu-system-x86 busybox-static cpio zstd lz4
 )
 
 lint_packages=(
