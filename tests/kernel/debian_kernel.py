@@ -12,8 +12,12 @@ import subprocess
 import tempfile
 
 META_PACKAGE = "linux-image-amd64"
-# Each needs those before it.
-MODULES = ["usb-common", "usbcore", "usbip-core", "vhci-hcd"]
+# Each module needs some of those before it. The audio driver's wait for the case that wants them: with them, every plug takes
+# longer.
+USB_MODULES = ["usb-common", "usbcore", "usbip-core", "vhci-hcd"]
+AUDIO_MODULES = ["soundcore", "snd", "snd-timer", "snd-pcm", "snd-seq-device", "snd-rawmidi", "snd-hwdep", "mc",
+                 "snd-usbmidi-lib", "snd-usb-audio"]
+MODULES = USB_MODULES + AUDIO_MODULES
 
 
 class KernelError(Exception):
@@ -95,7 +99,10 @@ def apt_download(folder):
     if not package:
         return f"apt knows no package {META_PACKAGE}."
     answer = subprocess.run(["apt-get", "download", package], cwd=folder, capture_output=True, text=True, check=False)
-    return "" if answer.returncode == 0 else answer.stderr.strip()
+    if answer.returncode == 0:
+        return ""
+    errors = [line for line in answer.stderr.splitlines() if line.startswith("E:")]
+    return "\n".join(errors) or "apt-get says nothing about it."
 
 
 # --- Its contents -----------------------------------------------------------------------------------------------------

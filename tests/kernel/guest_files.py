@@ -6,6 +6,8 @@ import re
 import shutil
 import subprocess
 
+from debian_kernel import AUDIO_MODULES, USB_MODULES
+
 HERE = pathlib.Path(__file__).resolve().parent
 BUSYBOX = pathlib.Path("/bin/busybox")
 # What a guest runs: from the build, and from the host's packages.
@@ -40,7 +42,7 @@ class GuestFiles:
         """The archive of one guest, whose test program gets these arguments."""
         own = self._tree.parent / "own"
         shutil.rmtree(own, ignore_errors=True)
-        put_text(own / ARGUMENTS, "".join(f"{argument}\n" for argument in arguments))
+        put_text(own / ARGUMENTS, lines(arguments))
         return self._archive + pack(own)
 
     def _put_programs(self):
@@ -63,12 +65,17 @@ class GuestFiles:
         shutil.copy(HERE / "init", self._tree / "init")
         for module in kernel.modules:
             shutil.copy(module, self._tree / "modules")
-        put_text(self._tree / "guest/modules", "".join(f"{module.name}\n" for module in kernel.modules))
+        put_text(self._tree / "guest/usb-modules", lines(USB_MODULES))
+        put_text(self._tree / "guest/audio-modules", lines(AUDIO_MODULES))
         put_text(self._tree / "guest/build", f"{self._build}\n")
         for path, text in ACCOUNTS.items():
             put_text(self._tree / path, text)
         texts = self._build / "share"
         shutil.copytree(texts, self._tree / texts.relative_to("/"), symlinks=True)
+
+
+def lines(words):
+    return "".join(f"{word}\n" for word in words)
 
 
 def put_text(file, text):

@@ -14,6 +14,7 @@
 #include <linux/usbdevice_fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include "../Acceptance.h"
@@ -73,6 +74,25 @@ std::string NodeOf(const fs::path &device) {
   };
   return "/dev/bus/usb/" + threeDigits(WordOf(device / "busnum")) + '/' +
          threeDigits(WordOf(device / "devnum"));
+}
+
+// The name of the driver that has an interface of a device; empty when none has.
+std::string DriverOf(const fs::path &device, unsigned interface) {
+  const std::string name = device.filename().string() + ":1." + std::to_string(interface);
+  std::error_code none;
+  return fs::read_symlink(device / name / "driver", none).filename();
+}
+
+// The kernel's, from the files of the guest. It stays loaded for the cases that follow.
+void LoadAudioDriver() {
+  std::ifstream names("/guest/audio-modules");
+  int count = 0;
+  for (std::string name; names >> name; ++count) {
+    const int file = open(("/modules/" + name + ".ko").c_str(), O_RDONLY | O_CLOEXEC);
+    EXPECT_TRUE(syscall(SYS_finit_module, file, "", 0) == 0 || errno == EEXIST) << name;
+    close(file);
+  }
+  EXPECT_GT(count, 0);
 }
 
 class Kernel : public Acceptance {
@@ -209,22 +229,37 @@ TEST_F(Kernel, AnOrdinaryUserReachesTheUnitsWhoseNodesLetHimIn) {
   EXPECT_EQ(rig().WireLog(), (Lines{Sent(2, "0 bytes"), Sent(1, "0 bytes"), Sent(2, "0 bytes")}));
 }
 
-// As an audio driver does, be it the kernel's or one of a program.
-TEST_F(Kernel, AnInterfaceThatADriverHasStaysItsOwn) {
+TEST_F(Kernel, AnInterfaceThatAProgramHasClaimedStaysItsOwn) {
   rig().PlugMixer();
   const fs::path device = Mixers().at(0);
   const Node driver(NodeOf(device));
   ASSERT_TRUE(driver.ClaimInterface(0));
-  const fs::path link = device / (device.filename().string() + ":1.0") / "driver";
-  ASSERT_EQ(fs::read_symlink(link).filename(), "usbfs");
+  ASSERT_EQ(DriverOf(device, 0), "usbfs");
   EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
   std::uint32_t level = 77;
   EXPECT_EQ(ORV_GetMixerCertifyLevel(11, &level), 100);
   EXPECT_EQ(level, 1U);
-  EXPECT_EQ(fs::read_symlink(link).filename(), "usbfs");
+  EXPECT_EQ(DriverOf(device, 0), "usbfs");
   EXPECT_EQ(rig().WireLog(), (Lines{Sent(1, "0 bytes"),
                                     "unit 1 IN c0 00 wValue 0000 wIndex 8007 wLength 4 -> 4 "
                                     "bytes 00 00 00 01"}));
+}
+
+TEST_F(Kernel, TheAudioDriverStaysBound) {
+  LoadAudioDriver();
+  rig().PlugMixer();
+  const fs::path device = Mixers().at(0);
+  const auto isBound = [&device](unsigned interface) {
+    return DriverOf(device, interface) == "snd-usb-audio";
+  };
+  for (const unsigned interface : {0U, 1U, 2U}) {
+    ASSERT_TRUE(WaitUntil([&] { return isBound(interface); })) << interface;
+  }
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  std::uint32_t level = 77;
+  EXPECT_EQ(ORV_GetMixerCertifyLevel(11, &level), 100);
+  EXPECT_EQ(level, 1U);
+  for (const unsigned interface : {0U, 1U, 2U}) EXPECT_TRUE(isBound(interface)) << interface;
 }
 
 }  // namespace
