@@ -58,7 +58,8 @@ class Guest:
         self.verdict = ""
         self._log = log
         self._show = show
-        self._process = subprocess.Popen([*words, "-serial", "stdio"], stdin=subprocess.DEVNULL,
+        # When this script is killed, nobody is left to end the guest.
+        self._process = subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *words, "-serial", "stdio"], stdin=subprocess.DEVNULL,
                                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
         self._listener = threading.Thread(target=self._listen)
         self._listener.start()
