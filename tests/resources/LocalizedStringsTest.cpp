@@ -11,6 +11,9 @@
 namespace orv {
 namespace {
 
+using trxtest::TemporaryFolder;
+using trxtest::WriteBytes;
+
 const std::string kHello = "<key>HELLO</key><string>";
 const std::string kEndOfText = "</string>";
 

@@ -11,6 +11,8 @@
 namespace orv {
 namespace {
 
+using trxtest::ReadBytes;
+
 constexpr std::string_view kCommentBegins = "<!-- ";
 constexpr std::string_view kCommentEnds = " -->";
 

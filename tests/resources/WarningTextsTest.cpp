@@ -25,6 +25,8 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
+using trxtest::ReadBytes;
+using trxtest::TemporaryFolder;
 
 using Scripts = std::set<GUnicodeScript>;
 

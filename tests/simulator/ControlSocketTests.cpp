@@ -16,6 +16,7 @@ namespace trxsim {
 namespace {
 
 using Lines = std::vector<std::string>;
+using trxtest::TemporaryFolder;
 
 /// Everything that `from` still brings.
 std::string receiveAll(const Descriptor &from) {
@@ -156,7 +157,7 @@ TEST(ControlSocketFile, OfASimulatorThatIsEndingIsNotTakenOver) {
 TEST(ControlSocketFile, GoesAwayAtTheEnd) {
   const TemporaryFolder folder;
   { const ControlSocket socket = ControlSocket::at(folder / "control.sock"); }
-  EXPECT_EQ(folder.entries(), 0u);
+  EXPECT_EQ(folder.Entries(), 0u);
 }
 
 TEST(ControlSocketFile, IsNeverMadeFromAnotherFile) {

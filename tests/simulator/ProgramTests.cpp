@@ -13,6 +13,7 @@
 namespace {
 
 using Words = std::vector<std::string>;
+using trxtest::TemporaryFolder;
 
 Words simulate(Words arguments) {
   arguments.insert(arguments.begin(), TRX_MIXER_SIM);
@@ -37,7 +38,7 @@ TEST(SimulatorProgram, SaysWhenTheCommandCannotRun) {
   EXPECT_EQ(missing.finish(), 127);
   EXPECT_EQ(missing.errors(),
             "trx-mixer-sim: cannot run /no/such/program: No such file or directory\n");
-  EXPECT_EQ(Program(simulate({"--", folder.path()}), folder).finish(), 126);
+  EXPECT_EQ(Program(simulate({"--", folder.Path()}), folder).finish(), 126);
 }
 
 TEST(SimulatorProgram, PassesOnTheArgumentsAsTheyAre) {
@@ -72,9 +73,9 @@ TEST(SimulatorProgram, HelpTeachesWithExamples) {
 }
 
 TEST(SimulatorProgram, WithoutRootSaysWhatTheRunningKernelNeeds) {
-  const TemporaryFolder folder;
-  // Another user must get at it, wherever the build is.
-  std::filesystem::permissions(folder.path(), std::filesystem::perms::all);
+  // Another user must get at it, wherever the build is. Not every system runs what lies in memory.
+  const TemporaryFolder folder("/tmp");
+  std::filesystem::permissions(folder.Path(), std::filesystem::perms::all);
   std::filesystem::copy_file(TRX_MIXER_SIM, folder / "trx-mixer-sim");
   Words words{folder / "trx-mixer-sim", "--usbip", "--control", folder / "control.sock"};
   if (geteuid() == 0) {
@@ -86,24 +87,24 @@ TEST(SimulatorProgram, WithoutRootSaysWhatTheRunningKernelNeeds) {
   EXPECT_EQ(program.errors(),
             "trx-mixer-sim: plugging mixers into the running kernel needs root: try again with "
             "sudo. Without --usbip no privileges are needed\n");
-  EXPECT_EQ(folder.entries(), 1u);
+  EXPECT_EQ(folder.Entries(), 1u);
 }
 
 TEST(SimulatorProgram, LeavesNothingBehind) {
   const TemporaryFolder folder;
   EXPECT_EQ(Program(simulate({"--units", "2", "--", "true"}), folder).finish(), 0);
-  EXPECT_EQ(folder.entries(), 0u);
+  EXPECT_EQ(folder.Entries(), 0u);
 }
 
 class SimulatorSignals : public testing::TestWithParam<int> {};
 
 TEST_P(SimulatorSignals, EndTheCommandAndLeaveNothingBehind) {
   SimulatorRun run(1);
-  EXPECT_GT(run.folder.entries(), 1u);
+  EXPECT_GT(run.folder.Entries(), 1u);
   run.client().signal(GetParam());
   run.client().rest();
   EXPECT_EQ(run.client().finish(), 128 + GetParam());
-  EXPECT_EQ(run.folder.entries(), 0u);
+  EXPECT_EQ(run.folder.Entries(), 0u);
 }
 
 INSTANTIATE_TEST_SUITE_P(AllThatAskForTheEnd, SimulatorSignals,
@@ -119,7 +120,7 @@ TEST(SimulatorProgram, EndsInMidRequestWithoutFuss) {
   run.client().rest();
   EXPECT_EQ(run.client().finish(), 128 + SIGTERM);
   EXPECT_EQ(run.client().errors(), "");
-  EXPECT_EQ(run.folder.entries(), 0u);
+  EXPECT_EQ(run.folder.Entries(), 0u);
 }
 
 TEST(SimulatorProgram, WritesTheWireLogToAFile) {
@@ -141,7 +142,7 @@ TEST(SimulatorProgram, SaysWhenTheWireLogCannotBeWritten) {
   Program program(simulate({"--wire-log", folder / "none/wire.txt", "--", "true"}), folder);
   EXPECT_EQ(program.finish(), 125);
   EXPECT_NE(program.errors().find("cannot write the wire log"), std::string::npos);
-  EXPECT_EQ(folder.entries(), 0u);
+  EXPECT_EQ(folder.Entries(), 0u);
 }
 
 TEST(SimulatorProgram, SecondOneTakesAPrivateSocketAndSaysSo) {
@@ -158,7 +159,7 @@ TEST(SimulatorProgram, SecondOneTakesAPrivateSocketAndSaysSo) {
   EXPECT_FALSE(std::filesystem::exists(own));
   EXPECT_FALSE(std::filesystem::exists(std::filesystem::path(own).parent_path()));
   EXPECT_EQ(first.finish(), 0);
-  EXPECT_EQ(folder.entries(), 0u);
+  EXPECT_EQ(folder.Entries(), 0u);
 }
 
 TEST(SimulatorProgram, RefusesASocketThatIsInUse) {

@@ -14,9 +14,11 @@
 
 namespace {
 
+using trxtest::TemporaryFolder;
+
 [[noreturn]] void become(std::vector<std::string> &words, const TemporaryFolder &folder) {
-  setenv("TMPDIR", folder.path().c_str(), 1);
-  setenv("XDG_RUNTIME_DIR", folder.path().c_str(), 1);
+  setenv("TMPDIR", folder.Path().c_str(), 1);
+  setenv("XDG_RUNTIME_DIR", folder.Path().c_str(), 1);
   unsetenv("TRX_MIXER_SIM_CONTROL");
   std::vector<char *> arguments;
   for (std::string &word : words) arguments.push_back(word.data());
@@ -34,7 +36,7 @@ std::vector<std::string> simulatorWords(int units, const std::string &socket) {
 Program::Program(std::vector<std::string> words, const TemporaryFolder &folder) {
   static int started = 0;
   // Beside the folder, so that the folder shows only what the program itself leaves behind.
-  errorFile_ = folder.path() + "-errors-" + std::to_string(started++);
+  errorFile_ = folder.Path() + "-errors-" + std::to_string(started++);
   int in[2];
   int out[2];
   if (pipe2(in, O_CLOEXEC) != 0 || pipe2(out, O_CLOEXEC) != 0) throw std::runtime_error("pipe");

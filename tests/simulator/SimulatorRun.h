@@ -13,7 +13,7 @@
 class Program {
  public:
   /// Starts `words` with TMPDIR and XDG_RUNTIME_DIR set to `folder`.
-  Program(std::vector<std::string> words, const TemporaryFolder &folder);
+  Program(std::vector<std::string> words, const trxtest::TemporaryFolder &folder);
   ~Program();
   Program(const Program &) = delete;
   Program &operator=(const Program &) = delete;
@@ -72,7 +72,7 @@ class SimulatorRun {
   /// Opens a device node in the client and returns its descriptor as text.
   std::string open(const std::string &path);
 
-  TemporaryFolder folder;
+  trxtest::TemporaryFolder folder;
   const std::string socket = folder / "control.sock";
 
  private:

@@ -16,6 +16,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+using trxtest::TemporaryFolder;
+
 constexpr const char *kStatus =
     "hub port sta spd dev      sockfd local_busid\n"
     "hs  0000 006 003 00010001 000003 3-1\n"
@@ -90,26 +92,26 @@ TEST(VhciStatus, PassesOverWhatItDoesNotKnow) {
 }
 
 TEST_F(Vhci, PortsOfAllControllersComeInTheOrderOfTheirBuses) {
-  EXPECT_EQ(texts(VhciController(root.path()).ports()),
+  EXPECT_EQ(texts(VhciController(root.Path()).ports()),
             (std::vector<std::string>{"0 = 0-1 taken", "1 = 0-2 free", "2 = 0-3 taken",
                                       "3 = 0-4 free", "8 = 1-1 taken", "9 = 1-2 free"}));
 }
 
 TEST_F(Vhci, AttachTakesTheFirstFreePortAtHighSpeed) {
-  const VhciController vhci(root.path());
+  const VhciController vhci(root.Path());
   EXPECT_EQ(portText(vhci.attach(17, 0x00010002)), "1 = 0-2 free");
   EXPECT_EQ(read(kFirst + "/attach"), "1 17 65538 3");
 }
 
 TEST_F(Vhci, AttachGoesOnToTheNextController) {
   write(kFirst + "/status", "hs  0000 006 003 00010001 000003 3-1\n");
-  EXPECT_EQ(portText(VhciController(root.path()).attach(17, 1)), "9 = 1-2 free");
+  EXPECT_EQ(portText(VhciController(root.Path()).attach(17, 1)), "9 = 1-2 free");
 }
 
 TEST_F(Vhci, AttachSaysWhenNoPortIsFree) {
   write(kFirst + "/status", "hs  0000 006 003 00010001 000003 3-1\n");
   write(kFirst + "/status.1", "hs  0008 006 003 00010001 000003 3-1\n");
-  const VhciController vhci(root.path());
+  const VhciController vhci(root.Path());
   try {
     vhci.attach(17, 1);
     FAIL() << "found a port";
@@ -122,12 +124,12 @@ TEST_F(Vhci, AttachSaysWhenNoPortIsFree) {
 }
 
 TEST_F(Vhci, DetachNamesThePort) {
-  VhciController(root.path()).detach({9, 1, 2, false});
+  VhciController(root.Path()).detach({9, 1, 2, false});
   EXPECT_EQ(read(kFirst + "/detach"), "9");
 }
 
 TEST_F(Vhci, AddressIsThatOfTheDeviceAtTheHighSpeedHub) {
-  const VhciController vhci(root.path());
+  const VhciController vhci(root.Path());
   const VhciPort port{9, 1, 2, false};
   showDevice("6-2", "6", "2");
   EXPECT_FALSE(vhci.addressAt(port));
@@ -164,10 +166,10 @@ TEST_F(Vhci, NodeThatIsGoneNeedsNothingBack) {
 }
 
 TEST_F(Vhci, WithoutControllersSaysWhatToDo) {
-  if (geteuid() == 0) setenv("PATH", root.path().c_str(), 1);  // no modprobe is to be found
+  if (geteuid() == 0) setenv("PATH", root.Path().c_str(), 1);  // no modprobe is to be found
   const TemporaryFolder empty;
   try {
-    const VhciController vhci(empty.path());
+    const VhciController vhci(empty.Path());
     FAIL() << "found a controller";
   } catch (const DeskError &error) {
     const std::string text = error.what();

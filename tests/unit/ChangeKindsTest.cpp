@@ -7,10 +7,12 @@
 #include <gtest/gtest.h>
 
 #include "ChangeKinds.h"
-#include "PrivateBus.h"
+#include "PrivateSessionBus.h"
 
 namespace orv {
 namespace {
+
+using trxtest::PrivateSessionBus;
 
 TEST(ChangeKinds, ARoutingChangeIsDeliveredImmediatelyAndAnyOtherPlainly) {
   EXPECT_EQ(kInputAudioChange.delivery, Delivery::kImmediately);
@@ -85,7 +87,7 @@ class LastPosted : public testing::Test {
     UserInfoSlot *slot;
   };
 
-  const PrivateBus bus_;
+  const PrivateSessionBus bus_;
   const std::vector<NamedSlot> slots_ = {{"input", &kInputAudioChange.lastPosted},
                                          {"output", &kOutputAudioChange.lastPosted},
                                          {"boost", &kBoostLevelChange.lastPosted},

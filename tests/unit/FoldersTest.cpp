@@ -18,6 +18,11 @@ namespace {
 
 using testing::Optional;
 using testing::StrEq;
+using trxtest::BecomeUserWithoutAccount;
+using trxtest::ExpectQuietSuccess;
+using trxtest::ReadBytes;
+using trxtest::TemporaryFolder;
+using trxtest::WriteBytes;
 
 // The environment is the process's: each test changes it in a child.
 TEST(LibraryFolder, LiesInTheConfigurationFolderOfTheEnvironment) {

@@ -15,7 +15,7 @@
 
 #include "FailingMemory.h"
 #include "MockBus.h"
-#include "PrivateBus.h"
+#include "PrivateSessionBus.h"
 #include "TemporaryFolder.h"
 #include "USBDevice.h"
 
@@ -24,6 +24,8 @@ namespace {
 
 using testing::Each;
 using testing::UnorderedElementsAre;
+using trxtest::PrivateSessionBus;
+using trxtest::TemporaryFolder;
 
 // Makes the call again and again, each time with memory for one allocation more, until it needs no
 // more than it gets. Gives all answers.
@@ -122,7 +124,7 @@ TEST_F(OutOfMemory, TextsAreThenRefusedAndUntouched) {
 void Count(std::int32_t /*index*/, void *counter) { ++*static_cast<int *>(counter); }
 
 TEST_F(OutOfMemory, RegisteringAndDispatchingAnswerAsEverAndWorkAgainAfterwards) {
-  const PrivateBus bus;
+  const PrivateSessionBus bus;
   int counter = 0;
   EXPECT_THAT(AnswersWhileMemoryGrows(
                   [&] { return ORV_RegisterBoostLevelChangedCallback(11, Count, &counter); }),

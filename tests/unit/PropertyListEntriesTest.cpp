@@ -13,6 +13,8 @@ namespace orv {
 namespace {
 
 using testing::ElementsAre;
+using trxtest::TemporaryFolder;
+using trxtest::WriteBytes;
 
 // What an independent reader finds in a file after the library has set "MaxLevel" in it.
 std::vector<std::string> AfterSettingMaxLevel(const std::string &contents) {

@@ -17,6 +17,8 @@ namespace {
 
 using testing::ElementsAre;
 using testing::Optional;
+using trxtest::TemporaryFolder;
+using trxtest::WriteBytes;
 
 constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();

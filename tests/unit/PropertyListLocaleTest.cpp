@@ -17,6 +17,9 @@ namespace {
 
 using testing::ElementsAre;
 using testing::Optional;
+using trxtest::ExpectQuietSuccess;
+using trxtest::TemporaryFolder;
+using trxtest::WriteBytes;
 
 // A locale of our own, so that none need be installed. All its other parts are those of C.
 class PropertyListInAHostWithADecimalComma : public testing::Test {

@@ -20,6 +20,10 @@ namespace orv {
 namespace {
 
 using testing::Optional;
+using trxtest::BecomeOrdinaryUser;
+using trxtest::ExpectQuietSuccess;
+using trxtest::TemporaryFolder;
+using trxtest::WriteBytes;
 
 std::string ValidXml() {
   return XmlList(

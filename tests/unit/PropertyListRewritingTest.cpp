@@ -14,6 +14,10 @@
 namespace orv {
 namespace {
 
+using trxtest::ReadBytes;
+using trxtest::TemporaryFolder;
+using trxtest::WriteBytes;
+
 void AppendNumber(std::string &bytes, std::uint64_t number, unsigned size) {
   for (unsigned i = size; i > 0; --i) bytes += static_cast<char>(number >> (i - 1) * 8 & 0xFF);
 }

@@ -23,6 +23,11 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using trxtest::BecomeOrdinaryUser;
+using trxtest::ExpectQuietSuccess;
+using trxtest::ReadBytes;
+using trxtest::TemporaryFolder;
+using trxtest::WriteBytes;
 
 constexpr const char *kOldContents =
     "<plist><dict><key>MaxLevel</key><integer>3</integer></dict></plist>";

@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 #include <systemd/sd-bus.h>
 
-#include "PrivateBus.h"
+#include "PrivateSessionBus.h"
 #include "SessionBus.h"
 
 namespace orv {
@@ -20,6 +20,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
+using trxtest::PrivateSessionBus;
+using trxtest::TemporaryFolder;
 
 constexpr std::uint64_t kPatience = 10'000'000;
 
@@ -89,7 +91,7 @@ class SessionBus : public testing::Test {
     return held;
   }
 
-  PrivateBus privateBus_;
+  PrivateSessionBus privateBus_;
   Bus sender_;
   Bus listener_;
 };

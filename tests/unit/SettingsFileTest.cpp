@@ -21,6 +21,11 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Optional;
 using testing::StrEq;
+using trxtest::BecomeUserWithoutAccount;
+using trxtest::ExpectQuietSuccess;
+using trxtest::ReadBytes;
+using trxtest::TemporaryFolder;
+using trxtest::WriteBytes;
 
 class SettingsFile : public testing::Test {
  protected:

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-namespace orv {
+namespace trxtest {
 
 /// Runs a function in a forked child and expects that it comes back without a failed expectation,
 /// within half a minute and without a byte on standard error. What fails in the child is printed by
@@ -17,4 +17,4 @@ void BecomeOrdinaryUser();
 /// Makes this process, a child, one of a user whom the system's list of accounts does not know.
 void BecomeUserWithoutAccount();
 
-}  // namespace orv
+}  // namespace trxtest

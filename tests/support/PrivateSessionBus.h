@@ -5,15 +5,15 @@
 
 #include "TemporaryFolder.h"
 
-namespace orv {
+namespace trxtest {
 
 /// Runs a bus daemon for the length of a test and makes it the session bus of this process.
-class PrivateBus {
+class PrivateSessionBus {
  public:
-  PrivateBus();
-  PrivateBus(const PrivateBus &) = delete;
-  PrivateBus &operator=(const PrivateBus &) = delete;
-  ~PrivateBus();
+  PrivateSessionBus();
+  PrivateSessionBus(const PrivateSessionBus &) = delete;
+  PrivateSessionBus &operator=(const PrivateSessionBus &) = delete;
+  ~PrivateSessionBus();
 
   const std::string &Address() const { return address_; }
 
@@ -23,4 +23,4 @@ class PrivateBus {
   pid_t daemon_ = -1;
 };
 
-}  // namespace orv
+}  // namespace trxtest

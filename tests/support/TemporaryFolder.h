@@ -12,15 +12,15 @@
 
 #include <unistd.h>
 
-namespace orv {
+namespace trxtest {
 
 /// Makes an empty folder and removes it with all that is in it at the end. Lies in memory where the
 /// system offers that: the library makes every write durable, which takes a disk its time.
 class TemporaryFolder {
  public:
-  TemporaryFolder() {
-    std::string path = access("/dev/shm", W_OK | X_OK) == 0 ? "/dev/shm" : "/tmp";
-    path += "/trx-unit-XXXXXX";
+  TemporaryFolder() : TemporaryFolder(access("/dev/shm", W_OK | X_OK) == 0 ? "/dev/shm" : "/tmp") {}
+  explicit TemporaryFolder(const std::string &place) {
+    std::string path = place + "/trx-test-XXXXXX";
     if (mkdtemp(path.data()) == nullptr) throw std::runtime_error("no temporary folder");
     path_ = path;
   }
@@ -46,6 +46,12 @@ class TemporaryFolder {
     return names;
   }
 
+  /// How many files and folders are inside, at any depth.
+  std::size_t Entries() const {
+    const std::filesystem::recursive_directory_iterator all(path_);
+    return static_cast<std::size_t>(std::distance(begin(all), end(all)));
+  }
+
  private:
   std::string path_;
 };
@@ -63,4 +69,4 @@ inline std::string ReadBytes(const std::string &path) {
   return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
-}  // namespace orv
+}  // namespace trxtest

@@ -1,4 +1,4 @@
-#include "PrivateBus.h"
+#include "PrivateSessionBus.h"
 
 #include <array>
 #include <csignal>
@@ -10,7 +10,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace orv {
+namespace trxtest {
 namespace {
 
 constexpr int kPatienceMilliseconds = 10'000;
@@ -26,7 +26,7 @@ void WaitForAddress(int descriptor) {
 
 }  // namespace
 
-PrivateBus::PrivateBus() {
+PrivateSessionBus::PrivateSessionBus() {
   std::array<int, 2> ends = {};
   if (pipe2(ends.data(), O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
   const std::string address = "--address=" + address_;
@@ -44,10 +44,10 @@ PrivateBus::PrivateBus() {
   setenv("DBUS_SESSION_BUS_ADDRESS", address_.c_str(), 1);
 }
 
-PrivateBus::~PrivateBus() {
+PrivateSessionBus::~PrivateSessionBus() {
   kill(daemon_, SIGTERM);
   waitpid(daemon_, nullptr, 0);
   unsetenv("DBUS_SESSION_BUS_ADDRESS");
 }
 
-}  // namespace orv
+}  // namespace trxtest

@@ -13,7 +13,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace orv {
+#ifdef TRX_COUNTS_COVERAGE
+extern "C" void __gcov_dump();
+#endif
+
+namespace trxtest {
 namespace {
 
 constexpr unsigned kLongestRunSeconds = 30;
@@ -48,12 +52,21 @@ int ReportsSoFar() {
   return testing::UnitTest::GetInstance()->current_test_info()->result()->total_part_count();
 }
 
+// A child ends without what programs do at their end, and that includes writing down which lines it
+// reached.
+void WriteDownWhatWasReached() {
+#ifdef TRX_COUNTS_COVERAGE
+  __gcov_dump();
+#endif
+}
+
 [[noreturn]] void BeChild(const std::function<void()> &function, int standardError) {
   alarm(kLongestRunSeconds);
   dup2(standardError, STDERR_FILENO);
   const int before = ReportsSoFar();
   function();
   std::fflush(stdout);
+  WriteDownWhatWasReached();
   _exit(ReportsSoFar() == before ? 0 : 1);
 }
 
@@ -95,4 +108,4 @@ void BecomeUserWithoutAccount() {
   ASSERT_TRUE(file << map << std::flush);
 }
 
-}  // namespace orv
+}  // namespace trxtest
