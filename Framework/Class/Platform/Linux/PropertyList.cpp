@@ -13,26 +13,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "File.h"
+#include "FileReplacement.h"
 #include "IntegerReading.h"
 #include "PropertyListLimits.h"
 
 namespace orv {
 namespace {
-
-class File {
- public:
-  explicit File(int descriptor) : descriptor_(descriptor) {}
-  File(const File &) = delete;
-  File &operator=(const File &) = delete;
-  ~File() {
-    if (descriptor_ >= 0) close(descriptor_);
-  }
-  int Descriptor() const { return descriptor_; }
-  bool IsOpen() const { return descriptor_ >= 0; }
-
- private:
-  int descriptor_;
-};
 
 // The parser reads and writes real numbers in the thread's locale; in a host that speaks
 // German, 3.5 would come back as 3.
@@ -122,52 +109,6 @@ std::string AsXml(plist_t root) {
   return xml;
 }
 
-bool WriteAll(int descriptor, std::string_view contents) {
-  while (!contents.empty()) {
-    const ssize_t part = write(descriptor, contents.data(), contents.size());
-    if (part < 0 && errno == EINTR) continue;
-    if (part <= 0) return false;
-    contents.remove_prefix(static_cast<std::size_t>(part));
-  }
-  return true;
-}
-
-// A file that was there keeps its permissions; a new one is its owner's alone, as mkostemp makes
-// it.
-void KeepPermissions(const std::string &path, int descriptor) {
-  struct stat status = {};
-  if (stat(path.c_str(), &status) == 0) fchmod(descriptor, status.st_mode & 07777);
-}
-
-// What a power cut must not undo is not only the contents but also the new name.
-void MakeDurable(const std::string &folder) {
-  const File file(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (file.IsOpen()) fsync(file.Descriptor());
-}
-
-// A file may stand elsewhere, with a link to it in its place: then it is replaced there, and the
-// link stays.
-std::string FileBehind(const std::string &path) {
-  const Text resolved(realpath(path.c_str(), nullptr));
-  return resolved ? resolved.get() : path;
-}
-
-bool ReplaceFile(const std::string &path, std::string_view contents) {
-  const std::size_t slash = path.rfind('/');
-  const std::string folder = path.substr(0, slash);
-  std::string temporary = folder + "/." + path.substr(slash + 1) + ".XXXXXX";
-  const File file(mkostemp(temporary.data(), O_CLOEXEC));
-  if (!file.IsOpen()) return false;
-  KeepPermissions(path, file.Descriptor());
-  if (WriteAll(file.Descriptor(), contents) && TEMP_FAILURE_RETRY(fsync(file.Descriptor())) == 0 &&
-      rename(temporary.c_str(), path.c_str()) == 0) {
-    MakeDurable(folder);
-    return true;
-  }
-  unlink(temporary.c_str());
-  return false;
-}
-
 }  // namespace
 
 PropertyList::PropertyList() : root_(plist_new_dict()) {}
@@ -231,7 +172,7 @@ bool PropertyList::WriteAtomically(const std::string &path) const {
   const std::string xml = AsXml(root_);
   // What would be refused when it is read again must not take the place of what can be read.
   if (xml.empty() || xml.size() > kLargestPropertyList) return false;
-  return ReplaceFile(FileBehind(path), xml);
+  return ReplaceFile(path, xml);
 }
 
 }  // namespace orv

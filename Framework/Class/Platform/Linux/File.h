@@ -1,0 +1,35 @@
+// Open files. Any thread.
+#pragma once
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace orv {
+
+/// The descriptor, or in its place a new one for the same, that is none of the three standard
+/// streams; -1 with errno when there is none. Where a host has closed a standard stream, the next
+/// file that is opened gets its number, and what the host then prints would go into that file.
+inline int AwayFromStandardStreams(int descriptor) noexcept {
+  if (descriptor < 0 || descriptor > STDERR_FILENO) return descriptor;
+  const int moved = fcntl(descriptor, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+  close(descriptor);
+  return moved;
+}
+
+/// Owns a descriptor that has just been opened. Never one of the three standard streams.
+class File {
+ public:
+  explicit File(int descriptor) : descriptor_(AwayFromStandardStreams(descriptor)) {}
+  File(const File &) = delete;
+  File &operator=(const File &) = delete;
+  ~File() {
+    if (descriptor_ >= 0) close(descriptor_);
+  }
+  int Descriptor() const { return descriptor_; }
+  bool IsOpen() const { return descriptor_ >= 0; }
+
+ private:
+  int descriptor_;
+};
+
+}  // namespace orv

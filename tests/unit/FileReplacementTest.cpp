@@ -1,0 +1,137 @@
+// Replacing a file while others replace it too, and beside what killed writers have left: on file
+// systems that have files without a name, and on those that have not.
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "ChildProcess.h"
+#include "File.h"
+#include "FileReplacement.h"
+#include "SystemCallFilter.h"
+#include "TemporaryFolder.h"
+
+namespace orv {
+namespace {
+
+using testing::ElementsAre;
+using trxtest::ExpectQuietSuccess;
+using trxtest::GiveUpNamingFilesLater;
+using trxtest::GiveUpUnnamedFiles;
+using trxtest::ReadBytes;
+using trxtest::TemporaryFolder;
+using trxtest::WriteBytes;
+
+// The three kinds of system that there are, each for a process that can be given up.
+const std::vector<std::function<void()>> kSystems = {[] {}, GiveUpUnnamedFiles,
+                                                     GiveUpNamingFilesLater};
+
+class FileReplacement : public testing::Test {
+ protected:
+  void ExpectReplaced() const {
+    EXPECT_TRUE(ReplaceFile(path_, "new"));
+    EXPECT_EQ(ReadBytes(path_), "new");
+  }
+
+  const TemporaryFolder folder_;
+  const std::string path_ = folder_ / "settings";
+};
+
+TEST_F(FileReplacement, WorksOnEverySystem) {
+  for (const auto &giveUp : kSystems) {
+    WriteBytes(path_, "old");
+    ExpectQuietSuccess([&] {
+      giveUp();
+      ExpectReplaced();
+      ASSERT_EQ(unlink(path_.c_str()), 0);
+      ExpectReplaced();
+    });
+    EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
+  }
+}
+
+TEST_F(FileReplacement, ByManyProcessesAtOnceWorksForEachAndLeavesNothing) {
+  constexpr int kProcesses = 6;
+  constexpr int kTimes = 150;
+  for (const auto &giveUp : kSystems) {
+    std::vector<pid_t> writers;
+    for (int i = 0; i < kProcesses; ++i) {
+      writers.push_back(fork());
+      if (writers.back() != 0) continue;
+      giveUp();
+      const std::string contents(1000, static_cast<char>('a' + i));
+      bool isWell = true;
+      for (int n = 0; n < kTimes; ++n) isWell = ReplaceFile(path_, contents) && isWell;
+      _exit(isWell ? 0 : 1);
+    }
+    for (const pid_t writer : writers) {
+      int status = 0;
+      ASSERT_EQ(waitpid(writer, &status, 0), writer);
+      EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "a file was not replaced";
+    }
+    const std::string contents = ReadBytes(path_);
+    EXPECT_EQ(contents, std::string(1000, contents.at(0)));
+    EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
+  }
+}
+
+TEST_F(FileReplacement, TakesAwayWhatADeadWriterHadReady) {
+  WriteBytes(path_, "old");
+  WriteBytes(folder_ / ".settings.new", "the dead writer's");
+  ExpectReplaced();
+  EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
+}
+
+TEST_F(FileReplacement, DoesTheLastStepOfAWriterThatIsOnlySlower) {
+  WriteBytes(path_, "old");
+  WriteBytes(folder_ / ".settings.new", "the slower writer's");
+  ExpectReplaced();
+  // The slower one finds that its file is gone, and that is as if it had been first.
+  EXPECT_EQ(rename((folder_ / ".settings.new").c_str(), path_.c_str()), -1);
+  EXPECT_EQ(errno, ENOENT);
+  EXPECT_EQ(ReadBytes(path_), "new");
+}
+
+TEST_F(FileReplacement, WhereFilesNeedANameRemovesThoseOfDeadWritersAndNoOthers) {
+  const std::string living = folder_ / ".settings.Living";
+  WriteBytes(path_, "old");
+  WriteBytes(living, "half of it");
+  WriteBytes(folder_ / ".settings.a1B2c3", "half of it");
+  WriteBytes(folder_ / ".settings.new", "somebody else's");
+  WriteBytes(folder_ / ".settings.backup1", "somebody else's");
+  WriteBytes(folder_ / ".other.a1B2c3", "somebody else's");
+  const File heldByLivingWriter(open(living.c_str(), O_WRONLY | O_CLOEXEC));
+  ASSERT_EQ(flock(heldByLivingWriter.Descriptor(), LOCK_EX), 0);
+  ExpectQuietSuccess([this] {
+    GiveUpUnnamedFiles();
+    ExpectReplaced();
+  });
+  EXPECT_THAT(folder_.Names(), ElementsAre(".other.a1B2c3", ".settings.Living", ".settings.backup1",
+                                           ".settings.new", "settings"));
+  EXPECT_EQ(ReadBytes(living), "half of it");
+}
+
+TEST_F(FileReplacement, ReplacesWhatALinkLeadsToAndKeepsTheLink) {
+  ASSERT_EQ(mkdir((folder_ / "elsewhere").c_str(), 0700), 0);
+  WriteBytes(folder_ / "elsewhere/file", "old");
+  ASSERT_EQ(symlink("elsewhere/file", path_.c_str()), 0);
+  ExpectReplaced();
+  EXPECT_EQ(ReadBytes(folder_ / "elsewhere/file"), "new");
+  EXPECT_THAT(folder_.Names(), ElementsAre("elsewhere", "settings"));
+  EXPECT_EQ(folder_.Entries(), 3U);
+}
+
+TEST_F(FileReplacement, ALinkThatLeadsNowhereIsReplacedItself) {
+  ASSERT_EQ(symlink("nowhere", path_.c_str()), 0);
+  ExpectReplaced();
+  EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
+}
+
+}  // namespace
+}  // namespace orv
