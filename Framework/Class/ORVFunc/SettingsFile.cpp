@@ -21,10 +21,11 @@ void MergeSettingValue(const char *modelDisplayName, const char *key, std::int32
   WhileMemoryLasts([&] {
     const auto path = SettingsFilePath(modelDisplayName);
     if (!path) return;
-    PropertyList settings = PropertyList::ReadFile(*path).value_or(PropertyList());
-    settings.SetInteger(key, value);
+    auto settings = PropertyList::ReadFileToChange(*path);
+    if (!settings) return;
+    settings->SetInteger(key, value);
     MakeFolder(path->substr(0, path->rfind('/')));
-    settings.WriteAtomically(*path);
+    settings->WriteAtomically(*path);
   });
 }
 

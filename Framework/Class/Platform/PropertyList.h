@@ -20,6 +20,11 @@ class PropertyList {
   /// missing, cannot be read, or is no property list with a dictionary at its root.
   static std::optional<PropertyList> ReadFile(const std::string &path);
 
+  /// The dictionary to change and write back: that in the file, or an empty one where ReadFile
+  /// gives nothing. Nothing when the file may well be in order and only this process cannot read it
+  /// now, for want of descriptors or memory: it must not be replaced then.
+  static std::optional<PropertyList> ReadFileToChange(const std::string &path);
+
   /// The integer reading of an entry: an integer's low 32 bits, 0 or 1 for a boolean, a real
   /// without its fraction, a text that spells an integer and nothing else. Nothing when the entry
   /// is missing or anything else.

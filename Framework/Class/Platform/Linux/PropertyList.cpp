@@ -133,6 +133,13 @@ std::optional<PropertyList> PropertyList::ReadFile(const std::string &path) {
   return list;
 }
 
+std::optional<PropertyList> PropertyList::ReadFileToChange(const std::string &path) {
+  errno = 0;
+  if (auto list = ReadFile(path)) return list;
+  if (errno == EMFILE || errno == ENFILE || errno == ENOMEM) return std::nullopt;
+  return PropertyList();
+}
+
 std::optional<std::int32_t> PropertyList::IntegerForKey(const char *key) const {
   plist_t entry = plist_dict_get_item(root_, key);
   switch (plist_get_node_type(entry)) {
