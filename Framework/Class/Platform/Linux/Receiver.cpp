@@ -100,7 +100,10 @@ int NotificationDescriptor() noexcept {
 }
 
 Receiver &Receiver::Instance() {
-  if (receiver.load() == nullptr) receiver.store(new Receiver);
+  if (receiver.load() == nullptr) {
+    receiver.store(new Receiver);
+    pthread_atfork(nullptr, nullptr, ForgetParent);
+  }
   return *receiver.load();
 }
 
