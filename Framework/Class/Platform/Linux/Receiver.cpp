@@ -78,7 +78,8 @@ WatchSet *TheWatchSet() {
 
 constexpr std::uint64_t kNever = UINT64_MAX;
 
-// How long to leave a bus that is away in peace before looking for it again, in microseconds.
+// How long to leave a bus in peace that is away or refuses something, before looking for it or
+// asking it again, in microseconds.
 constexpr std::uint64_t kBusRetryPause = 1'000'000;
 
 // Setting the timer also takes back that it is readable.
@@ -127,8 +128,8 @@ class Receiver::Turn {
 void Receiver::Add(const std::string &name, NotificationHandler handler) {
   const Turn turn(*this);
   const bool isKnown = Observes(name);
-  observations_.push_back({name, handler});
-  if (bus_ && !isKnown) AskFor(name);
+  observations_.push_back({name, handler, this});
+  if (bus_ && !isKnown) AskFor(observations_.back());
   if (!bus_) Connect();
   // The connection may have died with its bus since it was last used; then there may be a new bus.
   if (!Process(patience_)) {
@@ -142,6 +143,7 @@ void Receiver::Add(const std::string &name, NotificationHandler handler) {
 void Receiver::Dispatch() {
   const Turn turn(*this);
   if (!bus_ && !observations_.empty()) Connect();
+  if (MonotonicNow() >= NextQuestion()) AskAgain();
   Process(0);
   std::size_t left = arrived_.size();
   while (left-- > 0 && !arrived_.empty() && receiver.load() == this) DeliverFirst();
@@ -155,19 +157,27 @@ void Receiver::Connect() {
     const bool isAskedFor = std::any_of(observations_.begin(), it, [&](const Observation &earlier) {
       return earlier.name == it->name;
     });
-    if (!isAskedFor) AskFor(it->name);
+    if (!isAskedFor) AskFor(*it);
     if (!bus_) return;
+  }
+}
+
+void Receiver::AskAgain() {
+  for (Observation &observation : observations_) {
+    if (bus_ && observation.isRefused) AskFor(observation);
   }
 }
 
 // The bus answers later, when it has time: what was asked for counts even if nobody waits for the
 // answer. What cannot be asked for, for want of memory or of a bus, is asked for on the next
 // connection, with all else.
-void Receiver::AskFor(const std::string &name) {
+void Receiver::AskFor(Observation &observation) {
+  observation.isRefused = false;
   const bool isAsked = UnlessOutOfMemory(false, [&] {
     return sd_bus_call_method_async(bus_.get(), nullptr, "org.freedesktop.DBus",
                                     "/org/freedesktop/DBus", "org.freedesktop.DBus", "AddMatch",
-                                    Answered, this, "s", MatchRule(name).c_str()) >= 0;
+                                    Answered, &observation, "s",
+                                    MatchRule(observation.name).c_str()) >= 0;
   });
   if (isAsked) {
     ++unanswered_;
@@ -197,8 +207,13 @@ int Receiver::Arrived(sd_bus_message *message, void *self, sd_bus_error * /*erro
   });
 }
 
-int Receiver::Answered(sd_bus_message * /*answer*/, void *self, sd_bus_error * /*error*/) {
-  --static_cast<Receiver *>(self)->unanswered_;
+// A bus that has not answered in time has not refused: it will come to what it was asked for.
+int Receiver::Answered(sd_bus_message *answer, void *observation, sd_bus_error * /*error*/) {
+  auto &asked = *static_cast<Observation *>(observation);
+  --asked.owner->unanswered_;
+  asked.isRefused = sd_bus_message_is_method_error(answer, nullptr) > 0 &&
+                    sd_bus_message_is_method_error(answer, SD_BUS_ERROR_NO_REPLY) <= 0;
+  if (asked.isRefused) asked.owner->askAgainAt_ = MonotonicNow() + kBusRetryPause;
   return 0;
 }
 
@@ -239,7 +254,7 @@ void Receiver::WatchEverything() {
   eventfd_t count = 0;
   eventfd_read(set->backlog, &count);
   if (!arrived_.empty()) eventfd_write(set->backlog, 1);
-  SetTimer(set->timer, bus_ ? WatchBus(set->epoll) : NextLookForABus());
+  SetTimer(set->timer, bus_ ? std::min(WatchBus(set->epoll), NextQuestion()) : NextLookForABus());
 }
 
 // Returns when the connection needs a turn whatever arrives.
@@ -254,6 +269,13 @@ std::uint64_t Receiver::WatchBus(int set) {
 
 std::uint64_t Receiver::NextLookForABus() const {
   return observations_.empty() ? kNever : MonotonicNow() + kBusRetryPause;
+}
+
+std::uint64_t Receiver::NextQuestion() const {
+  const bool isAny =
+      std::any_of(observations_.begin(), observations_.end(),
+                  [](const Observation &observation) { return observation.isRefused; });
+  return isAny ? askAgainAt_ : kNever;
 }
 
 }  // namespace orv

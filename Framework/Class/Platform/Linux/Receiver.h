@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <deque>
 #include <string>
-#include <vector>
 
 #include "NotificationCentre.h"
 #include "SessionBus.h"
@@ -34,16 +33,19 @@ class Receiver {
   struct Observation {
     std::string name;
     NotificationHandler handler;
+    Receiver *owner;
+    bool isRefused = false;  // by the bus; for the first observation of a name only
   };
 
   class Turn;
 
   static int Arrived(sd_bus_message *message, void *self, sd_bus_error *error);
-  static int Answered(sd_bus_message *answer, void *self, sd_bus_error *error);
+  static int Answered(sd_bus_message *answer, void *observation, sd_bus_error *error);
 
   bool Observes(const std::string &name) const;
   void Connect();
-  void AskFor(const std::string &name);
+  void AskFor(Observation &observation);
+  void AskAgain();
   void Disconnect();
   bool Process(std::uint64_t patience);
   void DeliverFirst();
@@ -51,12 +53,14 @@ class Receiver {
   void WatchEverything();
   std::uint64_t WatchBus(int set);
   std::uint64_t NextLookForABus() const;
+  std::uint64_t NextQuestion() const;
 
-  std::vector<Observation> observations_;
+  std::deque<Observation> observations_;  // stay where they are: the bus answers to them
   std::deque<Notification> arrived_;
   Bus bus_;
   int unanswered_ = 0;  // what the bus was asked for and has not granted yet
   std::uint64_t patience_ = kBusPatience;
+  std::uint64_t askAgainAt_ = 0;  // for what the bus has refused
   int watchedBus_ = -1;
 };
 
