@@ -9,6 +9,7 @@
 #include <sys/timerfd.h>
 #include <unistd.h>
 
+#include "File.h"
 #include "OutOfMemory.h"
 
 namespace orv {
@@ -42,9 +43,10 @@ bool Watch(int set, int descriptor, std::uint32_t events) {
 
 // All or nothing: a descriptor that would never become readable is of no use to a host.
 WatchSet *MakeWatchSet() {
-  auto *const set = new (std::nothrow) WatchSet{
-      epoll_create1(EPOLL_CLOEXEC), timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC),
-      eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)};
+  auto *const set = new (std::nothrow)
+      WatchSet{AwayFromStandardStreams(epoll_create1(EPOLL_CLOEXEC)),
+               AwayFromStandardStreams(timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC)),
+               AwayFromStandardStreams(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC))};
   if (set == nullptr) return nullptr;
   if (!Watch(set->epoll, set->timer, EPOLLIN) || !Watch(set->epoll, set->backlog, EPOLLIN)) {
     Close(set);

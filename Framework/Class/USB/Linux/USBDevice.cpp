@@ -14,11 +14,22 @@
 namespace orv {
 namespace {
 
+// What the host prints must not reach a mixer where a closed standard stream would lend the node
+// its number. The node is opened once more instead of moved: software mixers know it by the
+// descriptor that opening gave.
+int OpenAwayFromStandardStreams(const char *path) {
+  const int descriptor = open(path, O_RDWR | O_CLOEXEC);
+  if (descriptor < 0 || descriptor > STDERR_FILENO) return descriptor;
+  const int next = OpenAwayFromStandardStreams(path);
+  close(descriptor);
+  return next;
+}
+
 PlatformStatus OpenNode(UnitAddress address, DeviceHandle *handle) {
   std::array<char, sizeof "/dev/bus/usb/65535/65535"> path;
   std::snprintf(path.data(), path.size(), "/dev/bus/usb/%03u/%03u", unsigned{address.bus},
                 unsigned{address.device});
-  const int descriptor = open(path.data(), O_RDWR | O_CLOEXEC);
+  const int descriptor = OpenAwayFromStandardStreams(path.data());
   if (descriptor < 0) return PlatformStatusFromErrno(errno);
   *handle = new (std::nothrow) USBDeviceInterface{descriptor};
   if (*handle == nullptr) {
