@@ -1,0 +1,144 @@
+// The session bus killed and restarted while announcements come thick and fast, and a bus that does
+// not grant what it is asked for.
+#include <csignal>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include <TemporaryFolder.h>
+#include <fcntl.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "Aftermath.h"
+
+namespace trxtest {
+namespace {
+
+using CallList = std::vector<Call>;
+
+class BusStorm : public Aftermath {};
+
+TEST_F(BusStorm, KilledAndRestartedInTheMiddleTheBusLosesNoRegistration) {
+  constexpr int kRestarts = 4;
+  constexpr std::size_t kHeard = 20;
+  rig().PlugMixer();
+  Register();
+  const auto listener = rig().StartHost();
+  ASSERT_EQ(listener->Ask("register BoostLevel 11 listener"), "100");
+  const auto poster = rig().StartHost();
+  const auto other = rig().StartHost();
+  for (int restart = 0; restart < kRestarts; ++restart) {
+    SCOPED_TRACE(restart);
+    poster->Begin("levels 11 300");
+    other->Begin("levels 11 300");
+    ASSERT_TRUE(RunEventLoopUntil([] { return Calls().size() >= kHeard; }));
+    rig().StopNotificationService();
+    rig().StartNotificationService();
+    EXPECT_EQ(poster->Answer(), "100");
+    EXPECT_EQ(other->Answer(), "100");
+    Calls().clear();
+    ASSERT_TRUE(RunEventLoopUntil([&] {
+      EXPECT_EQ(poster->Ask("levels 11 1"), "100");
+      EXPECT_EQ(other->Ask("levels 11 1"), "100");
+      return Calls().size() >= kHeard;
+    }));
+  }
+  EXPECT_EQ(LibraryListing(), kOnlyTheFile);
+  ExpectRegistrationHolds();
+  ASSERT_TRUE(WaitUntil([&] {
+    EXPECT_EQ(ORV_SetBoostLevelIndex(11, 3), 100);
+    return !listener->TakeCalls(1).empty();
+  }));
+}
+
+// A bus that grants each connection no more than so many rules.
+class LimitedBus {
+ public:
+  explicit LimitedBus(int rules) {
+    Configure(rules);
+    daemon_ = fork();
+    if (daemon_ == 0) Become("--config-file=" + Configuration(), folder_ / "errors");
+  }
+  LimitedBus(const LimitedBus &) = delete;
+  LimitedBus &operator=(const LimitedBus &) = delete;
+  ~LimitedBus() {
+    kill(daemon_, SIGKILL);
+    waitpid(daemon_, nullptr, 0);
+  }
+
+  void Grant(int rules) {
+    Configure(rules);
+    EXPECT_EQ(kill(daemon_, SIGHUP), 0);
+  }
+
+ private:
+  std::string Configuration() const { return folder_ / "bus.conf"; }
+
+  [[noreturn]] static void Become(const std::string &configuration, const std::string &errors) {
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    unsetenv("LD_PRELOAD");
+    dup2(open(errors.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600), STDERR_FILENO);
+    execlp("dbus-daemon", "dbus-daemon", configuration.c_str(), "--nofork",
+           static_cast<char *>(nullptr));
+    _exit(127);
+  }
+
+  void Configure(int rules) const {
+    WriteBytes(
+        Configuration(),
+        "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\" "
+        "\"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
+        "<busconfig><type>session</type><auth>EXTERNAL</auth><listen>" +
+            std::string(std::getenv("DBUS_SESSION_BUS_ADDRESS")) +
+            "</listen><policy context=\"default\"><allow user=\"*\"/><allow own=\"*\"/>"
+            "<allow send_destination=\"*\" eavesdrop=\"true\"/><allow eavesdrop=\"true\"/></policy>"
+            "<limit name=\"max_match_rules_per_connection\">" +
+            std::to_string(rules) + "</limit></busconfig>\n");
+  }
+
+  TemporaryFolder folder_;
+  pid_t daemon_ = -1;
+};
+
+class StingyBus : public Aftermath {
+ protected:
+  static std::string lumen;
+};
+
+std::string StingyBus::lumen = "lumen";
+
+TEST_F(StingyBus, IsAskedAgainForWhatItRefused) {
+  rig().StopNotificationService();
+  LimitedBus bus(1);
+  Register();
+  ExpectRegistrationHolds();
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(6, IndexB, &lumen), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(6, 1), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
+  ASSERT_TRUE(RunEventLoopUntil([] { return !Calls().empty(); }));
+  ASSERT_EQ(Calls(), (CallList{{"A selva", -1, 2}})) << "nothing was refused";
+  bus.Grant(100);
+  // Nobody calls the library but for its own sake: its timer must see to it.
+  int looks = 0;
+  Calls().clear();
+  ASSERT_TRUE(RunEventLoopUntil([&] {
+    if (looks++ % 10 == 0) {
+      EXPECT_EQ(ORV_SetBoostLevelIndex(6, 3), 100);
+    }
+    return !Calls().empty();
+  })) << "what was refused is not asked for again";
+  EXPECT_EQ(Calls().front(), (Call{"B lumen", -1, 3}));
+  Calls().clear();
+  ASSERT_EQ(ORV_SetBoostLevelIndex(6, 0), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  ASSERT_TRUE(RunEventLoopUntil([] {
+    return !Calls().empty() && Calls().back() == Call{"A selva", -1, 0};
+  }));
+  std::erase(Calls(), Call{"B lumen", -1, 3});
+  EXPECT_EQ(Calls(), (CallList{{"B lumen", -1, 0}, {"A selva", -1, 0}}));
+}
+
+}  // namespace
+}  // namespace trxtest

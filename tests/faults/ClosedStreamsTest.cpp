@@ -1,0 +1,103 @@
+// A host without standard streams: the numbers 0 to 2 go to the next files that are opened, and
+// what the host prints must not end up in a file, a mixer or a connection of the library's.
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <system_error>
+
+#include <SteppedProcess.h>
+#include <SystemCallFilter.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <TRX-SELVASetup/EventLoop.h>
+
+#include "Aftermath.h"
+
+namespace trxtest {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::array kStreams = {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO};
+
+// What is done with files that can be written to, with nodes and with connections. What the walk
+// over the bus reads is gone at once and cannot be written to.
+bool UsesDescriptor(const SystemCall &call) {
+  constexpr std::array kNumbers = {SYS_write,   SYS_fsync,           SYS_fchmod,
+                                   SYS_ioctl,   SYS_flock,           SYS_writev,
+                                   SYS_sendmsg, SYS_timerfd_settime, SYS_epoll_ctl};
+  return std::find(kNumbers.begin(), kNumbers.end(), static_cast<long>(call.number)) !=
+         kNumbers.end();
+}
+
+// The software mixers carry a request to a node over a connection of their own.
+bool MayBeRequest(const SystemCall &call) { return static_cast<long>(call.number) == SYS_sendto; }
+
+bool IsNode(pid_t process, int descriptor) {
+  const fs::path place = "/proc/" + std::to_string(process) + "/fd/" + std::to_string(descriptor);
+  std::error_code isClosed;
+  return fs::read_symlink(place, isClosed).string().find("/dev/bus/usb/") != std::string::npos;
+}
+
+constexpr long kMark = SYS_getsid;
+
+class ClosedStreams : public Aftermath {
+ protected:
+  // Runs `body` without standard streams and watches all that is done with descriptors.
+  void ExpectNothingInTheirPlace(const std::function<void()> &body) {
+    SteppedProcess child([&] {
+      for (const int stream : kStreams) close(stream);
+      body();
+      syscall(kMark, 0);
+    });
+    int uses = 0;
+    int requests = 0;
+    for (;;) {
+      const std::optional<SystemCall> call = child.Step();
+      ASSERT_TRUE(call);
+      if (static_cast<long>(call->number) == kMark) break;
+      if (MayBeRequest(*call)) {
+        ++requests;
+        for (const int stream : kStreams) EXPECT_FALSE(IsNode(child.Id(), stream)) << stream;
+      }
+      if (!UsesDescriptor(*call)) continue;
+      ++uses;
+      EXPECT_GT(call->arguments[0], 2U) << "system call " << call->number;
+    }
+    EXPECT_TRUE(child.RunToEnd());
+    EXPECT_GT(uses, 5);
+    EXPECT_EQ(requests > 0, !rig().WireLog().empty());
+  }
+};
+
+TEST_F(ClosedStreams, AreNotReplacedByWhatTheLibraryWritesTo) {
+  rig().PlugMixer();
+  PutLevelThree();
+  ExpectNothingInTheirPlace([] {
+    Register();
+    std::int32_t descriptor = -1;
+    EXPECT_EQ(ORV_GetNotificationDescriptor(&descriptor), 100);
+    EXPECT_GT(descriptor, 2);
+    EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+    EXPECT_EQ(ORV_DispatchNotifications(), 100);
+  });
+  EXPECT_EQ(SettingsOf("TRX-SELVA"), Level(1));
+  EXPECT_EQ(rig().WireLog().size(), 1U);
+}
+
+TEST_F(ClosedStreams, AreNotReplacedWhereFilesNeedANameEither) {
+  PutLevelThree();
+  ExpectNothingInTheirPlace([] {
+    GiveUpUnnamedFiles();
+    EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  });
+  EXPECT_EQ(SettingsOf("TRX-SELVA"), Level(1));
+  EXPECT_EQ(LibraryListing(), kOnlyTheFile);
+}
+
+}  // namespace
+}  // namespace trxtest

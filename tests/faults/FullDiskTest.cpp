@@ -1,0 +1,143 @@
+// No space or no room for names where the settings lie: setting works but for the file, which stays
+// as it was, and nothing is left beside it.
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include <Mounts.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include "Aftermath.h"
+
+namespace trxtest {
+namespace {
+
+namespace fs = std::filesystem;
+using Lines = std::vector<std::string>;
+
+class FullDisk : public Aftermath {
+ protected:
+  FullDisk() {
+    HaveOwnMounts();
+    fs::create_directories(rig().LibraryFolder());
+  }
+
+  // Leaves so many blocks of a file system in memory.
+  void FillUpTo(std::uintmax_t blocksLeft) {
+    struct statvfs status = {};
+    ASSERT_EQ(statvfs(rig().LibraryFolder().c_str(), &status), 0);
+    ASSERT_GE(status.f_bfree, blocksLeft);
+    const std::string bytes((status.f_bfree - blocksLeft) * status.f_bsize, 'x');
+    std::ofstream filler(Filler(), std::ios::binary);
+    ASSERT_TRUE(filler << bytes << std::flush);
+  }
+
+  void TakeAllNames() {
+    for (int i = 0;; ++i) {
+      std::ofstream file(Filler() + std::to_string(i));
+      if (!file) return;
+    }
+  }
+
+  void MakeRoom() {
+    for (const auto &entry : fs::directory_iterator(rig().LibraryFolder())) {
+      if (entry.path().string().starts_with(Filler())) fs::remove(entry.path());
+    }
+  }
+
+  std::string Filler() { return rig().LibraryFolder() + "/filler"; }
+
+  // The setter answers, tells the mixer and announces as ever.
+  void ExpectSetButNotStored(int unit, const std::optional<Settings> &stored) {
+    const Lines before = LibraryListing();
+    rig().ClearWireLog();
+    EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+    EXPECT_EQ(rig().WireLog(), (Lines{"unit " + std::to_string(unit) +
+                                      " OUT 40 03 wValue 0200 wIndex 8003 wLength 0 -> 0 bytes"}));
+    EXPECT_EQ(SettingsOf("TRX-SELVA"), stored);
+    EXPECT_EQ(LibraryListing(), before);
+    EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 1)});
+    std::int32_t level = -77;
+    EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(11, &level), 100);
+    EXPECT_EQ(level, 3);
+  }
+};
+
+TEST_F(FullDisk, LeavesTheOldFileWholeAndNothingBesideIt) {
+  const Mount memory = Mount::Memory(rig().LibraryFolder(), "size=256k");
+  const int unit = rig().PlugMixer();
+  Register();
+  // Three blocks of text, of which none, one or two find room.
+  const std::string text(9000, 'o');
+  const Settings old = {{"MaxLevel", "<integer>3</integer>"},
+                        {"Other", "<string>" + text + "</string>"}};
+  for (const std::uintmax_t room : {0U, 1U, 2U}) {
+    PutLevelThree(text);
+    FillUpTo(room);
+    ExpectSetButNotStored(unit, old);
+    MakeRoom();
+  }
+  PutLevelThree();
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(SettingsOf("TRX-SELVA"), Level(1));
+  EXPECT_EQ(LibraryListing(), kOnlyTheFile);
+  ExpectRegistrationHolds();
+}
+
+TEST_F(FullDisk, WithoutRoomForOneMoreNameLeavesTheOldFileWhole) {
+  const Mount memory = Mount::Memory(rig().LibraryFolder(), "size=256k,nr_inodes=16");
+  const int unit = rig().PlugMixer();
+  PutLevelThree();
+  TakeAllNames();
+  ExpectSetButNotStored(unit, Level(3));
+  MakeRoom();
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(SettingsOf("TRX-SELVA"), Level(1));
+  EXPECT_EQ(LibraryListing(), kOnlyTheFile);
+}
+
+TEST_F(FullDisk, LeavesNothingWhereNothingWas) {
+  const Mount memory = Mount::Memory(rig().LibraryFolder(), "size=256k,nr_inodes=16");
+  const int unit = rig().PlugMixer();
+  TakeAllNames();
+  ExpectSetButNotStored(unit, std::nullopt);
+  MakeRoom();
+  fs::create_directory(rig().LibraryFolder() + "/Preferences");
+  FillUpTo(0);
+  ExpectSetButNotStored(unit, std::nullopt);
+  MakeRoom();
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>1</integer>"}}));
+  EXPECT_EQ(LibraryListing(), kOnlyTheFile);
+}
+
+class ReadOnlyFolder : public FullDisk {};
+
+TEST_F(ReadOnlyFolder, LeavesTheOldFile) {
+  const int unit = rig().PlugMixer();
+  Register();
+  PutLevelThree();
+  {
+    const Mount readOnly = Mount::ReadOnly(rig().LibraryFolder() + "/Preferences");
+    ExpectSetButNotStored(unit, Level(3));
+  }
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(SettingsOf("TRX-SELVA"), Level(1));
+  EXPECT_EQ(LibraryListing(), kOnlyTheFile);
+  ExpectRegistrationHolds();
+}
+
+TEST_F(ReadOnlyFolder, GetsNoSettings) {
+  const int unit = rig().PlugMixer();
+  {
+    const Mount readOnly = Mount::ReadOnly(rig().LibraryFolder());
+    ExpectSetButNotStored(unit, std::nullopt);
+  }
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(LibraryListing(), kOnlyTheFile);
+}
+
+}  // namespace
+}  // namespace trxtest

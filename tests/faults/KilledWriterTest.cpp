@@ -1,0 +1,154 @@
+// A process that is killed while it sets something, before each of its system calls in turn: the
+// settings file is the old one or the new one, and what may lie beside it is gone with the next
+// write.
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <SteppedProcess.h>
+#include <SystemCallFilter.h>
+
+#include "Deliveries.h"
+
+namespace trxtest {
+namespace {
+
+namespace fs = std::filesystem;
+using Lines = std::vector<std::string>;
+
+constexpr int kFewestMoments = 25;
+constexpr int kMostMoments = 5000;
+
+const Settings kOld = {{"MaxLevel", "<integer>3</integer>"}, {"Other", "<string>kept</string>"}};
+const Settings kNew = {{"MaxLevel", "<integer>1</integer>"}, {"Other", "<string>kept</string>"}};
+const Settings kNext = {{"MaxLevel", "<integer>2</integer>"}, {"Other", "<string>kept</string>"}};
+
+const Lines kNothingElse = {"Preferences/com.orvikaudio.TRX-SELVAautosetup.plist"};
+// Folders that are still empty.
+const Lines kBeforeTheFile = {"./", "Preferences/"};
+constexpr const char *kLeftReady = "Preferences/.com.orvikaudio.TRX-SELVAautosetup.plist.new";
+const std::string kLeftUnderItsOwnName = "Preferences/.com.orvikaudio.TRX-SELVAautosetup.plist.";
+
+std::string selva = "selva";
+
+bool Contains(const Lines &lines, const std::string &line) {
+  return std::find(lines.begin(), lines.end(), line) != lines.end();
+}
+
+void SetOne() { EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100); }
+void SetTwo() { EXPECT_EQ(ORV_SetBoostLevelIndex(11, 2), 100); }
+
+class KilledWriter : public Deliveries {
+ protected:
+  struct Tally {
+    int moments = 0;
+    int oldFiles = 0;
+    int newFiles = 0;
+    Lines leftBehind;  // a line for each name each time
+  };
+
+  // Has a child run `set` on what `prepare` left, and kills it before its first, its second, ...
+  // its last system call. Looks each time at what there is then, and calls `afterwards`.
+  Tally KillAtEveryMoment(const std::function<void()> &prepare, const std::function<void()> &set,
+                          const std::optional<Settings> &oldFile,
+                          const std::optional<Settings> &newFile,
+                          const std::function<void()> &afterwards) {
+    Tally tally;
+    for (int moment = 1; moment <= kMostMoments; ++moment) {
+      prepare();
+      SteppedProcess child(set);
+      if (!child.StepTo(moment)) {
+        EXPECT_TRUE(child.RunToEnd());
+        EXPECT_EQ(SettingsOf("TRX-SELVA"), newFile);
+        return tally;
+      }
+      child.Kill();
+      ++tally.moments;
+      const std::optional<Settings> found = SettingsOf("TRX-SELVA");
+      EXPECT_TRUE(found == oldFile || found == newFile) << "torn or lost at moment " << moment;
+      EXPECT_TRUE(found || !fs::exists(rig().SettingsFile("TRX-SELVA"))) << "moment " << moment;
+      ++(found == oldFile ? tally.oldFiles : tally.newFiles);
+      for (const std::string &name : LibraryListing()) {
+        if (!Contains(kNothingElse, name) && !Contains(kBeforeTheFile, name)) {
+          tally.leftBehind.push_back(name);
+        }
+      }
+      afterwards();
+      if (HasFailure()) return tally;
+    }
+    ADD_FAILURE() << "the child never ends";
+    return tally;
+  }
+
+  void PutOldFile() {
+    PutSettings("TRX-SELVA",
+                "<key>MaxLevel</key><integer>3</integer><key>Other</key><string>kept</string>");
+  }
+
+  void ExpectNextWriteLeavesOnlyTheFile() {
+    SetTwo();
+    EXPECT_EQ(SettingsOf("TRX-SELVA"), kNext);
+    EXPECT_EQ(LibraryListing(), kNothingElse);
+  }
+
+  // Who registered before is told of what is set after all that.
+  void ExpectRegistrationsHold() {
+    DeliverAll();
+    SetTwo();
+    EXPECT_EQ(DeliverAll(), (std::vector<Call>{{"A selva", -1, 2}}));
+  }
+};
+
+TEST_F(KilledWriter, LeavesTheOldFileOrTheNewOneAndNothingAfterTheNextWrite) {
+  rig().PlugMixer();
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  const Tally tally = KillAtEveryMoment([this] { PutOldFile(); }, SetOne, kOld, kNew,
+                                        [this] { ExpectNextWriteLeavesOnlyTheFile(); });
+  EXPECT_GT(tally.moments, kFewestMoments);
+  EXPECT_GT(tally.oldFiles, 0);
+  EXPECT_GT(tally.newFiles, 0);
+  EXPECT_EQ(tally.leftBehind, Lines{kLeftReady})
+      << "of all moments there is one that leaves a file";
+  ExpectRegistrationsHold();
+}
+
+TEST_F(KilledWriter, LeavesNothingWhenItWasTheFirst) {
+  const Tally tally =
+      KillAtEveryMoment([this] { fs::remove_all(rig().LibraryFolder()); }, SetOne, std::nullopt,
+                        Settings{{"MaxLevel", "<integer>1</integer>"}}, [] {});
+  EXPECT_GT(tally.moments, kFewestMoments);
+  EXPECT_GT(tally.oldFiles, 0);
+  EXPECT_GT(tally.newFiles, 0);
+  EXPECT_EQ(tally.leftBehind, Lines());
+}
+
+TEST_F(KilledWriter, WhereFilesNeedANameLeavesNothingAfterTheNextWriteEither) {
+  const Tally tally = KillAtEveryMoment([this] { PutOldFile(); },
+                                        [] {
+                                          GiveUpUnnamedFiles();
+                                          SetOne();
+                                        },
+                                        kOld, kNew,
+                                        [this] {
+                                          SteppedProcess next([] {
+                                            GiveUpUnnamedFiles();
+                                            SetTwo();
+                                          });
+                                          EXPECT_TRUE(next.RunToEnd());
+                                          EXPECT_EQ(SettingsOf("TRX-SELVA"), kNext);
+                                          EXPECT_EQ(LibraryListing(), kNothingElse);
+                                        });
+  EXPECT_GT(tally.moments, kFewestMoments);
+  EXPECT_GT(tally.oldFiles, 0);
+  EXPECT_GT(tally.newFiles, 0);
+  EXPECT_FALSE(tally.leftBehind.empty()) << "the case does not show what it is for";
+  for (const std::string &name : tally.leftBehind) {
+    EXPECT_EQ(name.substr(0, kLeftUnderItsOwnName.size()), kLeftUnderItsOwnName);
+  }
+}
+
+}  // namespace
+}  // namespace trxtest
