@@ -51,6 +51,12 @@ std::optional<PropertyList> PropertyList::ReadFile(const std::string &path) {
   return isRead ? std::optional<PropertyList>(std::move(list)) : std::nullopt;
 }
 
+// Foundation does not say why it has read nothing.
+std::optional<PropertyList> PropertyList::ReadFileToChange(const std::string &path) {
+  auto list = ReadFile(path);
+  return list ? std::move(list) : std::optional<PropertyList>(PropertyList());
+}
+
 std::optional<std::int32_t> PropertyList::IntegerForKey(const char *key) const {
   return UnlessRaised<std::optional<std::int32_t>>(std::nullopt, [&] {
     return IntegerOfEntry([DictionaryIn(root_) objectForKey:StringOf(key)]);
