@@ -84,6 +84,25 @@ TEST_F(PropertyListRewriting, WhatWouldBeTooLargeToReadAgainDoesNotReplaceWhatCa
   EXPECT_EQ(folder_.Names(), std::vector<std::string>{"list.plist"});
 }
 
+TEST_F(PropertyListRewriting, WhatWouldBeTooDeepToReadAgainDoesNotReplaceWhatCanBeRead) {
+  // {"a": [[[...]]]}, which the binary form holds in two levels less than XML does.
+  std::vector<std::string> objects = {"\xD1\x01\x02",
+                                      "\x51"
+                                      "a"};
+  constexpr int kArrays = 126;
+  for (int i = 0; i < kArrays; ++i) {
+    objects.push_back('\xA1' + std::string(1, static_cast<char>(objects.size() + 1)));
+  }
+  objects.emplace_back("\x51x");
+  const std::string before = BinaryList(objects);
+  Write(before);
+  auto list = Read();
+  ASSERT_TRUE(list.has_value());
+  list->SetInteger("MaxLevel", 1);
+  EXPECT_FALSE(list->WriteAtomically(path_));
+  EXPECT_EQ(ReadBytes(path_), before);
+}
+
 TEST_F(PropertyListRewriting, ACharacterThatXmlCannotHoldIsReplaced) {
   Write(BinaryList({"\xD1\x01\x02",
                     "\x51"

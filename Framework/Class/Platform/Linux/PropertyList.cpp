@@ -178,7 +178,7 @@ void PropertyList::SetInteger(const char *key, std::int32_t value) {
 bool PropertyList::WriteAtomically(const std::string &path) const {
   const std::string xml = AsXml(root_);
   // What would be refused when it is read again must not take the place of what can be read.
-  if (xml.empty() || xml.size() > kLargestPropertyList) return false;
+  if (xml.empty() || !WithinLimits(xml)) return false;
   return ReplaceFile(path, xml);
 }
 
