@@ -11,7 +11,7 @@ build_packages=(
 
 test_packages=(
   libgtest-dev libgmock-dev
-  clang python3 dbus-bin doxygen valgrind locales binutils util-linux procps
+  clang libclang-rt-dev python3 dbus-bin doxygen valgrind locales binutils util-linux procps
   libglib2.0-bin mandoc zsh fish
   libgnustep-base-dev gnustep-base-runtime gobjc
   qemu-system-x86 busybox-static cpio zstd lz4
