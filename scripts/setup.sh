@@ -16,6 +16,10 @@ test_packages=(
   busybox-static cpio zstd lz4 abigail-tools
 )
 
+package_packages=(
+  dpkg-dev fakeroot file binutils help2man gzip
+)
+
 lint_packages=(
   clang-format clang-tidy cppcheck shellcheck
 )
