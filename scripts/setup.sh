@@ -13,7 +13,7 @@ test_packages=(
   libgtest-dev libgmock-dev
   clang libclang-rt-dev python3 dbus-bin doxygen valgrind locales binutils util-linux procps
   libglib2.0-bin mandoc zsh fish libgnustep-base-dev gnustep-base-runtime gobjc qemu-system-x86
-  busybox-static cpio zstd lz4 abigail-tools
+  busybox-static cpio zstd lz4 abigail-tools mmdebstrap debian-archive-keyring uidmap lintian
 )
 
 package_packages=(

@@ -1,0 +1,146 @@
+"""Fresh Debian roots in which packages are installed, tried and removed.
+
+A root is made once by mmdebstrap, from where this machine's apt has its packages, and kept as an archive for a week in
+$XDG_CACHE_HOME/trx-selva, with the packages that were downloaded into it. Each test lays one out anew and throws it away.
+
+debian_root.py NAME...   makes the archives of these roots, if they are not there yet
+"""
+
+import hashlib
+import os
+import pathlib
+import shutil
+import stat
+import subprocess
+import sys
+import tempfile
+import time
+
+RELEASE = "bookworm"
+SUITES = [RELEASE, f"{RELEASE}-updates", f"{RELEASE}-security"]
+# What is in a root besides what every Debian has.
+ROOTS = {
+    "minimal": [],
+    "desk": ["gcc", "g++", "cmake", "make", "pkg-config", "dbus-daemon", "bash-completion", "man-db", "udev"],
+}
+KEPT_FOR = 7 * 24 * 3600  # seconds
+CACHE = pathlib.Path(os.environ.get("XDG_CACHE_HOME") or pathlib.Path.home() / ".cache") / "trx-selva"
+DOWNLOADED = CACHE / "downloaded-packages"
+
+# What dpkg, apt and the dynamic linker write down for themselves.
+RECORDS = ["var/lib/dpkg", "var/lib/apt", "var/cache/apt", "var/cache/ldconfig", "var/cache/debconf",
+           "etc/ld.so.cache", "var/log"]
+# Mounts are seen by the command only and end with it, however it ends: nothing outside ever sees them, the removal of
+# the root least of all.
+ENTER = """set -e
+root=$1; downloaded=$2; shift 2
+mount --rbind /dev "$root/dev"
+mount --rbind /sys "$root/sys"
+mount -t proc proc "$root/proc"
+mount --bind "$downloaded" "$root/var/cache/apt/archives"
+exec chroot "$@"
+"""
+
+
+def sources():
+    """The lines with which this machine's own apt gets the packages of the release."""
+    lines = subprocess.run(
+        ["apt-get", "indextargets", "--format", "deb $(REPO_URI) $(RELEASE) $(COMPONENT)",
+         "Created-By: Packages", "Component: main"],
+        check=True, capture_output=True, text=True).stdout.splitlines()
+    found = sorted({line for line in lines if line.split()[2] in SUITES})
+    if not any(line.split()[2] == RELEASE for line in found):
+        sys.exit(f"This machine's apt has no source of Debian's {RELEASE}, which the packages are tried on.")
+    return found
+
+
+def archive(name):
+    contents = hashlib.sha256(" ".join([RELEASE, *ROOTS[name]]).encode()).hexdigest()[:12]
+    return CACHE / f"{RELEASE}-{name}-{contents}.tar"
+
+
+def make(name):
+    """Makes the archive of a root, if there is none that is fresh enough."""
+    made = archive(name)
+    if made.exists() and time.time() - made.stat().st_mtime < KEPT_FOR:
+        return
+    (DOWNLOADED / "partial").mkdir(parents=True, exist_ok=True)
+    # Nobody reads a half-made archive, and whoever makes one at the same time makes the same.
+    with tempfile.TemporaryDirectory(dir=CACHE) as folder:
+        new = pathlib.Path(folder, made.name)
+        packages = [f"--include={','.join(ROOTS[name])}"] if ROOTS[name] else []
+        # With apt's lists, so that installing into the root needs no update.
+        subprocess.run(["mmdebstrap", "--quiet", "--variant=minbase", "--skip=cleanup/apt/lists",
+                        "--dpkgopt=force-unsafe-io", *packages,
+                        RELEASE, new, *sources()], check=True)
+        new.rename(made)
+
+
+def become_root():
+    """Runs this program anew as root of a user namespace of its own, unless it is root already."""
+    if os.getuid() != 0:
+        os.execvp("unshare", ["unshare", "--map-root-user", "--map-auto", sys.executable, "-B", *sys.argv])
+
+
+class DebianRoot:
+    """A Debian of its own, below a temporary folder."""
+
+    def __init__(self, name):
+        self._folder = tempfile.TemporaryDirectory()
+        self.path = pathlib.Path(self._folder.name)
+        subprocess.run(["tar", "--extract", "--file", archive(name), "--directory", self.path,
+                        "--numeric-owner", "--exclude=./dev/*"], check=True)
+        shutil.copy("/etc/resolv.conf", self.path / "etc/resolv.conf")
+
+    def remove(self):
+        self._folder.cleanup()
+
+    def run(self, *command, user=None, check=True):
+        """Runs a command in the root. Its output and errors are kept together."""
+        as_user = [f"--userspec={user}"] if user else []
+        done = subprocess.run(
+            ["unshare", "--mount", "--pid", "--fork", "--kill-child", "--",
+             "sh", "-c", ENTER, "enter", self.path, DOWNLOADED, *as_user, self.path, *command],
+            env={"PATH": "/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin", "HOME": "/tmp/home",
+                 "LC_ALL": "C.UTF-8", "DEBIAN_FRONTEND": "noninteractive"},
+            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+        if check and done.returncode != 0:
+            raise AssertionError(f"{' '.join(command)}: exit code {done.returncode}\n{done.stdout}")
+        return done
+
+    def install(self, packages):
+        """Installs package files as a user would, with what they depend on."""
+        for package in packages:
+            shutil.copy(package, self.path / "tmp")
+        files = [f"/tmp/{package.name}" for package in packages]
+        self.run("apt-get", "install", "--yes", "--no-install-recommends", *files)
+        for file in files:
+            (self.path / file[1:]).unlink()
+
+    def contents(self):
+        """Every file, with its kind, rights and contents, but for RECORDS."""
+        found = {}
+        for folder, folders, files in os.walk(self.path):
+            inside = pathlib.Path(folder).relative_to(self.path)
+            folders[:] = [name for name in folders if str(inside / name) not in RECORDS]
+            for name in [*folders, *files]:
+                if str(inside / name) not in RECORDS:
+                    found[str(inside / name)] = self._looks(inside / name)
+        return found
+
+    def _looks(self, name):
+        path = self.path / name
+        about = path.lstat()
+        if stat.S_ISLNK(about.st_mode):
+            text = os.readlink(path)
+        elif stat.S_ISREG(about.st_mode):
+            with path.open("rb") as file:
+                text = hashlib.file_digest(file, "sha256").hexdigest()
+        else:
+            text = ""
+        return stat.filemode(about.st_mode), about.st_uid, about.st_gid, text
+
+
+if __name__ == "__main__":
+    for root in sys.argv[1:]:
+        make(root)
