@@ -46,13 +46,16 @@ def differences(description, library):
 
 
 class Interface(unittest.TestCase):
+    def assert_as_described(self, description, library):
+        found = differences(description, library)
+        if found:
+            self.fail(ADVICE + found)
+
     def test_of_the_library_is_as_described(self):
-        found = differences(LIBRARY_DESCRIPTION, LIBRARY)
-        self.assertFalse(found, ADVICE + found)
+        self.assert_as_described(LIBRARY_DESCRIPTION, LIBRARY)
 
     def test_of_the_constants_is_as_described(self):
-        found = differences(CONSTANTS_DESCRIPTION, CONSTANTS)
-        self.assertFalse(found, ADVICE + found)
+        self.assert_as_described(CONSTANTS_DESCRIPTION, CONSTANTS)
 
     def test_has_no_constant_that_the_description_leaves_out(self):
         declared = set()
