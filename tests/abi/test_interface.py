@@ -57,6 +57,13 @@ class Interface(unittest.TestCase):
     def test_of_the_constants_is_as_described(self):
         self.assert_as_described(CONSTANTS_DESCRIPTION, CONSTANTS)
 
+    def test_has_the_types_of_every_function(self):
+        library = xml.etree.ElementTree.parse(LIBRARY_DESCRIPTION)
+        exported = [entry.get("name") for entry in library.iterfind("elf-function-symbols/elf-symbol")]
+        typed = [entry.get("name") for entry in library.iterfind("abi-instr/function-decl")]
+        self.assertEqual(len(exported), 50)
+        self.assertEqual(typed, exported)
+
     def test_has_no_constant_that_the_description_leaves_out(self):
         declared = set()
         for header in HEADERS.rglob("*.h"):
