@@ -91,6 +91,14 @@ TEST_F(BusWalk, PassesOverRootHubsAndInterfacesWhateverTheirIds) {
   EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5)));
 }
 
+TEST_F(BusWalk, FindsMixersAmongMoreEntriesThanTheKernelHandsOutAtOnce) {
+  for (int port = 1; port <= 400; ++port) bus_.ListDangling("2-1:1." + std::to_string(port));
+  for (unsigned device = 2; device <= 31; ++device) {
+    bus_.PlugMixer("1-" + std::to_string(device), 1, device);
+  }
+  EXPECT_EQ(Units().size(), 30U);
+}
+
 TEST_F(BusWalk, PassesOverEntriesThatAreGone) {
   bus_.ListDangling("1-1");
   bus_.PlugMixer("1-2", 1, 5);

@@ -1,9 +1,9 @@
 #include "BusWalk.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstring>
-#include <memory>
 #include <optional>
 #include <string_view>
 
@@ -18,10 +18,37 @@ namespace {
 
 constexpr const char *kDevicesFolder = "/sys/bus/usb/devices";
 
-struct CloseFolder {
-  void operator()(DIR *folder) const { closedir(folder); }
+// The folder of devices. opendir would do, but every set comes here at least twice, and opendir
+// asks for the status of the folder and for 32 KiB of memory each time.
+class Folder {
+ public:
+  Folder() : descriptor_(open(kDevicesFolder, O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
+  Folder(const Folder &) = delete;
+  Folder &operator=(const Folder &) = delete;
+  ~Folder() {
+    if (descriptor_ >= 0) close(descriptor_);
+  }
+
+  int Descriptor() const { return descriptor_; }
+
+  /// The next entry; null when there is none. Valid until the next call.
+  const dirent64 *Next() {
+    if (next_ == end_) {
+      end_ = std::max(getdents64(descriptor_, entries_.data(), entries_.size()), ssize_t{0});
+      next_ = 0;
+      if (end_ == 0) return nullptr;
+    }
+    const auto *entry = reinterpret_cast<const dirent64 *>(entries_.data() + next_);
+    next_ += entry->d_reclen;
+    return entry;
+  }
+
+ private:
+  int descriptor_;
+  ssize_t next_ = 0;
+  ssize_t end_ = 0;
+  alignas(dirent64) std::array<char, 8192> entries_;
 };
-using Folder = std::unique_ptr<DIR, CloseFolder>;
 
 // Interfaces have a colon in their name ("1-2:1.0"), root hubs are called "usb1" and so on. Neither
 // can be a mixer, and to know it from the name saves opening their files.
@@ -48,12 +75,10 @@ std::string_view ReadSummary(int folder, const char *name, Summary &summary) {
 }
 
 std::string_view ValueOf(std::string_view key, std::string_view summary) {
-  while (!summary.empty()) {
-    const std::string_view line = summary.substr(0, summary.find('\n'));
-    if (line.starts_with(key) && line.substr(key.size()).starts_with('=')) {
-      return line.substr(key.size() + 1);
-    }
-    summary.remove_prefix(std::min(line.size() + 1, summary.size()));
+  for (std::size_t at = summary.find(key); at != summary.npos; at = summary.find(key, at + 1)) {
+    const bool beginsLine = at == 0 || summary[at - 1] == '\n';
+    const std::string_view rest = summary.substr(at + key.size());
+    if (beginsLine && rest.starts_with('=')) return rest.substr(1, rest.find('\n') - 1);
   }
   return {};
 }
@@ -93,11 +118,10 @@ std::optional<UnitAddress> UnitBehind(int folder, const char *name) {
 
 std::vector<UnitAddress> ConnectedUnits() {
   std::vector<UnitAddress> units;
-  const Folder folder(opendir(kDevicesFolder));
-  if (!folder) return units;
-  while (const dirent *entry = readdir(folder.get())) {
+  Folder folder;
+  while (const dirent64 *entry = folder.Next()) {
     if (!MayBeUnit(entry->d_name)) continue;
-    if (const auto unit = UnitBehind(dirfd(folder.get()), entry->d_name)) units.push_back(*unit);
+    if (const auto unit = UnitBehind(folder.Descriptor(), entry->d_name)) units.push_back(*unit);
   }
   return units;
 }
