@@ -76,5 +76,15 @@ TEST(PropertyListLimits, DeclarationsAreRefused) {
   EXPECT_TRUE(WithinLimits("<!DOCTYPE plist SYSTEM \"PropertyList.dtd\"><plist/>"));
 }
 
+TEST(PropertyListLimits, TheUsualHeadHidesNothingOfWhatFollows) {
+  const std::string head =
+      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST "
+      "1.0//EN\" \"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n";
+  EXPECT_TRUE(WithinLimits(head + "<plist/>"));
+  EXPECT_TRUE(WithinLimits(head + Nested(128)));
+  EXPECT_FALSE(WithinLimits(head + Nested(129)));
+  EXPECT_FALSE(WithinLimits(head + "<!ENTITY a \"b\"><plist/>"));
+}
+
 }  // namespace
 }  // namespace orv

@@ -39,9 +39,9 @@ std::optional<std::string> ConfigurationFolder() {
 }  // namespace
 
 std::optional<std::string> LibraryFolder() {
-  const auto configuration = ConfigurationFolder();
-  if (!configuration) return std::nullopt;
-  return *configuration + "/orvikaudio";
+  auto folder = ConfigurationFolder();
+  if (folder) folder->append("/orvikaudio");
+  return folder;
 }
 
 void MakeFolder(const std::string &path) {

@@ -45,19 +45,18 @@ using Text = std::unique_ptr<char, FreeText>;
 
 // --- Reading -------------------------------------------------------------------------------------
 
-// Only regular files: a pipe in the file's place would keep the caller waiting.
+// What has no end that can be looked for, such as a pipe in the file's place, is refused: it would
+// keep the caller waiting.
 std::optional<std::string> ReadContents(const std::string &path) {
   const File file(
       static_cast<int>(TEMP_FAILURE_RETRY(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))));
-  struct stat status = {};
-  if (!file.IsOpen() || fstat(file.Descriptor(), &status) != 0 || !S_ISREG(status.st_mode) ||
-      static_cast<std::uint64_t>(status.st_size) > kLargestPropertyList) {
-    return std::nullopt;
-  }
-  std::string contents(static_cast<std::size_t>(status.st_size), '\0');
+  const off_t end = file.IsOpen() ? lseek(file.Descriptor(), 0, SEEK_END) : -1;
+  if (end < 0 || static_cast<std::uint64_t>(end) > kLargestPropertyList) return std::nullopt;
+  std::string contents(static_cast<std::size_t>(end), '\0');
   std::size_t size = 0;
   while (size < contents.size()) {
-    const ssize_t part = read(file.Descriptor(), contents.data() + size, contents.size() - size);
+    const ssize_t part = pread(file.Descriptor(), contents.data() + size, contents.size() - size,
+                               static_cast<off_t>(size));
     if (part < 0 && errno == EINTR) continue;
     if (part < 0) return std::nullopt;
     if (part == 0) break;

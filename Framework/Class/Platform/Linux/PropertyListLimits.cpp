@@ -1,7 +1,6 @@
 #include "PropertyListLimits.h"
 
 #include <cstdint>
-#include <optional>
 #include <vector>
 
 namespace orv {
@@ -21,43 +20,62 @@ bool SkipPast(std::string_view end, std::string_view &text) {
   return true;
 }
 
-// The length of a tag up to its '>', which may also stand inside quotes; nothing when the tag does
-// not end.
-std::optional<std::size_t> TagLength(std::string_view text) {
+// The length of a tag up to its '>', which may also stand inside quotes; npos when the tag does not
+// end.
+std::size_t TagLength(std::string_view text) {
   bool quoted = false;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '"') quoted = !quoted;
     if (text[i] == '>' && !quoted) return i;
+    quoted ^= text[i] == '"';
   }
-  return std::nullopt;
+  return text.npos;
 }
 
-// Looks only at tags, as the parser sees them. A document type with declarations of its own is
-// refused: no property list has one, and it is where entities that grow without bound are declared.
+// Takes what stands behind "<!" or "<?" off the front. Returns false when it must not be there. A
+// document type with declarations of its own is refused: no property list has one, and it is where
+// entities that grow without bound are declared.
+bool SkipDeclaration(std::string_view &text) {
+  if (text.starts_with("!--")) {
+    text.remove_prefix(3);
+    return SkipPast("-->", text);
+  }
+  if (text.starts_with("![CDATA[")) return SkipPast("]]>", text);
+  const std::size_t length = TagLength(text);
+  if (length == text.npos) return false;
+  const std::string_view content = text.substr(0, length);
+  text.remove_prefix(length + 1);
+  if (content.starts_with('?')) {
+    return content.ends_with('?');  // the parser would go on to the next "?>"
+  }
+  return content.starts_with("!DOCTYPE") && content.find('[') == content.npos;
+}
+
+// What nearly every property list in XML begins with.
+constexpr std::string_view kUsualHead =
+    R"(<?xml version="1.0" encoding="UTF-8"?>)"
+    "\n"
+    R"(<!DOCTYPE plist PUBLIC "-//Apple//DTD PLIST 1.0//EN" "http://www.apple.com/DTDs/PropertyList-1.0.dtd">)"
+    "\n";
+
+// Looks only at tags, as the parser sees them. Every getter goes through this: what is usual is
+// recognised at once, and the many plain tags are told from the few declarations by one look.
 bool XmlWithinLimits(std::string_view text) {
   int depth = 0;
-  for (std::size_t tag = text.find('<'); tag != std::string_view::npos; tag = text.find('<')) {
+  if (text.starts_with(kUsualHead)) text.remove_prefix(kUsualHead.size());
+  for (std::size_t tag = text.find('<'); tag != text.npos; tag = text.find('<')) {
     text.remove_prefix(tag + 1);
-    if (text.starts_with("!--")) {
-      text.remove_prefix(3);
-      if (!SkipPast("-->", text)) return false;
-    } else if (text.starts_with("![CDATA[")) {
-      if (!SkipPast("]]>", text)) return false;
-    } else {
-      const auto length = TagLength(text);
-      if (!length) return false;
-      const std::string_view content = text.substr(0, *length);
-      text.remove_prefix(*length + 1);
-      if (content.starts_with('!')) {
-        if (!content.starts_with("!DOCTYPE") || content.find('[') != content.npos) return false;
-      } else if (content.starts_with('?')) {
-        if (!content.ends_with('?')) return false;  // the parser would go on to the next "?>"
-      } else if (content.starts_with('/')) {
-        --depth;
-      } else if (!content.ends_with('/')) {
-        if (++depth > kDeepestNesting) return false;
-      }
+    if (text.starts_with('!') || text.starts_with('?')) {
+      if (!SkipDeclaration(text)) return false;
+      continue;
     }
+    const std::size_t length = TagLength(text);
+    if (length == text.npos) return false;
+    if (text.front() == '/') {
+      --depth;
+    } else if (!text.substr(0, length).ends_with('/') && ++depth > kDeepestNesting) {
+      return false;
+    }
+    text.remove_prefix(length + 1);
   }
   return true;
 }
