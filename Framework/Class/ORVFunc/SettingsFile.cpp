@@ -6,9 +6,10 @@
 namespace orv {
 
 std::optional<std::string> SettingsFilePath(const char *modelDisplayName) {
-  const auto library = LibraryFolder();
-  if (!library) return std::nullopt;
-  return *library + "/Preferences/com.orvikaudio." + modelDisplayName + "autosetup.plist";
+  auto path = LibraryFolder();
+  if (path)
+    path->append("/Preferences/com.orvikaudio.").append(modelDisplayName).append("autosetup.plist");
+  return path;
 }
 
 std::optional<PropertyList> ReadSettingsFile(const char *modelDisplayName) {
@@ -23,8 +24,9 @@ void MergeSettingValue(const char *modelDisplayName, const char *key, std::int32
     if (!path) return;
     auto settings = PropertyList::ReadFileToChange(*path);
     if (!settings) return;
+    // Where nothing is stored yet, the folder may be missing as well.
+    if (settings->IsEmpty()) MakeFolder(path->substr(0, path->rfind('/')));
     settings->SetInteger(key, value);
-    MakeFolder(path->substr(0, path->rfind('/')));
     settings->WriteAtomically(*path);
   });
 }

@@ -25,6 +25,9 @@ class PropertyList {
   /// now, for want of descriptors or memory: it must not be replaced then.
   static std::optional<PropertyList> ReadFileToChange(const std::string &path);
 
+  /// Whether there is no entry.
+  bool IsEmpty() const;
+
   /// The integer reading of an entry: an integer's low 32 bits, 0 or 1 for a boolean, a real
   /// without its fraction, a text that spells an integer and nothing else. Nothing when the entry
   /// is missing or anything else.

@@ -57,6 +57,10 @@ std::optional<PropertyList> PropertyList::ReadFileToChange(const std::string &pa
   return list ? std::move(list) : std::optional<PropertyList>(PropertyList());
 }
 
+bool PropertyList::IsEmpty() const {
+  return UnlessRaised(false, [&] { return [DictionaryIn(root_) count] == 0; });
+}
+
 std::optional<std::int32_t> PropertyList::IntegerForKey(const char *key) const {
   return UnlessRaised<std::optional<std::int32_t>>(std::nullopt, [&] {
     return IntegerOfEntry([DictionaryIn(root_) objectForKey:StringOf(key)]);

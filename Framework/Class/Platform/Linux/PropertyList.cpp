@@ -1,5 +1,6 @@
 #include "PropertyList.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -97,15 +98,15 @@ std::string AsXml(plist_t root) {
   std::uint32_t length = 0;
   plist_to_xml(root, &written, &length);
   const Text text(written);
+  std::string_view rest(written, written != nullptr ? length : 0);
   std::string xml;
-  for (const char character : std::string_view(written, written != nullptr ? length : 0)) {
-    if (IsForbiddenInXml(character)) {
-      xml += kReplacementCharacter;
-    } else {
-      xml += character;
-    }
+  for (;;) {
+    const auto forbidden = std::find_if(rest.begin(), rest.end(), IsForbiddenInXml);
+    xml.append(rest.begin(), forbidden);
+    if (forbidden == rest.end()) return xml;
+    xml += kReplacementCharacter;
+    rest.remove_prefix(static_cast<std::size_t>(forbidden - rest.begin()) + 1);
   }
-  return xml;
 }
 
 }  // namespace
@@ -138,6 +139,8 @@ std::optional<PropertyList> PropertyList::ReadFileToChange(const std::string &pa
   if (errno == EMFILE || errno == ENFILE || errno == ENOMEM) return std::nullopt;
   return PropertyList();
 }
+
+bool PropertyList::IsEmpty() const { return plist_dict_get_size(root_) == 0; }
 
 std::optional<std::int32_t> PropertyList::IntegerForKey(const char *key) const {
   plist_t entry = plist_dict_get_item(root_, key);
