@@ -38,27 +38,32 @@ class Poster {
     patience_ = kBusPatience;
   }
 
+  bool IsOut() const {
+    std::uint64_t queued = 0;
+    return sd_bus_get_n_queued_write(bus_.get(), &queued) >= 0 && queued == 0 &&
+           sd_bus_is_ready(bus_.get()) > 0;
+  }
+
   // Waits until all that was sent has left the process, but no longer than the bus may take to
   // answer; what is left then goes out with the next post, which does not wait again for a bus that
-  // hangs. Takes in what the bus has to say. Returns a negative errno value when the connection
-  // broke.
+  // hangs. Takes in what the bus has to say meanwhile; to one who only posts it says next to
+  // nothing, so when all leaves at once, as it does as a rule, nobody asks it. Returns a negative
+  // errno value when the connection broke.
   int Flush() {
     const std::uint64_t deadline = MonotonicNow() + patience_;
-    for (;;) {
+    while (!IsOut()) {
       const int progress = sd_bus_process(bus_.get(), nullptr);
       if (progress < 0) return progress;
-      if (progress > 0) continue;
-      std::uint64_t queued = 0;
-      const int result = sd_bus_get_n_queued_write(bus_.get(), &queued);
-      if (result < 0) return result;
-      const bool isOut = queued == 0 && sd_bus_is_ready(bus_.get()) > 0;
+      if (progress > 0 || IsOut()) continue;
       const std::uint64_t now = MonotonicNow();
-      if (isOut || now >= deadline) {
-        patience_ = isOut ? kBusPatience : 0;
+      if (now >= deadline) {
+        patience_ = 0;
         return 0;
       }
       sd_bus_wait(bus_.get(), deadline - now);
     }
+    patience_ = kBusPatience;
+    return 0;
   }
 
   Bus bus_;
