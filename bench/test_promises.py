@@ -1,0 +1,77 @@
+"""What docs/performance.md promises, as far as it can be counted: system calls and instructions, no times.
+
+Everything below runs inside trx-mixer-sim and dbus-run-session, which the test command starts.
+"""
+
+import unittest
+
+import counts
+import desk
+
+
+class Promise(unittest.TestCase):
+    def setUp(self):
+        folder = desk.make_settings()
+        self.addCleanup(folder.cleanup)
+        desk.plug(mixers=1, strangers=11)
+
+    def assert_at_most(self, limit, counter, operation, against):
+        ours, theirs = counter(operation), counter(against)
+        print(f"{operation} {ours:g}, {against} {theirs:g}: {ours / theirs:.3f}, at most {limit}")
+        self.assertGreater(theirs, 0)
+        self.assertLessEqual(ours / theirs, limit)
+
+    def assert_grows_evenly(self, costs):
+        """Costs at 4, 8 and 16: each further one costs the same. Gives how much."""
+        first, second = (costs[8] - costs[4]) / 4, (costs[16] - costs[8]) / 8
+        print(f"{costs}: {first:g}, then {second:g} for each further one")
+        self.assertGreater(first, 0)
+        self.assertLessEqual(abs(second - first), first / 50)
+        return second
+
+
+class SystemCalls(Promise):
+    def test_of_a_walk(self):
+        self.assert_at_most(1.25, counts.system_calls, "walk", "walk-floor")
+
+    def test_of_a_level_sent_again(self):
+        self.assert_at_most(1.25, counts.system_calls, "send-again", "send-again-floor")
+
+    def test_of_a_set(self):
+        self.assert_at_most(1.25, counts.system_calls, "set", "set-floor")
+
+
+class Growth(Promise):
+    def test_of_a_walk_with_devices(self):
+        calls, floor, instructions = {}, {}, {}
+        for devices in (4, 8, 16):
+            desk.plug(mixers=1, strangers=devices - 1)
+            calls[devices] = counts.system_calls("walk")
+            floor[devices] = counts.system_calls("walk-floor")
+            instructions[devices] = counts.instructions("walk")
+        self.assertLessEqual(self.assert_grows_evenly(calls), 1.25 * self.assert_grows_evenly(floor))
+        self.assert_grows_evenly(instructions)
+
+    def test_of_a_set_with_units_at_the_same_devices(self):
+        calls = {}
+        for units in (4, 8, 16):
+            desk.plug(mixers=units, strangers=16 - units)
+            calls[units] = counts.system_calls("send-again")
+        # For each unit the floor has a walk and the request itself.
+        floor = (counts.system_calls("send-again-floor") - counts.system_calls("get-floor")
+                 - counts.system_calls("walk-floor"))
+        self.assertLessEqual(self.assert_grows_evenly(calls), 1.25 * floor)
+
+
+class Instructions(Promise):
+    def test_of_a_getter(self):
+        self.assert_at_most(1.2, counts.instructions, "get", "get-libplist")
+
+    def test_of_an_announcement(self):
+        self.assert_at_most(1.3, counts.instructions, "announce", "announce-sd-bus")
+
+    def test_of_trxctl_as_a_whole_process(self):
+        """15 ms on a processor that carries out no more than one instruction in a nanosecond."""
+        total = counts.counted([counts.PROGRAMS / "trxctl", "boost", "1"], counts.callgrind)
+        print(f"trxctl boost 1: {total} instructions, at most 15000000")
+        self.assertLessEqual(total, 15_000_000)
