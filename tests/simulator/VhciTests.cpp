@@ -139,6 +139,19 @@ TEST_F(Vhci, AddressIsThatOfTheDeviceAtTheHighSpeedHub) {
   EXPECT_EQ(vhci.addressAt(port), (BusAddress{5, 14}));
 }
 
+TEST_F(Vhci, TracesOfADeviceAreThereUntilItsEntryInTheListIsGone) {
+  const VhciController vhci(root.path());
+  const VhciPort port{9, 1, 2, false};
+  EXPECT_FALSE(vhci.hasTracesOf({5, 14}, port));
+  showDevice("5-2", "5", "14");
+  EXPECT_TRUE(vhci.hasTracesOf({5, 14}, port)) << "the node is gone, the rest is not";
+  EXPECT_FALSE(vhci.hasTracesOf({5, 13}, port)) << "another device has taken the port";
+  fs::remove(root / "sys/bus/usb/devices/5-2/devnum");
+  EXPECT_TRUE(vhci.hasTracesOf({5, 14}, port)) << "a folder without its numbers";
+  fs::remove_all(root / "sys/bus/usb/devices/5-2");
+  EXPECT_FALSE(vhci.hasTracesOf({5, 14}, port));
+}
+
 TEST_F(Vhci, DeniedNodeIsGivenBackAsTheSystemMadeIt) {
   write("dev/bus/usb/005/014", "");
   const fs::path path = root / "dev/bus/usb/005/014";
