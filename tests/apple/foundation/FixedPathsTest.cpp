@@ -16,6 +16,8 @@
 namespace orv {
 namespace {
 
+using trxtest::WriteBytes;
+
 class FixedPaths : public testing::Test {
  protected:
   FixedPaths() { std::filesystem::remove_all(trxtest::SystemRootOfUser()); }

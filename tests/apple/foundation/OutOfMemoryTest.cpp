@@ -18,6 +18,8 @@
 namespace orv {
 namespace {
 
+using trxtest::WriteBytes;
+
 // Makes a call again and again, each time with memory for one allocation more, until it needs no
 // more than it gets. Returns how often it had too little.
 int CallsWithTooLittle(const std::function<void()> &call) {

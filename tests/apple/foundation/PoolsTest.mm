@@ -23,6 +23,7 @@ namespace orv {
 namespace {
 
 using testing::Lt;
+using trxtest::ExpectQuietSuccess;
 
 void CallsNothing(std::int32_t, void *) {}
 

@@ -20,6 +20,8 @@ using testing::IsEmpty;
 using testing::Lt;
 using testing::Optional;
 using testing::StartsWith;
+using trxtest::ReadBytes;
+using trxtest::WriteBytes;
 
 class SettingsFiles : public testing::Test {
  protected:
