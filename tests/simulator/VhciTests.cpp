@@ -140,7 +140,7 @@ TEST_F(Vhci, AddressIsThatOfTheDeviceAtTheHighSpeedHub) {
 }
 
 TEST_F(Vhci, TracesOfADeviceAreThereUntilItsEntryInTheListIsGone) {
-  const VhciController vhci(root.path());
+  const VhciController vhci(root.Path());
   const VhciPort port{9, 1, 2, false};
   EXPECT_FALSE(vhci.hasTracesOf({5, 14}, port));
   showDevice("5-2", "5", "14");
