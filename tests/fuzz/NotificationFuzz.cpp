@@ -25,7 +25,7 @@
 
 #include "Promise.h"
 #include "Surroundings.h"
-#include "unit/PrivateBus.h"
+#include "support/PrivateSessionBus.h"
 
 namespace trxfuzz {
 namespace {
@@ -322,7 +322,7 @@ class Host {
     }
   }
 
-  orv::PrivateBus bus_;
+  trxtest::PrivateSessionBus bus_;
   Bus poster_;
   std::int32_t descriptor_ = -1;
   std::int32_t mark_ = 0;
