@@ -6,6 +6,8 @@
 
 #include <unistd.h>
 
+#include "LibraryText.h"
+#include "PlatformWords.h"
 #include "SessionBus.h"
 #include "SettingsFolder.h"
 #include "Text.h"
@@ -15,8 +17,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-Check CheckBus() {
-  if (HasSessionBus()) return Well("session bus", "reached");
+Check CheckBus(bool reached) {
+  if (reached) return Well("session bus", "reached");
   return {"session bus", ExitCode::kFailed,
           "there is none, so programs do not learn of each other's changes",
           "run trxctl in a desktop session, or everything together under dbus-run-session"};
@@ -36,7 +38,7 @@ Check CheckFolder() {
   const auto folder = PreferencesFolder();
   if (!folder) {
     return {name, ExitCode::kNotStored, "this user has no home folder to keep settings in",
-            "set HOME or XDG_CONFIG_HOME to a folder of this user"};
+            std::string(kPlatformWords.without_home)};
   }
   const fs::path nearest = NearestExisting(*folder);
   std::error_code error;
@@ -59,7 +61,7 @@ Check CheckFiles(const Session &session) {
   for (const Model &model : Models()) {
     if (session.model_given ? model.id != session.model.id : !model.served) continue;
     // What the library answers from is in good order; only the rest needs a look.
-    if (ChangesAnySetting(model)) {
+    if (AnswersFromFile(model)) {
       ++in_use;
       continue;
     }
@@ -77,25 +79,32 @@ Check CheckFiles(const Session &session) {
   return Well(name, found.empty() ? "none stored yet" : Joined(found));
 }
 
+std::optional<std::string> VersionOf(StatusCode (*version)(ProductId, ORVStringRef *)) {
+  ORVStringRef text = nullptr;
+  version(ORV_PRODUCT_TRX_SELVA, &text);
+  return CharactersOf(text);
+}
+
 Check CheckInstallation() {
-  ORVStringRef library = nullptr;
-  ORVStringRef package = nullptr;
-  ORV_GetLibraryVersionText(ORV_PRODUCT_TRX_SELVA, &library);
-  ORV_GetPkgVersionText(ORV_PRODUCT_TRX_SELVA, &package);
-  if (library != nullptr && package != nullptr) {
+  const auto library = VersionOf(ORV_GetLibraryVersionText);
+  const auto package = VersionOf(ORV_GetPkgVersionText);
+  if (library && package) {
     return Well("installation",
-                "library " + Printable(library) + ", package " + Printable(package));
+                "library " + Printable(*library) + ", package " + Printable(*package));
   }
   return {"installation", ExitCode::kFailed,
-          std::string("the files with the version of the ") +
-              (library == nullptr ? "library" : "package") + " are missing",
-          "install the library again, or let TRX_SYSTEM_ROOT name the folder where they are"};
+          std::string("the files with the version of the ") + (library ? "package" : "library") +
+              " are missing",
+          std::string(kPlatformWords.without_version_files)};
 }
 
 }  // namespace
 
 std::vector<Check> CheckSystem(const Session &session) {
-  return {CheckBus(), CheckFolder(), CheckFiles(session), CheckInstallation()};
+  std::vector<Check> checks;
+  if (const auto bus = HasSessionBus()) checks.push_back(CheckBus(*bus));
+  checks.insert(checks.end(), {CheckFolder(), CheckFiles(session), CheckInstallation()});
+  return checks;
 }
 
 }  // namespace trxctl

@@ -7,8 +7,8 @@
 
 namespace trxctl {
 
-/// Looks at what the settings need of the system: the session bus, the folder and the files they
-/// are stored in, and what is installed.
+/// Looks at what the settings need of the system: the session bus, where there is one, the folder
+/// and the files they are stored in, and what is installed.
 std::vector<Check> CheckSystem(const Session &session);
 
 }  // namespace trxctl

@@ -1,5 +1,7 @@
 #include "Knob.h"
 
+#include "LibraryText.h"
+
 namespace trxctl {
 
 bool Knob::Offered() const {
@@ -39,11 +41,10 @@ std::optional<std::string> Knob::TextOf(int32_t index) const {
   if (setting_.functions.count(model_.id, channel_, &count) != ORV_SUCCESS ||
       static_cast<uint32_t>(index) >= count ||
       setting_.functions.text(model_.id, channel_, static_cast<uint32_t>(index), &text) !=
-          ORV_SUCCESS ||
-      text == nullptr) {
+          ORV_SUCCESS) {
     return std::nullopt;
   }
-  return text;
+  return CharactersOf(text);
 }
 
 int32_t Knob::Current() const {

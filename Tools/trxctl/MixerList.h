@@ -20,20 +20,9 @@ struct Mixer {
   bool accessible() const { return refusal == 0; }
 };
 
-/// The connected mixers, in the order of their bus and address. Empty also when the system cannot
-/// list them.
+/// The connected mixers, in the order of their bus and address. Empty also when they cannot be
+/// listed, as on macOS, where only the library looks for them.
 std::vector<Mixer> ConnectedMixers();
-
-/// What there is on the USB bus besides mixers.
-struct UsbBus {
-  /// All USB devices, mixers and hubs included.
-  std::size_t devices = 0;
-  /// Devices of the mixers' maker that are no mixers, such as "Headphones (4f52:0020)".
-  std::vector<std::string> others_of_maker;
-};
-
-/// Looks at the USB bus.
-UsbBus SeenOnUsb();
 
 /// Whether the library finds a mixer connected.
 bool IsMixerConnected();

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "Failure.h"
+#include "LibraryText.h"
 #include "Nearest.h"
 #include "Text.h"
 
@@ -72,13 +73,12 @@ std::vector<std::string> ServedModelNames() {
 }
 
 std::vector<const Model *> ModelsMatching(const std::string &name) {
-  ProductId id = 0;
-  const bool recognised = ORV_GetProductId(name.c_str(), &id) == ORV_SUCCESS;
+  const std::optional<ProductId> recognised = ModelRecognisedIn(name);
   const std::string begun = Lower(name);
   std::vector<const Model *> matching;
   for (const Model &model : kModels) {
-    const bool matches =
-        recognised ? model.id == id : !begun.empty() && model.served && BeginsSo(model, begun);
+    const bool matches = recognised ? model.id == *recognised
+                                    : !begun.empty() && model.served && BeginsSo(model, begun);
     if (matches) matching.push_back(&model);
   }
   return matching;

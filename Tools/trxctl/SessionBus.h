@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
+
 namespace trxctl {
 
 /// Whether this process can reach a session bus. Without one nothing is announced; the library
-/// itself stays silent about it.
-bool HasSessionBus();
+/// itself stays silent about it. Nothing on a platform where announcements need no such bus.
+std::optional<bool> HasSessionBus();
 
 }  // namespace trxctl

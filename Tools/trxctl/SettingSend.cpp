@@ -5,6 +5,8 @@
 #include "Choice.h"
 #include "Failure.h"
 #include "InputLists.h"
+#include "LibraryText.h"
+#include "PlatformWords.h"
 #include "Reach.h"
 #include "SettingList.h"
 #include "Text.h"
@@ -34,12 +36,16 @@ void AddWarning(Done &done, const Knob &knob, int32_t language) {
   ORVStringRef text = nullptr;
   knob.setting().extras.warning(knob.model().id, knob.channel(), ORV_SUCCESS_WITH_WARNING, language,
                                 &text);
-  const std::string warning =
-      text != nullptr
-          ? text
-          : "The input selector of this channel may keep the choice from taking effect.";
+  const std::string warning = CharactersOf(text).value_or(
+      "The input selector of this channel may keep the choice from taking effect.");
   done.text += "warning: " + warning + '\n';
   done.json["warning"] = warning;
+}
+
+/// " to 2 mixers"; nothing when the system does not tell to how many.
+std::string ToMixersOf(const Reach &reach) {
+  if (reach.connected && reach.mixers.empty()) return "";
+  return " to " + Counted(reach.accessible, "mixer");
 }
 
 void RequireChoices(const Knob &knob) {
@@ -104,10 +110,10 @@ void SetChoice(const Session &session, const Knob &knob, const std::string &give
   // The library does not tell when the settings file cannot be written; reading the setting back
   // does.
   if (knob.Current() != chosen) {
-    throw Failure{ExitCode::kNotStored,
-                  "the " + knob.Title() + " was sent to " + Counted(reach.accessible, "mixer") +
-                      ", but could not be stored",
-                  "the folder orvikaudio in ~/.config (or in $XDG_CONFIG_HOME) must be writable"};
+    throw Failure{
+        ExitCode::kNotStored,
+        "the " + knob.Title() + " was sent" + ToMixersOf(reach) + ", but could not be stored",
+        std::string(kPlatformWords.not_stored)};
   }
   Done done = Started(knob, "set", "set to " + CurrentAsText(knob));
   done.json.update(ChoiceAsJson(knob, chosen));

@@ -13,12 +13,12 @@ std::optional<std::string> PreferencesFolder();
 /// The file that the settings of a model are stored in; empty when the user has no home.
 std::string SettingsFile(const Model &model);
 
-/// Whether the library answers otherwise for a model than it would without the settings file, which
-/// it then has read.
-bool ChangesAnySetting(const Model &model);
+/// Whether the library is known to answer from the settings file of a model, because it can be read
+/// and has something to say.
+bool AnswersFromFile(const Model &model);
 
 /// What keeps the library from reading a settings file, in words. Nothing when there is no file, or
-/// when no reason is known; a large or a binary list is not looked into.
+/// when no reason is known.
 std::optional<std::string> ProblemOfSettingsFile(const std::string &file);
 
 }  // namespace trxctl

@@ -1,23 +1,11 @@
 #include "Watch.h"
 
-#include <algorithm>
-#include <array>
-#include <cerrno>
 #include <chrono>
-#include <climits>
-#include <cmath>
-#include <csignal>
-#include <cstring>
 #include <deque>
 #include <memory>
 #include <optional>
 
-#include <poll.h>
-#include <sys/signalfd.h>
-#include <unistd.h>
-
-#include <TRX-SELVASetup/EventLoop.h>
-
+#include "Announcements.h"
 #include "Failure.h"
 #include "Knob.h"
 #include "SessionBus.h"
@@ -28,7 +16,7 @@
 namespace trxctl {
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using Clock = Announcements::Clock;
 
 /// What the command line asked for.
 struct Request {
@@ -63,40 +51,12 @@ class Subscription : public Listener {
   std::deque<Change> &queue_;
 };
 
-/// A descriptor that is readable once the user or the system asks the program to end.
-class EndSignals {
- public:
-  EndSignals() {
-    sigset_t signals;
-    sigemptyset(&signals);
-    sigaddset(&signals, SIGINT);
-    sigaddset(&signals, SIGTERM);
-    sigprocmask(SIG_BLOCK, &signals, nullptr);
-    descriptor_ = signalfd(-1, &signals, SFD_CLOEXEC);
-  }
-  ~EndSignals() { close(descriptor_); }
-  EndSignals(const EndSignals &) = delete;
-  EndSignals &operator=(const EndSignals &) = delete;
-
-  int descriptor() const { return descriptor_; }
-
- private:
-  int descriptor_;
-};
-
 std::optional<Clock::time_point> Deadline(double seconds) {
   // Whoever waits longer than a year waits for ever.
   constexpr double kYear = 365.0 * 24 * 60 * 60;
   if (seconds <= 0 || seconds > kYear) return std::nullopt;
   return Clock::now() +
          std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds));
-}
-
-/// The time left, as poll takes it.
-int MillisecondsUntil(const std::optional<Clock::time_point> &deadline) {
-  if (!deadline) return -1;
-  const auto left = std::chrono::ceil<std::chrono::milliseconds>(*deadline - Clock::now()).count();
-  return static_cast<int>(std::clamp<long long>(left, 0, INT_MAX));
 }
 
 void PrintChange(const Terminal &terminal, const Change &change) {
@@ -118,26 +78,22 @@ class Watcher {
     for (const Model &model : Models()) {
       if (session.model_given ? model.id == session.model.id : model.served) Subscribe(model);
     }
-    ORV_GetNotificationDescriptor(&descriptor_);
-    if (descriptor_ < 0 || signals_.descriptor() < 0) {
-      throw Failure{ExitCode::kFailed, "the system gives this process no more descriptors",
-                    "close other programs, or raise the limit with ulimit -n"};
-    }
   }
 
   void Run() {
     PrintStart();
     while (!SeenEnough()) {
-      std::array<pollfd, 3> wait{{{descriptor_, POLLIN, 0},
-                                  {signals_.descriptor(), POLLIN, 0},
-                                  // No events: wakes up only when the reader of our output is gone.
-                                  {STDOUT_FILENO, 0, 0}}};
-      const int ready = poll(wait.data(), wait.size(), MillisecondsUntil(deadline_));
-      if (ready < 0 && errno != EINTR) ThrowCannotWait(errno);
-      if (wait[1].revents != 0) return;
-      if (wait[2].revents != 0) ThrowReaderGone();
-      if (wait[0].revents != 0) Deliver();
-      if (ready == 0 && MillisecondsUntil(deadline_) == 0) ThrowTimedOut();
+      switch (announcements_->Wait(deadline_)) {
+        case Waited::kForDelivery:
+          PrintDelivered();
+          break;
+        case Waited::kForEndSignal:
+          return;
+        case Waited::kForReader:
+          ThrowReaderGone();
+        case Waited::kForTime:
+          ThrowTimedOut();
+      }
     }
   }
 
@@ -153,10 +109,11 @@ class Watcher {
   }
 
   void PrintStart() const {
-    const bool bus = HasSessionBus();
-    terminal_.Print("Watching " + Joined(models_) + "; end with Ctrl-C.\n",
-                    {{"event", "watching"}, {"models", models_}, {"session_bus", bus}});
-    if (!bus) {
+    const std::optional<bool> bus = HasSessionBus();
+    nlohmann::ordered_json json{{"event", "watching"}, {"models", models_}};
+    if (bus) json["session_bus"] = *bus;
+    terminal_.Print("Watching " + Joined(models_) + "; end with Ctrl-C.\n", json);
+    if (bus && !*bus) {
       terminal_.Note(
           "There is no session bus, so no change can be seen yet; waiting for one.\n"
           "hint: run trxctl in a desktop session, or everything together under dbus-run-session");
@@ -165,8 +122,7 @@ class Watcher {
 
   bool SeenEnough() const { return request_.count != 0 && printed_ >= request_.count; }
 
-  void Deliver() {
-    ORV_DispatchNotifications();
+  void PrintDelivered() {
     for (; !queue_.empty() && !SeenEnough(); queue_.pop_front(), ++printed_) {
       PrintChange(terminal_, queue_.front());
     }
@@ -184,19 +140,13 @@ class Watcher {
                   "end with --count when only the first changes are wanted"};
   }
 
-  [[noreturn]] static void ThrowCannotWait(int reason) {
-    throw Failure{ExitCode::kFailed, std::string("cannot wait: ") + std::strerror(reason),
-                  "try again"};
-  }
-
   const Terminal &terminal_;
   const Request request_;
   const std::optional<Clock::time_point> deadline_;
-  const EndSignals signals_;
+  const std::unique_ptr<Announcements> announcements_ = Announcements::Make();
   std::vector<std::string> models_;
   std::deque<Change> queue_;
   std::deque<Subscription> subscriptions_;
-  std::int32_t descriptor_ = -1;
   std::int64_t printed_ = 0;
 };
 

@@ -4,7 +4,7 @@
 
 namespace trxctl {
 
-bool HasSessionBus() {
+std::optional<bool> HasSessionBus() {
   sd_bus *bus = nullptr;
   const bool reached = sd_bus_open_user(&bus) >= 0;
   sd_bus_close_unref(bus);

@@ -7,11 +7,11 @@
 
 #include <unistd.h>
 
-#include <TRX-SELVASetup/TRX-SELVASetup.h>
-
+#include "CheckAnswer.h"
 #include "MixerList.h"
 #include "Text.h"
 #include "UdevRule.h"
+#include "UsbBus.h"
 
 namespace trxctl {
 namespace {
@@ -45,15 +45,11 @@ Check CheckMaker(const std::vector<std::string> &others, bool mixer_there) {
 }
 
 Check CheckSeen(const std::vector<Mixer> &mixers) {
-  const std::string name = "mixer";
-  if (mixers.empty()) {
-    return {name, ExitCode::kNoMixer, "no mixer is connected",
-            "connect a mixer by USB, switch it on, and try another cable or port"};
-  }
+  if (mixers.empty()) return NoMixer();
   std::vector<std::string> described;
   described.reserve(mixers.size());
   for (const Mixer &mixer : mixers) described.push_back(Describe(mixer));
-  return Well(name, Joined(described));
+  return Well("mixer", Joined(described));
 }
 
 std::string NodeOf(const Mixer &mixer) {
@@ -94,16 +90,6 @@ Check CheckAccess(const Mixer &mixer) {
   }
   return {"access", ExitCode::kNoAccess, finding + ": " + std::strerror(mixer.refusal),
           "plug the mixer out and in again"};
-}
-
-Check CheckAnswer() {
-  uint32_t active = 0;
-  // Asked without a change to anything; without an answer the library tells so.
-  if (ORV_GetMixerSeratoActiveStatus(ORV_PRODUCT_TRX_SELVA, &active) == ORV_SUCCESS) {
-    return Well("answer", "the mixers that may be opened answer a request");
-  }
-  return {"answer", ExitCode::kFailed, "a mixer does not answer a request, or not as it should",
-          "switch the mixer off and on again, and connect it without a hub"};
 }
 
 }  // namespace

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string_view>
+
+namespace trxctl {
+
+/// What is said to the user in other words on each platform.
+struct PlatformWords {
+  /// What to do when settings cannot be stored.
+  std::string_view not_stored;
+  /// What to do when the user has no home folder.
+  std::string_view without_home;
+  /// What to do when the files with the versions are missing.
+  std::string_view without_version_files;
+  /// What follows "not installed" for the driver.
+  std::string_view no_driver;
+};
+
+extern const PlatformWords kPlatformWords;
+
+}  // namespace trxctl
