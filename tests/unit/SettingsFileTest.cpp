@@ -1,15 +1,18 @@
 // The settings file of a model: its path, the merge of one value, the reading with a default.
+#include <csignal>
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <string>
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include "ChildProcess.h"
+#include "File.h"
 #include "PropertyListFile.h"
 #include "SettingsFile.h"
 #include "TemporaryFolder.h"
@@ -92,6 +95,22 @@ TEST_F(SettingsFile, IsMadeWithItsFoldersByTheFirstMerge) {
     ASSERT_EQ(stat(made.c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 07777, 0700U) << made;
   }
+}
+
+// A file server's lease, which the first to open the file from elsewhere finds in his way.
+TEST_F(SettingsFile, IsLeftAsItIsWhileSomebodyHoldsALeaseOnIt) {
+  const std::string before = XmlList("<key>Foreign</key><string>kept</string>");
+  LeaveFile(before);
+  const File holder(open(path_.c_str(), O_RDWR | O_CLOEXEC));
+  ASSERT_TRUE(holder.IsOpen());
+  // The signal that asks for the lease, one that nobody minds.
+  ASSERT_EQ(fcntl(holder.Descriptor(), F_SETSIG, SIGURG), 0);
+  ASSERT_EQ(fcntl(holder.Descriptor(), F_SETLEASE, F_WRLCK), 0);
+  MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
+  ASSERT_EQ(fcntl(holder.Descriptor(), F_SETLEASE, F_UNLCK), 0);
+  EXPECT_EQ(ReadBytes(path_), before);
+  MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
+  EXPECT_THAT(ShownEntries(path_), ElementsAre("Foreign: text 'kept'", "MaxLevel: integer 1"));
 }
 
 TEST_F(SettingsFile, IsNotMadeByReading) {

@@ -1,6 +1,7 @@
 #include "PropertyList.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -65,6 +66,13 @@ std::optional<std::string> ReadContents(const std::string &path) {
   }
   contents.resize(size);
   return contents;
+}
+
+// Whether a file may well be there and whole when opening it has failed so. The last one says that
+// another process holds a lease on it, as file servers do, and has been asked to give it back.
+bool SaysNotNow(int error) {
+  constexpr std::array kErrors = {EMFILE, ENFILE, ENOMEM, EWOULDBLOCK};
+  return std::find(kErrors.begin(), kErrors.end(), error) != kErrors.end();
 }
 
 plist_t Parse(const std::string &contents) {
@@ -136,7 +144,7 @@ std::optional<PropertyList> PropertyList::ReadFile(const std::string &path) {
 std::optional<PropertyList> PropertyList::ReadFileToChange(const std::string &path) {
   errno = 0;
   if (auto list = ReadFile(path)) return list;
-  if (errno == EMFILE || errno == ENFILE || errno == ENOMEM) return std::nullopt;
+  if (SaysNotNow(errno)) return std::nullopt;
   return PropertyList();
 }
 
