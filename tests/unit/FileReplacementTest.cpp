@@ -8,23 +8,28 @@
 #include <gtest/gtest.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "ChildProcess.h"
 #include "File.h"
 #include "FileReplacement.h"
+#include "SteppedProcess.h"
 #include "SystemCallFilter.h"
 #include "TemporaryFolder.h"
 
 namespace orv {
 namespace {
 
+using testing::AnyOf;
 using testing::ElementsAre;
+using trxtest::BecomeOrdinaryUser;
 using trxtest::ExpectQuietSuccess;
 using trxtest::GiveUpNamingFilesLater;
 using trxtest::GiveUpUnnamedFiles;
 using trxtest::ReadBytes;
+using trxtest::SteppedProcess;
 using trxtest::TemporaryFolder;
 using trxtest::WriteBytes;
 
@@ -32,11 +37,30 @@ using trxtest::WriteBytes;
 const std::vector<std::function<void()>> kSystems = {[] {}, GiveUpUnnamedFiles,
                                                      GiveUpNamingFilesLater};
 
+constexpr uid_t kSomeUser = 54'321;
+constexpr gid_t kSomeGroup = 54'322;
+
+struct stat StatusOf(const std::string &path) {
+  struct stat status = {};
+  EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
+  return status;
+}
+
 class FileReplacement : public testing::Test {
  protected:
   void ExpectReplaced() const {
     EXPECT_TRUE(ReplaceFile(path_, "new"));
     EXPECT_EQ(ReadBytes(path_), "new");
+  }
+
+  // The clock of a file system goes in steps of some milliseconds.
+  void WriteLaterThan(const std::string &other, const std::string &contents) const {
+    const timespec before = StatusOf(other).st_ctim;
+    timespec now = before;
+    while (now.tv_sec == before.tv_sec && now.tv_nsec == before.tv_nsec) {
+      WriteBytes(path_, contents);
+      now = StatusOf(path_).st_ctim;
+    }
   }
 
   const TemporaryFolder folder_;
@@ -88,6 +112,44 @@ TEST_F(FileReplacement, TakesAwayWhatADeadWriterHadReady) {
   EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
 }
 
+TEST_F(FileReplacement, DoesNotBringBackWhatADeadWriterHadReadyBeforeAReset) {
+  WriteBytes(folder_ / ".settings.new", "the dead writer's");
+  SteppedProcess writer([this] { ExpectReplaced(); });
+  while (writer.Step()) EXPECT_NE(ReadBytes(path_), "the dead writer's");
+  EXPECT_TRUE(writer.RunToEnd());
+  EXPECT_EQ(ReadBytes(path_), "new");
+  EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
+}
+
+TEST_F(FileReplacement, DoesNotBringBackWhatADeadWriterHadReadyEvenWhenKilledItself) {
+  for (int moment = 1;; ++moment) {
+    ASSERT_LT(moment, 1000) << "the writer never ends";
+    WriteBytes(folder_ / ".settings.new", "the dead writer's");
+    WriteLaterThan(folder_ / ".settings.new", "old");
+    SteppedProcess writer([this] { ExpectReplaced(); });
+    const bool isRunning = writer.StepTo(moment).has_value();
+    EXPECT_THAT(ReadBytes(path_), AnyOf("old", "new")) << "moment " << moment;
+    if (!isRunning) break;
+    writer.Kill();
+  }
+  EXPECT_EQ(ReadBytes(path_), "new");
+  EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
+}
+
+TEST_F(FileReplacement, KeepsTheOldFileWhenTheNewOneGetsNoNameBesideWhatADeadWriterHadReady) {
+  WriteBytes(folder_ / ".settings.new", "the dead writer's");
+  WriteLaterThan(folder_ / ".settings.new", "old");
+  SteppedProcess writer([this] { ReplaceFile(path_, "new"); });
+  int linked = 0;
+  while (const auto call = writer.Step()) {
+    if (call->number == SYS_linkat && ++linked == 2) break;
+  }
+  ASSERT_EQ(linked, 2) << "the case does not show what it is for";
+  writer.Kill();
+  EXPECT_EQ(ReadBytes(path_), "old");
+  EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
+}
+
 TEST_F(FileReplacement, DoesTheLastStepOfAWriterThatIsOnlySlower) {
   WriteBytes(path_, "old");
   WriteBytes(folder_ / ".settings.new", "the slower writer's");
@@ -131,6 +193,41 @@ TEST_F(FileReplacement, ALinkThatLeadsNowhereIsReplacedItself) {
   ASSERT_EQ(symlink("nowhere", path_.c_str()), 0);
   ExpectReplaced();
   EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
+}
+
+TEST_F(FileReplacement, KeepsOwnerGroupAndPermissions) {
+  const bool isRoot = geteuid() == 0;
+  const uid_t user = isRoot ? kSomeUser : geteuid();
+  const gid_t group = isRoot ? kSomeGroup : getegid();
+  for (const auto &giveUp : kSystems) {
+    WriteBytes(path_, "old");
+    ASSERT_EQ(chown(path_.c_str(), user, group), 0);
+    ASSERT_EQ(chmod(path_.c_str(), 0660), 0);
+    ExpectQuietSuccess([&] {
+      giveUp();
+      ExpectReplaced();
+    });
+    const struct stat status = StatusOf(path_);
+    EXPECT_EQ(status.st_uid, user);
+    EXPECT_EQ(status.st_gid, group);
+    EXPECT_EQ(status.st_mode & 07777, 0660U);
+    ASSERT_EQ(unlink(path_.c_str()), 0);
+  }
+}
+
+// Only root can bring about the first half of it: a file of a group that the writer is not in.
+TEST_F(FileReplacement, LeavesNothingToAnotherGroupThanTheOldFiles) {
+  const bool isRoot = geteuid() == 0;
+  WriteBytes(path_, "old");
+  const gid_t group = isRoot ? kSomeGroup : getegid();
+  ASSERT_EQ(chown(path_.c_str(), geteuid(), group), 0);
+  ASSERT_EQ(chmod(path_.c_str(), 0664), 0);
+  ASSERT_EQ(chmod(folder_.Path().c_str(), 0777), 0);
+  ExpectQuietSuccess([this] {
+    BecomeOrdinaryUser();
+    ExpectReplaced();
+  });
+  EXPECT_EQ(StatusOf(path_).st_mode & 07777, isRoot ? 0604U : 0664U);
 }
 
 }  // namespace

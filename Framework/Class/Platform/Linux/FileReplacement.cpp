@@ -2,6 +2,7 @@
 // new file has no name while it is written: it goes when its writer goes. Complete and durable, it
 // gets a name for the moment before it takes the old file's place. That name is the same for all
 // writers: who finds it taken first does the other's last step, be that one dead or only slower.
+// Only what has been overtaken since, by another file or by the removal of all, is thrown away.
 //
 // Not every file system has files without a name. There the new file has a name of its own from the
 // beginning, and a lock that lasts as long as its writer; nobody waits for it. Who writes next
@@ -27,6 +28,8 @@ namespace orv {
 namespace {
 
 constexpr mode_t kOwnerOnly = 0600;
+constexpr mode_t kAllRights = 0777;
+constexpr mode_t kAllButTheGroups = 0707;
 
 // Each failed attempt is another writer's success.
 constexpr int kMostAttempts = 100;
@@ -35,7 +38,7 @@ constexpr int kMostAttempts = 100;
 
 struct OldFile {
   std::string path;
-  std::optional<mode_t> permissions;  // nothing when there is no file
+  std::optional<struct stat> status;  // nothing when there is no file
 
   std::string Folder() const { return path.substr(0, path.rfind('/')); }
   std::string Name() const { return path.substr(path.rfind('/') + 1); }
@@ -50,10 +53,10 @@ struct FreeText {
 OldFile FileAt(const std::string &path) {
   struct stat status = {};
   if (lstat(path.c_str(), &status) != 0) return {path, std::nullopt};
-  if (!S_ISLNK(status.st_mode)) return {path, status.st_mode & 07777};
+  if (!S_ISLNK(status.st_mode)) return {path, status};
   const std::unique_ptr<char, FreeText> behind(realpath(path.c_str(), nullptr));
   if (!behind || stat(behind.get(), &status) != 0) return {path, std::nullopt};
-  return {std::string(behind.get()), status.st_mode & 07777};
+  return {std::string(behind.get()), status};
 }
 
 // --- The new file --------------------------------------------------------------------------------
@@ -68,8 +71,25 @@ bool WriteAll(int descriptor, std::string_view contents) {
   return true;
 }
 
+// Returns whether the file has the old one's group afterwards. Only root can give a file away; a
+// user can give it to groups of his.
+bool TakeOwnerAndGroup(int descriptor, const struct stat &old) {
+  struct stat status = {};
+  if (fstat(descriptor, &status) != 0) return false;
+  if (status.st_uid == old.st_uid && status.st_gid == old.st_gid) return true;
+  return fchown(descriptor, old.st_uid, old.st_gid) == 0 || status.st_gid == old.st_gid ||
+         fchown(descriptor, status.st_uid, old.st_gid) == 0;
+}
+
+// What the old file's group was allowed, another group is not. Until owner and group are known, the
+// new file is its writer's alone.
+void TakeRights(int descriptor, const struct stat &old) {
+  const bool hasGroup = TakeOwnerAndGroup(descriptor, old);
+  fchmod(descriptor, old.st_mode & (hasGroup ? kAllRights : kAllButTheGroups));
+}
+
 bool Fill(int descriptor, const OldFile &old, std::string_view contents) {
-  if (old.permissions) fchmod(descriptor, *old.permissions);
+  if (old.status) TakeRights(descriptor, *old.status);
   return WriteAll(descriptor, contents) && TEMP_FAILURE_RETRY(fsync(descriptor)) == 0;
 }
 
@@ -102,20 +122,48 @@ bool MoveInPlace(const std::string &ready, const std::string &path) {
   return false;
 }
 
+bool IsEarlier(const timespec &one, const timespec &other) {
+  return one.tv_sec != other.tv_sec ? one.tv_sec < other.tv_sec : one.tv_nsec < other.tv_nsec;
+}
+
+// Whether what stands ready is older than what it would replace, or would bring back what has been
+// removed: its writer died, and the world went on. The settings are looked at first, so that what
+// another writer makes ready meanwhile counts as the newer.
+bool IsOvertaken(const std::string &ready, const std::string &path) {
+  struct stat now = {};
+  struct stat then = {};
+  if (stat(path.c_str(), &now) != 0) return errno == ENOENT;
+  return lstat(ready.c_str(), &then) == 0 && IsEarlier(then.st_ctim, now.st_ctim);
+}
+
+// Clears the way for one's own. Returns whether that can have worked.
+bool FinishForOther(const std::string &ready, const std::string &path) {
+  if (!IsOvertaken(ready, path)) return MoveInPlace(ready, path);
+  return unlink(ready.c_str()) == 0 || errno == ENOENT;
+}
+
+// Where there was nothing, one step does. What a dead writer had ready for the file that is gone,
+// goes as well.
+bool IsFirst(int descriptor, const OldFile &old, const std::string &ready) {
+  if (old.status) return false;
+  unlink(ready.c_str());
+  return GiveName(descriptor, old.path) == 0;
+}
+
 // Returns whether the file was replaced; nothing when it cannot be done in this way.
 std::optional<bool> ReplaceByUnnamedFile(const OldFile &old, std::string_view contents) {
   const File file(open(old.Folder().c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, kOwnerOnly));
   if (!file.IsOpen()) return SaysUnsupported(errno) ? std::nullopt : std::optional(false);
   if (!Fill(file.Descriptor(), old, contents)) return false;
-  if (!old.permissions && GiveName(file.Descriptor(), old.path) == 0) return true;
   const std::string ready = old.Beside(".new");
+  if (IsFirst(file.Descriptor(), old, ready)) return true;
   for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
     const int error = GiveName(file.Descriptor(), ready);
     if (error != 0 && error != EEXIST) {
       return SaysUnsupported(error) ? std::nullopt : std::optional(false);
     }
-    if (!MoveInPlace(ready, old.path)) return false;
-    if (error == 0) return true;
+    if (error == 0) return MoveInPlace(ready, old.path);
+    if (!FinishForOther(ready, old.path)) return false;
   }
   return false;
 }
