@@ -21,7 +21,7 @@ BUILT_BY_BUILD_LINE = pathlib.Path(os.environ["BUILT_BY_BUILD_LINE"])
 BUILT_BY_CMAKE = pathlib.Path(os.environ["BUILT_BY_CMAKE"])
 TRX_MIXER_CTL = os.environ["TRX_MIXER_CTL"]
 VALGRIND = os.environ["VALGRIND"]
-PATIENCE = 20  # seconds until a test that waits gives up
+PATIENCE = 60  # seconds until a test that waits gives up
 
 MENU_WITH_FIRST_STORED = """\
 * 0  CH1 Control Tone PHONO

@@ -20,7 +20,7 @@ extern "C" void __gcov_dump();
 namespace trxtest {
 namespace {
 
-constexpr unsigned kLongestRunSeconds = 30;
+constexpr unsigned kLongestRunSeconds = 120;
 constexpr uid_t kNobody = 65534;
 constexpr uid_t kUnknownUser = 1'054'321;
 

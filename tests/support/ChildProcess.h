@@ -7,7 +7,7 @@
 namespace trxtest {
 
 /// Runs a function in a forked child and expects that it comes back without a failed expectation,
-/// within half a minute and without a byte on standard error. What fails in the child is printed by
+/// within two minutes and without a byte on standard error. What fails in the child is printed by
 /// it.
 void ExpectQuietSuccess(const std::function<void()> &function);
 

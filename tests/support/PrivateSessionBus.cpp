@@ -13,7 +13,7 @@
 namespace trxtest {
 namespace {
 
-constexpr int kPatienceMilliseconds = 10'000;
+constexpr int kPatienceMilliseconds = 60'000;
 
 // The daemon prints its address once it can be reached.
 void WaitForAddress(int descriptor) {

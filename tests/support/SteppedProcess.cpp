@@ -15,7 +15,7 @@
 namespace trxtest {
 namespace {
 
-constexpr unsigned kLongestRunSeconds = 60;
+constexpr unsigned kLongestRunSeconds = 120;
 
 // Stops for system calls are told from signals by this bit.
 constexpr int kSystemCallStop = SIGTRAP | 0x80;

@@ -17,7 +17,7 @@ import unittest
 TRXCTL = os.environ["TRXCTL"]
 TRX_MIXER_CTL = os.environ["TRX_MIXER_CTL"]
 WITHOUT_POWERS = ["setpriv", "--bounding-set=-all", "--"]
-PATIENCE = 20  # seconds until a test that waits gives up
+PATIENCE = 60  # seconds until a test that waits gives up
 
 LEVELS = ["-5 dB", "-10 dB", "-15 dB", "-19 dB"]
 REQUEST = re.compile(r"unit (\d+) .* wValue ([0-9a-f]{4}) .*  (\S[^\d]*)$")
