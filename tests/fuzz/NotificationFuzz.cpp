@@ -26,6 +26,7 @@
 #include "Promise.h"
 #include "Surroundings.h"
 #include "support/PrivateSessionBus.h"
+#include "support/RemovalAtTheEnd.h"
 
 namespace trxfuzz {
 namespace {
@@ -280,8 +281,8 @@ std::optional<Call> ExpectedCall(std::string_view name, const Entries &entries) 
 class Host {
  public:
   Host() {
-    RemoveAtTheEnd(bus_.Address().substr(bus_.Address().find('/'),
-                                         bus_.Address().rfind('/') - bus_.Address().find('/')));
+    trxtest::RemoveAtTheEnd(bus_.Address().substr(
+        bus_.Address().find('/'), bus_.Address().rfind('/') - bus_.Address().find('/')));
     sd_bus *poster = nullptr;
     Promise(sd_bus_open_user(&poster) >= 0, "there is a bus");
     poster_.reset(poster);

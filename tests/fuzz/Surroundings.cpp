@@ -1,15 +1,15 @@
 #include "Surroundings.h"
 
-#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
 
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
+
+#include "support/RemovalAtTheEnd.h"
 
 namespace trxfuzz {
 namespace {
@@ -31,29 +31,10 @@ void RefuseMixers() {
 
 }  // namespace
 
-// The watcher has only the reading end of a pipe: it comes to its end with the last writer, this
-// process.
-void RemoveAtTheEnd(const std::string &folder) {
-  std::array<int, 2> ends = {};
-  if (pipe2(ends.data(), O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
-  if (fork() != 0) {
-    close(ends[0]);
-    return;
-  }
-  setsid();
-  close(ends[1]);
-  char never = '\0';
-  while (read(ends[0], &never, 1) > 0) {
-  }
-  std::error_code ignored;
-  std::filesystem::remove_all(folder, ignored);
-  _exit(EXIT_SUCCESS);
-}
-
 std::string MakeSurroundings() {
   RefuseMixers();
   const std::string folder = MakeTemporaryFolder();
-  RemoveAtTheEnd(folder);
+  trxtest::RemoveAtTheEnd(folder);
   setenv("XDG_CONFIG_HOME", folder.c_str(), 1);
   setenv("DBUS_SESSION_BUS_ADDRESS", ("unix:path=" + folder + "/no-bus").c_str(), 1);
   std::string library = folder + "/orvikaudio/Preferences";

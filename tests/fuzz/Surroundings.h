@@ -6,9 +6,6 @@
 
 namespace trxfuzz {
 
-/// Lets a folder be removed once this process has ended, however it ends.
-void RemoveAtTheEnd(const std::string &folder);
-
 /// Makes a settings folder of this process's own, in memory where the system offers that, and takes
 /// the session bus away. Refuses to go on when a mixer is connected. Returns the folder in which
 /// the library keeps its files; it exists.

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include <RemovalAtTheEnd.h>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
@@ -27,6 +28,9 @@ constexpr const char *kSelf = "/proc/self/exe";
 
 // The private folder of a case; set once the process runs under the simulator.
 constexpr const char *kFolderVariable = "TRX_ACCEPTANCE_FOLDER";
+
+// Names the place for all private folders, such as one on a disk.
+constexpr const char *kPlaceVariable = "TRX_ACCEPTANCE_PLACE";
 
 // Words to put before the command line of a case under the simulator, such as those of a memory
 // checker.
@@ -91,10 +95,13 @@ Words SelectedCases(const Words &arguments) {
   return cases;
 }
 
-// The fastest folder there is: the library makes every file durable before it goes on.
-std::string MakePrivateFolder() {
-  for (const char *place : {"/dev/shm", "/tmp"}) {
-    std::string folder = std::string(place) + "/trx-acceptance.XXXXXX";
+// Where the private folders lie: in the fastest place there is, as the library makes every file
+// durable before it goes on, unless another is named.
+std::string MakeFolderOfAll() {
+  const char *chosen = std::getenv(kPlaceVariable);
+  const Words places = chosen != nullptr ? Words{chosen} : Words{"/dev/shm", "/tmp"};
+  for (const std::string &place : places) {
+    std::string folder = place + "/trx-acceptance.XXXXXX";
     if (mkdtemp(folder.data()) != nullptr) return folder;
   }
   std::perror("cannot make a private folder");
@@ -103,8 +110,8 @@ std::string MakePrivateFolder() {
 
 void SetVariable(const char *name, const std::string &value) { setenv(name, value.c_str(), 1); }
 
-[[noreturn]] void RunUnderSimulator(const Words &arguments, const Words &simulatorOptions) {
-  const std::string folder = MakePrivateFolder();
+[[noreturn]] void RunUnderSimulator(const std::string &folder, const Words &arguments,
+                                    const Words &simulatorOptions) {
   SetVariable(kFolderVariable, folder);
   SetVariable("XDG_CONFIG_HOME", ConfigurationFolderIn(folder));
   SetVariable("XDG_RUNTIME_DIR", RuntimeFolderIn(folder));
@@ -112,7 +119,7 @@ void SetVariable(const char *name, const std::string &value) { setenv(name, valu
   SetVariable("TRX_SYSTEM_ROOT", SystemRootIn(folder));
   for (const char *name : {"LANGUAGE", "LC_MESSAGES", "LANG"}) unsetenv(name);
   SetVariable("LC_ALL", "C");
-  for (const std::string &made : {RuntimeFolderIn(folder), SystemRootIn(folder)}) {
+  for (const std::string &made : {folder, RuntimeFolderIn(folder), SystemRootIn(folder)}) {
     std::filesystem::create_directory(made);
   }
   Words words = {TRX_MIXER_SIM, "--units", "0", "--control", ControlSocketIn(folder)};
@@ -128,6 +135,9 @@ void SetVariable(const char *name, const std::string &value) { setenv(name, valu
 }
 
 int RunEachByItself(const Words &arguments, const Words &simulatorOptions, const Words &cases) {
+  const std::string all = MakeFolderOfAll();
+  RemoveAtTheEnd(all);
+  const std::string folder = all + "/case";
   Words failed;
   for (const std::string &name : cases) {
     const pid_t child = fork();
@@ -135,25 +145,24 @@ int RunEachByItself(const Words &arguments, const Words &simulatorOptions, const
       prctl(PR_SET_PDEATHSIG, SIGKILL);
       Words own = arguments;
       own.push_back("--gtest_filter=" + name);
-      RunUnderSimulator(own, simulatorOptions);
+      RunUnderSimulator(folder, own, simulatorOptions);
     }
     int status = 0;
     waitpid(child, &status, 0);
     if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) failed.push_back(name);
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
   }
   std::printf("\n%zu cases run, %zu failed\n", cases.size(), failed.size());
   for (const std::string &name : failed) std::printf("  FAILED %s\n", name.c_str());
   return failed.empty() ? 0 : 1;
 }
 
-int RunHere(int argc, char **argv, const char *folder) {
+int RunHere(int argc, char **argv) {
   // A simulator that was killed must not leave its command behind.
   prctl(PR_SET_PDEATHSIG, SIGKILL);
   testing::InitGoogleTest(&argc, argv);
-  const int result = RUN_ALL_TESTS();
-  std::error_code error;
-  std::filesystem::remove_all(folder, error);
-  return result;
+  return RUN_ALL_TESTS();
 }
 
 }  // namespace
@@ -177,9 +186,7 @@ int RunCases(int argc, char **argv, const Words &simulatorOptions) {
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
   }
-  if (const char *folder = std::getenv(kFolderVariable)) {
-    return RunHere(argc, argv, folder);
-  }
+  if (IsInCase()) return RunHere(argc, argv);
   const Words cases = SelectedCases(arguments);
   if (cases.empty()) {
     std::fprintf(stderr, "no such case\n");
