@@ -5,7 +5,8 @@
 //   stress-host reader            asks for every current value, over and over, until its input ends
 //
 // Each prints "ready" once it is at work. A line on standard input asks for a report, which is one
-// line of JSON; the end of the input ends the process with a last one.
+// line of JSON; one that begins with '!' also lets a poster stand still until its next line. The
+// end of the input ends the process with a last report.
 //
 // What is announced does not say who set it. So each poster has choices of its own, those of the
 // list of all choices at the places NUMBER, NUMBER + 8, ..., and sets them in an order that
@@ -135,14 +136,16 @@ void Report(const std::vector<std::uint64_t> &counts, const std::string &wrong) 
       "\", \"descriptors\": " + std::to_string(OpenDescriptors()) + "}");
 }
 
-enum class Asked { kNothing, kReport, kEnd };
+enum class Asked { kNothing, kReport, kStandStill, kEnd };
 
-// What standard input has to say, waiting no longer than this.
+// What standard input has to say, waiting no longer than this, or for as long as it takes when it
+// is negative.
 Asked LookAtInput(int milliseconds) {
   pollfd input = {STDIN_FILENO, POLLIN, 0};
   if (poll(&input, 1, milliseconds) <= 0) return Asked::kNothing;
   char line[16];
-  return read(STDIN_FILENO, line, sizeof line) > 0 ? Asked::kReport : Asked::kEnd;
+  if (read(STDIN_FILENO, line, sizeof line) <= 0) return Asked::kEnd;
+  return line[0] == '!' ? Asked::kStandStill : Asked::kReport;
 }
 
 // Keeps what was wrong first.
@@ -179,7 +182,12 @@ int Post(std::size_t poster) {
   std::uint64_t count = 0;
   Say("ready");
   for (Asked asked = Asked::kNothing; asked != Asked::kEnd; asked = LookAtInput(0)) {
+    if (asked == Asked::kStandStill) {
+      Report({count}, complaint.Text());
+      asked = LookAtInput(-1);
+    }
     if (asked == Asked::kReport) Report({count}, complaint.Text());
+    if (asked == Asked::kEnd) break;
     const Choice &choice = sequence.Next();
     const StatusCode status = Set(choice);
     // Only the routing of what is recorded may come with a warning.

@@ -108,7 +108,14 @@ class Member:
 
     def report(self):
         """What it has done so far."""
-        self._process.stdin.write(b"?\n")
+        return self._ask(b"?\n")
+
+    def stand_still(self):
+        """What a poster has done so far. It goes on when it is asked for its next report."""
+        return self._ask(b"!\n")
+
+    def _ask(self, request):
+        self._process.stdin.write(request)
         self._process.stdin.flush()
         return json.loads(self.line())
 
@@ -155,6 +162,10 @@ class Group:
         return self.observers + self.posters + self.readers
 
     def sizes(self):
+        """Memory and descriptors of each host, taken when no observer has anything left to be told."""
+        sets = [poster.stand_still()["counts"][0] for poster in self.posters]
+        for observer in self.observers:
+            wait_until_all_is_told(observer, sets)
         return {member.name: (member.memory(), member.report()["descriptors"]) for member in self.hosts()}
 
     def kill(self):
@@ -176,6 +187,7 @@ def wait_until_all_is_told(observer, sets):
         report = observer.report()
         if sum(report["counts"]) >= sum(sets) or time.monotonic() > deadline:
             return report
+        time.sleep(0.01)
 
 
 class Verdict:
