@@ -20,6 +20,7 @@ import desk
 BEGIN, END = "<!-- figures: written by scripts/bench -->\n", "<!-- end of the figures -->\n"
 VENDOR = os.environ["MAKER_USB_VENDOR_ID"]
 REPETITIONS = 15
+MEASURED_FOR = 0.05  # seconds, each repetition at least
 WHOLE_PROCESS_RUNS = 31
 MOST_CPU_OF_A_COMMAND = 15  # milliseconds
 
@@ -55,7 +56,7 @@ NAMES = {
 def times(subject, only=".", repetitions=REPETITIONS, figure=statistics.median):
     """The processor time of each operation of a program, in microseconds: one figure for all repetitions."""
     with tempfile.NamedTemporaryFile("r") as file:
-        counts.run(counts.PROGRAMS / f"trx-bench-{subject}", f"--benchmark_filter={only}", "--benchmark_min_time=0.05",
+        counts.run(counts.PROGRAMS / f"trx-bench-{subject}", f"--benchmark_filter={only}", f"--benchmark_min_time={MEASURED_FOR}",
                    f"--benchmark_repetitions={repetitions}", "--benchmark_enable_random_interleaving=true",
                    f"--benchmark_out={file.name}", "--benchmark_out_format=json")
         runs = [run for run in json.load(file)["benchmarks"] if run["run_type"] == "iteration"]

@@ -21,6 +21,12 @@ class Promise(unittest.TestCase):
         self.assertGreater(theirs, 0)
         self.assertLessEqual(ours / theirs, limit)
 
+    def assert_at_least(self, limit, counter, operation, against):
+        theirs, ours = counter(operation), counter(against)
+        print(f"{operation} {theirs:g}, {against} {ours:g}: {theirs / ours:.3f}, at least {limit}")
+        self.assertGreater(ours, 0)
+        self.assertGreaterEqual(theirs / ours, limit)
+
     def assert_grows_evenly(self, costs):
         """Costs at 4, 8 and 16: each further one costs the same. Gives how much."""
         first, second = (costs[8] - costs[4]) / 4, (costs[16] - costs[8]) / 8
@@ -69,6 +75,10 @@ class Instructions(Promise):
 
     def test_of_an_announcement(self):
         self.assert_at_most(1.3, counts.instructions, "announce", "announce-sd-bus")
+
+    def test_of_a_request_with_libusb_from_cold(self):
+        for ours in ("send-again", "set"):
+            self.assert_at_least(10, counts.instructions, "libusb", ours)
 
     def test_of_trxctl_as_a_whole_process(self):
         """15 ms on a processor that carries out no more than one instruction in a nanosecond."""

@@ -9,20 +9,20 @@ build_packages=(
   dbus-daemon
 )
 
+bench_packages=(
+  libbenchmark-dev libusb-1.0-0-dev python3 python3-usb strace valgrind gnuplot-nox
+)
+
 test_packages=(
+  "${bench_packages[@]}"
   libgtest-dev libgmock-dev
-  clang libclang-rt-dev python3 dbus-bin doxygen valgrind locales binutils util-linux procps
+  clang libclang-rt-dev dbus-bin doxygen locales binutils util-linux procps
   libglib2.0-bin mandoc zsh fish libgnustep-base-dev gnustep-base-runtime gobjc qemu-system-x86
   busybox-static cpio zstd lz4 abigail-tools mmdebstrap debian-archive-keyring uidmap lintian
-  strace
 )
 
 package_packages=(
   dpkg-dev fakeroot file binutils help2man gzip
-)
-
-bench_packages=(
-  libbenchmark-dev libusb-1.0-0-dev python3 python3-usb strace valgrind gnuplot-nox
 )
 
 lint_packages=(
