@@ -37,7 +37,7 @@ bool IsDevice(const char *name) {
 
 void ReadSummary(int folder, const char *name) {
   std::array<char, 300> path;
-  std::strcpy(stpcpy(path.data(), name), "/uevent");
+  stpcpy(stpcpy(path.data(), name), "/uevent");
   std::array<char, 4096> summary;
   const int file = openat(folder, path.data(), O_RDONLY | O_CLOEXEC);
   Require(read(file, summary.data(), summary.size()) > 0, "read the summary of a device");
@@ -64,7 +64,8 @@ std::string NodeOfUnit() {
       if (line.starts_with("BUSNUM=")) bus = line.substr(7);
       if (line.starts_with("DEVNUM=")) number = line.substr(7);
     }
-    if (isUnit && !number.empty()) return "/dev/bus/usb/" + bus + '/' + number;
+    if (isUnit && !number.empty())
+      return std::string("/dev/bus/usb/").append(bus).append("/").append(number);
   }
   throw std::runtime_error("no mixer is connected");
 }

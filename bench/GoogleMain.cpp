@@ -14,7 +14,7 @@ constexpr int kBatch = 32;
 
 void Time(benchmark::State &state, const trxbench::Operation &operation) {
   operation.run();
-  for (auto _ : state) operation.run();
+  while (state.KeepRunning()) operation.run();
 }
 
 // The session bus works no faster than what posts to it: it is given time to deliver what was
@@ -24,7 +24,7 @@ void TimeAnnouncements(benchmark::State &state, const trxbench::Operation &opera
   operation.run();
   observer.WaitFor(1);
   int posted = 0;
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     operation.run();
     if (++posted < kBatch) continue;
     state.PauseTiming();
