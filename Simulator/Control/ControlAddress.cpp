@@ -16,7 +16,7 @@ const char *variable(const char *name) {
 }  // namespace
 
 ControlPlace defaultControlPlace() {
-  // The base directory specification has relative paths ignored.
+  // The base directory rules of desktop Linux have relative paths ignored.
   const char *runtimeFolder = variable("XDG_RUNTIME_DIR");
   if (runtimeFolder != nullptr && *runtimeFolder == '/') {
     return {runtimeFolder, std::string(runtimeFolder) + "/trx-mixer-sim.sock", false};
