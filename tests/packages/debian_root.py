@@ -1,7 +1,8 @@
 """Fresh Debian roots in which packages are installed, tried and removed.
 
-A root is made once by mmdebstrap, from where this machine's apt has its packages, and kept as an archive for a week in
-$XDG_CACHE_HOME/trx-selva, with the packages that were downloaded into it. Each test lays one out anew and throws it away.
+A root is made once by mmdebstrap, from where this machine's apt has its packages, and kept as an archive in
+$XDG_CACHE_HOME/trx-selva, with the packages that were downloaded into it. After a week it is made anew, if that can be done. Each
+test lays one out anew and throws it away.
 
 debian_root.py NAME...   makes the archives of these roots, if they are not there yet
 """
@@ -9,6 +10,7 @@ debian_root.py NAME...   makes the archives of these roots, if they are not ther
 import hashlib
 import os
 import pathlib
+import pwd
 import shutil
 import stat
 import subprocess
@@ -45,13 +47,22 @@ exec chroot "$@"
 def sources():
     """The lines with which this machine's own apt gets the packages of the release."""
     lines = subprocess.run(
-        ["apt-get", "indextargets", "--format", "deb $(REPO_URI) $(RELEASE) $(COMPONENT)",
+        ["apt-get", "indextargets", "--format", "$(CODENAME) deb $(REPO_URI) $(RELEASE) $(COMPONENT)",
          "Created-By: Packages", "Component: main"],
-        check=True, capture_output=True, text=True).stdout.splitlines()
-    found = sorted({line for line in lines if line.split()[2] in SUITES})
-    if not any(line.split()[2] == RELEASE for line in found):
+        check=True, capture_output=True, text=True).stdout
+    return sources_of_release(lines.splitlines())
+
+
+def sources_of_release(lines):
+    """Those lines, each after its codename, that are of the release, whatever name apt's own lists give it ("oldstable")."""
+    found = {}
+    for line in lines:
+        codename, source = line.split(maxsplit=1)
+        if codename in SUITES:
+            found.setdefault(codename, set()).add(source)
+    if RELEASE not in found:
         sys.exit(f"This machine's apt has no source of Debian's {RELEASE}, which the packages are tried on.")
-    return found
+    return sorted(set().union(*found.values()))
 
 
 def archive(name):
@@ -60,11 +71,20 @@ def archive(name):
 
 
 def make(name):
-    """Makes the archive of a root, if there is none that is fresh enough."""
+    """Makes the archive of a root, if there is none that is fresh enough. An old one is better than none."""
     made = archive(name)
     if made.exists() and time.time() - made.stat().st_mtime < KEPT_FOR:
         return
     (DOWNLOADED / "partial").mkdir(parents=True, exist_ok=True)
+    try:
+        bootstrap(name, made)
+    except subprocess.CalledProcessError as failure:
+        if not made.exists():
+            raise
+        print(f"{made} is older than {KEPT_FOR // 86400} days and stays in use: making a new one failed ({failure})")
+
+
+def bootstrap(name, made):
     # Nobody reads a half-made archive, and whoever makes one at the same time makes the same.
     with tempfile.TemporaryDirectory(dir=CACHE) as folder:
         new = pathlib.Path(folder, made.name)
@@ -76,9 +96,35 @@ def make(name):
         new.rename(made)
 
 
+def clear():
+    """Removes what nothing will use again: archives with other contents, and packages not downloaded of late."""
+    wanted = [archive(name) for name in ROOTS]
+    for name in ROOTS:
+        for other in CACHE.glob(f"*-{name}-*.tar"):
+            if other not in wanted:
+                other.unlink(missing_ok=True)
+    # A package that a kept root still wants may be the only copy within reach.
+    oldest = min((made.stat().st_mtime for made in wanted if made.exists()), default=time.time())
+    for package in DOWNLOADED.glob("*.deb"):
+        if package.stat().st_ctime < min(oldest, time.time() - KEPT_FOR):
+            package.unlink(missing_ok=True)
+
+
+def tell_of_missing_ids():
+    """Says what is wrong when the user namespace of this user would have no further users in it."""
+    user = pwd.getpwuid(os.getuid()).pw_name
+    owners = (user, str(os.getuid()))
+    for file in map(pathlib.Path, ("/etc/subuid", "/etc/subgid")):
+        lines = file.read_text().splitlines() if file.exists() else []
+        if not any(line.split(":")[0] in owners for line in lines):
+            sys.exit(f"{file} has no entry for {user}, which a Debian below a user without privileges takes. Hint: run this as "
+                     f"root, or once `sudo usermod --add-subuids 100000-165535 --add-subgids 100000-165535 {user}`")
+
+
 def become_root():
     """Runs this program anew as root of a user namespace of its own, unless it is root already."""
     if os.getuid() != 0:
+        tell_of_missing_ids()
         os.execvp("unshare", ["unshare", "--map-root-user", "--map-auto", sys.executable, "-B", *sys.argv])
 
 
@@ -142,5 +188,8 @@ class DebianRoot:
 
 
 if __name__ == "__main__":
+    if os.getuid() != 0:
+        tell_of_missing_ids()
     for root in sys.argv[1:]:
         make(root)
+    clear()
