@@ -11,6 +11,7 @@
 #include <vector>
 
 #include <CLI/CLI.hpp>
+#include <dlfcn.h>
 
 #include "../Control/CommandInterpreter.h"
 #include "../Control/ControlAddress.h"
@@ -32,6 +33,9 @@ constexpr int kMostUnits = 100;
 
 // A socket path must fit in 107 bytes, and that of a mixer takes some 50 below this folder.
 constexpr std::size_t kLongestTemporaryFolder = 50;
+
+// Shows programs the testbed; found where the dynamic linker looks.
+constexpr const char *kPreload = "libumockdev-preload.so.0";
 
 constexpr const char *kExamples =
     "Examples:\n"
@@ -67,10 +71,23 @@ std::string controlEntry(const std::string &socket) {
   return std::string(trxsim::kControlVariable) + '=' + socket;
 }
 
+std::string guardPath() { return companionFolder() + "/libtrx-mixer-sim-guard.so"; }
+
+/// The dynamic linker only warns of a library that it cannot preload, and the command would see
+/// the machine's own bus.
+void requirePreloadable(const std::string &library, const char *package) {
+  void *handle = dlopen(library.c_str(), RTLD_LAZY | RTLD_LOCAL);
+  if (handle == nullptr) {
+    throw std::runtime_error("no command could see the mixers: " + std::string(dlerror()) +
+                             "; it comes with " + package);
+  }
+  dlclose(handle);
+}
+
 /// What a process needs to find mixers that only it is to see.
 trxsim::Environment simulatedEnvironment(const std::string &testbed, const std::string &control) {
   return {
-      "LD_PRELOAD=" + companionFolder() + "/libtrx-mixer-sim-guard.so:libumockdev-preload.so.0",
+      "LD_PRELOAD=" + guardPath() + ':' + kPreload,
       "UMOCKDEV_DIR=" + testbed,
       controlEntry(control),
       // The address sanitizer wants to be loaded first, which it need not be for these libraries.
@@ -134,6 +151,8 @@ int simulate(const Options &options, const trxsim::ControlSocket &control, Front
 
 /// On a bus that only the command and its children see.
 int simulateForCommand(const Options &options, const trxsim::ControlSocket &control) {
+  requirePreloadable(guardPath(), "trx-mixer-sim");
+  requirePreloadable(kPreload, "the package libumockdev0");
   keepTemporaryFolderShort();
   trxsim::UmockdevFrontEnd frontEnd;
   const trxsim::Environment additions = simulatedEnvironment(frontEnd.rootFolder(), control.path());

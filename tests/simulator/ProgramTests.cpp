@@ -90,6 +90,19 @@ TEST(SimulatorProgram, WithoutRootSaysWhatTheRunningKernelNeeds) {
   EXPECT_EQ(folder.Entries(), 1u);
 }
 
+TEST(SimulatorProgram, RefusesToRunACommandThatWouldSeeNoMixers) {
+  const TemporaryFolder folder;
+  const std::string library = folder / "libumockdev-preload.so.0";
+  std::ofstream(library) << "not a library";
+  Program program({"env", "LD_LIBRARY_PATH=" + folder.Path(), TRX_MIXER_SIM, "--", "echo", "run"},
+                  folder);
+  EXPECT_EQ(program.rest(), "");
+  EXPECT_EQ(program.finish(), 125);
+  EXPECT_EQ(program.errors(), "trx-mixer-sim: no command could see the mixers: " + library +
+                                  ": file too short; it comes with the package libumockdev0\n");
+  EXPECT_EQ(folder.Entries(), 1u);
+}
+
 TEST(SimulatorProgram, LeavesNothingBehind) {
   const TemporaryFolder folder;
   EXPECT_EQ(Program(simulate({"--units", "2", "--", "true"}), folder).finish(), 0);
