@@ -1,5 +1,6 @@
 """Installs the Debian packages into a Debian that has nothing else, uses what they promise, and removes them again."""
 
+import gzip
 import os
 import re
 import unittest
@@ -74,6 +75,11 @@ class Installed(unittest.TestCase):
 
     def test_files_are_as_they_were_packed(self):
         self.assertEqual(self.said("dpkg", "--verify", *NAMES), "")
+
+    def test_the_changelog_begins_with_this_version(self):
+        for package in NAMES:
+            with gzip.open(self.root.path / f"usr/share/doc/{package}/changelog.gz", "rt") as changelog:
+                self.assertRegex(changelog.readline(), rf"^trx-selvasetup \({re.escape(VERSION)}\) ")
 
     def test_trxctl_tells_its_version(self):
         self.assertEqual(self.said("trxctl", "--version"), f"trxctl {VERSION}\n")
