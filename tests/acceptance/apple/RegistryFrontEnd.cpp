@@ -71,8 +71,9 @@ void RegistryFrontEnd::Accept() {
     if (client < 0) return;
     const std::lock_guard lock(mutex_);
     clients_.remove_if([](Client &old) {
-      if (old.hasLeft) old.thread.join();
-      return old.hasLeft.load();
+      const bool left = old.hasLeft;
+      if (left) old.thread.join();
+      return left;
     });
     Client &added = clients_.emplace_back();
     added.socket = trxsim::Descriptor(client);
