@@ -148,10 +148,19 @@ TEST_F(Notifications, OfAnotherShapeOrOfNoModelAreIgnored) {
                      "TRX-SELVA BoostLevel Change={ ProductID = <*I11>; Index = (<*I1>); }",
                      "TRX-SELVA BoostLevel Change={ ProductID = <*I11>; Index = {}; }",
                      "TRX-SELVA BoostLevel Change={ ProductID = <*I11>; Index = <0b>; }",
-                     "TRX-SELVA BoostLevel Change={ ProductID = <*I11>; Index = <*I1>; Else = x; }",
                      "boost=11,3"});
   EXPECT_TRUE(HasCome("selva 3"));
   EXPECT_THAT(calls_, ElementsAre("selva 3"));
+}
+
+TEST_F(Notifications, MayCarryAnythingThatIsNotRead) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &selva_), 100);
+  AnnounceElsewhere(
+      {"TRX-SELVA BoostLevel Change={ ProductID = <*I11>; Index = <*I1>; Else = x; }",
+       "TRX-SELVA BoostLevel Change={ ProductID = <*I11>; Index = <*I2>; Channel = x; }",
+       "boost=11,3"});
+  EXPECT_TRUE(HasCome("selva 3"));
+  EXPECT_THAT(calls_, ElementsAre("selva 1", "selva 2", "selva 3"));
 }
 
 }  // namespace

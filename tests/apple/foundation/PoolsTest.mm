@@ -14,7 +14,6 @@
 #include "HeapGrowth.h"
 #include "LocalizedStrings.h"
 #include "NotificationDaemon.h"
-#include "NotificationHandler.h"
 #include "SettingsFile.h"
 #include "SystemVersion.h"
 #include "Text.h"

@@ -1,10 +1,12 @@
 // What is read out of a notification object.
+#include <array>
+
 #import <Foundation/Foundation.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "HeapGrowth.h"
-#include "NotificationHandler.h"
+#include "ReceivedNotification.h"
 
 namespace orv {
 namespace {
@@ -14,14 +16,15 @@ using testing::Lt;
 using testing::Pair;
 using testing::UnorderedElementsAre;
 
+constexpr std::array kKeys = {"ProductID", "Channel", "Index"};
+
 class ReceivedUserInfoTest : public testing::Test {
  protected:
   ~ReceivedUserInfoTest() override { [pool_ drain]; }
 
   static std::optional<UserInfo> Received(NSDictionary *userInfo) {
-    return ReceivedUserInfo([NSNotification notificationWithName:@"name"
-                                                          object:nil
-                                                        userInfo:userInfo]);
+    return ReceivedUserInfo(
+        [NSNotification notificationWithName:@"name" object:nil userInfo:userInfo], kKeys);
   }
 
   static NSNumber *Integer(int number) { return [NSNumber numberWithInt:number]; }
@@ -29,7 +32,7 @@ class ReceivedUserInfoTest : public testing::Test {
   NSAutoreleasePool *const pool_ = [[NSAutoreleasePool alloc] init];
 };
 
-TEST_F(ReceivedUserInfoTest, HasEveryIntegerUnderItsName) {
+TEST_F(ReceivedUserInfoTest, HasEveryIntegerUnderItsKey) {
   const auto received = Received([NSDictionary
       dictionaryWithObjectsAndKeys:Integer(11), @"ProductID", Integer(-2), @"Channel", nil]);
   ASSERT_TRUE(received);
@@ -56,13 +59,16 @@ TEST_F(ReceivedUserInfoTest, IsNothingWhenAValueIsNoNumber) {
   }
 }
 
-TEST_F(ReceivedUserInfoTest, IsNothingWhenAKeyIsNoText) {
-  EXPECT_FALSE(Received([NSDictionary
-      dictionaryWithObjectsAndKeys:Integer(11), @"ProductID", Integer(1), Integer(1), nil]));
+TEST_F(ReceivedUserInfoTest, HasNothingOfWhatIsNotAskedFor) {
+  const auto received = Received(
+      [NSDictionary dictionaryWithObjectsAndKeys:Integer(11), @"ProductID", Integer(1), @"Else",
+                                                 @"one", @"Source", Integer(1), Integer(1), nil]);
+  ASSERT_TRUE(received);
+  EXPECT_THAT(received->Entries(), UnorderedElementsAre(Pair("ProductID", 11)));
 }
 
 TEST_F(ReceivedUserInfoTest, IsNothingWhenWhatCameIsNoNotification) {
-  EXPECT_FALSE(ReceivedUserInfo(@"no notification"));
+  EXPECT_FALSE(ReceivedUserInfo(@"no notification", kKeys));
 }
 
 TEST_F(ReceivedUserInfoTest, LeavesNothingBehind) {
@@ -71,9 +77,11 @@ TEST_F(ReceivedUserInfoTest, LeavesNothingBehind) {
                     object:nil
                   userInfo:[NSDictionary dictionaryWithObjectsAndKeys:
                                              Integer(11), @"ProductID", Integer(-2),
-                                             @"a name that does not fit into the text", nil]];
-  EXPECT_THAT(HeapGrowth(10'000, [&] { ReceivedUserInfo(notification); }), Lt(kNothingPerCall));
-  EXPECT_THAT(HeapGrowth(10'000, [] { ReceivedUserInfo(@"no notification"); }),
+                                             @"a key that does not fit into the text", nil]];
+  constexpr std::array kReadKeys = {"ProductID", "a key that does not fit into the text"};
+  EXPECT_THAT(HeapGrowth(10'000, [&] { ReceivedUserInfo(notification, kReadKeys); }),
+              Lt(kNothingPerCall));
+  EXPECT_THAT(HeapGrowth(10'000, [] { ReceivedUserInfo(@"no notification", kKeys); }),
               Lt(kNothingPerCall));
 }
 

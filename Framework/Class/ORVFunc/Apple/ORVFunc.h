@@ -1,3 +1,5 @@
+#pragma once
+
 #import <Foundation/Foundation.h>
 
 /// The class of the observer. Has no fields: the callbacks stand in the tables of ChangeKinds.h.

@@ -42,17 +42,15 @@ void AddObserver(const std::string &name, NotificationHandler handler) noexcept 
   });
 }
 
-bool ReadUserInfo(id notification, UserInfo &userInfo) {
+// Other programs may add entries of their own, of any type.
+bool ReadUserInfo(id notification, std::span<const char *const> keys, UserInfo &userInfo) {
   return UnlessRaised(false, [&] {
-    NSDictionary *const carried = [notification userInfo];
-    for (NSString *key in carried) {
-      NSNumber *const value = [carried objectForKey:key];
-      if (![key isKindOfClass:[NSString class]] || ![value isKindOfClass:[NSNumber class]]) {
-        return false;
-      }
-      const auto name = CharactersOf(key);
-      if (!name) return false;
-      userInfo.Set(*name, [value intValue]);
+    NSDictionary *const carried = [static_cast<NSNotification *>(notification) userInfo];
+    for (const char *key : keys) {
+      NSNumber *const value = [carried objectForKey:StringOf(key)];
+      if (value == nil) continue;
+      if (![value isKindOfClass:[NSNumber class]]) return false;
+      userInfo.Set(key, [value intValue]);
     }
     return true;
   });

@@ -1,10 +1,6 @@
 #pragma once
 
-#include <optional>
-
 #include <objc/objc.h>
-
-#include "Notification.h"
 
 namespace orv {
 
@@ -13,9 +9,5 @@ struct NotificationHandler {
   id observer;
   SEL operation;
 };
-
-/// The dictionary that a notification object carries; nothing when it holds anything but integers
-/// under names, or when memory runs out. Any thread.
-std::optional<UserInfo> ReceivedUserInfo(id notification) noexcept;
 
 }  // namespace orv

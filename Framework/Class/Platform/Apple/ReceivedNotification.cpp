@@ -1,14 +1,14 @@
 #include "ReceivedNotification.h"
 
-#include "NotificationHandler.h"
 #include "OutOfMemory.h"
 
 namespace orv {
 
-std::optional<UserInfo> ReceivedUserInfo(id notification) noexcept {
+std::optional<UserInfo> ReceivedUserInfo(id notification,
+                                         std::span<const char *const> keys) noexcept {
   return UnlessOutOfMemory<std::optional<UserInfo>>(std::nullopt, [&] {
     std::optional<UserInfo> userInfo(std::in_place);
-    if (!ReadUserInfo(notification, *userInfo)) userInfo.reset();
+    if (!ReadUserInfo(notification, keys, *userInfo)) userInfo.reset();
     return userInfo;
   });
 }
