@@ -1,4 +1,5 @@
-// Where a kind of change keeps the dictionary that this process posted last.
+// Where a kind of change keeps the dictionary that this process posted last: in the library's own
+// form, of which the platform's is made for posting and gone afterwards.
 #pragma once
 
 #include <atomic>
