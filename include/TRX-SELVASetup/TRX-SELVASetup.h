@@ -46,10 +46,10 @@
  * - The mixers addressed are all connected ones, whichever ProductId is passed. The ProductId
  *   selects texts, bounds, the settings file and the name of the announcement.
  * - Functions may run on several threads at once. The Register and Unregister functions belong to
- *   the one thread that also receives the notifications (on Linux: that calls
- *   ORV_DispatchNotifications, see EventLoop.h; on macOS: the main thread, while its run loop
- * runs). Of two settings of one model that are stored at the very same time, on two threads or in
- * two processes, one may be lost from the file.
+ *   the one thread that also receives the notifications (on Linux: the one that calls
+ *   ORV_DispatchNotifications, see EventLoop.h; on macOS: the main thread, with its run loop). Of
+ *   two settings of one model that are stored at the very same time, on two threads or in two
+ *   processes, one may be lost from the file.
  * - Texts handed out belong to the library, stay valid and unchanged for the life of the process,
  *   and are never freed by the host.
  */
@@ -57,6 +57,10 @@
 #define TRX_SELVASETUP_TRX_SELVASETUP_H
 
 #include <stdint.h>
+
+#if defined(__APPLE__)
+#include <CoreFoundation/CFString.h>
+#endif
 
 #if defined(__GNUC__)
 #define ORV_EXPORT __attribute__((visibility("default")))
@@ -112,7 +116,9 @@ enum {
  * A library built over another implementation of Foundation hands out string objects as on macOS;
  * its hosts are compiled with ORV_TEXT_IS_CFSTRING defined.
  */
-#if defined(__APPLE__) || defined(ORV_TEXT_IS_CFSTRING)
+#if defined(__APPLE__)
+typedef CFStringRef ORVStringRef;
+#elif defined(ORV_TEXT_IS_CFSTRING)
 typedef const struct __CFString *ORVStringRef;
 #else
 typedef const char *ORVStringRef;
@@ -672,7 +678,8 @@ ORV_EXPORT StatusCode ORV_SetCurrentMidiKeyModeIndex(ProductId productId);
  *
  * Each is read from an installed file at each call. On Linux the files lie below the system root:
  * the folder named by the environment variable TRX_SYSTEM_ROOT (ignored in a set-user-id process),
- * else the one of the installation.
+ * else the one of the installation. A version that is no text, such as a number, counts as missing,
+ * since a host could do nothing with a number in a text's place.
  * @{
  */
 

@@ -22,7 +22,8 @@ class PropertyList {
 
   /// The dictionary to change and write back: that in the file, or an empty one where ReadFile
   /// gives nothing. Nothing when the file may well be in order and only this process cannot read it
-  /// now, for want of descriptors or memory: it must not be replaced then.
+  /// now, for want of descriptors or memory, where the platform tells: it must not be replaced
+  /// then.
   static std::optional<PropertyList> ReadFileToChange(const std::string &path);
 
   /// Whether there is no entry.
@@ -33,7 +34,8 @@ class PropertyList {
   /// is missing or anything else.
   std::optional<std::int32_t> IntegerForKey(const char *key) const;
 
-  /// The text of an entry; nothing when the entry is missing or no text.
+  /// The text of an entry; nothing when the entry is missing or no text. A number is no text: a
+  /// host could do nothing with a number in a text's place.
   std::optional<std::string> TextForKey(const char *key) const;
 
   /// Sets an entry to an integer, in place of what the key held before.

@@ -74,6 +74,16 @@ class Module(unittest.TestCase):
         self.assertEqual((code, errors), (0, ""))
         self.assertEqual(made, {"TRX_SELVASetup"})
 
+    def test_text_is_a_string_of_core_foundation(self):
+        code, errors, made = self.compile(
+            "#include <TRX-SELVASetup/TRX-SELVASetup.h>\n"
+            "CFStringRef text;\n"
+            "StatusCode version(void) { return ORV_GetLibraryVersionText(11, &text); }\n",
+            "-target", "x86_64-apple-macos11", "-ffreestanding",
+            "-isystem", os.environ["SOURCE"] + "/tests/apple/iokit/include")
+        self.assertEqual((code, errors), (0, ""))
+        self.assertEqual(made, {"TRX_SELVASetup"})
+
     def test_header_of_linux_is_not_there(self):
         code, errors, _ = self.compile("#include <TRX-SELVASetup/EventLoop.h>\n")
         self.assertEqual(code, 1)
