@@ -18,12 +18,14 @@ namespace orv {
 template <typename PlatformText>
 class KeptTexts {
  public:
-  /// The one text of these characters, made when they are first asked for.
+  /// The one text of these characters, made when they are first asked for. Null, and nothing is
+  /// kept, when the platform has none for them: it may have one the next time.
   ORVStringRef Keep(std::string_view characters) {
     const Kept *known = nullptr;
     Kept *newest = newest_.load();
     if (const Kept *kept = Find(characters, newest, known)) return kept->text.Reference();
     auto added = std::make_unique<Kept>(characters, newest);
+    if (added->text.Reference() == nullptr) return nullptr;
     for (known = newest; !newest_.compare_exchange_weak(added->earlier, added.get());
          known = added->earlier) {
       // Another thread was faster, perhaps with the same characters.
