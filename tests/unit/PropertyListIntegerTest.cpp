@@ -55,14 +55,22 @@ TEST(PropertyListInteger, OfAnIntegerIsItsLow32Bits) {
   EXPECT_THAT(ReadingOf("<integer>4294967296</integer>"), Optional(0));
   EXPECT_THAT(ReadingOf("<integer>4294967301</integer>"), Optional(5));
   EXPECT_THAT(ReadingOf("<integer>-9223372036854775808</integer>"), Optional(0));
+}
+
+TEST(PropertyListInteger, OfAnUnsignedIntegerBeyondTheSignedRangeIsItsLow32Bits) {
+  EXPECT_THAT(ReadingOf("<integer>9223372036854775809</integer>"), Optional(1));
+  EXPECT_THAT(ReadingOf("<integer>18446744073709551614</integer>"), Optional(-2));
   EXPECT_THAT(ReadingOf("<integer>18446744073709551615</integer>"), Optional(-1));
 }
 
-TEST(PropertyListInteger, OfABinaryIntegerIsItsLow32BitsInEverySize) {
+TEST(PropertyListInteger, OfABinaryIntegerIsItsLow32BitsInEverySizeUpTo8Bytes) {
   EXPECT_THAT(ReadingIn(BinaryListOf("\x10\xFF")), Optional(255));
   EXPECT_THAT(ReadingIn(BinaryListOf("\x11\xFF\xFE")), Optional(65534));
   EXPECT_THAT(ReadingIn(BinaryListOf("\x12\xFF\xFF\xFF\xFE")), Optional(-2));
   EXPECT_THAT(ReadingIn(BinaryListOf("\x13" + BigEndian(0xFFFFFFFFFFFFFFF9, 8))), Optional(-7));
+}
+
+TEST(PropertyListInteger, OfABinaryIntegerOf16BytesIsItsLow32Bits) {
   EXPECT_THAT(ReadingIn(BinaryListOf("\x14" + BigEndian(0x8000000000000009, 16))), Optional(9));
 }
 
