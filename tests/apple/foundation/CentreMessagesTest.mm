@@ -2,21 +2,41 @@
 #import <Foundation/Foundation.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <objc/runtime.h>
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
 #include "CentreRecorder.h"
 #include "ChangeKinds.h"
-#include "HeapGrowth.h"
+#include "ChildProcess.h"
+
+namespace {
+
+int observersMade = 0;
+
+}  // namespace
+
+// Changes places with the operation of the same name without "counted".
+@interface NSObject (Counted)
+@end
+
+@implementation NSObject (Counted)
+
++ (id)countedAlloc {
+  if (self == objc_getClass("ORVFunc")) ++observersMade;
+  return [self countedAlloc];
+}
+
+@end
 
 namespace orv {
 namespace {
 
-using testing::AllOf;
 using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Lt;
+using testing::SizeIs;
+using trxtest::ExpectQuietSuccess;
 
 void CallsNothing(std::int32_t, std::int32_t, void *) {}
 void CallsNothing(std::int32_t, void *) {}
@@ -88,6 +108,41 @@ TEST(RegisteredMessage, IsNotSentByARefusedRegistrationNorByUnregistering) {
   EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, nullptr), 100);
   EXPECT_EQ(ORV_UnregisterMidiKeyModeChangedCallback(1, nullptr), 102);
   EXPECT_THAT(centre.Messages(), IsEmpty());
+}
+
+TEST(TheObserver, IsMadeByTheFirstRegistrationThatIsNotRefused) {
+  const CentreRecorder centre;
+  method_exchangeImplementations(class_getClassMethod([NSObject class], @selector(alloc)),
+                                 class_getClassMethod([NSObject class], @selector(countedAlloc)));
+  EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(2, CallsNothing, nullptr), 102);
+  EXPECT_EQ(ORV_RegisterOutputAudioChangedCallback(12, CallsNothing, nullptr), 102);
+  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(2, CallsNothing, nullptr), 102);
+  EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(11, CallsNothing, nullptr), 102);
+  EXPECT_EQ(ORV_RegisterMidiKeyModeChangedCallback(1, CallsNothing, nullptr), 102);
+  EXPECT_EQ(observersMade, 0);
+  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(11, CallsNothing, nullptr), 100);
+  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(11, CallsNothing, nullptr), 100);
+  EXPECT_EQ(observersMade, 1);
+}
+
+TEST(RaisedException, InAnswerToAPostEndsThere) {
+  ExpectQuietSuccess([] {
+    CentreRecorder centre;
+    centre.Raise();
+    Announce(kInputAudioChange, 11, 1, 7);
+    Announce(kBoostLevelChange, 5, 3);
+    EXPECT_THAT(centre.Messages(), SizeIs(2));
+  });
+}
+
+TEST(RaisedException, InAnswerToAnObservationEndsThere) {
+  ExpectQuietSuccess([] {
+    CentreRecorder centre;
+    centre.Raise();
+    EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(11, CallsNothing, nullptr), 100);
+    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(11, CallsNothing, nullptr), 100);
+    EXPECT_THAT(centre.Messages(), SizeIs(2));
+  });
 }
 
 }  // namespace

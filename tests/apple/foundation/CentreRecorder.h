@@ -15,6 +15,9 @@ class CentreRecorder {
   CentreRecorder &operator=(const CentreRecorder &) = delete;
   ~CentreRecorder();
 
+  /// From now on the centre raises an exception in answer to each message.
+  void Raise();
+
   /// One line a message: its selector, then its arguments. A dictionary is shown in the order of
   /// its keys, an object by its class.
   const std::vector<std::string> &Messages() const;

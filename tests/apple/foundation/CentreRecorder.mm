@@ -7,6 +7,11 @@ namespace {
 
 std::vector<std::string> messages;
 std::vector<const void *> observers;
+bool isRaising = false;
+
+void RaiseIfAsked() {
+  if (isRaising) [NSException raise:NSGenericException format:@"the centre takes nothing"];
+}
 
 std::string Shown(NSString *text) {
   return text != nil ? "\"" + std::string([text UTF8String]) + "\"" : "nil";
@@ -39,6 +44,7 @@ std::string Shown(NSDictionary *dictionary) {
   messages.push_back("postNotificationName:" + Shown(name) + " object:" + Shown(object) +
                      " userInfo:" + Shown(userInfo) +
                      " deliverImmediately:" + (deliverImmediately ? "YES" : "NO"));
+  RaiseIfAsked();
 }
 
 - (void)recordedPostNotificationName:(NSString *)name
@@ -46,6 +52,7 @@ std::string Shown(NSDictionary *dictionary) {
                             userInfo:(NSDictionary *)userInfo {
   messages.push_back("postNotificationName:" + Shown(name) + " object:" + Shown(object) +
                      " userInfo:" + Shown(userInfo));
+  RaiseIfAsked();
 }
 
 - (void)recordedAddObserver:(id)observer
@@ -56,6 +63,7 @@ std::string Shown(NSDictionary *dictionary) {
                      " selector:" + [NSStringFromSelector(selector) UTF8String] +
                      " name:" + Shown(name) + " object:" + Shown(object));
   observers.push_back(observer);
+  RaiseIfAsked();
 }
 
 @end
@@ -84,9 +92,12 @@ CentreRecorder::CentreRecorder() { ChangePlaces(); }
 
 CentreRecorder::~CentreRecorder() {
   ChangePlaces();
+  isRaising = false;
   messages.clear();
   observers.clear();
 }
+
+void CentreRecorder::Raise() { isRaising = true; }
 
 const std::vector<std::string> &CentreRecorder::Messages() const { return messages; }
 
