@@ -2,6 +2,12 @@
 // For Objective-C++ only. Any thread.
 #pragma once
 
+#if defined(__has_feature)
+#if __has_feature(objc_arc)
+#error "References are counted by hand here: compile with -fno-objc-arc."
+#endif
+#endif
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,16 +17,23 @@
 namespace orv {
 
 /// An autorelease pool as long as its scope: the host may have none, and one that it has may last
-/// as long as the host.
+/// as long as the host. Where there is no memory for it, what it would have taken goes to the
+/// host's.
 class AutoreleasePool {
  public:
-  AutoreleasePool() : pool_([[NSAutoreleasePool alloc] init]) {}
+  AutoreleasePool() noexcept {
+    @try {
+      pool_ = [[NSAutoreleasePool alloc] init];
+    } @catch (NSException *) {
+      pool_ = nil;
+    }
+  }
   AutoreleasePool(const AutoreleasePool &) = delete;
   AutoreleasePool &operator=(const AutoreleasePool &) = delete;
   ~AutoreleasePool() { [pool_ drain]; }
 
  private:
-  NSAutoreleasePool *pool_;
+  NSAutoreleasePool *pool_ = nil;
 };
 
 /// Asks Foundation for something. What it raises ends here, and the result is another; a C++

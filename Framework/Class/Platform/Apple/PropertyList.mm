@@ -11,6 +11,12 @@ namespace {
 
 NSMutableDictionary *DictionaryIn(void *root) { return static_cast<NSMutableDictionary *>(root); }
 
+NSMutableDictionary *NewDictionary() { return [[NSMutableDictionary alloc] initWithCapacity:1]; }
+
+NSDictionary *DictionaryInFile(const std::string &path) {
+  return [NSDictionary dictionaryWithContentsOfFile:StringOf(path)];
+}
+
 bool IsReal(NSNumber *number) {
   const char *const type = [number objCType];
   return std::strcmp(type, @encode(double)) == 0 || std::strcmp(type, @encode(float)) == 0;
@@ -28,7 +34,10 @@ std::optional<std::int32_t> IntegerOfEntry(id entry) {
 
 }  // namespace
 
-PropertyList::PropertyList() : root_([[NSMutableDictionary alloc] initWithCapacity:1]) {}
+// A list without a dictionary, for want of memory, is empty, takes nothing and is not written.
+PropertyList::PropertyList() : root_(UnlessRaised<id>(nil, [] { return NewDictionary(); })) {}
+
+PropertyList::PropertyList(void *root) : root_(root) {}
 
 PropertyList::PropertyList(PropertyList &&other) noexcept
     : root_(std::exchange(other.root_, nullptr)) {}
@@ -41,20 +50,19 @@ PropertyList &PropertyList::operator=(PropertyList &&other) noexcept {
 PropertyList::~PropertyList() { [DictionaryIn(root_) release]; }
 
 std::optional<PropertyList> PropertyList::ReadFile(const std::string &path) {
-  PropertyList list;
-  const bool isRead = UnlessRaised(false, [&] {
-    NSDictionary *const read = [NSDictionary dictionaryWithContentsOfFile:StringOf(path)];
-    if (read == nil) return false;
-    [DictionaryIn(list.root_) addEntriesFromDictionary:read];
-    return true;
-  });
-  return isRead ? std::optional<PropertyList>(std::move(list)) : std::nullopt;
+  void *const root = UnlessRaised<id>(nil, [&] { return [DictionaryInFile(path) mutableCopy]; });
+  if (root == nullptr) return std::nullopt;
+  return PropertyList(root);
 }
 
-// Foundation does not say why it has read nothing.
+// Foundation does not say why it has read nothing. When it raises, it is not the file's fault.
 std::optional<PropertyList> PropertyList::ReadFileToChange(const std::string &path) {
-  auto list = ReadFile(path);
-  return list ? std::move(list) : std::optional<PropertyList>(PropertyList());
+  void *const root = UnlessRaised<id>(nil, [&]() -> id {
+    NSDictionary *const read = DictionaryInFile(path);
+    return read != nil ? [read mutableCopy] : NewDictionary();
+  });
+  if (root == nullptr) return std::nullopt;
+  return PropertyList(root);
 }
 
 bool PropertyList::IsEmpty() const {
