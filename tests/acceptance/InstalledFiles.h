@@ -9,6 +9,10 @@
 
 namespace trxtest {
 
+/// Where the version of the system is known to stand.
+inline constexpr const char *kSystemVersionFile =
+    "/System/Library/CoreServices/SystemVersion.plist";
+
 /// A case that installs files below the library's system root.
 class InstalledFiles : public Acceptance {
  protected:
@@ -28,8 +32,7 @@ class InstalledFiles : public Acceptance {
   }
 
   void InstallSystem(const std::string &productVersion) {
-    Install("/System/Library/CoreServices/SystemVersion.plist",
-            "<key>ProductVersion</key><string>" + productVersion + "</string>");
+    Install(kSystemVersionFile, "<key>ProductVersion</key><string>" + productVersion + "</string>");
   }
 
   /// Makes a framework folder, whose files are installed, the links that platforms look through.

@@ -80,16 +80,19 @@ std::string BundlePath() {
 
 // Without a unit there is no telling in which language the host is used: the system's is the safe
 // one.
-ORVStringRef WarningText(const std::string &key, std::int32_t language) {
+ORVStringRef WarningText(const std::string &bundlePath, const std::string &key,
+                         std::int32_t language) {
   if (language == kSystemLanguage || key == kWithoutUnit) {
-    return LocalizedString(BundlePath(), key.c_str());
+    return LocalizedString(bundlePath, key.c_str());
   }
-  return StringInLanguage(BundlePath(), kLanguageFolders[static_cast<std::size_t>(language)],
+  return StringInLanguage(bundlePath, kLanguageFolders[static_cast<std::size_t>(language)],
                           key.c_str());
 }
 
 }  // namespace
 
+// The bundle is looked for even for a language that is then refused: who traces a host sees the
+// same accesses for every language.
 StatusCode ORV_GetWarningTextForSetUSBAudioInput(ProductId productId, int32_t channel,
                                                  StatusCode status, int32_t language,
                                                  ORVStringRef *text) {
@@ -97,9 +100,10 @@ StatusCode ORV_GetWarningTextForSetUSBAudioInput(ProductId productId, int32_t ch
   const Warned *const row = RowFor(productId, channel);
   if (row == nullptr || status != ORV_SUCCESS_WITH_WARNING) return ORV_BAD_ARGUMENT;
   const char *const key = ChooseKey(*row, CheckUSBAudio(productId));
-  if (language != kSystemLanguage && !IsNamed(language)) return ORV_BAD_ARGUMENT;
-  return UnlessOutOfMemory<StatusCode>(ORV_BAD_ARGUMENT, [&] {
-    *text = WarningText(key, language);
+  return UnlessOutOfMemory<StatusCode>(ORV_BAD_ARGUMENT, [&]() -> StatusCode {
+    const std::string bundlePath = BundlePath();
+    if (language != kSystemLanguage && !IsNamed(language)) return ORV_BAD_ARGUMENT;
+    *text = WarningText(bundlePath, key, language);
     return ORV_SUCCESS;
   });
 }

@@ -5,6 +5,9 @@
 #include <set>
 #include <string_view>
 
+#include <sys/inotify.h>
+#include <unistd.h>
+
 #include "../InstalledFiles.h"
 #include "../WireLines.h"
 
@@ -171,6 +174,17 @@ TEST_F(InputRoutingWarning, AnotherLanguageNumberIsRefusedWithoutAUnitToo) {
       EXPECT_EQ(Warning(product, 0, language), "102") << product << ' ' << language;
     }
   }
+}
+
+TEST_F(InputRoutingWarning, AnotherLanguageNumberIsRefusedOnlyAfterTheFrameworkWasLookedFor) {
+  InstallAll();
+  const std::string version = rig().SystemRoot() + kSystemVersionFile;
+  const int watch = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+  ASSERT_NE(inotify_add_watch(watch, version.c_str(), IN_ACCESS), -1);
+  EXPECT_EQ(Warning(0, 0, 12), "102");
+  inotify_event event = {};
+  EXPECT_EQ(read(watch, &event, sizeof event), ssize_t{sizeof event}) << "not read";
+  close(watch);
 }
 
 TEST_F(InputRoutingWarning, OtherArgumentsAreRefusedBeforeAnyUnitIsAsked) {
