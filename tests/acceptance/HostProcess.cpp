@@ -9,6 +9,7 @@
 #include <utility>
 
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -61,7 +62,9 @@ HostProcess::~HostProcess() {
   }
   close(output_);
   if (Clock::now() >= deadline) kill(id_, SIGKILL);
-  waitpid(id_, nullptr, 0);
+  int status = 0;
+  waitpid(id_, &status, 0);
+  EXPECT_FALSE(WIFEXITED(status) && WEXITSTATUS(status) != 0) << "the host process has failed";
 }
 
 std::string HostProcess::Ask(const std::string &command) {

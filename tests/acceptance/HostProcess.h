@@ -11,8 +11,9 @@
 namespace trxtest {
 
 /// A running acceptance-host (host/Commands.h lists its commands). It receives notifications in its
-/// event loop whenever it has no command to carry out. Ends with this object. Functions throw when
-/// the process is gone or keeps silent for two minutes. One thread at a time.
+/// event loop whenever it has no command to carry out. Ends with this object; the case fails when
+/// it ends with a result other than 0. Functions throw when the process is gone or keeps silent for
+/// two minutes. One thread at a time.
 class HostProcess {
  public:
   /// Starts `program` in the environment of this process.

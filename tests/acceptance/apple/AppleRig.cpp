@@ -5,9 +5,11 @@
 #include <stdexcept>
 
 #include <IOKitDouble.h>
+#include <gtest/gtest.h>
 
 #include "../simulated/CaseRunner.h"
 #include "CentreGate.h"
+#include "DoubleUse.h"
 #include "PrivateUser.h"
 #include "RegistryProtocol.h"
 #include "RunLoopTurn.h"
@@ -58,7 +60,10 @@ AppleRig::AppleRig()
   IOKitDouble::Show(&devices_);
 }
 
-AppleRig::~AppleRig() { IOKitDouble::Show(nullptr); }
+AppleRig::~AppleRig() {
+  IOKitDouble::Show(nullptr);
+  EXPECT_EQ(TakeWrongUses(), std::vector<std::string>());
+}
 
 std::string AppleRig::LibraryFolder() { return LibraryFolderOfUser(); }
 

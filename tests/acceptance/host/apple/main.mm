@@ -1,13 +1,16 @@
 // acceptance-host: a process with the library that does what it is told on standard input (see
 // Commands.h). While no command is there it sits in its event loop.
 #include <cstdlib>
+#include <iostream>
 #include <string>
+#include <vector>
 
 #import <Foundation/Foundation.h>
 #include <IOKitDouble.h>
 #include <poll.h>
 #include <unistd.h>
 
+#include "../../apple/DoubleUse.h"
 #include "../../apple/RegistryProtocol.h"
 #include "../../apple/RemoteDevices.h"
 #include "../Commands.h"
@@ -35,6 +38,13 @@ void TakeATurn() {
   [pool release];
 }
 
+// The case that started this process fails with it.
+int ResultOfUses() {
+  const std::vector<std::string> wrong = trxtest::TakeWrongUses();
+  for (const std::string &use : wrong) std::cerr << "acceptance-host: " << use << std::endl;
+  return wrong.empty() ? 0 : 1;
+}
+
 }  // namespace
 
 int main() {
@@ -47,7 +57,7 @@ int main() {
     if (poll(&commands, 1, 1) <= 0) continue;
     char part[4096];
     const ssize_t size = read(STDIN_FILENO, part, sizeof part);
-    if (size <= 0) return 0;
+    if (size <= 0) return ResultOfUses();
     input.append(part, static_cast<std::size_t>(size));
     trxtest::CarryOut(input);
   }
