@@ -21,7 +21,8 @@ class TextWithMemory {
 };
 
 TEST(KeptTexts, KeepNoTextThatThePlatformCouldNotMake) {
-  KeptTexts<TextWithMemory> texts;
+  // As long as the process, as all texts are kept.
+  static KeptTexts<TextWithMemory> texts;
   hasMemory = false;
   EXPECT_EQ(texts.Keep("a text"), nullptr);
   hasMemory = true;
