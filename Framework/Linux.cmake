@@ -32,8 +32,8 @@ target_include_directories(framework
          Class/Platform Class/Platform/Linux
          Class/USB Class/USB/Linux)
 target_link_libraries(framework PRIVATE framework-shared PUBLIC PkgConfig::LIBPLIST PkgConfig::LIBSYSTEMD)
-# Functions that do the same are not made one by the optimiser: each keeps its place in the debug information, from which tests/abi
-# describes the exported interface.
+# Functions that do the same are not made one by the optimiser: each keeps its place in the debug information, from which
+# tests/installation/abi describes the exported interface.
 target_compile_options(framework PRIVATE $<$<AND:$<CXX_COMPILER_ID:GNU>,$<NOT:$<CONFIG:Debug>>>:-fno-ipa-icf>)
 
 add_library(TRX-SELVASetup SHARED)

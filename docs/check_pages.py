@@ -21,7 +21,7 @@ def example_text(project, page, name):
     if path.suffix != ".h":
         return path.read_text()
     with tempfile.NamedTemporaryFile("r") as program:
-        subprocess.run([sys.executable, "-B", project / "tests/hosts/extract_example.py", path, program.name],
+        subprocess.run([sys.executable, "-B", project / "tests/installation/hosts/extract_example.py", path, program.name],
                        check=True)
         return program.read()
 

@@ -28,8 +28,8 @@ class Desk(unittest.TestCase):
         cls.root.install(package_files.files(*package_files.NAMES))
         cls.root.run("useradd", "--create-home", "--home-dir", "/tmp/home", USER)
         sources = cls.root.path / "tmp/consumer"
-        shutil.copytree(PROJECT / "tests/packages/consumer", sources)
-        subprocess.run([sys.executable, "-B", PROJECT / "tests/hosts/extract_example.py",
+        shutil.copytree(PROJECT / "tests/installation/packages/consumer", sources)
+        subprocess.run([sys.executable, "-B", PROJECT / "tests/installation/hosts/extract_example.py",
                         PROJECT / "include/TRX-SELVASetup/TRX-SELVASetup.h", sources / "host.c"], check=True)
         cls.root.run("chown", "--recursive", USER, "/tmp/consumer")
 
