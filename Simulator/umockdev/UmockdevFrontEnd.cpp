@@ -53,7 +53,10 @@ struct UmockdevFrontEnd::Pending {
 };
 
 UmockdevFrontEnd::UmockdevFrontEnd()
-    : testbed_(umockdev_testbed_new()), handler_(umockdev_ioctl_base_new()), tree_(rootFolder()) {
+    : testbed_(umockdev_testbed_new()),
+      handler_(umockdev_ioctl_base_new()),
+      tree_(rootFolder()),
+      events_(rootFolder()) {
   g_log_set_default_handler(logUnlessDroppedClient, nullptr);
   g_signal_connect(handler_.get(), "handle-ioctl", G_CALLBACK(onIoctl), this);
   // Programs that root starts as another user must be able to reach their mixers.
@@ -86,6 +89,7 @@ BusAddress UmockdevFrontEnd::plug(int number, const UsbIdentity &identity, OpenF
     unitOfNode_.emplace(device.nodePath(), number);
   }
   tree_.list(device);
+  events_.Send("add", device);
   return device.address;
 }
 
@@ -98,6 +102,7 @@ void UmockdevFrontEnd::unplug(int number) {
     unitOfNode_.erase(device.nodePath());
   }
   tree_.remove(device);
+  events_.Send("remove", device);
   endPending(number);
 }
 

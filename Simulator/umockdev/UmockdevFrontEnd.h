@@ -11,6 +11,7 @@
 #include "../Model/ControlTransfer.h"
 #include "../Model/FrontEnd.h"
 #include "../Model/RequestGate.h"
+#include "UdevEvents.h"
 #include "UsbTree.h"
 
 namespace trxsim {
@@ -62,6 +63,7 @@ class UmockdevFrontEnd : public FrontEnd {
   std::unique_ptr<UMockdevTestbed, ObjectRelease> testbed_;
   std::unique_ptr<UMockdevIoctlBase, ObjectRelease> handler_;
   UsbTree tree_;
+  UdevEvents events_;
   std::set<std::string> attached_;  // nodes that the handler listens for
   int lastDeviceNumber_ = 1;        // that of the root hub
 };
