@@ -5,11 +5,13 @@
 # carries a framework of its own along would get the texts of the installed one all the same.
 set(TRX_FRAMEWORKS_FOLDER /Library/Frameworks CACHE STRING "Where the framework is installed and found by its hosts")
 
-set(public_header ${PROJECT_SOURCE_DIR}/include/TRX-SELVASetup/TRX-SELVASetup.h)
+set(public_headers
+  ${PROJECT_SOURCE_DIR}/include/TRX-SELVASetup/Diagnostics.h
+  ${PROJECT_SOURCE_DIR}/include/TRX-SELVASetup/TRX-SELVASetup.h)
 set(module_map ${CMAKE_CURRENT_SOURCE_DIR}/module.modulemap)
 set(exported_symbols ${CMAKE_CURRENT_SOURCE_DIR}/TRX-SELVASetup.exp)
 
-add_library(TRX-SELVASetup SHARED ${public_header} ${module_map})
+add_library(TRX-SELVASetup SHARED ${public_headers} ${module_map})
 add_library(TRX-SELVASetup::TRX-SELVASetup ALIAS TRX-SELVASetup)
 
 # --- What it is compiled of -------------------------------------------------------------------------------------------
@@ -36,7 +38,7 @@ set_target_properties(TRX-SELVASetup PROPERTIES
 set_target_properties(TRX-SELVASetup PROPERTIES
   FRAMEWORK ON
   FRAMEWORK_VERSION A
-  PUBLIC_HEADER ${public_header}
+  PUBLIC_HEADER "${public_headers}"
   MACOSX_FRAMEWORK_INFO_PLIST ${PROJECT_SOURCE_DIR}/Resources/Info.plist.in
   MACHO_COMPATIBILITY_VERSION ${PROJECT_VERSION_MAJOR}
   MACHO_CURRENT_VERSION ${PROJECT_VERSION}

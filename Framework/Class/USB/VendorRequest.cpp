@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "RequestObserver.h"
+
 namespace orv {
 namespace {
 
@@ -30,14 +32,25 @@ enum WriteSelector : std::uint16_t {
 
 PlatformStatus Read(DeviceHandle handle, ReadSelector selector, void *buffer,
                     std::uint16_t length) {
-  return DeviceRequest(handle, kDeviceToHostVendor, kReadRequest, 0, selector, buffer, &length);
+  std::uint16_t received = length;
+  const PlatformStatus status =
+      DeviceRequest(handle, kDeviceToHostVendor, kReadRequest, 0, selector, buffer, &received);
+  if (IsObserved()) {
+    const bool isShort = status == kIOReturnSuccess && received < length;
+    Report({ORV_REQUEST_READ, selector, 0}, PlaceOf(handle),
+           isShort ? ORV_OUTCOME_SHORT_REPLY : OutcomeOf(status));
+  }
+  return status;
 }
 
 PlatformStatus Write(DeviceHandle handle, WriteSelector selector, std::uint16_t value) {
   std::array<std::uint8_t, 2> unused = {};
   std::uint16_t length = 0;
-  return DeviceRequest(handle, kHostToDeviceVendor, kWriteRequest, value, selector, unused.data(),
-                       &length);
+  const PlatformStatus status = DeviceRequest(handle, kHostToDeviceVendor, kWriteRequest, value,
+                                              selector, unused.data(), &length);
+  if (IsObserved())
+    Report({ORV_REQUEST_WRITE, selector, value}, PlaceOf(handle), OutcomeOf(status));
+  return status;
 }
 
 }  // namespace

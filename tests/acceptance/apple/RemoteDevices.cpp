@@ -12,6 +12,9 @@
 namespace trxtest {
 namespace {
 
+// The first place of the bus, as it would be called on a Mac.
+constexpr UInt32 kFirstLocation = 0x14000000;
+
 // One conversation a request: no connection is shared between threads, or with a forked child.
 template <typename Answer>
 std::size_t Ask(const std::string &path, const RegistryRequest &request, Answer *answer,
@@ -70,6 +73,7 @@ std::vector<UsbDevice> RemoteDevices::Devices() {
     device.number = place.device;
     device.vendor = place.vendor;
     device.product = place.product;
+    device.location = kFirstLocation + static_cast<UInt32>(place.device);
     device.faults.plugIn = PlugInStatus(place.fault);
   }
   return devices;

@@ -27,7 +27,7 @@ class Layout(unittest.TestCase):
     def test_version_holds_headers_modules_and_resources(self):
         version = BUNDLE / "Versions/A"
         self.assertEqual(sorted(os.listdir(version)), ["Headers", "Modules", "Resources"])
-        self.assertEqual(os.listdir(version / "Headers"), ["TRX-SELVASetup.h"])
+        self.assertEqual(sorted(os.listdir(version / "Headers")), ["Diagnostics.h", "TRX-SELVASetup.h"])
         self.assertEqual(os.listdir(version / "Modules"), ["module.modulemap"])
         self.assertEqual(sorted(os.listdir(RESOURCES)),
                          sorted(["Info.plist"] + [name + ".lproj" for name in LANGUAGES]))
@@ -70,6 +70,14 @@ class Module(unittest.TestCase):
     def test_header_is_used_as_a_module(self):
         code, errors, made = self.compile(
             "#include <TRX-SELVASetup/TRX-SELVASetup.h>\n"
+            "StatusCode connected(void) { return ORV_IsUSBConnection(ORV_PRODUCT_TRX_SELVA); }\n")
+        self.assertEqual((code, errors), (0, ""))
+        self.assertEqual(made, {"TRX_SELVASetup"})
+
+    def test_header_for_diagnostics_is_in_the_same_module(self):
+        code, errors, made = self.compile(
+            "#include <TRX-SELVASetup/Diagnostics.h>\n"
+            "StatusCode end(void) { return ORV_ObserveRequests(0, 0); }\n"
             "StatusCode connected(void) { return ORV_IsUSBConnection(ORV_PRODUCT_TRX_SELVA); }\n")
         self.assertEqual((code, errors), (0, ""))
         self.assertEqual(made, {"TRX_SELVASetup"})

@@ -20,6 +20,7 @@ struct DeviceFaults {
   IOReturn readSubClass = kIOReturnSuccess;
   IOReturn readVendor = kIOReturnSuccess;
   IOReturn readProduct = kIOReturnSuccess;
+  IOReturn readLocation = kIOReturnSuccess;
   std::optional<ULONG> release = {};  ///< Its interface's Release answers this, not a count.
 };
 
@@ -30,6 +31,7 @@ struct UsbDevice {
   UInt16 product = 0;
   UInt8 deviceClass = 0;
   UInt8 subclass = 0;
+  UInt32 location = 0;  ///< Where it is plugged in.
   DeviceFaults faults = {};
 };
 

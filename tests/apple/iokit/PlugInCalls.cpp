@@ -130,6 +130,12 @@ IOReturn ReadProduct(void *self, UInt16 *place) {
   });
 }
 
+IOReturn ReadLocation(void *self, UInt32 *place) {
+  return Ask(self, "GetLocationID", [&](const UsbDevice &device) {
+    return Tell(device.faults.readLocation, device.location, place);
+  });
+}
+
 std::string SetupText(const IOUSBDevRequest &request) {
   std::array<char, sizeof "DeviceRequest(40 03 wValue 0300 wIndex 8003 wLength 65535)"> text;
   std::snprintf(text.data(), text.size(),
@@ -186,6 +192,7 @@ constexpr IOUSBDeviceInterface MakeInterfaceFunctions() {
   functions.GetDeviceSubClass = ReadSubClass;
   functions.GetDeviceVendor = ReadVendor;
   functions.GetDeviceProduct = ReadProduct;
+  functions.GetLocationID = ReadLocation;
   functions.DeviceRequest = SendRequest;
   return functions;
 }

@@ -26,6 +26,7 @@ FILES = {
         *[f"{FRAMEWORK}/Resources/{language}.lproj/Localizable.strings" for language in LANGUAGES]],
     DEVELOPMENT: [
         "usr/include/TRX-SELVASetup/TRX-SELVASetup.h",
+        "usr/include/TRX-SELVASetup/Diagnostics.h",
         "usr/include/TRX-SELVASetup/EventLoop.h",
         f"usr/lib/{TRIPLET}/libTRX-SELVASetup.so",
         f"usr/lib/{TRIPLET}/pkgconfig/TRX-SELVASetup.pc",

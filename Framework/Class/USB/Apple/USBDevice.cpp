@@ -7,6 +7,8 @@
 #include <IOKit/usb/IOUSBLib.h>
 #include <mach/mach.h>
 
+#include "RequestObserver.h"
+
 namespace orv {
 namespace {
 
@@ -143,6 +145,13 @@ PlatformStatus FindDevices(mach_port_t *masterPort, io_iterator_t *devices) {
 
 }  // namespace
 
+// A location that cannot be told stays 0.
+UnitPlace PlaceOf(DeviceHandle unit) noexcept {
+  UInt32 location = 0;
+  if ((*unit)->GetLocationID(unit, &location) != kIOReturnSuccess) location = 0;
+  return {.location = location};
+}
+
 std::int32_t CheckUSBAudio(ProductId /*productId*/) noexcept {
   // The port stays with the process, as one name that is counted. A failure does not matter: the
   // null port stands for the same.
@@ -178,7 +187,11 @@ PlatformStatus openUSB(DeviceHandle *handle, std::uint32_t n) noexcept {
 PlatformStatus open_pipes(DeviceHandle *handle, std::uint32_t n) noexcept {
   if (handle == nullptr) return kIOReturnError;
   *handle = nullptr;
-  return openUSB(handle, n);
+  const PlatformStatus status = openUSB(handle, n);
+  if (status != kIOReturnSuccess && IsObserved()) {
+    Report({}, *handle != nullptr ? PlaceOf(*handle) : UnitPlace{}, OutcomeOf(status));
+  }
+  return status;
 }
 
 // The device was not opened, so closing it fails and harms nothing.

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "BusWalk.h"
+
 namespace orv {
 
-/// An opened unit: its device file.
+/// An opened unit: its device file, and where it is on the bus.
 struct USBDeviceInterface {
   int descriptor;
+  UnitAddress address;
 };
 
 /// Refers to one opened unit, or to none when null. Lives inside one exported call.

@@ -10,6 +10,7 @@
 
 #include "BusWalk.h"
 #include "OutOfMemory.h"
+#include "RequestObserver.h"
 
 namespace orv {
 namespace {
@@ -31,7 +32,7 @@ PlatformStatus OpenNode(UnitAddress address, DeviceHandle *handle) {
                 unsigned{address.device});
   const int descriptor = OpenAwayFromStandardStreams(path.data());
   if (descriptor < 0) return PlatformStatusFromErrno(errno);
-  *handle = new (std::nothrow) USBDeviceInterface{descriptor};
+  *handle = new (std::nothrow) USBDeviceInterface{descriptor, address};
   if (*handle == nullptr) {
     close(descriptor);
     return kIOReturnNoMemory;
@@ -39,7 +40,11 @@ PlatformStatus OpenNode(UnitAddress address, DeviceHandle *handle) {
   return kIOReturnSuccess;
 }
 
+UnitPlace PlaceOf(UnitAddress address) { return {.bus = address.bus, .address = address.device}; }
+
 }  // namespace
+
+UnitPlace PlaceOf(DeviceHandle unit) noexcept { return PlaceOf(unit->address); }
 
 std::int32_t CheckUSBAudio(ProductId /*productId*/) noexcept {
   return UnlessOutOfMemory(0, [&] { return static_cast<std::int32_t>(ConnectedUnits().size()); });
@@ -51,7 +56,9 @@ PlatformStatus openUSB(DeviceHandle *handle, std::uint32_t n) noexcept {
     if (n >= units.size() || *handle != nullptr) return kIOReturnError;
     const auto chosen = units.begin() + n;
     std::nth_element(units.begin(), chosen, units.end());
-    return OpenNode(*chosen, handle);
+    const PlatformStatus status = OpenNode(*chosen, handle);
+    if (status != kIOReturnSuccess && IsObserved()) Report({}, PlaceOf(*chosen), OutcomeOf(status));
+    return status;
   });
 }
 
