@@ -51,8 +51,8 @@ TEST_F(RequestToWhatIsNoDevice, FailsWithTheGeneralErrorAndLengthZero) {
 }
 
 TEST_F(RequestToWhatIsNoDevice, LeavesTheBufferOfEveryReadAlone) {
-  for (ReadRequest *const request : {GetFirmwareVersionNumber, GetInputSelectorInfo,
-                                     GetSeratoActiveInfo, GetPortInfo, GetCertifyLevel}) {
+  for (const ReadRequest request : {GetFirmwareVersionNumber, GetInputSelectorInfo,
+                                    GetSeratoActiveInfo, GetPortInfo, GetCertifyLevel}) {
     std::array<std::uint8_t, 8> buffer;
     buffer.fill(0x5A);
     EXPECT_EQ(request(&null_, buffer.data(), 4), kGeneralError);
@@ -61,7 +61,7 @@ TEST_F(RequestToWhatIsNoDevice, LeavesTheBufferOfEveryReadAlone) {
 }
 
 TEST_F(RequestToWhatIsNoDevice, FailsForEveryWrite) {
-  for (WriteRequest *const request :
+  for (const WriteRequest request :
        {SetMixerOutputSetting, SetMixerInputSetting, SetUSBOutputLevelSetting,
         SetMidiChannelSetting, SetMidiKeyModeSetting}) {
     EXPECT_EQ(request(&pipe_, 0x0100), kGeneralError);

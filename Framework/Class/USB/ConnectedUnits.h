@@ -28,8 +28,7 @@ void VisitUnits(std::int32_t count, Visitor visit) {
 
 /// Sends one write request to every connected unit; what the units answer does not matter. Returns
 /// the number of units counted at the start, for a caller that visits them again.
-inline std::int32_t ApplyToEveryUnit(ProductId productId, WriteRequest &request,
-                                     std::uint16_t value) {
+std::int32_t ApplyToEveryUnit(ProductId productId, const auto &request, std::uint16_t value) {
   const std::int32_t count = CheckUSBAudio(productId);
   VisitUnits(count, [&](DeviceHandle unit) {
     request(unit, value);

@@ -12,26 +12,10 @@ constexpr std::uint8_t kHostToDeviceVendor = 0x40;
 constexpr std::uint8_t kReadRequest = 0;
 constexpr std::uint8_t kWriteRequest = 3;
 
-// Reads and writes have numbers of their own: the same number may mean another thing in the other
-// direction.
-enum ReadSelector : std::uint16_t {
-  kFirmwareVersion = 0x8001,
-  kInputSelectors = 0x8002,
-  kSeratoActive = 0x8004,
-  kPort = 0x8006,
-  kCertifyLevel = 0x8007,
-};
+}  // namespace
 
-enum WriteSelector : std::uint16_t {
-  kMixerOutput = 0x8002,
-  kUSBOutputLevel = 0x8003,
-  kMidiChannel = 0x8004,
-  kMidiKeyMode = 0x8005,
-  kMixerInput = 0x8016,
-};
-
-PlatformStatus Read(DeviceHandle handle, ReadSelector selector, void *buffer,
-                    std::uint16_t length) {
+PlatformStatus Read(DeviceHandle handle, std::uint16_t selector, void *buffer,
+                    std::uint16_t length) noexcept {
   std::uint16_t received = length;
   const PlatformStatus status =
       DeviceRequest(handle, kDeviceToHostVendor, kReadRequest, 0, selector, buffer, &received);
@@ -43,7 +27,7 @@ PlatformStatus Read(DeviceHandle handle, ReadSelector selector, void *buffer,
   return status;
 }
 
-PlatformStatus Write(DeviceHandle handle, WriteSelector selector, std::uint16_t value) {
+PlatformStatus Write(DeviceHandle handle, std::uint16_t selector, std::uint16_t value) noexcept {
   std::array<std::uint8_t, 2> unused = {};
   std::uint16_t length = 0;
   const PlatformStatus status = DeviceRequest(handle, kHostToDeviceVendor, kWriteRequest, value,
@@ -51,48 +35,6 @@ PlatformStatus Write(DeviceHandle handle, WriteSelector selector, std::uint16_t 
   if (IsObserved())
     Report({ORV_REQUEST_WRITE, selector, value}, PlaceOf(handle), OutcomeOf(status));
   return status;
-}
-
-}  // namespace
-
-PlatformStatus GetFirmwareVersionNumber(DeviceHandle handle, void *buffer, std::uint16_t length) {
-  return Read(handle, kFirmwareVersion, buffer, length);
-}
-
-PlatformStatus GetInputSelectorInfo(DeviceHandle handle, void *buffer, std::uint16_t length) {
-  return Read(handle, kInputSelectors, buffer, length);
-}
-
-PlatformStatus GetSeratoActiveInfo(DeviceHandle handle, void *buffer, std::uint16_t length) {
-  return Read(handle, kSeratoActive, buffer, length);
-}
-
-PlatformStatus GetPortInfo(DeviceHandle handle, void *buffer, std::uint16_t length) {
-  return Read(handle, kPort, buffer, length);
-}
-
-PlatformStatus GetCertifyLevel(DeviceHandle handle, void *buffer, std::uint16_t length) {
-  return Read(handle, kCertifyLevel, buffer, length);
-}
-
-PlatformStatus SetMixerOutputSetting(DeviceHandle handle, std::uint16_t value) {
-  return Write(handle, kMixerOutput, value);
-}
-
-PlatformStatus SetMixerInputSetting(DeviceHandle handle, std::uint16_t value) {
-  return Write(handle, kMixerInput, value);
-}
-
-PlatformStatus SetUSBOutputLevelSetting(DeviceHandle handle, std::uint16_t value) {
-  return Write(handle, kUSBOutputLevel, value);
-}
-
-PlatformStatus SetMidiChannelSetting(DeviceHandle handle, std::uint16_t value) {
-  return Write(handle, kMidiChannel, value);
-}
-
-PlatformStatus SetMidiKeyModeSetting(DeviceHandle handle, std::uint16_t value) {
-  return Write(handle, kMidiKeyMode, value);
 }
 
 }  // namespace orv

@@ -1,6 +1,4 @@
-// What crosses the wire: vendor control requests on endpoint 0 of an open unit, one named operation
-// per request. The routing writes are named as the mixer sees them: SetMixerOutputSetting carries
-// what the mixer sends to the computer, that is, what the computer records. All may run on any
+// What crosses the wire: vendor control requests on endpoint 0 of an open unit. All may run on any
 // thread and on several at once; each blocks until the transfer is done or has failed.
 #pragma once
 
@@ -18,33 +16,58 @@ PlatformStatus DeviceRequest(DeviceHandle handle, std::uint8_t bmRequestType, st
                              std::uint16_t wValue, std::uint16_t wIndex, void *data,
                              std::uint16_t *length) noexcept;
 
-/// The read requests ask for `length` bytes into `buffer`. A short or failed reply leaves the rest
-/// of the buffer as it was and is not told from a full one: clear or preset the buffer.
-using ReadRequest = PlatformStatus(DeviceHandle handle, void *buffer, std::uint16_t length);
+/// Asks a unit for `length` bytes into `buffer`. A short or failed reply leaves the rest of the
+/// buffer as it was, and the status does not tell a short reply from a full one: clear or preset
+/// the buffer.
+PlatformStatus Read(DeviceHandle handle, std::uint16_t selector, void *buffer,
+                    std::uint16_t length) noexcept;
+
+/// Sends a unit a value. It travels in wValue; there is no data stage.
+PlatformStatus Write(DeviceHandle handle, std::uint16_t selector, std::uint16_t value) noexcept;
+
+/// A request that reads, called as a function.
+struct ReadRequest {
+  std::uint16_t selector;
+
+  PlatformStatus operator()(DeviceHandle handle, void *buffer,
+                            std::uint16_t length) const noexcept {
+    return Read(handle, selector, buffer, length);
+  }
+};
+
+/// A request that writes, called as a function.
+struct WriteRequest {
+  std::uint16_t selector;
+
+  PlatformStatus operator()(DeviceHandle handle, std::uint16_t value) const noexcept {
+    return Write(handle, selector, value);
+  }
+};
+
+// Reads and writes have selectors of their own: the same number may mean another thing in the other
+// direction.
 
 /// 2 bytes, least significant first.
-ReadRequest GetFirmwareVersionNumber;
+inline constexpr ReadRequest GetFirmwareVersionNumber = {0x8001};
 /// A leading byte, then one byte a mixer channel: the position of its input selector.
-ReadRequest GetInputSelectorInfo;
+inline constexpr ReadRequest GetInputSelectorInfo = {0x8002};
 /// 2 bytes; the first is 1 while Serato is active, else 0.
-ReadRequest GetSeratoActiveInfo;
+inline constexpr ReadRequest GetSeratoActiveInfo = {0x8004};
 /// 2 bytes, least significant first.
-ReadRequest GetPortInfo;
+inline constexpr ReadRequest GetPortInfo = {0x8006};
 /// 4 bytes, most significant first.
-ReadRequest GetCertifyLevel;
+inline constexpr ReadRequest GetCertifyLevel = {0x8007};
 
-/// The write requests carry their value in wValue and have no data stage.
-using WriteRequest = PlatformStatus(DeviceHandle handle, std::uint16_t value);
-
-/// Routing of what the mixer sends to the computer.
-WriteRequest SetMixerOutputSetting;
-/// Routing of what the computer sends to the mixer.
-WriteRequest SetMixerInputSetting;
+/// Routing of what the mixer sends to the computer, that is, of what the computer records. The two
+/// routings are named as the mixer sees them.
+inline constexpr WriteRequest SetMixerOutputSetting = {0x8002};
 /// Level step of the USB output, in the high byte.
-WriteRequest SetUSBOutputLevelSetting;
+inline constexpr WriteRequest SetUSBOutputLevelSetting = {0x8003};
 /// MIDI channel, in the high byte.
-WriteRequest SetMidiChannelSetting;
+inline constexpr WriteRequest SetMidiChannelSetting = {0x8004};
 /// MIDI key mode. Part of the protocol; no model offers a key mode, so it is never sent.
-WriteRequest SetMidiKeyModeSetting;
+inline constexpr WriteRequest SetMidiKeyModeSetting = {0x8005};
+/// Routing of what the computer sends to the mixer. Mind the number: it is not 0x8006.
+inline constexpr WriteRequest SetMixerInputSetting = {0x8016};
 
 }  // namespace orv

@@ -158,7 +158,7 @@ TEST_F(Request, TheStatusIsHandedOnAsItIs) {
 
 struct Read {
   const char *name;
-  orv::ReadRequest *request;
+  orv::ReadRequest request;
   std::uint16_t length;
   int index;
 };
@@ -186,7 +186,7 @@ INSTANTIATE_TEST_SUITE_P(Each, ReadRequests,
 
 struct Write {
   const char *name;
-  orv::WriteRequest *request;
+  orv::WriteRequest request;
   std::uint16_t value;
   int index;
 };
