@@ -5,12 +5,17 @@
  * that -1 is closed gives the place back. And a node that is not in the testbed it opens on the
  * real machine: a host that is just opening a mixer when it is unplugged would reach whatever real
  * device has that address. Here such an open fails, as it does when the kernel removed the node.
+ *
+ * It also reads the table under a lock but writes it without one. When two threads open a mixer at
+ * once, both may take the same place: the descriptor of one is forgotten, and its next request
+ * fails with ENOTTY without reaching the mixer. Here whatever writes the table holds that lock.
  */
 #define _GNU_SOURCE
 #include <dlfcn.h>
 #include <errno.h>
 #include <fcntl.h>
 #include <limits.h>
+#include <pthread.h>
 #include <stdarg.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -22,6 +27,8 @@
 typedef int open_function(const char *, int, ...);
 typedef int checked_open_function(const char *, int);
 typedef int close_function(int);
+typedef FILE *file_open_function(const char *, const char *);
+typedef int file_close_function(FILE *);
 
 int __open_2(const char *path, int flags);
 int __open64_2(const char *path, int flags);
@@ -36,6 +43,40 @@ static void find_next(const char *name, void *pointer) {
   if (address == NULL) abort();
   memcpy(pointer, &address, sizeof address);
 }
+
+/* --- The lock of the table --- */
+
+static pthread_mutex_t own_lock;
+static pthread_mutex_t *table_lock;
+
+/* Recursive, for a signal handler that closes a file in the middle of an open. */
+static void make_table_lock(void) {
+  pthread_mutexattr_t recursive;
+  pthread_mutexattr_init(&recursive);
+  pthread_mutexattr_settype(&recursive, PTHREAD_MUTEX_RECURSIVE);
+  pthread_mutex_init(table_lock, &recursive);
+  pthread_mutexattr_destroy(&recursive);
+}
+
+static void find_table_lock(void);
+
+static void lock_table(void) {
+  static pthread_once_t once = PTHREAD_ONCE_INIT;
+  pthread_once(&once, find_table_lock);
+  pthread_mutex_lock(table_lock);
+}
+
+static void unlock_table(void) { pthread_mutex_unlock(table_lock); }
+
+/* A forked child must not wait for threads that only its parent has. */
+static void find_table_lock(void) {
+  void *of_reader = dlsym(RTLD_DEFAULT, "ioctl_lock");
+  table_lock = of_reader != NULL ? of_reader : &own_lock;
+  make_table_lock();
+  pthread_atfork(lock_table, unlock_table, make_table_lock);
+}
+
+/* --- What opens and closes --- */
 
 static int is_missing(const char *path) {
   const char *testbed = getenv("UMOCKDEV_DIR");
@@ -52,40 +93,82 @@ static int fail_missing(void) {
   return -1;
 }
 
-static int give_place_back(int descriptor, const char *path) {
-  if (descriptor >= 0 || !begins_with(path, "/dev/")) return descriptor;
+static int is_device(const char *path) { return begins_with(path, "/dev/"); }
+
+/* Closes without touching the table's lock: the caller holds it. */
+static void give_place_back(void) {
   const int error = errno;
   close_function *next;
   find_next("close", &next);
   next(-1);
   errno = error;
-  return -1;
 }
 
-#define GUARDED_OPEN(name)                                 \
-  EXPORTED int name(const char *path, int flags, ...) {    \
-    open_function *next;                                   \
-    mode_t mode = 0;                                       \
-    if ((flags & (O_CREAT | O_TMPFILE)) != 0) {            \
-      va_list arguments;                                   \
-      va_start(arguments, flags);                          \
-      mode = va_arg(arguments, mode_t);                    \
-      va_end(arguments);                                   \
-    }                                                      \
-    if (is_missing(path)) return fail_missing();           \
-    find_next(#name, &next);                               \
-    return give_place_back(next(path, flags, mode), path); \
+#define GUARDED_OPEN(name)                                \
+  EXPORTED int name(const char *path, int flags, ...) {   \
+    open_function *next;                                  \
+    mode_t mode = 0;                                      \
+    if ((flags & (O_CREAT | O_TMPFILE)) != 0) {           \
+      va_list arguments;                                  \
+      va_start(arguments, flags);                         \
+      mode = va_arg(arguments, mode_t);                   \
+      va_end(arguments);                                  \
+    }                                                     \
+    if (is_missing(path)) return fail_missing();          \
+    find_next(#name, &next);                              \
+    if (!is_device(path)) return next(path, flags, mode); \
+    lock_table();                                         \
+    const int descriptor = next(path, flags, mode);       \
+    if (descriptor < 0) give_place_back();                \
+    unlock_table();                                       \
+    return descriptor;                                    \
   }
 
-#define GUARDED_CHECKED_OPEN(name)                   \
-  EXPORTED int name(const char *path, int flags) {   \
-    checked_open_function *next;                     \
-    if (is_missing(path)) return fail_missing();     \
-    find_next(#name, &next);                         \
-    return give_place_back(next(path, flags), path); \
+#define GUARDED_CHECKED_OPEN(name)                  \
+  EXPORTED int name(const char *path, int flags) {  \
+    checked_open_function *next;                    \
+    if (is_missing(path)) return fail_missing();    \
+    find_next(#name, &next);                        \
+    if (!is_device(path)) return next(path, flags); \
+    lock_table();                                   \
+    const int descriptor = next(path, flags);       \
+    if (descriptor < 0) give_place_back();          \
+    unlock_table();                                 \
+    return descriptor;                              \
+  }
+
+#define GUARDED_FILE_OPEN(name)                             \
+  EXPORTED FILE *name(const char *path, const char *mode) { \
+    file_open_function *next;                               \
+    find_next(#name, &next);                                \
+    if (!is_device(path)) return next(path, mode);          \
+    lock_table();                                           \
+    FILE *const file = next(path, mode);                    \
+    unlock_table();                                         \
+    return file;                                            \
   }
 
 GUARDED_OPEN(open)
 GUARDED_OPEN(open64)
 GUARDED_CHECKED_OPEN(__open_2)
 GUARDED_CHECKED_OPEN(__open64_2)
+GUARDED_FILE_OPEN(fopen)
+GUARDED_FILE_OPEN(fopen64)
+
+EXPORTED int close(int descriptor) {
+  close_function *next;
+  find_next("close", &next);
+  lock_table();
+  const int result = next(descriptor);
+  unlock_table();
+  return result;
+}
+
+EXPORTED int fclose(FILE *file) {
+  file_close_function *next;
+  find_next("fclose", &next);
+  lock_table();
+  const int result = next(file);
+  unlock_table();
+  return result;
+}

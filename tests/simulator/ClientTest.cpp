@@ -90,6 +90,13 @@ TEST(Client, ThreadsOnTwoUnitsAllSucceed) {
   EXPECT_EQ(run.log().size(), 800u);
 }
 
+TEST(Client, ThreadsThatOpenAtOnceAreEnteredOneAfterTheOther) {
+  const trxtest::TemporaryFolder folder;
+  Program opens({TRX_MIXER_SIM, "--units", "1", "--", OPENS_AT_ONCE, kFirst}, folder);
+  EXPECT_EQ(opens.answer(), "one after the other");
+  EXPECT_EQ(opens.finish(), 0);
+}
+
 TEST(Client, ProcessesAtOnceAllSucceed) {
   SimulatorRun run(1);
   run.control("set 1 selector 0 6");
