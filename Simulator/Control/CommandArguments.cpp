@@ -9,14 +9,14 @@ namespace {
 constexpr std::size_t kLongestQuote = 40;
 constexpr std::uint32_t kHighestUnit = 1'000'000;
 
-bool isBlank(char character) { return character == ' ' || character == '\t' || character == '\r'; }
+bool IsBlank(char character) { return character == ' ' || character == '\t' || character == '\r'; }
 
 }  // namespace
 
 CommandArguments::CommandArguments(std::string_view line) {
   std::string word;
   for (const char character : line) {
-    if (!isBlank(character)) {
+    if (!IsBlank(character)) {
       word += character;
     } else if (!word.empty()) {
       words_.push_back(std::move(word));
@@ -26,35 +26,35 @@ CommandArguments::CommandArguments(std::string_view line) {
   if (!word.empty()) words_.push_back(std::move(word));
 }
 
-std::string CommandArguments::peek() const { return left() == 0 ? std::string() : words_[next_]; }
+std::string CommandArguments::Peek() const { return Left() == 0 ? std::string() : words_[next_]; }
 
-std::string CommandArguments::word() {
-  if (left() == 0) throw CommandError("something is missing; usage: " + usage_);
+std::string CommandArguments::Word() {
+  if (Left() == 0) throw CommandError("something is missing; usage: " + usage_);
   return words_[next_++];
 }
 
-std::uint32_t CommandArguments::number(std::uint32_t highest) {
-  const std::string text = word();
-  const std::optional<std::uint32_t> number = parseNumber(text, 0, highest);
+std::uint32_t CommandArguments::Number(std::uint32_t highest) {
+  const std::string text = Word();
+  const std::optional<std::uint32_t> number = ParseNumber(text, 0, highest);
   if (number) return *number;
-  throw CommandError(quoted(text) + " is not a number from 0 to " + std::to_string(highest) +
+  throw CommandError(Quoted(text) + " is not a number from 0 to " + std::to_string(highest) +
                      "; usage: " + usage_);
 }
 
-int CommandArguments::unit() {
-  const std::string text = word();
-  const std::optional<std::uint32_t> number = parseNumber(text, 10, kHighestUnit);
+int CommandArguments::Unit() {
+  const std::string text = Word();
+  const std::optional<std::uint32_t> number = ParseNumber(text, 10, kHighestUnit);
   if (number && *number > 0) return static_cast<int>(*number);
-  throw CommandError(quoted(text) + " is not a unit number; `units` lists them; usage: " + usage_);
+  throw CommandError(Quoted(text) + " is not a unit number; `units` lists them; usage: " + usage_);
 }
 
-void CommandArguments::end() const {
-  if (left() != 0) {
-    throw CommandError(quoted(peek()) + " is too much; usage: " + usage_);
+void CommandArguments::End() const {
+  if (Left() != 0) {
+    throw CommandError(Quoted(Peek()) + " is too much; usage: " + usage_);
   }
 }
 
-std::string quoted(std::string_view word) {
+std::string Quoted(std::string_view word) {
   std::string text = "\"";
   for (const char character : word.substr(0, kLongestQuote)) {
     const bool printable = character >= ' ' && character <= '~';
@@ -63,7 +63,7 @@ std::string quoted(std::string_view word) {
   return text + (word.size() > kLongestQuote ? "...\"" : "\"");
 }
 
-std::optional<std::uint32_t> parseNumber(std::string word, int base, std::uint32_t highest) {
+std::optional<std::uint32_t> ParseNumber(std::string word, int base, std::uint32_t highest) {
   if (base == 0) {
     const bool hexadecimal = word.starts_with("0x") || word.starts_with("0X");
     if (hexadecimal) word.erase(0, 2);

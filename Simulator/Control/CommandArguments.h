@@ -22,25 +22,25 @@ class CommandArguments {
   explicit CommandArguments(std::string_view line);
 
   /// Sets the usage line that messages quote from now on.
-  void setUsage(std::string usage) { usage_ = std::move(usage); }
+  void SetUsage(std::string usage) { usage_ = std::move(usage); }
 
   /// How many words are left.
-  std::size_t left() const { return words_.size() - next_; }
+  std::size_t Left() const { return words_.size() - next_; }
 
   /// The next word without taking it; empty when none is left.
-  std::string peek() const;
+  std::string Peek() const;
 
   /// Takes the next word.
-  std::string word();
+  std::string Word();
 
   /// Takes a number from 0 to `highest`, decimal or 0x hexadecimal.
-  std::uint32_t number(std::uint32_t highest);
+  std::uint32_t Number(std::uint32_t highest);
 
   /// Takes a unit number.
-  int unit();
+  int Unit();
 
   /// Throws if a word is left.
-  void end() const;
+  void End() const;
 
  private:
   std::vector<std::string> words_;
@@ -49,10 +49,10 @@ class CommandArguments {
 };
 
 /// `word` fit for a message: printable characters only, and not long.
-std::string quoted(std::string_view word);
+std::string Quoted(std::string_view word);
 
 /// A whole word as a number in `base` (0: decimal, or hexadecimal after 0x); nothing unless all of
 /// it is one that is not above `highest`.
-std::optional<std::uint32_t> parseNumber(std::string word, int base, std::uint32_t highest);
+std::optional<std::uint32_t> ParseNumber(std::string word, int base, std::uint32_t highest);
 
 }  // namespace trxsim

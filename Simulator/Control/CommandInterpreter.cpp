@@ -38,40 +38,40 @@ struct Setting {
   std::function<void(MixerState &)> (*read)(CommandArguments &);
 };
 
-std::string hex(std::uint32_t value, int digits) {
+std::string Hex(std::uint32_t value, int digits) {
   char text[16];
   std::snprintf(text, sizeof text, "%0*x", digits, value);
   return text;
 }
 
 template <typename Bytes>
-std::string hexBytes(const Bytes &bytes) {
+std::string HexBytes(const Bytes &bytes) {
   std::string text;
-  for (const std::uint8_t byte : bytes) text += ' ' + hex(byte, 2);
+  for (const std::uint8_t byte : bytes) text += ' ' + Hex(byte, 2);
   return text;
 }
 
-std::string addressText(const std::optional<BusAddress> &address) {
+std::string AddressText(const std::optional<BusAddress> &address) {
   if (!address) return "unplugged";
   char text[48];
   std::snprintf(text, sizeof text, "plugged %03d/%03d", address->bus, address->device);
   return text;
 }
 
-std::string identityText(const UsbIdentity &identity) {
-  return (identity.isMixer ? "mixer " : "stranger ") + hex(identity.vendor, 4) + ':' +
-         hex(identity.product, 4);
+std::string IdentityText(const UsbIdentity &identity) {
+  return (identity.isMixer ? "mixer " : "stranger ") + Hex(identity.vendor, 4) + ':' +
+         Hex(identity.product, 4);
 }
 
 // --- set -------------------------------------------------------------------------------------
 
-std::uint8_t byteArgument(CommandArguments &arguments) {
-  return static_cast<std::uint8_t>(arguments.number(0xFF));
+std::uint8_t ByteArgument(CommandArguments &arguments) {
+  return static_cast<std::uint8_t>(arguments.Number(0xFF));
 }
 
-std::function<void(MixerState &)> readSelector(CommandArguments &arguments) {
-  const std::uint32_t channel = arguments.number(kMostChannels - 1);
-  const std::uint8_t position = byteArgument(arguments);
+std::function<void(MixerState &)> ReadSelector(CommandArguments &arguments) {
+  const std::uint32_t channel = arguments.Number(kMostChannels - 1);
+  const std::uint8_t position = ByteArgument(arguments);
   return [channel, position](MixerState &state) {
     if (channel >= state.selectors.size()) {
       throw CommandError("the mixer has channels 0 to " +
@@ -82,266 +82,266 @@ std::function<void(MixerState &)> readSelector(CommandArguments &arguments) {
   };
 }
 
-std::function<void(MixerState &)> readChannels(CommandArguments &arguments) {
-  const std::uint32_t count = arguments.number(kMostChannels);
+std::function<void(MixerState &)> ReadChannels(CommandArguments &arguments) {
+  const std::uint32_t count = arguments.Number(kMostChannels);
   if (count == 0) throw CommandError("a mixer has at least one channel");
   return [count](MixerState &state) { state.selectors.resize(count, 0); };
 }
 
-std::function<void(MixerState &)> readLeadingByte(CommandArguments &arguments) {
-  const std::uint8_t value = byteArgument(arguments);
+std::function<void(MixerState &)> ReadLeadingByte(CommandArguments &arguments) {
+  const std::uint8_t value = ByteArgument(arguments);
   return [value](MixerState &state) { state.leadingByte = value; };
 }
 
-std::function<void(MixerState &)> readSerato(CommandArguments &arguments) {
-  const std::uint8_t first = byteArgument(arguments);
-  const std::uint8_t second = arguments.left() > 0 ? byteArgument(arguments) : std::uint8_t{0};
+std::function<void(MixerState &)> ReadSerato(CommandArguments &arguments) {
+  const std::uint8_t first = ByteArgument(arguments);
+  const std::uint8_t second = arguments.Left() > 0 ? ByteArgument(arguments) : std::uint8_t{0};
   return [first, second](MixerState &state) { state.serato = {first, second}; };
 }
 
-std::function<void(MixerState &)> readPort(CommandArguments &arguments) {
-  const std::uint8_t first = byteArgument(arguments);
-  const std::uint8_t second = byteArgument(arguments);
+std::function<void(MixerState &)> ReadPort(CommandArguments &arguments) {
+  const std::uint8_t first = ByteArgument(arguments);
+  const std::uint8_t second = ByteArgument(arguments);
   return [first, second](MixerState &state) { state.port = {first, second}; };
 }
 
-std::function<void(MixerState &)> readFirmware(CommandArguments &arguments) {
-  const std::uint32_t value = arguments.number(0xFFFF);
+std::function<void(MixerState &)> ReadFirmware(CommandArguments &arguments) {
+  const std::uint32_t value = arguments.Number(0xFFFF);
   return [value](MixerState &state) { state.firmware = static_cast<std::uint16_t>(value); };
 }
 
-std::function<void(MixerState &)> readCertify(CommandArguments &arguments) {
-  const std::uint32_t value = arguments.number(0xFFFF'FFFF);
+std::function<void(MixerState &)> ReadCertify(CommandArguments &arguments) {
+  const std::uint32_t value = arguments.Number(0xFFFF'FFFF);
   return [value](MixerState &state) { state.certify = value; };
 }
 
 constexpr std::array<Setting, 7> kSettings{{
     {"selector", "set N selector CHANNEL VALUE", "input selector of a channel, channels from 0",
-     readSelector},
+     ReadSelector},
     {"channels", "set N channels COUNT", "how many channels the mixer has (4 at first)",
-     readChannels},
+     ReadChannels},
     {"reply-leading-byte", "set N reply-leading-byte VALUE", "the byte before the selectors",
-     readLeadingByte},
-    {"serato", "set N serato A [B]", "the two Serato bytes (B: 0)", readSerato},
-    {"port", "set N port A B", "the two port state bytes", readPort},
-    {"firmware", "set N firmware VALUE", "firmware version, 16 bits", readFirmware},
-    {"certify", "set N certify VALUE", "certify level, 32 bits", readCertify},
+     ReadLeadingByte},
+    {"serato", "set N serato A [B]", "the two Serato bytes (B: 0)", ReadSerato},
+    {"port", "set N port A B", "the two port state bytes", ReadPort},
+    {"firmware", "set N firmware VALUE", "firmware version, 16 bits", ReadFirmware},
+    {"certify", "set N certify VALUE", "certify level, 32 bits", ReadCertify},
 }};
 
-Lines runSet(Context &context) {
-  const int number = context.arguments.unit();
-  const std::string word = context.arguments.word();
+Lines RunSet(Context &context) {
+  const int number = context.arguments.Unit();
+  const std::string word = context.arguments.Word();
   for (const Setting &setting : kSettings) {
     if (setting.word != word) continue;
-    context.arguments.setUsage(std::string(setting.usage));
+    context.arguments.SetUsage(std::string(setting.usage));
     const auto edit = setting.read(context.arguments);
-    context.arguments.end();
-    context.desk.change(number, edit);
+    context.arguments.End();
+    context.desk.Change(number, edit);
     return {};
   }
-  throw CommandError("a mixer has no setting " + quoted(word) + "; `help` lists them");
+  throw CommandError("a mixer has no setting " + Quoted(word) + "; `help` lists them");
 }
 
 // --- units -----------------------------------------------------------------------------------
 
-Lines runUnits(Context &context) {
-  context.arguments.end();
+Lines RunUnits(Context &context) {
+  context.arguments.End();
   Lines lines;
-  for (const auto &[number, unit] : context.desk.units()) {
-    lines.push_back(std::to_string(number) + "  " + identityText(unit.identity) + "  " +
-                    addressText(unit.address) + "  faults " + unit.faults.text());
+  for (const auto &[number, unit] : context.desk.Units()) {
+    lines.push_back(std::to_string(number) + "  " + IdentityText(unit.identity) + "  " +
+                    AddressText(unit.address) + "  faults " + unit.faults.Text());
   }
   return lines;
 }
 
-std::uint16_t idArgument(const std::string &text, const std::string &whole) {
-  const std::optional<std::uint32_t> number = parseNumber(text, 16, 0xFFFF);
+std::uint16_t IdArgument(const std::string &text, const std::string &whole) {
+  const std::optional<std::uint32_t> number = ParseNumber(text, 16, 0xFFFF);
   if (number && text.size() == 4) return static_cast<std::uint16_t>(*number);
-  throw CommandError(quoted(whole) +
+  throw CommandError(Quoted(whole) +
                      " is not VENDOR:PRODUCT with four hexadecimal digits each; for example " +
                      "`plug 1234:0001`");
 }
 
-Lines runPlug(Context &context) {
-  if (context.arguments.left() == 0) return {std::to_string(context.desk.plugMixer())};
-  const std::string ids = context.arguments.word();
-  context.arguments.end();
+Lines RunPlug(Context &context) {
+  if (context.arguments.Left() == 0) return {std::to_string(context.desk.PlugMixer())};
+  const std::string ids = context.arguments.Word();
+  context.arguments.End();
   const std::size_t colon = std::min(ids.find(':'), ids.size());
   const std::string product = colon < ids.size() ? ids.substr(colon + 1) : "";
   return {std::to_string(
-      context.desk.plugStranger(idArgument(ids.substr(0, colon), ids), idArgument(product, ids)))};
+      context.desk.PlugStranger(IdArgument(ids.substr(0, colon), ids), IdArgument(product, ids)))};
 }
 
-Lines runUnplug(Context &context) {
-  const int number = context.arguments.unit();
-  context.arguments.end();
-  context.desk.unplug(number);
+Lines RunUnplug(Context &context) {
+  const int number = context.arguments.Unit();
+  context.arguments.End();
+  context.desk.Unplug(number);
   return {};
 }
 
-Lines runReplug(Context &context) {
-  const int number = context.arguments.unit();
-  context.arguments.end();
-  context.desk.replug(number);
+Lines RunReplug(Context &context) {
+  const int number = context.arguments.Unit();
+  context.arguments.End();
+  context.desk.Replug(number);
   return {};
 }
 
-void addMixerLines(Lines &lines, const Mixer &mixer) {
-  const MixerState &state = mixer.state();
-  lines.push_back("selectors " + hex(state.leadingByte, 2) + hexBytes(state.selectors));
-  lines.push_back("serato" + hexBytes(state.serato));
-  lines.push_back("port" + hexBytes(state.port));
-  lines.push_back("firmware 0x" + hex(state.firmware, 4));
-  lines.push_back("certify 0x" + hex(state.certify, 8));
-  for (const RequestEntry &entry : requestTable()) {
-    if (entry.isRead()) continue;
-    const std::optional<std::uint16_t> value = mixer.lastWritten(entry.id);
+void AddMixerLines(Lines &lines, const Mixer &mixer) {
+  const MixerState &state = mixer.State();
+  lines.push_back("selectors " + Hex(state.leadingByte, 2) + HexBytes(state.selectors));
+  lines.push_back("serato" + HexBytes(state.serato));
+  lines.push_back("port" + HexBytes(state.port));
+  lines.push_back("firmware 0x" + Hex(state.firmware, 4));
+  lines.push_back("certify 0x" + Hex(state.certify, 8));
+  for (const RequestEntry &entry : RequestTable()) {
+    if (entry.IsRead()) continue;
+    const std::optional<std::uint16_t> value = mixer.LastWritten(entry.id);
     lines.push_back("written " + std::string(entry.word) + ' ' +
-                    (value ? "0x" + hex(*value, 4) : "never"));
+                    (value ? "0x" + Hex(*value, 4) : "never"));
   }
 }
 
-Lines runGet(Context &context) {
-  const int number = context.arguments.unit();
-  context.arguments.end();
-  const Unit unit = context.desk.unit(number);
-  Lines lines{identityText(unit.identity), addressText(unit.address),
-              "faults " + unit.faults.text()};
-  if (unit.mixer) addMixerLines(lines, *unit.mixer);
+Lines RunGet(Context &context) {
+  const int number = context.arguments.Unit();
+  context.arguments.End();
+  const Unit unit = context.desk.UnitOf(number);
+  Lines lines{IdentityText(unit.identity), AddressText(unit.address),
+              "faults " + unit.faults.Text()};
+  if (unit.mixer) AddMixerLines(lines, *unit.mixer);
   return lines;
 }
 
 // --- faults ----------------------------------------------------------------------------------
 
-std::string requestWords() {
+std::string RequestWords() {
   std::string words;
-  for (const RequestEntry &entry : requestTable()) {
+  for (const RequestEntry &entry : RequestTable()) {
     words += (words.empty() ? "" : ", ") + std::string(entry.word);
   }
   return words;
 }
 
-std::optional<RequestId> requestArgument(CommandArguments &arguments) {
-  if (arguments.left() == 0) return std::nullopt;
-  const std::string word = arguments.word();
-  const std::optional<RequestId> request = requestNamed(word);
+std::optional<RequestId> RequestArgument(CommandArguments &arguments) {
+  if (arguments.Left() == 0) return std::nullopt;
+  const std::string word = arguments.Word();
+  const std::optional<RequestId> request = RequestNamed(word);
   if (!request) {
-    throw CommandError("there is no request " + quoted(word) + "; requests: " + requestWords());
+    throw CommandError("there is no request " + Quoted(word) + "; requests: " + RequestWords());
   }
   return request;
 }
 
-void setRequestFault(Context &context, int number, RequestFaultKind kind) {
+void SetRequestFault(Context &context, int number, RequestFaultKind kind) {
   RequestFault fault{kind, 0};
-  if (kind == RequestFaultKind::Short) {
-    fault.bytes = static_cast<std::uint16_t>(context.arguments.number(0xFFFF));
+  if (kind == RequestFaultKind::kShort) {
+    fault.bytes = static_cast<std::uint16_t>(context.arguments.Number(0xFFFF));
   }
-  const std::optional<RequestId> request = requestArgument(context.arguments);
-  context.arguments.end();
-  context.desk.setFault(number, request, fault);
+  const std::optional<RequestId> request = RequestArgument(context.arguments);
+  context.arguments.End();
+  context.desk.SetFault(number, request, fault);
 }
 
-Lines runFault(Context &context) {
-  const int number = context.arguments.unit();
-  const std::string word = context.arguments.word();
-  if (const std::optional<RequestFaultKind> kind = requestFaultNamed(word)) {
-    setRequestFault(context, number, *kind);
-  } else if (const std::optional<OpenFault> fault = openFaultNamed(word)) {
-    context.arguments.end();
-    context.desk.setFault(number, *fault);
+Lines RunFault(Context &context) {
+  const int number = context.arguments.Unit();
+  const std::string word = context.arguments.Word();
+  if (const std::optional<RequestFaultKind> kind = RequestFaultNamed(word)) {
+    SetRequestFault(context, number, *kind);
+  } else if (const std::optional<OpenFault> fault = OpenFaultNamed(word)) {
+    context.arguments.End();
+    context.desk.SetFault(number, *fault);
   } else {
-    throw CommandError("there is no fault " + quoted(word) +
+    throw CommandError("there is no fault " + Quoted(word) +
                        "; faults: stall, short K, no-reply, vanish, refuse, deny, hold");
   }
   return {};
 }
 
-Lines runClear(Context &context) {
-  const int number = context.arguments.unit();
-  context.arguments.end();
-  context.desk.clearFaults(number);
+Lines RunClear(Context &context) {
+  const int number = context.arguments.Unit();
+  context.arguments.End();
+  context.desk.ClearFaults(number);
   return {};
 }
 
 // --- the rest --------------------------------------------------------------------------------
 
-Lines runLog(Context &context) {
-  if (context.arguments.left() == 0) return context.desk.log();
-  const std::string word = context.arguments.word();
-  context.arguments.end();
-  if (word != "clear") throw CommandError(quoted(word) + " is not known; usage: log [clear]");
-  context.desk.clearLog();
+Lines RunLog(Context &context) {
+  if (context.arguments.Left() == 0) return context.desk.Log();
+  const std::string word = context.arguments.Word();
+  context.arguments.End();
+  if (word != "clear") throw CommandError(Quoted(word) + " is not known; usage: log [clear]");
+  context.desk.ClearLog();
   return {};
 }
 
-Lines runEnvironment(Context &context) {
-  context.arguments.end();
+Lines RunEnvironment(Context &context) {
+  context.arguments.End();
   return context.environment;
 }
 
-Lines runHelp(Context &context);
+Lines RunHelp(Context &context);
 
 constexpr std::array<Command, 11> kCommands{{
-    {"units", "units", "all units: number, kind and ids, bus/device address, faults", runUnits},
+    {"units", "units", "all units: number, kind and ids, bus/device address, faults", RunUnits},
     {"plug", "plug [VVVV:PPPP]",
      "plug in a new mixer, or a stranger with these ids; answers its "
      "number",
-     runPlug},
-    {"unplug", "unplug N", "take unit N off the bus", runUnplug},
-    {"replug", "replug N", "plug unit N in again, under a new device number", runReplug},
-    {"set", "set N SETTING VALUE...", "change what mixer N reports (settings below)", runSet},
-    {"get", "get N", "all that unit N reports, and the value last written to each setting", runGet},
+     RunPlug},
+    {"unplug", "unplug N", "take unit N off the bus", RunUnplug},
+    {"replug", "replug N", "plug unit N in again, under a new device number", RunReplug},
+    {"set", "set N SETTING VALUE...", "change what mixer N reports (settings below)", RunSet},
+    {"get", "get N", "all that unit N reports, and the value last written to each setting", RunGet},
     {"fault", "fault N KIND [ARG] [REQUEST]", "make requests or opening fail (kinds below)",
-     runFault},
-    {"clear", "clear N", "take all faults off unit N", runClear},
-    {"log", "log [clear]", "all requests so far; with clear: forget them", runLog},
-    {"environment", "environment", "the variables that a further process needs", runEnvironment},
-    {"help", "help", "this text", runHelp},
+     RunFault},
+    {"clear", "clear N", "take all faults off unit N", RunClear},
+    {"log", "log [clear]", "all requests so far; with clear: forget them", RunLog},
+    {"environment", "environment", "the variables that a further process needs", RunEnvironment},
+    {"help", "help", "this text", RunHelp},
 }};
 
-std::string helpLine(std::string_view usage, std::string_view help) {
+std::string HelpLine(std::string_view usage, std::string_view help) {
   std::string line = "  " + std::string(usage);
   line.resize(std::max<std::size_t>(line.size() + 2, 36), ' ');
   return line + std::string(help);
 }
 
-Lines runHelp(Context &context) {
-  context.arguments.end();
+Lines RunHelp(Context &context) {
+  context.arguments.End();
   Lines lines{"Commands:"};
   for (const Command &command : kCommands) {
-    lines.push_back(helpLine(command.usage, command.help));
+    lines.push_back(HelpLine(command.usage, command.help));
   }
   lines.push_back("Settings (numbers are decimal, or hexadecimal after 0x):");
   for (const Setting &setting : kSettings) {
-    lines.push_back(helpLine(setting.usage, setting.help));
+    lines.push_back(HelpLine(setting.usage, setting.help));
   }
   lines.push_back("Faults of requests, of every one or of the REQUEST named:");
-  lines.push_back(helpLine("fault N stall [REQUEST]", "the request is refused"));
-  lines.push_back(helpLine("fault N short K [REQUEST]", "only K bytes of the reply come"));
-  lines.push_back(helpLine("fault N no-reply [REQUEST]", "the request runs into its time-out"));
-  lines.push_back(helpLine("fault N vanish [REQUEST]", "the unit is unplugged during the request"));
+  lines.push_back(HelpLine("fault N stall [REQUEST]", "the request is refused"));
+  lines.push_back(HelpLine("fault N short K [REQUEST]", "only K bytes of the reply come"));
+  lines.push_back(HelpLine("fault N no-reply [REQUEST]", "the request runs into its time-out"));
+  lines.push_back(HelpLine("fault N vanish [REQUEST]", "the unit is unplugged during the request"));
   lines.push_back("Faults of opening:");
-  lines.push_back(helpLine("fault N refuse", "nobody can open the unit"));
+  lines.push_back(HelpLine("fault N refuse", "nobody can open the unit"));
   lines.push_back(
-      helpLine("fault N deny", "no permission, as without a udev rule; root still may"));
-  lines.push_back(helpLine("fault N hold", "busy (EBUSY), except for CAP_SYS_ADMIN"));
-  lines.push_back("Requests: " + requestWords());
+      HelpLine("fault N deny", "no permission, as without a udev rule; root still may"));
+  lines.push_back(HelpLine("fault N hold", "busy (EBUSY), except for CAP_SYS_ADMIN"));
+  lines.push_back("Requests: " + RequestWords());
   return lines;
 }
 
-Lines run(Context &context) {
-  const std::string word = context.arguments.word();
+Lines Run(Context &context) {
+  const std::string word = context.arguments.Word();
   for (const Command &command : kCommands) {
     if (command.word != word) continue;
-    context.arguments.setUsage(std::string(command.usage));
+    context.arguments.SetUsage(std::string(command.usage));
     return command.run(context);
   }
-  throw CommandError("there is no command " + quoted(word) + "; `help` lists them");
+  throw CommandError("there is no command " + Quoted(word) + "; `help` lists them");
 }
 
 }  // namespace
 
-std::string CommandReply::wireText() const {
+std::string CommandReply::WireText() const {
   std::string text;
   for (const std::string &line : lines) text += line + '\n';
   return text + (refused ? "error " + error : "ok") + '\n';
@@ -350,12 +350,12 @@ std::string CommandReply::wireText() const {
 CommandInterpreter::CommandInterpreter(Desk &desk, std::vector<std::string> environment)
     : desk_(desk), environment_(std::move(environment)) {}
 
-CommandReply CommandInterpreter::execute(std::string_view line) {
+CommandReply CommandInterpreter::Execute(std::string_view line) {
   CommandArguments arguments(line);
-  arguments.setUsage("COMMAND [ARGUMENT...], `help` lists the commands");
+  arguments.SetUsage("COMMAND [ARGUMENT...], `help` lists the commands");
   Context context{desk_, environment_, arguments};
   try {
-    return {run(context), false, {}};
+    return {Run(context), false, {}};
   } catch (const CommandError &refusal) {
     return {{}, true, refusal.what()};
   } catch (const DeskError &refusal) {

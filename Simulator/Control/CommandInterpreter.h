@@ -15,7 +15,7 @@ struct CommandReply {
   std::string error;  ///< Why it was refused, with a hint.
 
   /// The reply as it goes over the control socket: the lines, then "ok" or "error TEXT".
-  std::string wireText() const;
+  std::string WireText() const;
 };
 
 /// Understands control commands and carries them out on a desk. Takes any bytes as a command. Safe
@@ -26,7 +26,7 @@ class CommandInterpreter {
   CommandInterpreter(Desk &desk, std::vector<std::string> environment);
 
   /// Carries out one command line, given without its end of line.
-  CommandReply execute(std::string_view line);
+  CommandReply Execute(std::string_view line);
 
  private:
   Desk &desk_;

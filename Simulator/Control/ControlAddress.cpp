@@ -8,16 +8,16 @@ namespace trxsim {
 
 namespace {
 
-const char *variable(const char *name) {
+const char *Variable(const char *name) {
   const char *value = std::getenv(name);
   return value != nullptr && *value != '\0' ? value : nullptr;
 }
 
 }  // namespace
 
-ControlPlace defaultControlPlace() {
+ControlPlace DefaultControlPlace() {
   // The base directory rules of desktop Linux have relative paths ignored.
-  const char *runtimeFolder = variable("XDG_RUNTIME_DIR");
+  const char *runtimeFolder = Variable("XDG_RUNTIME_DIR");
   if (runtimeFolder != nullptr && *runtimeFolder == '/') {
     return {runtimeFolder, std::string(runtimeFolder) + "/trx-mixer-sim.sock", false};
   }
@@ -25,9 +25,9 @@ ControlPlace defaultControlPlace() {
   return {folder, folder + "/control.sock", true};
 }
 
-std::string clientControlSocket() {
-  const char *given = variable(kControlVariable);
-  return given != nullptr ? given : defaultControlPlace().socket;
+std::string ClientControlSocket() {
+  const char *given = Variable(kControlVariable);
+  return given != nullptr ? given : DefaultControlPlace().socket;
 }
 
 }  // namespace trxsim

@@ -16,10 +16,10 @@ struct ControlPlace {
 
 /// The place that a simulator takes when nothing else is said: in the user's runtime folder, else
 /// in a folder of the user's own under /tmp.
-ControlPlace defaultControlPlace();
+ControlPlace DefaultControlPlace();
 
 /// The control socket that a client talks to when nothing else is said: that of the simulator it
 /// runs under, else the default one.
-std::string clientControlSocket();
+std::string ClientControlSocket();
 
 }  // namespace trxsim

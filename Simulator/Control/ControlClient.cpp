@@ -17,38 +17,38 @@ constexpr std::string_view kRefused = "error ";
 }  // namespace
 
 ControlClient::ControlClient(const std::string &path)
-    : path_(path), socket_(connectUnixSocket(path)) {
+    : path_(path), socket_(ConnectUnixSocket(path)) {
   if (!socket_) {
     throw SimulatorUnreachable("no simulator answers at " + path + ": " + std::strerror(errno));
   }
 }
 
-std::vector<std::string> ControlClient::ask(const std::string &command) {
+std::vector<std::string> ControlClient::Ask(const std::string &command) {
   if (command.find('\n') != std::string::npos) {
     throw CommandRefused("a command is one line");
   }
-  send(command + '\n');
+  Send(command + '\n');
   std::vector<std::string> lines;
   for (;;) {
-    std::string line = receiveLine();
+    std::string line = ReceiveLine();
     if (line == kDone) return lines;
     if (line.starts_with(kRefused)) throw CommandRefused(line.substr(kRefused.size()));
     lines.push_back(std::move(line));
   }
 }
 
-void ControlClient::send(const std::string &line) {
+void ControlClient::Send(const std::string &line) {
   std::size_t sent = 0;
   while (sent < line.size()) {
     const ssize_t count =
-        ::send(socket_.get(), line.data() + sent, line.size() - sent, MSG_NOSIGNAL);
+        ::send(socket_.Get(), line.data() + sent, line.size() - sent, MSG_NOSIGNAL);
     if (count < 0 && errno == EINTR) continue;
     if (count <= 0) throw SimulatorUnreachable("the simulator at " + path_ + " went away");
     sent += static_cast<std::size_t>(count);
   }
 }
 
-std::string ControlClient::receiveLine() {
+std::string ControlClient::ReceiveLine() {
   for (;;) {
     const std::size_t end = received_.find('\n');
     if (end != std::string::npos) {
@@ -57,7 +57,7 @@ std::string ControlClient::receiveLine() {
       return line;
     }
     char buffer[4096];
-    const ssize_t count = recv(socket_.get(), buffer, sizeof buffer, 0);
+    const ssize_t count = recv(socket_.Get(), buffer, sizeof buffer, 0);
     if (count < 0 && errno == EINTR) continue;
     if (count <= 0) throw SimulatorUnreachable("the simulator at " + path_ + " went away");
     received_.append(buffer, static_cast<std::size_t>(count));

@@ -28,11 +28,11 @@ class ControlClient {
 
   /// Sends one command line and returns the lines of the reply. Throws `CommandRefused`, or
   /// `SimulatorUnreachable` when the connection breaks.
-  std::vector<std::string> ask(const std::string &command);
+  std::vector<std::string> Ask(const std::string &command);
 
  private:
-  void send(const std::string &line);
-  std::string receiveLine();
+  void Send(const std::string &line);
+  std::string ReceiveLine();
 
   std::string path_;
   Descriptor socket_;

@@ -20,7 +20,7 @@ constexpr std::size_t kLongestLine = 4096;
 // Keeps one runaway client from using up the descriptors of the simulator; further clients wait.
 constexpr std::size_t kMostConnections = 100;
 
-bool mustWait() { return errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR; }
+bool MustWait() { return errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR; }
 
 }  // namespace
 
@@ -30,7 +30,7 @@ ControlServer::ControlServer(Descriptor listener, CommandInterpreter &interprete
   if (pipe2(ends, O_CLOEXEC) != 0) throw std::system_error(errno, std::generic_category(), "pipe");
   stopRead_ = Descriptor(ends[0]);
   stopWrite_ = Descriptor(ends[1]);
-  thread_ = std::thread(&ControlServer::serve, this);
+  thread_ = std::thread(&ControlServer::Serve, this);
 }
 
 ControlServer::~ControlServer() {
@@ -38,14 +38,14 @@ ControlServer::~ControlServer() {
   thread_.join();
 }
 
-void ControlServer::serve() {
+void ControlServer::Serve() {
   for (;;) {
-    const int listener = connections_.size() < kMostConnections ? listener_.get() : -1;
-    std::vector<pollfd> polled{{stopRead_.get(), POLLIN, 0}, {listener, POLLIN, 0}};
+    const int listener = connections_.size() < kMostConnections ? listener_.Get() : -1;
+    std::vector<pollfd> polled{{stopRead_.Get(), POLLIN, 0}, {listener, POLLIN, 0}};
     for (const Connection &connection : connections_) {
       // A client that does not read its replies is not listened to either.
       const short events = connection.output.empty() ? POLLIN : POLLOUT;
-      polled.push_back({connection.socket.get(), events, 0});
+      polled.push_back({connection.socket.Get(), events, 0});
     }
     if (poll(polled.data(), polled.size(), -1) < 0) continue;
     if (polled[0].revents != 0) return;
@@ -53,36 +53,36 @@ void ControlServer::serve() {
     for (Connection &connection : connections_) {
       const short happened = polled[place++].revents;
       if ((happened & POLLOUT) != 0) {
-        send(connection);
-        answerLines(connection);
+        Send(connection);
+        AnswerLines(connection);
       } else if (happened != 0) {
-        receive(connection);
+        Receive(connection);
       }
     }
     connections_.remove_if([](const Connection &one) { return one.closing && one.output.empty(); });
-    if (polled[1].revents != 0) accept();
+    if (polled[1].revents != 0) Accept();
   }
 }
 
-void ControlServer::accept() {
-  Descriptor socket(accept4(listener_.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+void ControlServer::Accept() {
+  Descriptor socket(accept4(listener_.Get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
   if (socket) connections_.push_back({std::move(socket), {}, {}, false});
 }
 
-void ControlServer::receive(Connection &connection) {
+void ControlServer::Receive(Connection &connection) {
   char buffer[4096];
-  const ssize_t count = recv(connection.socket.get(), buffer, sizeof buffer, 0);
-  if (count < 0 && mustWait()) return;
+  const ssize_t count = recv(connection.socket.Get(), buffer, sizeof buffer, 0);
+  if (count < 0 && MustWait()) return;
   if (count <= 0) {
     connection.closing = true;
     connection.output.clear();
     return;
   }
   connection.input.append(buffer, static_cast<std::size_t>(count));
-  answerLines(connection);
+  AnswerLines(connection);
 }
 
-void ControlServer::answerLines(Connection &connection) {
+void ControlServer::AnswerLines(Connection &connection) {
   while (connection.output.empty() && !connection.closing) {
     const std::size_t end = connection.input.find('\n');
     if (std::min(end, connection.input.size()) > kLongestLine) {
@@ -92,19 +92,19 @@ void ControlServer::answerLines(Connection &connection) {
     } else if (end == std::string::npos) {
       return;
     } else {
-      connection.output = interpreter_.execute(connection.input.substr(0, end)).wireText();
+      connection.output = interpreter_.Execute(connection.input.substr(0, end)).WireText();
       connection.input.erase(0, end + 1);
     }
-    send(connection);
+    Send(connection);
   }
 }
 
-void ControlServer::send(Connection &connection) {
-  const ssize_t count = ::send(connection.socket.get(), connection.output.data(),
+void ControlServer::Send(Connection &connection) {
+  const ssize_t count = ::send(connection.socket.Get(), connection.output.data(),
                                connection.output.size(), MSG_NOSIGNAL);
   if (count >= 0) {
     connection.output.erase(0, static_cast<std::size_t>(count));
-  } else if (!mustWait()) {
+  } else if (!MustWait()) {
     connection.closing = true;
     connection.output.clear();
   }

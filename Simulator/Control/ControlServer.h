@@ -28,11 +28,11 @@ class ControlServer {
     bool closing = false;  ///< Nothing more is read; closed once the output is out.
   };
 
-  void serve();
-  void accept();
-  void receive(Connection &connection);
-  void answerLines(Connection &connection);
-  static void send(Connection &connection);
+  void Serve();
+  void Accept();
+  void Receive(Connection &connection);
+  void AnswerLines(Connection &connection);
+  static void Send(Connection &connection);
 
   Descriptor listener_;
   CommandInterpreter &interpreter_;

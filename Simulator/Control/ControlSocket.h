@@ -18,24 +18,24 @@ class ControlSocketError : public std::runtime_error {
 class ControlSocket {
  public:
   /// At `path`. Throws `ControlSocketError`, also when a live simulator listens there.
-  static ControlSocket at(const std::string &path);
+  static ControlSocket At(const std::string &path);
 
   /// At the default place; when a live simulator has that, in a private folder of its own.
-  static ControlSocket atDefaultPlace();
+  static ControlSocket AtDefaultPlace();
 
   ~ControlSocket();
   ControlSocket(const ControlSocket &) = delete;
   ControlSocket &operator=(const ControlSocket &) = delete;
 
   /// Its path.
-  const std::string &path() const { return path_; }
+  const std::string &Path() const { return path_; }
 
   /// True when it is neither at a place that was asked for nor at the default one.
-  bool isPrivate() const { return isPrivate_; }
+  bool IsPrivate() const { return isPrivate_; }
 
   /// The listening socket for a server, a descriptor of its own. This one stays open as well: until
   /// the file is gone, nobody may take it for a dead simulator's.
-  Descriptor listener() const;
+  Descriptor Listener() const;
 
  private:
   ControlSocket(std::string path, std::string ownFolder, bool isPrivate);

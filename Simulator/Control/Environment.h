@@ -11,9 +11,9 @@ using Environment = std::vector<std::string>;
 
 /// The environment of this process with `additions` put in. A variable that is a list (LD_PRELOAD,
 /// ASAN_OPTIONS) keeps what it had and gets the addition at its end; others are replaced.
-Environment environmentWith(const Environment &additions);
+Environment EnvironmentWith(const Environment &additions);
 
 /// Pointers to the strings of `environment`, with a null at the end, as exec wants them.
-std::vector<char *> execVector(std::vector<std::string> &strings);
+std::vector<char *> ExecVector(std::vector<std::string> &strings);
 
 }  // namespace trxsim

@@ -12,7 +12,7 @@ namespace trxsim {
 
 namespace {
 
-std::optional<sockaddr_un> addressOf(const std::string &path) {
+std::optional<sockaddr_un> AddressOf(const std::string &path) {
   sockaddr_un address{};
   if (path.empty() || path.size() >= sizeof address.sun_path) {
     errno = ENAMETOOLONG;
@@ -23,7 +23,7 @@ std::optional<sockaddr_un> addressOf(const std::string &path) {
   return address;
 }
 
-const sockaddr *generic(const sockaddr_un &address) {
+const sockaddr *Generic(const sockaddr_un &address) {
   return reinterpret_cast<const sockaddr *>(&address);
 }
 
@@ -33,22 +33,22 @@ Descriptor::~Descriptor() {
   if (number_ >= 0) close(number_);
 }
 
-Descriptor connectUnixSocket(const std::string &path) {
-  const std::optional<sockaddr_un> address = addressOf(path);
+Descriptor ConnectUnixSocket(const std::string &path) {
+  const std::optional<sockaddr_un> address = AddressOf(path);
   if (!address) return Descriptor();
   Descriptor socketEnd(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
   if (!socketEnd) return Descriptor();
-  if (connect(socketEnd.get(), generic(*address), sizeof *address) != 0) return Descriptor();
+  if (connect(socketEnd.Get(), Generic(*address), sizeof *address) != 0) return Descriptor();
   return socketEnd;
 }
 
-Descriptor listenUnixSocket(const std::string &path) {
-  const std::optional<sockaddr_un> address = addressOf(path);
+Descriptor ListenUnixSocket(const std::string &path) {
+  const std::optional<sockaddr_un> address = AddressOf(path);
   if (!address) return Descriptor();
   Descriptor listener(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
   if (!listener) return Descriptor();
-  if (bind(listener.get(), generic(*address), sizeof *address) != 0) return Descriptor();
-  if (listen(listener.get(), SOMAXCONN) != 0) return Descriptor();
+  if (bind(listener.Get(), Generic(*address), sizeof *address) != 0) return Descriptor();
+  if (listen(listener.Get(), SOMAXCONN) != 0) return Descriptor();
   return listener;
 }
 

@@ -19,7 +19,7 @@ class Descriptor {
   ~Descriptor();
 
   /// The descriptor itself, -1 when there is none.
-  int get() const { return number_; }
+  int Get() const { return number_; }
   explicit operator bool() const { return number_ >= 0; }
 
  private:
@@ -27,9 +27,9 @@ class Descriptor {
 };
 
 /// A stream socket connected to `path`; none, with errno set, when nobody answers there.
-Descriptor connectUnixSocket(const std::string &path);
+Descriptor ConnectUnixSocket(const std::string &path);
 
 /// A non-blocking stream socket that listens at `path`; none, with errno set, on failure.
-Descriptor listenUnixSocket(const std::string &path);
+Descriptor ListenUnixSocket(const std::string &path);
 
 }  // namespace trxsim

@@ -33,23 +33,23 @@ constexpr const char *kExamples =
     "Exit codes: 0 done, 1 refused by the simulator, 2 usage, 3 no simulator reachable;\n"
     "run: that of the program, 126 or 127 if it cannot be started.\n";
 
-int runProgram(trxsim::ControlClient &simulator, std::vector<std::string> words) {
-  std::vector<std::string> environment = trxsim::environmentWith(simulator.ask("environment"));
-  const std::vector<char *> variables = trxsim::execVector(environment);
-  const std::vector<char *> arguments = trxsim::execVector(words);
+int RunProgram(trxsim::ControlClient &simulator, std::vector<std::string> words) {
+  std::vector<std::string> environment = trxsim::EnvironmentWith(simulator.Ask("environment"));
+  const std::vector<char *> variables = trxsim::ExecVector(environment);
+  const std::vector<char *> arguments = trxsim::ExecVector(words);
   execvpe(arguments[0], arguments.data(), variables.data());
   std::fprintf(stderr, "trx-mixer-ctl: cannot run %s: %s\n", arguments[0], std::strerror(errno));
   return errno == ENOENT ? kNotFound : kNoExec;
 }
 
-int sendCommand(trxsim::ControlClient &simulator, const std::vector<std::string> &words) {
+int SendCommand(trxsim::ControlClient &simulator, const std::vector<std::string> &words) {
   std::string command;
   for (const std::string &word : words) command += (command.empty() ? "" : " ") + word;
-  for (const std::string &line : simulator.ask(command)) std::printf("%s\n", line.c_str());
+  for (const std::string &line : simulator.Ask(command)) std::printf("%s\n", line.c_str());
   return kDone;
 }
 
-int talk(const std::string &socket, std::vector<std::string> words) {
+int Talk(const std::string &socket, std::vector<std::string> words) {
   const bool run = words[0] == "run";
   if (run) {
     words.erase(words.begin());
@@ -60,16 +60,16 @@ int talk(const std::string &socket, std::vector<std::string> words) {
     return kUsage;
   }
   trxsim::ControlClient simulator(socket);
-  return run ? runProgram(simulator, std::move(words)) : sendCommand(simulator, words);
+  return run ? RunProgram(simulator, std::move(words)) : SendCommand(simulator, words);
 }
 
-int runTool(int argc, char **argv) {
+int RunTool(int argc, char **argv) {
   CLI::App app("Control running software mixers.", "trx-mixer-ctl");
   app.formatter(
       std::make_shared<trxsim::UsageFormatter>("trx-mixer-ctl [OPTIONS] COMMAND [ARGUMENT...]"));
   app.footer(kExamples);
   app.prefix_command();
-  std::string socket = trxsim::clientControlSocket();
+  std::string socket = trxsim::ClientControlSocket();
   app.add_option("--control", socket, "control socket of the simulator")
       ->type_name("SOCKET")
       ->capture_default_str();
@@ -85,14 +85,14 @@ int runTool(int argc, char **argv) {
                  "simulator, `trx-mixer-ctl --help` shows examples.\n");
     return kUsage;
   }
-  return talk(socket, std::move(words));
+  return Talk(socket, std::move(words));
 }
 
 }  // namespace
 
 int main(int argc, char **argv) {
   try {
-    return runTool(argc, argv);
+    return RunTool(argc, argv);
   } catch (const trxsim::SimulatorUnreachable &failure) {
     std::fprintf(stderr,
                  "trx-mixer-ctl: %s\n"

@@ -14,21 +14,21 @@ struct ControlRequest {
   std::uint16_t length = 0;      ///< wLength
 
   /// True when the data stage, if any, runs from the device to the host.
-  bool isRead() const { return (requestType & 0x80) != 0; }
+  bool IsRead() const { return (requestType & 0x80) != 0; }
 };
 
 /// How one control transfer ended, seen from the host.
 enum class Outcome {
-  Done,       ///< Carried out; for a read, `TransferResult::data` holds what came back.
-  Stalled,    ///< The device refused the request.
-  NoReply,    ///< The device keeps silent until the host's time-out.
-  Unplugged,  ///< The device went away during the request.
-  Gone,       ///< The device was gone before the request began; nothing crossed the wire.
+  kDone,       ///< Carried out; for a read, `TransferResult::data` holds what came back.
+  kStalled,    ///< The device refused the request.
+  kNoReply,    ///< The device keeps silent until the host's time-out.
+  kUnplugged,  ///< The device went away during the request.
+  kGone,       ///< The device was gone before the request began; nothing crossed the wire.
 };
 
 /// The end of one control transfer.
 struct TransferResult {
-  Outcome outcome = Outcome::Stalled;
+  Outcome outcome = Outcome::kStalled;
   std::vector<std::uint8_t> data;  ///< Bytes of the data stage of a read.
 };
 

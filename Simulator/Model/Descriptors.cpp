@@ -17,73 +17,73 @@ enum TextNumber : std::uint8_t { kNoText, kManufacturer, kProduct, kSerial };
 constexpr std::uint8_t kSelfPowered = 0xC0;
 constexpr std::uint16_t kEnglish = 0x0409;
 
-std::uint8_t low(std::size_t value) { return static_cast<std::uint8_t>(value & 0xFF); }
-std::uint8_t high(std::size_t value) { return static_cast<std::uint8_t>(value >> 8); }
+std::uint8_t Low(std::size_t value) { return static_cast<std::uint8_t>(value & 0xFF); }
+std::uint8_t High(std::size_t value) { return static_cast<std::uint8_t>(value >> 8); }
 
-const std::string &textOf(const UsbIdentity &identity, unsigned number) {
+const std::string &TextOf(const UsbIdentity &identity, unsigned number) {
   static const std::string none;
   const std::array<const std::string *, 4> texts{&none, &identity.manufacturer,
                                                  &identity.productName, &identity.serial};
   return number < texts.size() ? *texts[number] : none;
 }
 
-std::uint8_t numberOf(const UsbIdentity &identity, TextNumber text) {
-  return textOf(identity, text).empty() ? std::uint8_t{kNoText} : std::uint8_t{text};
+std::uint8_t NumberOf(const UsbIdentity &identity, TextNumber text) {
+  return TextOf(identity, text).empty() ? std::uint8_t{kNoText} : std::uint8_t{text};
 }
 
 // The control interface says that interfaces 1 and 2 belong to it; without this header the kernel's
 // driver does not take any of them.
-std::vector<std::uint8_t> audioHeader() {
+std::vector<std::uint8_t> AudioHeader() {
   return {10, kClassSpecific, kHeader, 0x00, 0x01, 10, 0, 2, 1, 2};
 }
 
-std::vector<std::uint8_t> midiHeader() { return {7, kClassSpecific, kHeader, 0x00, 0x01, 7, 0}; }
+std::vector<std::uint8_t> MidiHeader() { return {7, kClassSpecific, kHeader, 0x00, 0x01, 7, 0}; }
 
 }  // namespace
 
-const DeviceKind &rootHubKind() {
+const DeviceKind &RootHubKind() {
   static const DeviceKind hub{0x0601, 0x0200, 9, 1, "480", 16, {{9, 0, 0, "hub", {}}}};
   return hub;
 }
 
-const DeviceKind &kindOf(const UsbIdentity &identity) {
+const DeviceKind &KindOf(const UsbIdentity &identity) {
   static const DeviceKind mixer{0x0100,
                                 0x0200,
                                 0,
                                 0,
                                 "480",
                                 0,
-                                {{1, 1, 0, "snd-usb-audio", audioHeader()},
+                                {{1, 1, 0, "snd-usb-audio", AudioHeader()},
                                  {1, 2, 0, "snd-usb-audio", {}},
-                                 {1, 3, 0, "snd-usb-audio", midiHeader()}}};
+                                 {1, 3, 0, "snd-usb-audio", MidiHeader()}}};
   static const DeviceKind stranger{0x0100, 0x0200, 0, 0, "480", 0, {{0xFF, 0, 0, nullptr, {}}}};
   return identity.isMixer ? mixer : stranger;
 }
 
-std::vector<std::uint8_t> deviceDescriptor(const UsbIdentity &identity, const DeviceKind &kind) {
+std::vector<std::uint8_t> DeviceDescriptor(const UsbIdentity &identity, const DeviceKind &kind) {
   constexpr std::uint8_t kLength = 18;
   constexpr std::uint8_t kPacketSize = 64;
   return {kLength,
           kDevice,
-          low(kind.version),
-          high(kind.version),
+          Low(kind.version),
+          High(kind.version),
           kind.classCode,
           0,
           kind.protocol,
           kPacketSize,
-          low(identity.vendor),
-          high(identity.vendor),
-          low(identity.product),
-          high(identity.product),
-          low(kind.release),
-          high(kind.release),
-          numberOf(identity, kManufacturer),
-          numberOf(identity, kProduct),
-          numberOf(identity, kSerial),
+          Low(identity.vendor),
+          High(identity.vendor),
+          Low(identity.product),
+          High(identity.product),
+          Low(kind.release),
+          High(kind.release),
+          NumberOf(identity, kManufacturer),
+          NumberOf(identity, kProduct),
+          NumberOf(identity, kSerial),
           1};
 }
 
-std::vector<std::uint8_t> configurationDescriptor(const DeviceKind &kind) {
+std::vector<std::uint8_t> ConfigurationDescriptor(const DeviceKind &kind) {
   constexpr std::uint8_t kLength = 9;
   std::vector<std::uint8_t> interfaces;
   std::uint8_t number = 0;
@@ -97,17 +97,17 @@ std::vector<std::uint8_t> configurationDescriptor(const DeviceKind &kind) {
                       interface.classSpecific.end());
   }
   const std::size_t total = kLength + interfaces.size();
-  std::vector<std::uint8_t> bytes{kLength, kConfiguration, low(total), high(total), number, 1,
+  std::vector<std::uint8_t> bytes{kLength, kConfiguration, Low(total), High(total), number, 1,
                                   0,       kSelfPowered,   0};
   bytes.insert(bytes.end(), interfaces.begin(), interfaces.end());
   return bytes;
 }
 
-std::vector<std::uint8_t> stringDescriptor(const UsbIdentity &identity, unsigned number) {
-  if (number == 0) return {4, kString, low(kEnglish), high(kEnglish)};
-  const std::string &text = textOf(identity, number);
+std::vector<std::uint8_t> StringDescriptor(const UsbIdentity &identity, unsigned number) {
+  if (number == 0) return {4, kString, Low(kEnglish), High(kEnglish)};
+  const std::string &text = TextOf(identity, number);
   if (text.empty()) return {};
-  std::vector<std::uint8_t> bytes{low(2 + 2 * text.size()), kString};
+  std::vector<std::uint8_t> bytes{Low(2 + 2 * text.size()), kString};
   for (const char character : text) {
     bytes.push_back(static_cast<std::uint8_t>(character));
     bytes.push_back(0);

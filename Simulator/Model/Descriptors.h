@@ -29,19 +29,19 @@ struct DeviceKind {
 };
 
 /// The hub that the units of a simulated bus sit at.
-const DeviceKind &rootHubKind();
+const DeviceKind &RootHubKind();
 
 /// The kind of a unit.
-const DeviceKind &kindOf(const UsbIdentity &identity);
+const DeviceKind &KindOf(const UsbIdentity &identity);
 
 /// The device descriptor, as it goes over the wire.
-std::vector<std::uint8_t> deviceDescriptor(const UsbIdentity &identity, const DeviceKind &kind);
+std::vector<std::uint8_t> DeviceDescriptor(const UsbIdentity &identity, const DeviceKind &kind);
 
 /// The only configuration with its interfaces, as it goes over the wire.
-std::vector<std::uint8_t> configurationDescriptor(const DeviceKind &kind);
+std::vector<std::uint8_t> ConfigurationDescriptor(const DeviceKind &kind);
 
 /// The text with this number, as it goes over the wire; number 0 is the list of languages. Nothing
 /// when the device has no such text. Texts are ASCII.
-std::vector<std::uint8_t> stringDescriptor(const UsbIdentity &identity, unsigned number);
+std::vector<std::uint8_t> StringDescriptor(const UsbIdentity &identity, unsigned number);
 
 }  // namespace trxsim

@@ -9,152 +9,152 @@ namespace {
 
 constexpr std::uint16_t kMixerProductId = 0x001F;
 
-UsbIdentity mixerIdentity(int number) {
+UsbIdentity MixerIdentity(int number) {
   char serial[16];
   std::snprintf(serial, sizeof serial, "SIM%05d", number);
   return {MAKER_USB_VENDOR_ID, kMixerProductId, true, "Orvik Audio", "TRX-SELVA", serial};
 }
 
-UsbIdentity strangerIdentity(std::uint16_t vendor, std::uint16_t product) {
+UsbIdentity StrangerIdentity(std::uint16_t vendor, std::uint16_t product) {
   return {vendor, product, false, "", "Stranger", ""};
 }
 
-std::string unitText(int number) { return "unit " + std::to_string(number); }
+std::string UnitText(int number) { return "unit " + std::to_string(number); }
 
 }  // namespace
 
 Desk::Desk(FrontEnd &frontEnd, WireLog::Sink logSink)
     : frontEnd_(frontEnd), log_(std::move(logSink)) {}
 
-int Desk::plugMixer() {
+int Desk::PlugMixer() {
   const std::lock_guard lock(mutex_);
-  return add({mixerIdentity(static_cast<int>(units_.size()) + 1), Mixer(), {}, {}});
+  return Add({MixerIdentity(static_cast<int>(units_.size()) + 1), Mixer(), {}, {}});
 }
 
-int Desk::plugStranger(std::uint16_t vendor, std::uint16_t product) {
+int Desk::PlugStranger(std::uint16_t vendor, std::uint16_t product) {
   const std::lock_guard lock(mutex_);
-  return add({strangerIdentity(vendor, product), {}, {}, {}});
+  return Add({StrangerIdentity(vendor, product), {}, {}, {}});
 }
 
-void Desk::unplug(int number) {
+void Desk::Unplug(int number) {
   const std::lock_guard lock(mutex_);
-  Unit &unit = find(number);
-  if (!unit.address) throw DeskError(unitText(number) + " is not plugged in; `replug` does that");
-  disconnect(number, unit);
+  Unit &unit = Find(number);
+  if (!unit.address) throw DeskError(UnitText(number) + " is not plugged in; `replug` does that");
+  Disconnect(number, unit);
 }
 
-void Desk::replug(int number) {
+void Desk::Replug(int number) {
   const std::lock_guard lock(mutex_);
-  Unit &unit = find(number);
-  if (unit.address) throw DeskError(unitText(number) + " is plugged in; `unplug` it first");
-  connect(number, unit);
+  Unit &unit = Find(number);
+  if (unit.address) throw DeskError(UnitText(number) + " is plugged in; `unplug` it first");
+  Connect(number, unit);
 }
 
-void Desk::lost(int number, const BusAddress &address) {
+void Desk::Lost(int number, const BusAddress &address) {
   const std::lock_guard lock(mutex_);
-  Unit &unit = find(number);
-  if (unit.address == address) disconnect(number, unit);
+  Unit &unit = Find(number);
+  if (unit.address == address) Disconnect(number, unit);
 }
 
-std::map<int, Unit> Desk::units() const {
+std::map<int, Unit> Desk::Units() const {
   const std::lock_guard lock(mutex_);
   return units_;
 }
 
-Unit Desk::unit(int number) const {
+Unit Desk::UnitOf(int number) const {
   const std::lock_guard lock(mutex_);
-  return find(number);
+  return Find(number);
 }
 
-void Desk::change(int number, const std::function<void(MixerState &)> &edit) {
+void Desk::Change(int number, const std::function<void(MixerState &)> &edit) {
   const std::lock_guard lock(mutex_);
-  Unit &unit = find(number);
-  if (!unit.mixer) throw DeskError(unitText(number) + " is a stranger and has no settings");
-  edit(unit.mixer->state());
+  Unit &unit = Find(number);
+  if (!unit.mixer) throw DeskError(UnitText(number) + " is a stranger and has no settings");
+  edit(unit.mixer->State());
 }
 
-void Desk::setFault(int number, std::optional<RequestId> request, RequestFault fault) {
+void Desk::SetFault(int number, std::optional<RequestId> request, RequestFault fault) {
   const std::lock_guard lock(mutex_);
-  find(number).faults.set(request, fault);
+  Find(number).faults.Set(request, fault);
 }
 
-void Desk::setFault(int number, OpenFault fault) {
+void Desk::SetFault(int number, OpenFault fault) {
   const std::lock_guard lock(mutex_);
-  Unit &unit = find(number);
-  if (unit.address) frontEnd_.setOpenFault(number, fault);
-  unit.faults.set(fault);
+  Unit &unit = Find(number);
+  if (unit.address) frontEnd_.SetOpenFault(number, fault);
+  unit.faults.Set(fault);
 }
 
-void Desk::clearFaults(int number) {
+void Desk::ClearFaults(int number) {
   const std::lock_guard lock(mutex_);
-  Unit &unit = find(number);
-  if (unit.address) frontEnd_.setOpenFault(number, OpenFault::None);
-  unit.faults.clear();
+  Unit &unit = Find(number);
+  if (unit.address) frontEnd_.SetOpenFault(number, OpenFault::kNone);
+  unit.faults.Clear();
 }
 
-TransferResult Desk::transfer(int number, const ControlRequest &request) {
+TransferResult Desk::Transfer(int number, const ControlRequest &request) {
   const std::lock_guard lock(mutex_);
   // A unit that a front end could not plug in after all may have been seen by a host already.
   const auto found = units_.find(number);
-  if (found == units_.end() || !found->second.address) return {Outcome::Gone, {}};
+  if (found == units_.end() || !found->second.address) return {Outcome::kGone, {}};
   Unit &unit = found->second;
-  TransferResult result = answer(unit, request);
-  log_.add(number, request, result);
-  if (result.outcome == Outcome::Unplugged) disconnect(number, unit);
+  TransferResult result = Answer(unit, request);
+  log_.Add(number, request, result);
+  if (result.outcome == Outcome::kUnplugged) Disconnect(number, unit);
   return result;
 }
 
-std::vector<std::string> Desk::log() const {
+std::vector<std::string> Desk::Log() const {
   const std::lock_guard lock(mutex_);
-  return log_.lines();
+  return log_.Lines();
 }
 
-void Desk::clearLog() {
+void Desk::ClearLog() {
   const std::lock_guard lock(mutex_);
-  log_.clear();
+  log_.Clear();
 }
 
-Unit &Desk::find(int number) { return const_cast<Unit &>(std::as_const(*this).find(number)); }
+Unit &Desk::Find(int number) { return const_cast<Unit &>(std::as_const(*this).Find(number)); }
 
-const Unit &Desk::find(int number) const {
+const Unit &Desk::Find(int number) const {
   const auto found = units_.find(number);
   if (found == units_.end()) {
-    throw DeskError("there is no " + unitText(number) + "; `units` lists them");
+    throw DeskError("there is no " + UnitText(number) + "; `units` lists them");
   }
   return found->second;
 }
 
-int Desk::add(Unit unit) {
+int Desk::Add(Unit unit) {
   const int number = static_cast<int>(units_.size()) + 1;
-  connect(number, unit);
+  Connect(number, unit);
   units_.emplace(number, std::move(unit));
   return number;
 }
 
-void Desk::connect(int number, Unit &unit) {
-  unit.address = frontEnd_.plug(number, unit.identity, unit.faults.open());
+void Desk::Connect(int number, Unit &unit) {
+  unit.address = frontEnd_.Plug(number, unit.identity, unit.faults.Open());
 }
 
-void Desk::disconnect(int number, Unit &unit) {
-  frontEnd_.unplug(number);
+void Desk::Disconnect(int number, Unit &unit) {
+  frontEnd_.Unplug(number);
   unit.address.reset();
 }
 
-TransferResult Desk::answer(Unit &unit, const ControlRequest &request) {
-  const std::optional<RequestFault> fault = unit.faults.faultOf(requestFor(request));
+TransferResult Desk::Answer(Unit &unit, const ControlRequest &request) {
+  const std::optional<RequestFault> fault = unit.faults.FaultOf(RequestFor(request));
   if (fault) {
     switch (fault->kind) {
-      case RequestFaultKind::Stall:
-        return {Outcome::Stalled, {}};
-      case RequestFaultKind::NoReply:
-        return {Outcome::NoReply, {}};
-      case RequestFaultKind::Vanish:
-        return {Outcome::Unplugged, {}};
-      case RequestFaultKind::Short:
+      case RequestFaultKind::kStall:
+        return {Outcome::kStalled, {}};
+      case RequestFaultKind::kNoReply:
+        return {Outcome::kNoReply, {}};
+      case RequestFaultKind::kVanish:
+        return {Outcome::kUnplugged, {}};
+      case RequestFaultKind::kShort:
         break;
     }
   }
-  TransferResult result = unit.mixer ? unit.mixer->answer(request) : TransferResult{};
+  TransferResult result = unit.mixer ? unit.mixer->Answer(request) : TransferResult{};
   if (fault && result.data.size() > fault->bytes) result.data.resize(fault->bytes);
   return result;
 }

@@ -38,55 +38,55 @@ class Desk {
   Desk(FrontEnd &frontEnd, WireLog::Sink logSink = {});
 
   /// Plugs a new mixer in and returns its number.
-  int plugMixer();
+  int PlugMixer();
 
   /// Plugs in a new unit that is not one of ours and returns its number.
-  int plugStranger(std::uint16_t vendor, std::uint16_t product);
+  int PlugStranger(std::uint16_t vendor, std::uint16_t product);
 
   /// Takes a plugged unit off the bus.
-  void unplug(int number);
+  void Unplug(int number);
 
   /// Plugs a unit in again; it gets a new device number.
-  void replug(int number);
+  void Replug(int number);
 
   /// Notes that unit `number` went away by itself; nothing happens when it is not at `address` any
   /// more.
-  void lost(int number, const BusAddress &address);
+  void Lost(int number, const BusAddress &address);
 
   /// A copy of all units, by number.
-  std::map<int, Unit> units() const;
+  std::map<int, Unit> Units() const;
 
   /// A copy of one unit.
-  Unit unit(int number) const;
+  Unit UnitOf(int number) const;
 
   /// Changes what a mixer reports.
-  void change(int number, const std::function<void(MixerState &)> &edit);
+  void Change(int number, const std::function<void(MixerState &)> &edit);
 
   /// Sets a fault for one request of a unit, or for every request.
-  void setFault(int number, std::optional<RequestId> request, RequestFault fault);
+  void SetFault(int number, std::optional<RequestId> request, RequestFault fault);
 
   /// Sets the fault of opening a unit.
-  void setFault(int number, OpenFault fault);
+  void SetFault(int number, OpenFault fault);
 
   /// Takes all faults off a unit.
-  void clearFaults(int number);
+  void ClearFaults(int number);
 
   /// Carries out one request of a host: the fault, else the unit's own answer, and the log line.
-  TransferResult transfer(int number, const ControlRequest &request);
+  TransferResult Transfer(int number, const ControlRequest &request);
 
   /// A copy of the wire log.
-  std::vector<std::string> log() const;
+  std::vector<std::string> Log() const;
 
   /// Empties the wire log.
-  void clearLog();
+  void ClearLog();
 
  private:
-  Unit &find(int number);
-  const Unit &find(int number) const;
-  int add(Unit unit);
-  void connect(int number, Unit &unit);
-  void disconnect(int number, Unit &unit);
-  static TransferResult answer(Unit &unit, const ControlRequest &request);
+  Unit &Find(int number);
+  const Unit &Find(int number) const;
+  int Add(Unit unit);
+  void Connect(int number, Unit &unit);
+  void Disconnect(int number, Unit &unit);
+  static TransferResult Answer(Unit &unit, const ControlRequest &request);
 
   FrontEnd &frontEnd_;
   mutable std::mutex mutex_;

@@ -34,14 +34,14 @@ class FrontEnd {
 
   /// Makes unit `number` appear on the bus, with `fault` in force from the start, and says where.
   /// Throws `DeskError` when it cannot.
-  virtual BusAddress plug(int number, const UsbIdentity &identity, OpenFault fault) = 0;
+  virtual BusAddress Plug(int number, const UsbIdentity &identity, OpenFault fault) = 0;
 
   /// Makes unit `number` disappear; requests of it that are still under way end at once.
-  virtual void unplug(int number) = 0;
+  virtual void Unplug(int number) = 0;
 
   /// Sets what happens when a host opens the plugged unit `number`. Throws `DeskError` when the
   /// system does not allow it.
-  virtual void setOpenFault(int number, OpenFault fault) = 0;
+  virtual void SetOpenFault(int number, OpenFault fault) = 0;
 };
 
 }  // namespace trxsim

@@ -26,17 +26,17 @@ struct MixerState {
 class Mixer {
  public:
   /// Answers one request. A reply is never longer than the host asked for.
-  TransferResult answer(const ControlRequest &request);
+  TransferResult Answer(const ControlRequest &request);
 
   /// What the mixer reports.
-  MixerState &state() { return state_; }
-  const MixerState &state() const { return state_; }
+  MixerState &State() { return state_; }
+  const MixerState &State() const { return state_; }
 
   /// The value last written by the write request `id`; nothing when it was never written.
-  std::optional<std::uint16_t> lastWritten(RequestId id) const;
+  std::optional<std::uint16_t> LastWritten(RequestId id) const;
 
  private:
-  std::vector<std::uint8_t> report(RequestId id) const;
+  std::vector<std::uint8_t> Report(RequestId id) const;
 
   MixerState state_;
   std::map<RequestId, std::uint16_t> written_;

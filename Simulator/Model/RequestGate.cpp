@@ -4,24 +4,24 @@
 
 namespace trxsim {
 
-void RequestGate::open(Desk &desk) {
+void RequestGate::Open(Desk &desk) {
   const std::lock_guard lock(mutex_);
   desk_ = &desk;
 }
 
-void RequestGate::close() {
+void RequestGate::Close() {
   const std::lock_guard lock(mutex_);
   desk_ = nullptr;
 }
 
-TransferResult RequestGate::transfer(int number, const ControlRequest &request) {
+TransferResult RequestGate::Transfer(int number, const ControlRequest &request) {
   const std::lock_guard lock(mutex_);
-  return desk_ != nullptr ? desk_->transfer(number, request) : TransferResult{Outcome::Gone, {}};
+  return desk_ != nullptr ? desk_->Transfer(number, request) : TransferResult{Outcome::kGone, {}};
 }
 
-void RequestGate::lost(int number, const BusAddress &address) {
+void RequestGate::Lost(int number, const BusAddress &address) {
   const std::lock_guard lock(mutex_);
-  if (desk_ != nullptr) desk_->lost(number, address);
+  if (desk_ != nullptr) desk_->Lost(number, address);
 }
 
 }  // namespace trxsim

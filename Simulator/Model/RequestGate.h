@@ -14,16 +14,16 @@ class Desk;
 class RequestGate {
  public:
   /// From now on, what hosts do reaches `desk`.
-  void open(Desk &desk);
+  void Open(Desk &desk);
 
   /// Nothing reaches a desk any more. When this returns, what was under way has ended.
-  void close();
+  void Close();
 
   /// Carries out one request of a host; while the gate is closed, it ends as after an unplug.
-  TransferResult transfer(int number, const ControlRequest &request);
+  TransferResult Transfer(int number, const ControlRequest &request);
 
   /// Tells the desk that unit `number` is gone from `address` without having been asked to.
-  void lost(int number, const BusAddress &address);
+  void Lost(int number, const BusAddress &address);
 
  private:
   std::mutex mutex_;  // guards and is held during

@@ -11,16 +11,16 @@ namespace trxsim {
 
 /// The ten vendor requests that a mixer answers.
 enum class RequestId {
-  Firmware,
-  Selectors,
-  Serato,
-  Port,
-  Certify,
-  MixerOutput,
-  UsbOutputLevel,
-  MidiChannel,
-  MidiKeyMode,
-  MixerInput,
+  kFirmware,
+  kSelectors,
+  kSerato,
+  kPort,
+  kCertify,
+  kMixerOutput,
+  kUsbOutputLevel,
+  kMidiChannel,
+  kMidiKeyMode,
+  kMixerInput,
 };
 
 /// One row of the request table.
@@ -33,20 +33,20 @@ struct RequestEntry {
   std::string_view text;     ///< Its name in the wire log.
 
   /// True for a request that reads from the mixer.
-  bool isRead() const { return (requestType & 0x80) != 0; }
+  bool IsRead() const { return (requestType & 0x80) != 0; }
 };
 
 /// All requests, reads first, each half in the order of wIndex.
-const std::array<RequestEntry, 10> &requestTable();
+const std::array<RequestEntry, 10> &RequestTable();
 
 /// The row of `id`.
-const RequestEntry &requestEntry(RequestId id);
+const RequestEntry &EntryOf(RequestId id);
 
 /// The row that a setup packet names, or nothing. Exact: a read must carry wValue 0, a write must
 /// have no data stage.
-std::optional<RequestId> requestFor(const ControlRequest &request);
+std::optional<RequestId> RequestFor(const ControlRequest &request);
 
 /// The request with this word as its name, or nothing.
-std::optional<RequestId> requestNamed(std::string_view word);
+std::optional<RequestId> RequestNamed(std::string_view word);
 
 }  // namespace trxsim

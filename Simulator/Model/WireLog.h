@@ -10,7 +10,7 @@ namespace trxsim {
 
 /// One line of the wire log, without its end of line. Fields are parted by two or more blanks and
 /// stand in columns; README.md describes them.
-std::string wireLogLine(int unit, const ControlRequest &request, const TransferResult &result);
+std::string WireLogLine(int unit, const ControlRequest &request, const TransferResult &result);
 
 /// Everything that crossed the wire, in its order. Holds neither times nor counters, so that two
 /// runs that do the same give the same lines. Not safe for several threads at once.
@@ -22,13 +22,13 @@ class WireLog {
   explicit WireLog(Sink sink = {}) : sink_(std::move(sink)) {}
 
   /// Adds the line of one request.
-  void add(int unit, const ControlRequest &request, const TransferResult &result);
+  void Add(int unit, const ControlRequest &request, const TransferResult &result);
 
-  /// All lines since the start or the last `clear`.
-  const std::vector<std::string> &lines() const { return lines_; }
+  /// All lines since the start or the last `Clear`.
+  const std::vector<std::string> &Lines() const { return lines_; }
 
   /// Forgets all lines; what went to the sink stays there.
-  void clear() { lines_.clear(); }
+  void Clear() { lines_.clear(); }
 
  private:
   Sink sink_;

@@ -15,7 +15,7 @@ class HeldTerminal {
   HeldTerminal();
 
   /// Its path, such as "/dev/pts/4".
-  const std::string &path() const { return path_; }
+  const std::string &Path() const { return path_; }
 
  private:
   Descriptor primary_;

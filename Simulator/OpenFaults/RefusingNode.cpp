@@ -11,7 +11,7 @@
 namespace trxsim {
 
 // Opening a socket file fails with ENXIO for everybody who may write to it at all.
-void makeRefusingNode(const std::filesystem::path &path) {
+void MakeRefusingNode(const std::filesystem::path &path) {
   constexpr mode_t kForEverybody = 0666;
   if (mknod(path.c_str(), S_IFSOCK, 0) != 0 || chmod(path.c_str(), kForEverybody) != 0) {
     throw DeskError(std::string("cannot make a socket file for `refuse`: ") + std::strerror(errno));

@@ -14,26 +14,26 @@ namespace trxsim {
 
 namespace {
 
-sigset_t handledSignals() {
+sigset_t HandledSignals() {
   sigset_t signals;
   sigemptyset(&signals);
   for (const int signal : {SIGCHLD, SIGINT, SIGTERM, SIGHUP, SIGQUIT}) sigaddset(&signals, signal);
   return signals;
 }
 
-sigset_t &signalsAtStart() {
+sigset_t &SignalsAtStart() {
   static sigset_t signals;
   return signals;
 }
 
 // 0 or the error.
-int spawn(pid_t &child, std::vector<std::string> &words, Environment &environment) {
+int Spawn(pid_t &child, std::vector<std::string> &words, Environment &environment) {
   posix_spawnattr_t attributes;
   posix_spawnattr_init(&attributes);
   posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
-  posix_spawnattr_setsigmask(&attributes, &signalsAtStart());
-  const std::vector<char *> arguments = execVector(words);
-  const std::vector<char *> variables = execVector(environment);
+  posix_spawnattr_setsigmask(&attributes, &SignalsAtStart());
+  const std::vector<char *> arguments = ExecVector(words);
+  const std::vector<char *> variables = ExecVector(environment);
   const int error =
       posix_spawnp(&child, arguments[0], nullptr, &attributes, arguments.data(), variables.data());
   posix_spawnattr_destroy(&attributes);
@@ -41,12 +41,12 @@ int spawn(pid_t &child, std::vector<std::string> &words, Environment &environmen
 }
 
 // True once the child has ended.
-bool hasEnded(pid_t child, int &status) { return waitpid(child, &status, WNOHANG) == child; }
+bool HasEnded(pid_t child, int &status) { return waitpid(child, &status, WNOHANG) == child; }
 
-int waitFor(pid_t child) {
-  const sigset_t signals = handledSignals();
+int WaitFor(pid_t child) {
+  const sigset_t signals = HandledSignals();
   int status = 0;
-  while (!hasEnded(child, status)) {
+  while (!HasEnded(child, status)) {
     siginfo_t info{};
     const int signal = sigwaitinfo(&signals, &info);
     // What is typed at the terminal goes to the whole foreground group, the command included.
@@ -58,22 +58,22 @@ int waitFor(pid_t child) {
 
 }  // namespace
 
-void blockSignals() {
-  const sigset_t signals = handledSignals();
-  pthread_sigmask(SIG_BLOCK, &signals, &signalsAtStart());
+void BlockSignals() {
+  const sigset_t signals = HandledSignals();
+  pthread_sigmask(SIG_BLOCK, &signals, &SignalsAtStart());
 }
 
-int runCommand(std::vector<std::string> words, Environment environment) {
+int RunCommand(std::vector<std::string> words, Environment environment) {
   pid_t child = 0;
-  const int error = spawn(child, words, environment);
-  if (error == 0) return waitFor(child);
+  const int error = Spawn(child, words, environment);
+  if (error == 0) return WaitFor(child);
   std::fprintf(stderr, "trx-mixer-sim: cannot run %s: %s\n", words[0].c_str(),
                std::strerror(error));
   return error == ENOENT ? kNotFound : kCannotRun;
 }
 
-void waitForEnd() {
-  sigset_t signals = handledSignals();
+void WaitForEnd() {
+  sigset_t signals = HandledSignals();
   sigdelset(&signals, SIGCHLD);
   while (sigwaitinfo(&signals, nullptr) < 0 && errno == EINTR) {
   }

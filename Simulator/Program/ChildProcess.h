@@ -11,14 +11,14 @@ namespace trxsim {
 enum CommandExit { kCannotRun = 126, kNotFound = 127, kSignalBase = 128 };
 
 /// Blocks the signals that the other two wait for. To be called before any thread starts.
-void blockSignals();
+void BlockSignals();
 
 /// Runs a command with `environment` to its end, and passes on to it the signals that ask this
 /// process to end. Returns its exit status, 128 plus the signal that ended it, or one of
 /// `CommandExit` with a message on stderr.
-int runCommand(std::vector<std::string> words, Environment environment);
+int RunCommand(std::vector<std::string> words, Environment environment);
 
 /// Waits for a signal that asks this process to end.
-void waitForEnd();
+void WaitForEnd();
 
 }  // namespace trxsim

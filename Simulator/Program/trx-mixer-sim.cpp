@@ -62,20 +62,20 @@ struct Options {
 };
 
 /// Folder with what this program brings along for the commands it runs.
-std::string companionFolder() {
+std::string CompanionFolder() {
   const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe");
   return (program.parent_path() / TRX_SIM_COMPANION_FOLDER).lexically_normal();
 }
 
-std::string controlEntry(const std::string &socket) {
+std::string ControlEntry(const std::string &socket) {
   return std::string(trxsim::kControlVariable) + '=' + socket;
 }
 
-std::string guardPath() { return companionFolder() + "/libtrx-mixer-sim-guard.so"; }
+std::string GuardPath() { return CompanionFolder() + "/libtrx-mixer-sim-guard.so"; }
 
 /// The dynamic linker only warns of a library that it cannot preload, and the command would see
 /// the machine's own bus.
-void requirePreloadable(const std::string &library, const char *package) {
+void RequirePreloadable(const std::string &library, const char *package) {
   void *handle = dlopen(library.c_str(), RTLD_LAZY | RTLD_LOCAL);
   if (handle == nullptr) {
     throw std::runtime_error("no command could see the mixers: " + std::string(dlerror()) +
@@ -85,29 +85,29 @@ void requirePreloadable(const std::string &library, const char *package) {
 }
 
 /// What a process needs to find mixers that only it is to see.
-trxsim::Environment simulatedEnvironment(const std::string &testbed, const std::string &control) {
+trxsim::Environment SimulatedEnvironment(const std::string &testbed, const std::string &control) {
   return {
-      "LD_PRELOAD=" + guardPath() + ':' + kPreload,
+      "LD_PRELOAD=" + GuardPath() + ':' + kPreload,
       "UMOCKDEV_DIR=" + testbed,
-      controlEntry(control),
+      ControlEntry(control),
       // The address sanitizer wants to be loaded first, which it need not be for these libraries.
       "ASAN_OPTIONS=verify_asan_link_order=0",
   };
 }
 
-trxsim::WireLog::Sink openWireLog(const std::string &path) {
+trxsim::WireLog::Sink OpenWireLog(const std::string &path) {
   if (path.empty()) return {};
   const auto file = std::make_shared<std::ofstream>(path);
   if (!*file) throw std::runtime_error("cannot write the wire log " + path);
   return [file](const std::string &line) { *file << line << std::endl; };
 }
 
-trxsim::ControlSocket openControl(const std::string &path) {
-  return path.empty() ? trxsim::ControlSocket::atDefaultPlace() : trxsim::ControlSocket::at(path);
+trxsim::ControlSocket OpenControl(const std::string &path) {
+  return path.empty() ? trxsim::ControlSocket::AtDefaultPlace() : trxsim::ControlSocket::At(path);
 }
 
 /// Sockets below a long temporary folder could not be bound.
-void keepTemporaryFolderShort() {
+void KeepTemporaryFolderShort() {
   const char *folder = std::getenv("TMPDIR");
   if (folder != nullptr && std::string(folder).size() > kLongestTemporaryFolder) {
     setenv("TMPDIR", "/tmp", 1);
@@ -118,9 +118,9 @@ void keepTemporaryFolderShort() {
 class Wiring {
  public:
   Wiring(trxsim::RequestGate &requests, trxsim::Desk &desk) : requests_(requests) {
-    requests_.open(desk);
+    requests_.Open(desk);
   }
-  ~Wiring() { requests_.close(); }
+  ~Wiring() { requests_.Close(); }
   Wiring(const Wiring &) = delete;
   Wiring &operator=(const Wiring &) = delete;
 
@@ -129,53 +129,53 @@ class Wiring {
 };
 
 /// Without a command: until the user has had enough.
-int keepPluggedIn(int units) {
+int KeepPluggedIn(int units) {
   std::printf("trx-mixer-sim: mixers plugged in: %d; Ctrl-C unplugs them\n", units);
   std::fflush(stdout);
-  trxsim::waitForEnd();
+  trxsim::WaitForEnd();
   return 0;
 }
 
 /// Plugs the mixers in and runs the command. `additions` is what its environment needs.
 template <typename FrontEnd>
-int simulate(const Options &options, const trxsim::ControlSocket &control, FrontEnd &frontEnd,
+int Simulate(const Options &options, const trxsim::ControlSocket &control, FrontEnd &frontEnd,
              const trxsim::Environment &additions) {
-  trxsim::Desk desk(frontEnd, openWireLog(options.wireLog));
-  const Wiring wiring(frontEnd.requests(), desk);
-  for (int unit = 0; unit < options.units; ++unit) desk.plugMixer();
+  trxsim::Desk desk(frontEnd, OpenWireLog(options.wireLog));
+  const Wiring wiring(frontEnd.Requests(), desk);
+  for (int unit = 0; unit < options.units; ++unit) desk.PlugMixer();
   trxsim::CommandInterpreter interpreter(desk, additions);
-  const trxsim::ControlServer server(control.listener(), interpreter);
-  if (options.command.empty()) return keepPluggedIn(options.units);
-  return trxsim::runCommand(options.command, trxsim::environmentWith(additions));
+  const trxsim::ControlServer server(control.Listener(), interpreter);
+  if (options.command.empty()) return KeepPluggedIn(options.units);
+  return trxsim::RunCommand(options.command, trxsim::EnvironmentWith(additions));
 }
 
 /// On a bus that only the command and its children see.
-int simulateForCommand(const Options &options, const trxsim::ControlSocket &control) {
-  requirePreloadable(guardPath(), "trx-mixer-sim");
-  requirePreloadable(kPreload, "the package libumockdev0");
-  keepTemporaryFolderShort();
+int SimulateForCommand(const Options &options, const trxsim::ControlSocket &control) {
+  RequirePreloadable(GuardPath(), "trx-mixer-sim");
+  RequirePreloadable(kPreload, "the package libumockdev0");
+  KeepTemporaryFolderShort();
   trxsim::UmockdevFrontEnd frontEnd;
-  const trxsim::Environment additions = simulatedEnvironment(frontEnd.rootFolder(), control.path());
-  return simulate(options, control, frontEnd, additions);
+  const trxsim::Environment additions = SimulatedEnvironment(frontEnd.RootFolder(), control.Path());
+  return Simulate(options, control, frontEnd, additions);
 }
 
 /// On the buses of the running kernel.
-int simulateForMachine(const Options &options, const trxsim::ControlSocket &control) {
+int SimulateForMachine(const Options &options, const trxsim::ControlSocket &control) {
   trxsim::UsbipFrontEnd frontEnd;
-  return simulate(options, control, frontEnd, {controlEntry(control.path())});
+  return Simulate(options, control, frontEnd, {ControlEntry(control.Path())});
 }
 
-int simulate(const Options &options) {
-  const trxsim::ControlSocket control = openControl(options.control);
-  if (control.isPrivate()) {
+int Simulate(const Options &options) {
+  const trxsim::ControlSocket control = OpenControl(options.control);
+  if (control.IsPrivate()) {
     std::fprintf(stderr, "trx-mixer-sim: the usual control socket is taken; this one is %s\n",
-                 control.path().c_str());
+                 control.Path().c_str());
   }
-  return options.usbip ? simulateForMachine(options, control)
-                       : simulateForCommand(options, control);
+  return options.usbip ? SimulateForMachine(options, control)
+                       : SimulateForCommand(options, control);
 }
 
-int run(int argc, char **argv) {
+int Run(int argc, char **argv) {
   CLI::App app(
       "Run a command, and its children, with software mixers plugged in: no hardware, no "
       "privileges. With --usbip, every program on the machine sees them; that needs root.",
@@ -210,15 +210,15 @@ int run(int argc, char **argv) {
                  "--units 2 -- bash\n`trx-mixer-sim --help` shows more.\n");
     return kUsage;
   }
-  return simulate(options);
+  return Simulate(options);
 }
 
 }  // namespace
 
 int main(int argc, char **argv) {
-  trxsim::blockSignals();
+  trxsim::BlockSignals();
   try {
-    return run(argc, argv);
+    return Run(argc, argv);
   } catch (const std::exception &failure) {
     std::fprintf(stderr, "trx-mixer-sim: %s\n", failure.what());
     return kSimulatorFailed;

@@ -24,21 +24,21 @@
 
 #define EXPORTED __attribute__((visibility("default")))
 
-typedef int open_function(const char *, int, ...);
-typedef int checked_open_function(const char *, int);
-typedef int close_function(int);
-typedef FILE *file_open_function(const char *, const char *);
-typedef int file_close_function(FILE *);
+typedef int OpenFunction(const char *, int, ...);
+typedef int CheckedOpenFunction(const char *, int);
+typedef int CloseFunction(int);
+typedef FILE *FileOpenFunction(const char *, const char *);
+typedef int FileCloseFunction(FILE *);
 
 int __open_2(const char *path, int flags);
 int __open64_2(const char *path, int flags);
 
-static int begins_with(const char *path, const char *beginning) {
+static int BeginsWith(const char *path, const char *beginning) {
   return path != NULL && strncmp(path, beginning, strlen(beginning)) == 0;
 }
 
 /* Sets a function pointer to what this library stands in front of. */
-static void find_next(const char *name, void *pointer) {
+static void FindNext(const char *name, void *pointer) {
   void *address = dlsym(RTLD_NEXT, name);
   if (address == NULL) abort();
   memcpy(pointer, &address, sizeof address);
@@ -46,105 +46,105 @@ static void find_next(const char *name, void *pointer) {
 
 /* --- The lock of the table --- */
 
-static pthread_mutex_t own_lock;
-static pthread_mutex_t *table_lock;
+static pthread_mutex_t ownLock;
+static pthread_mutex_t *tableLock;
 
 /* Recursive, for a signal handler that closes a file in the middle of an open. */
-static void make_table_lock(void) {
+static void MakeTableLock(void) {
   pthread_mutexattr_t recursive;
   pthread_mutexattr_init(&recursive);
   pthread_mutexattr_settype(&recursive, PTHREAD_MUTEX_RECURSIVE);
-  pthread_mutex_init(table_lock, &recursive);
+  pthread_mutex_init(tableLock, &recursive);
   pthread_mutexattr_destroy(&recursive);
 }
 
-static void find_table_lock(void);
+static void FindTableLock(void);
 
-static void lock_table(void) {
+static void LockTable(void) {
   static pthread_once_t once = PTHREAD_ONCE_INIT;
-  pthread_once(&once, find_table_lock);
-  pthread_mutex_lock(table_lock);
+  pthread_once(&once, FindTableLock);
+  pthread_mutex_lock(tableLock);
 }
 
-static void unlock_table(void) { pthread_mutex_unlock(table_lock); }
+static void UnlockTable(void) { pthread_mutex_unlock(tableLock); }
 
 /* A forked child must not wait for threads that only its parent has. */
-static void find_table_lock(void) {
-  void *of_reader = dlsym(RTLD_DEFAULT, "ioctl_lock");
-  table_lock = of_reader != NULL ? of_reader : &own_lock;
-  make_table_lock();
-  pthread_atfork(lock_table, unlock_table, make_table_lock);
+static void FindTableLock(void) {
+  void *ofReader = dlsym(RTLD_DEFAULT, "ioctl_lock");
+  tableLock = ofReader != NULL ? ofReader : &ownLock;
+  MakeTableLock();
+  pthread_atfork(LockTable, UnlockTable, MakeTableLock);
 }
 
 /* --- What opens and closes --- */
 
-static int is_missing(const char *path) {
+static int IsMissing(const char *path) {
   const char *testbed = getenv("UMOCKDEV_DIR");
   char inside[PATH_MAX];
   struct stat status;
-  if (testbed == NULL || !begins_with(path, "/dev/bus/usb/")) return 0;
+  if (testbed == NULL || !BeginsWith(path, "/dev/bus/usb/")) return 0;
   const int length = snprintf(inside, sizeof inside, "%s%s", testbed, path);
   if (length < 0 || (size_t)length >= sizeof inside) return 1;
   return lstat(inside, &status) != 0;
 }
 
-static int fail_missing(void) {
+static int FailMissing(void) {
   errno = ENOENT;
   return -1;
 }
 
-static int is_device(const char *path) { return begins_with(path, "/dev/"); }
+static int IsDevice(const char *path) { return BeginsWith(path, "/dev/"); }
 
 /* Closes without touching the table's lock: the caller holds it. */
-static void give_place_back(void) {
+static void GivePlaceBack(void) {
   const int error = errno;
-  close_function *next;
-  find_next("close", &next);
+  CloseFunction *next;
+  FindNext("close", &next);
   next(-1);
   errno = error;
 }
 
-#define GUARDED_OPEN(name)                                \
-  EXPORTED int name(const char *path, int flags, ...) {   \
-    open_function *next;                                  \
-    mode_t mode = 0;                                      \
-    if ((flags & (O_CREAT | O_TMPFILE)) != 0) {           \
-      va_list arguments;                                  \
-      va_start(arguments, flags);                         \
-      mode = va_arg(arguments, mode_t);                   \
-      va_end(arguments);                                  \
-    }                                                     \
-    if (is_missing(path)) return fail_missing();          \
-    find_next(#name, &next);                              \
-    if (!is_device(path)) return next(path, flags, mode); \
-    lock_table();                                         \
-    const int descriptor = next(path, flags, mode);       \
-    if (descriptor < 0) give_place_back();                \
-    unlock_table();                                       \
-    return descriptor;                                    \
+#define GUARDED_OPEN(name)                               \
+  EXPORTED int name(const char *path, int flags, ...) {  \
+    OpenFunction *next;                                  \
+    mode_t mode = 0;                                     \
+    if ((flags & (O_CREAT | O_TMPFILE)) != 0) {          \
+      va_list arguments;                                 \
+      va_start(arguments, flags);                        \
+      mode = va_arg(arguments, mode_t);                  \
+      va_end(arguments);                                 \
+    }                                                    \
+    if (IsMissing(path)) return FailMissing();           \
+    FindNext(#name, &next);                              \
+    if (!IsDevice(path)) return next(path, flags, mode); \
+    LockTable();                                         \
+    const int descriptor = next(path, flags, mode);      \
+    if (descriptor < 0) GivePlaceBack();                 \
+    UnlockTable();                                       \
+    return descriptor;                                   \
   }
 
-#define GUARDED_CHECKED_OPEN(name)                  \
-  EXPORTED int name(const char *path, int flags) {  \
-    checked_open_function *next;                    \
-    if (is_missing(path)) return fail_missing();    \
-    find_next(#name, &next);                        \
-    if (!is_device(path)) return next(path, flags); \
-    lock_table();                                   \
-    const int descriptor = next(path, flags);       \
-    if (descriptor < 0) give_place_back();          \
-    unlock_table();                                 \
-    return descriptor;                              \
+#define GUARDED_CHECKED_OPEN(name)                 \
+  EXPORTED int name(const char *path, int flags) { \
+    CheckedOpenFunction *next;                     \
+    if (IsMissing(path)) return FailMissing();     \
+    FindNext(#name, &next);                        \
+    if (!IsDevice(path)) return next(path, flags); \
+    LockTable();                                   \
+    const int descriptor = next(path, flags);      \
+    if (descriptor < 0) GivePlaceBack();           \
+    UnlockTable();                                 \
+    return descriptor;                             \
   }
 
 #define GUARDED_FILE_OPEN(name)                             \
   EXPORTED FILE *name(const char *path, const char *mode) { \
-    file_open_function *next;                               \
-    find_next(#name, &next);                                \
-    if (!is_device(path)) return next(path, mode);          \
-    lock_table();                                           \
+    FileOpenFunction *next;                                 \
+    FindNext(#name, &next);                                 \
+    if (!IsDevice(path)) return next(path, mode);           \
+    LockTable();                                            \
     FILE *const file = next(path, mode);                    \
-    unlock_table();                                         \
+    UnlockTable();                                          \
     return file;                                            \
   }
 
@@ -156,19 +156,19 @@ GUARDED_FILE_OPEN(fopen)
 GUARDED_FILE_OPEN(fopen64)
 
 EXPORTED int close(int descriptor) {
-  close_function *next;
-  find_next("close", &next);
-  lock_table();
+  CloseFunction *next;
+  FindNext("close", &next);
+  LockTable();
   const int result = next(descriptor);
-  unlock_table();
+  UnlockTable();
   return result;
 }
 
 EXPORTED int fclose(FILE *file) {
-  file_close_function *next;
-  find_next("fclose", &next);
-  lock_table();
+  FileCloseFunction *next;
+  FindNext("fclose", &next);
+  LockTable();
   const int result = next(file);
-  unlock_table();
+  UnlockTable();
   return result;
 }

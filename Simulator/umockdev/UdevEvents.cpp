@@ -32,7 +32,7 @@ struct MessageHeader {
 
 // "/sys/devices/..." as udev names it, without "/sys".
 std::string DevicePath(const UsbDevice &device) {
-  return device.sysPath().substr(std::strlen("/sys"));
+  return device.SysPath().substr(std::strlen("/sys"));
 }
 
 std::string Message(const std::string &action, const UsbDevice &device, unsigned long number) {
@@ -41,7 +41,7 @@ std::string Message(const std::string &action, const UsbDevice &device, unsigned
                                     {"DEVPATH", DevicePath(device)},
                                     {"SUBSYSTEM", "usb"},
                                     {"DEVTYPE", "usb_device"},
-                                    {"DEVNAME", device.nodePath()},
+                                    {"DEVNAME", device.NodePath()},
                                     {"SEQNUM", std::to_string(number)}}) {
     properties += name + '=' + value + '\0';
   }

@@ -24,19 +24,19 @@ constexpr int kLastDeviceNumber = 127;
 // The kernel refuses longer data stages in a control request.
 constexpr unsigned kLongestDataStage = 4096;
 
-std::string takeText(gchar *text) {
+std::string TakeText(gchar *text) {
   std::string copy(text);
   g_free(text);
   return copy;
 }
 
-void fail(UMockdevIoctlClient &client, int error) {
+void Fail(UMockdevIoctlClient &client, int error) {
   umockdev_ioctl_client_complete(&client, -1, error);
 }
 
 // A client that is killed while its request is under way makes libumockdev complain about the
 // connection that it then drops. That is nothing to worry the user with.
-void logUnlessDroppedClient(const gchar *domain, GLogLevelFlags level, const gchar *message,
+void LogUnlessDroppedClient(const gchar *domain, GLogLevelFlags level, const gchar *message,
                             gpointer) {
   if (std::string_view(message).find("Destroying IoctlClient") != std::string_view::npos) return;
   g_log_default_handler(domain, level, message, nullptr);
@@ -55,12 +55,12 @@ struct UmockdevFrontEnd::Pending {
 UmockdevFrontEnd::UmockdevFrontEnd()
     : testbed_(umockdev_testbed_new()),
       handler_(umockdev_ioctl_base_new()),
-      tree_(rootFolder()),
-      events_(rootFolder()) {
-  g_log_set_default_handler(logUnlessDroppedClient, nullptr);
-  g_signal_connect(handler_.get(), "handle-ioctl", G_CALLBACK(onIoctl), this);
+      tree_(RootFolder()),
+      events_(RootFolder()) {
+  g_log_set_default_handler(LogUnlessDroppedClient, nullptr);
+  g_signal_connect(handler_.get(), "handle-ioctl", G_CALLBACK(OnIoctl), this);
   // Programs that root starts as another user must be able to reach their mixers.
-  if (geteuid() == 0) fs::permissions(rootFolder(), static_cast<fs::perms>(0755));
+  if (geteuid() == 0) fs::permissions(RootFolder(), static_cast<fs::perms>(0755));
 }
 
 UmockdevFrontEnd::~UmockdevFrontEnd() {
@@ -70,57 +70,57 @@ UmockdevFrontEnd::~UmockdevFrontEnd() {
     unitOfNode_.clear();
     for (const auto &[number, device] : plugged_) numbers.push_back(number);
   }
-  for (const int number : numbers) endPending(number);
+  for (const int number : numbers) EndPending(number);
   // The thread of the testbed ends with it; only then may the rest go.
   testbed_.reset();
 }
 
-std::string UmockdevFrontEnd::rootFolder() const {
-  return takeText(umockdev_testbed_get_root_dir(testbed_.get()));
+std::string UmockdevFrontEnd::RootFolder() const {
+  return TakeText(umockdev_testbed_get_root_dir(testbed_.get()));
 }
 
-BusAddress UmockdevFrontEnd::plug(int number, const UsbIdentity &identity, OpenFault fault) {
-  const UsbDevice device{"1-" + std::to_string(number), {1, nextDeviceNumber()}, identity};
-  tree_.build(device, fault);
-  attach(device.nodePath());
+BusAddress UmockdevFrontEnd::Plug(int number, const UsbIdentity &identity, OpenFault fault) {
+  const UsbDevice device{"1-" + std::to_string(number), {1, NextDeviceNumber()}, identity};
+  tree_.Build(device, fault);
+  Attach(device.NodePath());
   {
     const std::lock_guard lock(mutex_);
     plugged_.emplace(number, device);
-    unitOfNode_.emplace(device.nodePath(), number);
+    unitOfNode_.emplace(device.NodePath(), number);
   }
-  tree_.list(device);
+  tree_.List(device);
   events_.Send("add", device);
   return device.address;
 }
 
-void UmockdevFrontEnd::unplug(int number) {
+void UmockdevFrontEnd::Unplug(int number) {
   UsbDevice device;
   {
     const std::lock_guard lock(mutex_);
     device = plugged_.at(number);
     plugged_.erase(number);
-    unitOfNode_.erase(device.nodePath());
+    unitOfNode_.erase(device.NodePath());
   }
-  tree_.remove(device);
+  tree_.Remove(device);
   events_.Send("remove", device);
-  endPending(number);
+  EndPending(number);
 }
 
-void UmockdevFrontEnd::setOpenFault(int number, OpenFault fault) {
+void UmockdevFrontEnd::SetOpenFault(int number, OpenFault fault) {
   UsbDevice device;
   {
     const std::lock_guard lock(mutex_);
     device = plugged_.at(number);
   }
-  tree_.setNode(device, fault);
+  tree_.SetNode(device, fault);
 }
 
-gboolean UmockdevFrontEnd::onIoctl(UMockdevIoctlBase *, UMockdevIoctlClient *client,
+gboolean UmockdevFrontEnd::OnIoctl(UMockdevIoctlBase *, UMockdevIoctlClient *client,
                                    gpointer self) {
-  return static_cast<UmockdevFrontEnd *>(self)->handle(*client) ? TRUE : FALSE;
+  return static_cast<UmockdevFrontEnd *>(self)->Handle(*client) ? TRUE : FALSE;
 }
 
-bool UmockdevFrontEnd::handle(UMockdevIoctlClient &client) {
+bool UmockdevFrontEnd::Handle(UMockdevIoctlClient &client) {
   int number = 0;
   {
     const std::lock_guard lock(mutex_);
@@ -128,27 +128,27 @@ bool UmockdevFrontEnd::handle(UMockdevIoctlClient &client) {
     if (found != unitOfNode_.end()) number = found->second;
   }
   if (number == 0) {
-    fail(client, ENODEV);
+    Fail(client, ENODEV);
     return true;
   }
   if (umockdev_ioctl_client_get_request(&client) != static_cast<gulong>(USBDEVFS_CONTROL)) {
     return false;
   }
-  control(client, number);
+  Control(client, number);
   return true;
 }
 
-void UmockdevFrontEnd::control(UMockdevIoctlClient &client, int number) {
+void UmockdevFrontEnd::Control(UMockdevIoctlClient &client, int number) {
   using Data = std::unique_ptr<UMockdevIoctlData, ObjectRelease>;
   const Data setup(umockdev_ioctl_data_resolve(umockdev_ioctl_client_get_arg(&client), 0,
                                                sizeof(usbdevfs_ctrltransfer), nullptr));
   if (!setup) {
-    fail(client, EFAULT);
+    Fail(client, EFAULT);
     return;
   }
   const auto &packet = *reinterpret_cast<const usbdevfs_ctrltransfer *>(setup->data);
   if (packet.wLength > kLongestDataStage) {
-    fail(client, EINVAL);
+    Fail(client, EINVAL);
     return;
   }
   Data data;
@@ -156,34 +156,34 @@ void UmockdevFrontEnd::control(UMockdevIoctlClient &client, int number) {
     data.reset(umockdev_ioctl_data_resolve(setup.get(), offsetof(usbdevfs_ctrltransfer, data),
                                            packet.wLength, nullptr));
     if (!data) {
-      fail(client, EFAULT);
+      Fail(client, EFAULT);
       return;
     }
   }
-  const TransferResult result = requests_.transfer(
+  const TransferResult result = requests_.Transfer(
       number, {packet.bRequestType, packet.bRequest, packet.wValue, packet.wIndex, packet.wLength});
   switch (result.outcome) {
-    case Outcome::Done:
+    case Outcome::kDone:
       std::copy(result.data.begin(), result.data.end(), data ? data->data : nullptr);
       umockdev_ioctl_client_complete(&client, static_cast<glong>(result.data.size()), 0);
       break;
-    case Outcome::Stalled:
-      fail(client, EPIPE);
+    case Outcome::kStalled:
+      Fail(client, EPIPE);
       break;
-    case Outcome::NoReply:
-      waitInVain(client, number, packet.timeout);
+    case Outcome::kNoReply:
+      WaitInVain(client, number, packet.timeout);
       break;
-    case Outcome::Unplugged:
-    case Outcome::Gone:
-      fail(client, ENODEV);
+    case Outcome::kUnplugged:
+    case Outcome::kGone:
+      Fail(client, ENODEV);
       break;
   }
 }
 
-void UmockdevFrontEnd::waitInVain(UMockdevIoctlClient &client, int number, unsigned milliseconds) {
+void UmockdevFrontEnd::WaitInVain(UMockdevIoctlClient &client, int number, unsigned milliseconds) {
   const std::lock_guard lock(mutex_);
   if (!unitOfNode_.contains(umockdev_ioctl_client_get_devnode(&client))) {
-    fail(client, ENODEV);
+    Fail(client, ENODEV);
     return;
   }
   // To usbfs, no time-out means for ever.
@@ -192,21 +192,21 @@ void UmockdevFrontEnd::waitInVain(UMockdevIoctlClient &client, int number, unsig
                               std::unique_ptr<UMockdevIoctlClient, ObjectRelease>(
                                   static_cast<UMockdevIoctlClient *>(g_object_ref(&client))),
                               number, timer};
-  g_source_set_callback(timer, onTimeOut, pending,
+  g_source_set_callback(timer, OnTimeOut, pending,
                         [](gpointer gone) { delete static_cast<Pending *>(gone); });
   pending_.insert(pending);
   g_source_attach(timer, g_main_context_get_thread_default());
   g_source_unref(timer);
 }
 
-gboolean UmockdevFrontEnd::onTimeOut(gpointer pending) {
+gboolean UmockdevFrontEnd::OnTimeOut(gpointer pending) {
   auto *self = static_cast<Pending *>(pending);
   const std::lock_guard lock(self->owner->mutex_);
-  if (self->owner->pending_.erase(self) != 0) fail(*self->client, ETIMEDOUT);
+  if (self->owner->pending_.erase(self) != 0) Fail(*self->client, ETIMEDOUT);
   return G_SOURCE_REMOVE;
 }
 
-void UmockdevFrontEnd::endPending(int number) {
+void UmockdevFrontEnd::EndPending(int number) {
   std::vector<std::unique_ptr<GSource, decltype(&g_source_unref)>> timers;
   {
     const std::lock_guard lock(mutex_);
@@ -217,14 +217,14 @@ void UmockdevFrontEnd::endPending(int number) {
         continue;
       }
       next = pending_.erase(next);
-      fail(*one->client, ENODEV);
+      Fail(*one->client, ENODEV);
       timers.emplace_back(g_source_ref(one->timer), g_source_unref);
     }
   }
   for (const auto &timer : timers) g_source_destroy(timer.get());
 }
 
-void UmockdevFrontEnd::attach(const std::string &node) {
+void UmockdevFrontEnd::Attach(const std::string &node) {
   // A node once listened for stays so: a host that is just opening it while the unit is unplugged
   // must not find half a testbed.
   if (!attached_.insert(node).second) return;
@@ -235,16 +235,16 @@ void UmockdevFrontEnd::attach(const std::string &node) {
     g_error_free(error);
     throw DeskError("cannot listen for " + node + ": " + reason);
   }
-  fs::permissions(rootFolder() + "/ioctl" + node, static_cast<fs::perms>(0666));
+  fs::permissions(RootFolder() + "/ioctl" + node, static_cast<fs::perms>(0666));
 }
 
-int UmockdevFrontEnd::nextDeviceNumber() {
+int UmockdevFrontEnd::NextDeviceNumber() {
   const std::lock_guard lock(mutex_);
   for (int tried = 0; tried < kLastDeviceNumber; ++tried) {
     // After the last one comes 2 again, as in the kernel: 1 is the root hub.
     lastDeviceNumber_ = lastDeviceNumber_ == kLastDeviceNumber ? 2 : lastDeviceNumber_ + 1;
     const UsbDevice candidate{"", {1, lastDeviceNumber_}, {}};
-    if (!unitOfNode_.contains(candidate.nodePath())) return lastDeviceNumber_;
+    if (!unitOfNode_.contains(candidate.NodePath())) return lastDeviceNumber_;
   }
   throw DeskError("the bus is full; `unplug` a unit first");
 }

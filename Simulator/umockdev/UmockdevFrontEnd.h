@@ -28,14 +28,14 @@ class UmockdevFrontEnd : public FrontEnd {
   UmockdevFrontEnd &operator=(const UmockdevFrontEnd &) = delete;
 
   /// Where the requests of hosts come out.
-  RequestGate &requests() { return requests_; }
+  RequestGate &Requests() { return requests_; }
 
   /// The folder that holds the tree.
-  std::string rootFolder() const;
+  std::string RootFolder() const;
 
-  BusAddress plug(int number, const UsbIdentity &identity, OpenFault fault) override;
-  void unplug(int number) override;
-  void setOpenFault(int number, OpenFault fault) override;
+  BusAddress Plug(int number, const UsbIdentity &identity, OpenFault fault) override;
+  void Unplug(int number) override;
+  void SetOpenFault(int number, OpenFault fault) override;
 
  private:
   struct ObjectRelease {
@@ -43,15 +43,15 @@ class UmockdevFrontEnd : public FrontEnd {
   };
   struct Pending;
 
-  static gboolean onIoctl(UMockdevIoctlBase *, UMockdevIoctlClient *client, gpointer self);
-  static gboolean onTimeOut(gpointer pending);
+  static gboolean OnIoctl(UMockdevIoctlBase *, UMockdevIoctlClient *client, gpointer self);
+  static gboolean OnTimeOut(gpointer pending);
 
-  bool handle(UMockdevIoctlClient &client);
-  void control(UMockdevIoctlClient &client, int number);
-  void waitInVain(UMockdevIoctlClient &client, int number, unsigned milliseconds);
-  void endPending(int number);
-  void attach(const std::string &node);
-  int nextDeviceNumber();
+  bool Handle(UMockdevIoctlClient &client);
+  void Control(UMockdevIoctlClient &client, int number);
+  void WaitInVain(UMockdevIoctlClient &client, int number, unsigned milliseconds);
+  void EndPending(int number);
+  void Attach(const std::string &node);
+  int NextDeviceNumber();
 
   // Made before the testbed, whose thread uses it.
   RequestGate requests_;

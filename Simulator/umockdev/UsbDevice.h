@@ -24,28 +24,28 @@ struct UsbDevice {
   UsbIdentity identity;
 
   /// True for the root hub.
-  bool isRootHub() const { return name.starts_with("usb"); }
+  bool IsRootHub() const { return name.starts_with("usb"); }
 
   /// Its folder, such as "/sys/devices/pci0000:00/0000:00:14.0/usb1/1-2".
-  std::string sysPath() const;
+  std::string SysPath() const;
 
   /// Its device node, such as "/dev/bus/usb/001/003".
-  std::string nodePath() const;
+  std::string NodePath() const;
 
   /// Major and minor number, such as "189:2".
-  std::string deviceNumber() const;
+  std::string DeviceNumber() const;
 
   /// The files of its folder.
-  std::vector<Attribute> attributes() const;
+  std::vector<Attribute> Attributes() const;
 
   /// Its interfaces, in order.
-  std::vector<UsbInterface> interfaces() const;
+  std::vector<UsbInterface> Interfaces() const;
 
   /// Its descriptors as the device sends them: what its node and "descriptors" read as.
-  std::string descriptors() const;
+  std::string Descriptors() const;
 };
 
 /// The root hub of bus 1.
-UsbDevice rootHub();
+UsbDevice RootHub();
 
 }  // namespace trxsim

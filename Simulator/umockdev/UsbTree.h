@@ -16,20 +16,20 @@ class UsbTree {
   explicit UsbTree(std::filesystem::path root);
 
   /// Makes all files of `device` but does not list it on the bus yet.
-  void build(const UsbDevice &device, OpenFault fault);
+  void Build(const UsbDevice &device, OpenFault fault);
 
   /// Lists `device` on the bus: whoever walks the bus sees it whole or not at all.
-  void list(const UsbDevice &device);
+  void List(const UsbDevice &device);
 
   /// Takes `device` off the bus, then removes its files.
-  void remove(const UsbDevice &device);
+  void Remove(const UsbDevice &device);
 
   /// Puts a node in place of the present one that opens as `fault` says. Throws `DeskError` when
   /// the system has no means for it.
-  void setNode(const UsbDevice &device, OpenFault fault);
+  void SetNode(const UsbDevice &device, OpenFault fault);
 
  private:
-  std::filesystem::path inside(const std::string &path) const;
+  std::filesystem::path Inside(const std::string &path) const;
 
   std::filesystem::path root_;
   std::map<std::string, HeldTerminal> held_;  // by kernel name

@@ -25,15 +25,15 @@ class DeviceConnection {
   DeviceConnection &operator=(const DeviceConnection &) = delete;
 
   /// Ends the connection from any thread, without waiting; requests under way get no answer.
-  void pull();
+  void Pull();
 
   /// True once nothing is served any more.
-  bool isFinished() const { return isFinished_; }
+  bool IsFinished() const { return isFinished_; }
 
  private:
-  void serve();
-  std::string serveToTheEnd();
-  bool send(const std::vector<std::uint8_t> &bytes) const;
+  void Serve();
+  std::string ServeToTheEnd();
+  bool Send(const std::vector<std::uint8_t> &bytes) const;
 
   Descriptor socket_;
   DeviceSession session_;

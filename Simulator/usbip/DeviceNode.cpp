@@ -37,7 +37,7 @@ class PassingFolder {
   PassingFolder(const PassingFolder &) = delete;
   PassingFolder &operator=(const PassingFolder &) = delete;
 
-  const fs::path &path() const { return path_; }
+  const fs::path &Path() const { return path_; }
 
  private:
   fs::path path_;
@@ -45,45 +45,45 @@ class PassingFolder {
 
 }  // namespace
 
-DeviceNode::~DeviceNode() { restore(); }
+DeviceNode::~DeviceNode() { Restore(); }
 
-void DeviceNode::set(OpenFault fault) {
-  restore();
+void DeviceNode::Set(OpenFault fault) {
+  Restore();
   switch (fault) {
-    case OpenFault::None:
+    case OpenFault::kNone:
       break;
-    case OpenFault::Deny:
-      deny();
+    case OpenFault::kDeny:
+      Deny();
       break;
-    case OpenFault::Refuse:
-      refuse();
+    case OpenFault::kRefuse:
+      Refuse();
       break;
-    case OpenFault::Hold:
-      hold();
+    case OpenFault::kHold:
+      Hold();
       break;
   }
 }
 
-void DeviceNode::deny() {
+void DeviceNode::Deny() {
   usual_ = fs::status(path_).permissions();
   fs::permissions(path_, fs::perms::none);
 }
 
 // What is laid over the node stays there without its name.
-void DeviceNode::refuse() {
+void DeviceNode::Refuse() {
   const PassingFolder folder;
-  makeRefusingNode(folder.path() / "node");
-  cover(folder.path() / "node");
+  MakeRefusingNode(folder.Path() / "node");
+  Cover(folder.Path() / "node");
 }
 
-void DeviceNode::hold() {
+void DeviceNode::Hold() {
   held_.emplace();
   // The terminal is this user's; that it is held is to be the only thing in the way.
-  fs::permissions(held_->path(), kForEverybody);
-  cover(held_->path());
+  fs::permissions(held_->Path(), kForEverybody);
+  Cover(held_->Path());
 }
 
-void DeviceNode::restore() {
+void DeviceNode::Restore() {
   if (std::exchange(isCovered_, false)) umount2(path_.c_str(), MNT_DETACH);
   held_.reset();
   if (!usual_) return;
@@ -94,7 +94,7 @@ void DeviceNode::restore() {
 
 // The kernel opens every device that is there, so another file is laid over its node. With the node
 // that goes away by itself, even when this process is killed.
-void DeviceNode::cover(const fs::path &file) {
+void DeviceNode::Cover(const fs::path &file) {
   if (mount(file.c_str(), path_.c_str(), nullptr, MS_BIND, nullptr) != 0) {
     held_.reset();
     throw DeskError("cannot lay a file over " + path_.string() + ": " + std::strerror(errno));

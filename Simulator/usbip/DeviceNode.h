@@ -19,14 +19,14 @@ class DeviceNode {
   DeviceNode &operator=(const DeviceNode &) = delete;
 
   /// Makes opening the node fail, or work again. Throws `DeskError` when that cannot be.
-  void set(OpenFault fault);
+  void Set(OpenFault fault);
 
  private:
-  void restore();
-  void deny();
-  void refuse();
-  void hold();
-  void cover(const std::filesystem::path &file);
+  void Restore();
+  void Deny();
+  void Refuse();
+  void Hold();
+  void Cover(const std::filesystem::path &file);
 
   std::filesystem::path path_;
   std::optional<std::filesystem::perms> usual_;  // nothing while they are in force

@@ -24,22 +24,22 @@ class DeviceSession {
   DeviceSession(UsbIdentity identity, Transfer transfer);
 
   /// Takes bytes of the kernel, in pieces of any length, and answers with those to send back.
-  std::vector<std::uint8_t> receive(std::span<const std::uint8_t> bytes);
+  std::vector<std::uint8_t> Receive(std::span<const std::uint8_t> bytes);
 
   /// True once nothing more is answered: the unit was unplugged, or there was an error.
-  bool isOver() const { return isUnplugged_ || !error_.empty(); }
+  bool IsOver() const { return isUnplugged_ || !error_.empty(); }
 
   /// What the kernel sent wrong; empty when it did not.
-  const std::string &error() const { return error_; }
+  const std::string &Error() const { return error_; }
 
   /// True between the first and the last byte of a frame.
-  bool isInMidFrame() const { return !received_.empty(); }
+  bool IsInMidFrame() const { return !received_.empty(); }
 
  private:
-  void handle(const SubmitFrame &frame);
-  void handle(const UnlinkFrame &frame);
-  TransferResult answer(const SubmitFrame &frame);
-  void reply(std::span<const std::uint8_t> bytes);
+  void Handle(const SubmitFrame &frame);
+  void Handle(const UnlinkFrame &frame);
+  TransferResult Answer(const SubmitFrame &frame);
+  void Reply(std::span<const std::uint8_t> bytes);
 
   StandardRequests standard_;
   Transfer transfer_;

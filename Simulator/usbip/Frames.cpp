@@ -35,14 +35,14 @@ enum Place : std::size_t {
 
 using Header = std::span<const std::uint8_t, kHeaderLength>;
 
-std::uint32_t numberAt(Header header, Place place) {
+std::uint32_t NumberAt(Header header, Place place) {
   std::uint32_t number = 0;
   for (const std::uint8_t byte : header.subspan(place, 4)) number = number << 8 | byte;
   return number;
 }
 
 // The eight bytes of a setup packet are as on the wire, least significant byte first.
-ControlRequest setupOf(Header header) {
+ControlRequest SetupOf(Header header) {
   const auto packet = header.subspan(kSetupPlace, 8);
   const auto wordAt = [packet](std::size_t place) {
     return static_cast<std::uint16_t>(packet[place] | packet[place + 1] << 8);
@@ -50,7 +50,7 @@ ControlRequest setupOf(Header header) {
   return {packet[0], packet[1], wordAt(2), wordAt(4), wordAt(6)};
 }
 
-std::string commandError(std::uint32_t command) {
+std::string CommandError(std::uint32_t command) {
   if (command == kSubmitReply || command == kUnlinkReply) {
     return "a reply where a request belongs";
   }
@@ -60,54 +60,54 @@ std::string commandError(std::uint32_t command) {
 }
 
 // Why a submitted request cannot be; empty when it can.
-std::string submitError(Header header) {
-  const std::uint32_t length = numberAt(header, kLengthPlace);
-  const std::uint32_t packets = numberAt(header, kPacketsPlace);
-  const std::uint32_t endpoint = numberAt(header, kEndpointPlace);
-  const bool isRead = numberAt(header, kDirectionPlace) == kIn;
+std::string SubmitError(Header header) {
+  const std::uint32_t length = NumberAt(header, kLengthPlace);
+  const std::uint32_t packets = NumberAt(header, kPacketsPlace);
+  const std::uint32_t endpoint = NumberAt(header, kEndpointPlace);
+  const bool isRead = NumberAt(header, kDirectionPlace) == kIn;
   if (length > kLongestData) return "a data stage of " + std::to_string(length) + " bytes";
   if (packets != kNoPackets && packets != kNoPacketsEither) return "an isochronous request";
   // Without a data stage, Linux sends reads as writes.
-  if (endpoint == 0 && length > 0 && setupOf(header).isRead() != isRead) {
+  if (endpoint == 0 && length > 0 && SetupOf(header).IsRead() != isRead) {
     return "a setup packet of the other direction";
   }
   return {};
 }
 
-std::string headerError(Header header) {
-  const std::uint32_t command = numberAt(header, kCommandPlace);
-  const std::uint32_t direction = numberAt(header, kDirectionPlace);
-  const std::uint32_t endpoint = numberAt(header, kEndpointPlace);
-  if (command != kSubmit && command != kUnlink) return commandError(command);
+std::string HeaderError(Header header) {
+  const std::uint32_t command = NumberAt(header, kCommandPlace);
+  const std::uint32_t direction = NumberAt(header, kDirectionPlace);
+  const std::uint32_t endpoint = NumberAt(header, kEndpointPlace);
+  if (command != kSubmit && command != kUnlink) return CommandError(command);
   if (direction > kIn) return "unknown direction " + std::to_string(direction);
   if (endpoint > kLastEndpoint) return "endpoint " + std::to_string(endpoint);
-  return command == kSubmit ? submitError(header) : std::string();
+  return command == kSubmit ? SubmitError(header) : std::string();
 }
 
-SubmitFrame submitOf(Header header) {
+SubmitFrame SubmitOf(Header header) {
   SubmitFrame frame;
-  frame.sequence = numberAt(header, kSequencePlace);
-  frame.endpoint = numberAt(header, kEndpointPlace);
-  frame.isRead = numberAt(header, kDirectionPlace) == kIn;
-  frame.length = numberAt(header, kLengthPlace);
-  frame.setup = setupOf(header);
+  frame.sequence = NumberAt(header, kSequencePlace);
+  frame.endpoint = NumberAt(header, kEndpointPlace);
+  frame.isRead = NumberAt(header, kDirectionPlace) == kIn;
+  frame.length = NumberAt(header, kLengthPlace);
+  frame.setup = SetupOf(header);
   return frame;
 }
 
 // The frame with this header, which is known to be sound; nothing as long as its data is not whole.
-std::optional<Frame> frameOf(Header header, std::span<const std::uint8_t> rest,
+std::optional<Frame> FrameOf(Header header, std::span<const std::uint8_t> rest,
                              std::size_t &dataLength) {
-  if (numberAt(header, kCommandPlace) == kUnlink) {
-    return UnlinkFrame{numberAt(header, kSequencePlace), numberAt(header, kVictimPlace)};
+  if (NumberAt(header, kCommandPlace) == kUnlink) {
+    return UnlinkFrame{NumberAt(header, kSequencePlace), NumberAt(header, kVictimPlace)};
   }
-  SubmitFrame frame = submitOf(header);
+  SubmitFrame frame = SubmitOf(header);
   dataLength = frame.isRead ? 0 : frame.length;
   if (rest.size() < dataLength) return std::nullopt;
   frame.data.assign(rest.begin(), rest.begin() + static_cast<std::ptrdiff_t>(dataLength));
   return frame;
 }
 
-void put(std::vector<std::uint8_t> &bytes, Place place, std::uint32_t number) {
+void Put(std::vector<std::uint8_t> &bytes, Place place, std::uint32_t number) {
   for (std::size_t byte = 0; byte < 4; ++byte) {
     bytes[place + byte] = static_cast<std::uint8_t>(number >> (24 - 8 * byte));
   }
@@ -115,25 +115,25 @@ void put(std::vector<std::uint8_t> &bytes, Place place, std::uint32_t number) {
 
 // Both replies have their status where a request to take back has the number of its victim. The
 // remaining fields mean nothing in a reply and are 0, as the kernel's own device side leaves them.
-std::vector<std::uint8_t> replyHeader(Command command, std::uint32_t sequence,
+std::vector<std::uint8_t> ReplyHeader(Command command, std::uint32_t sequence,
                                       std::int32_t status) {
   std::vector<std::uint8_t> bytes(kHeaderLength, 0);
-  put(bytes, kCommandPlace, command);
-  put(bytes, kSequencePlace, sequence);
-  put(bytes, kVictimPlace, static_cast<std::uint32_t>(status));
+  Put(bytes, kCommandPlace, command);
+  Put(bytes, kSequencePlace, sequence);
+  Put(bytes, kVictimPlace, static_cast<std::uint32_t>(status));
   return bytes;
 }
 
 }  // namespace
 
-DecodedFrames decodeFrames(std::span<const std::uint8_t> bytes) {
+DecodedFrames DecodeFrames(std::span<const std::uint8_t> bytes) {
   DecodedFrames decoded;
   while (bytes.size() >= kHeaderLength) {
     const Header header = bytes.first<kHeaderLength>();
-    decoded.error = headerError(header);
+    decoded.error = HeaderError(header);
     if (!decoded.error.empty()) break;
     std::size_t dataLength = 0;
-    std::optional<Frame> frame = frameOf(header, bytes.subspan(kHeaderLength), dataLength);
+    std::optional<Frame> frame = FrameOf(header, bytes.subspan(kHeaderLength), dataLength);
     if (!frame) break;
     decoded.frames.push_back(std::move(*frame));
     decoded.used += kHeaderLength + dataLength;
@@ -142,17 +142,17 @@ DecodedFrames decodeFrames(std::span<const std::uint8_t> bytes) {
   return decoded;
 }
 
-std::vector<std::uint8_t> encodeSubmitReply(std::uint32_t sequence, std::int32_t status,
+std::vector<std::uint8_t> EncodeSubmitReply(std::uint32_t sequence, std::int32_t status,
                                             std::uint32_t length,
                                             std::span<const std::uint8_t> data) {
-  std::vector<std::uint8_t> bytes = replyHeader(kSubmitReply, sequence, status);
-  put(bytes, kLengthPlace, length);
+  std::vector<std::uint8_t> bytes = ReplyHeader(kSubmitReply, sequence, status);
+  Put(bytes, kLengthPlace, length);
   bytes.insert(bytes.end(), data.begin(), data.end());
   return bytes;
 }
 
-std::vector<std::uint8_t> encodeUnlinkReply(std::uint32_t sequence, std::int32_t status) {
-  return replyHeader(kUnlinkReply, sequence, status);
+std::vector<std::uint8_t> EncodeUnlinkReply(std::uint32_t sequence, std::int32_t status) {
+  return ReplyHeader(kUnlinkReply, sequence, status);
 }
 
 }  // namespace trxsim

@@ -37,15 +37,15 @@ struct DecodedFrames {
 };
 
 /// Takes apart what a kernel sends to a device, as USB/IP defines it. Accepts any bytes.
-DecodedFrames decodeFrames(std::span<const std::uint8_t> bytes);
+DecodedFrames DecodeFrames(std::span<const std::uint8_t> bytes);
 
 /// The reply to a submitted request: `status` is 0 or a negative error number, `length` what was
 /// transferred, `data` the data stage of a read.
-std::vector<std::uint8_t> encodeSubmitReply(std::uint32_t sequence, std::int32_t status,
+std::vector<std::uint8_t> EncodeSubmitReply(std::uint32_t sequence, std::int32_t status,
                                             std::uint32_t length,
                                             std::span<const std::uint8_t> data);
 
 /// The reply to a request that was taken back: `status` is 0 when it had been answered before.
-std::vector<std::uint8_t> encodeUnlinkReply(std::uint32_t sequence, std::int32_t status);
+std::vector<std::uint8_t> EncodeUnlinkReply(std::uint32_t sequence, std::int32_t status);
 
 }  // namespace trxsim

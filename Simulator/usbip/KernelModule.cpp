@@ -7,7 +7,7 @@
 
 namespace trxsim {
 
-bool loadKernelModule(const std::string &name) {
+bool LoadKernelModule(const std::string &name) {
   std::string program = "modprobe";
   std::string quietly = "-q";
   std::string module = name;

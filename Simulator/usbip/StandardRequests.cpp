@@ -15,13 +15,13 @@ constexpr std::uint8_t kOnlyConfiguration = 1;
 
 enum DescriptorType { kDevice = 1, kConfiguration, kString };
 
-TransferResult done(std::vector<std::uint8_t> data = {}) {
-  return {Outcome::Done, std::move(data)};
+TransferResult Done(std::vector<std::uint8_t> data = {}) {
+  return {Outcome::kDone, std::move(data)};
 }
 
-TransferResult stalled() { return {Outcome::Stalled, {}}; }
+TransferResult Stalled() { return {Outcome::kStalled, {}}; }
 
-TransferResult doneIf(bool possible) { return possible ? done() : stalled(); }
+TransferResult DoneIf(bool possible) { return possible ? Done() : Stalled(); }
 
 }  // namespace
 
@@ -32,19 +32,19 @@ struct StandardRequests::Row {
   TransferResult (StandardRequests::*answer)(const ControlRequest &);
 };
 
-bool isStandard(const ControlRequest &request) { return (request.requestType & kTypeBits) == 0; }
+bool IsStandard(const ControlRequest &request) { return (request.requestType & kTypeBits) == 0; }
 
-TransferResult StandardRequests::answer(const ControlRequest &request) {
+TransferResult StandardRequests::Answer(const ControlRequest &request) {
   static constexpr std::array<Row, 9> kRows{{
-      {0x80, 0, &StandardRequests::deviceStatus},
-      {0x81, 0, &StandardRequests::interfaceStatus},
-      {0x82, 0, &StandardRequests::endpointStatus},
-      {0x00, 5, &StandardRequests::setAddress},
-      {0x80, 6, &StandardRequests::descriptor},
-      {0x80, 8, &StandardRequests::configuration},
-      {0x00, 9, &StandardRequests::setConfiguration},
-      {0x81, 10, &StandardRequests::alternateSetting},
-      {0x01, 11, &StandardRequests::setAlternateSetting},
+      {0x80, 0, &StandardRequests::DeviceStatus},
+      {0x81, 0, &StandardRequests::InterfaceStatus},
+      {0x82, 0, &StandardRequests::EndpointStatus},
+      {0x00, 5, &StandardRequests::SetAddress},
+      {0x80, 6, &StandardRequests::Descriptor},
+      {0x80, 8, &StandardRequests::Configuration},
+      {0x00, 9, &StandardRequests::SetConfiguration},
+      {0x81, 10, &StandardRequests::AlternateSetting},
+      {0x01, 11, &StandardRequests::SetAlternateSetting},
   }};
   for (const Row &row : kRows) {
     if (row.requestType != request.requestType || row.request != request.request) continue;
@@ -52,63 +52,63 @@ TransferResult StandardRequests::answer(const ControlRequest &request) {
     result.data.resize(std::min<std::size_t>(result.data.size(), request.length));
     return result;
   }
-  return stalled();
+  return Stalled();
 }
 
-TransferResult StandardRequests::descriptor(const ControlRequest &request) {
+TransferResult StandardRequests::Descriptor(const ControlRequest &request) {
   const unsigned number = request.value & 0xFF;
-  const DeviceKind &kind = kindOf(identity_);
+  const DeviceKind &kind = KindOf(identity_);
   switch (request.value >> 8) {
     case kDevice:
-      return number == 0 ? done(deviceDescriptor(identity_, kind)) : stalled();
+      return number == 0 ? Done(DeviceDescriptor(identity_, kind)) : Stalled();
     case kConfiguration:
-      return number == 0 ? done(configurationDescriptor(kind)) : stalled();
+      return number == 0 ? Done(ConfigurationDescriptor(kind)) : Stalled();
     case kString: {
-      std::vector<std::uint8_t> text = stringDescriptor(identity_, number);
-      return text.empty() ? stalled() : done(std::move(text));
+      std::vector<std::uint8_t> text = StringDescriptor(identity_, number);
+      return text.empty() ? Stalled() : Done(std::move(text));
     }
     default:
-      return stalled();
+      return Stalled();
   }
 }
 
-TransferResult StandardRequests::deviceStatus(const ControlRequest &) {
+TransferResult StandardRequests::DeviceStatus(const ControlRequest &) {
   constexpr std::uint8_t kSelfPowered = 1;
-  return done({kSelfPowered, 0});
+  return Done({kSelfPowered, 0});
 }
 
-TransferResult StandardRequests::interfaceStatus(const ControlRequest &request) {
-  return hasInterface(request.index) ? done({0, 0}) : stalled();
+TransferResult StandardRequests::InterfaceStatus(const ControlRequest &request) {
+  return HasInterface(request.index) ? Done({0, 0}) : Stalled();
 }
 
-TransferResult StandardRequests::endpointStatus(const ControlRequest &request) {
+TransferResult StandardRequests::EndpointStatus(const ControlRequest &request) {
   constexpr std::uint16_t kDirectionBit = 0x80;
-  return (request.index & ~kDirectionBit) == 0 ? done({0, 0}) : stalled();
+  return (request.index & ~kDirectionBit) == 0 ? Done({0, 0}) : Stalled();
 }
 
-TransferResult StandardRequests::configuration(const ControlRequest &) {
-  return done({configuration_});
+TransferResult StandardRequests::Configuration(const ControlRequest &) {
+  return Done({configuration_});
 }
 
-TransferResult StandardRequests::setConfiguration(const ControlRequest &request) {
-  if (request.value > kOnlyConfiguration) return stalled();
+TransferResult StandardRequests::SetConfiguration(const ControlRequest &request) {
+  if (request.value > kOnlyConfiguration) return Stalled();
   configuration_ = static_cast<std::uint8_t>(request.value);
-  return done();
+  return Done();
 }
 
-TransferResult StandardRequests::alternateSetting(const ControlRequest &request) {
-  return hasInterface(request.index) ? done({0}) : stalled();
+TransferResult StandardRequests::AlternateSetting(const ControlRequest &request) {
+  return HasInterface(request.index) ? Done({0}) : Stalled();
 }
 
-TransferResult StandardRequests::setAlternateSetting(const ControlRequest &request) {
-  return doneIf(hasInterface(request.index) && request.value == 0);
+TransferResult StandardRequests::SetAlternateSetting(const ControlRequest &request) {
+  return DoneIf(HasInterface(request.index) && request.value == 0);
 }
 
 // The kernel keeps the address of a USB/IP device to itself; one that does not is answered as well.
-TransferResult StandardRequests::setAddress(const ControlRequest &) { return done(); }
+TransferResult StandardRequests::SetAddress(const ControlRequest &) { return Done(); }
 
-bool StandardRequests::hasInterface(std::uint16_t number) const {
-  return configuration_ != 0 && number < kindOf(identity_).interfaces.size();
+bool StandardRequests::HasInterface(std::uint16_t number) const {
+  return configuration_ != 0 && number < KindOf(identity_).interfaces.size();
 }
 
 }  // namespace trxsim

@@ -24,12 +24,12 @@ constexpr std::chrono::seconds kKernelTakesAtMost(30);
 constexpr std::chrono::milliseconds kLookAgainAfter(2);
 
 // What a USB/IP server would say of where the device sits on its side; the kernel only repeats it.
-unsigned deviceIdOf(int number) { return 1U << 16 | static_cast<unsigned>(number); }
+unsigned DeviceIdOf(int number) { return 1U << 16 | static_cast<unsigned>(number); }
 
 constexpr const char *kNotTakenUp =
     "the kernel did not take the unit up; its log (`dmesg`) may say why";
 
-std::pair<Descriptor, Descriptor> makeCable() {
+std::pair<Descriptor, Descriptor> MakeCable() {
   int ends[2];
   if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) {
     throw DeskError(std::string("cannot make a connection to the kernel: ") + std::strerror(errno));
@@ -41,94 +41,94 @@ std::pair<Descriptor, Descriptor> makeCable() {
 
 UsbipFrontEnd::~UsbipFrontEnd() {
   std::vector<Plugged> units;
-  while (!plugged_.empty()) units.push_back(take(plugged_.begin()->first));
+  while (!plugged_.empty()) units.push_back(Take(plugged_.begin()->first));
   // The kernel takes its time for each, so all are pulled before the first is waited for.
-  for (Plugged &unit : units) pull(unit);
-  for (Plugged &unit : units) waitUntilGone(unit);
+  for (Plugged &unit : units) Pull(unit);
+  for (Plugged &unit : units) WaitUntilGone(unit);
 }
 
-BusAddress UsbipFrontEnd::plug(int number, const UsbIdentity &identity, OpenFault fault) {
-  forgetEnded();
-  connect(number, identity);
+BusAddress UsbipFrontEnd::Plug(int number, const UsbIdentity &identity, OpenFault fault) {
+  ForgetEnded();
+  Connect(number, identity);
   try {
-    const BusAddress address = waitForKernel(plugged_.at(number));
-    show(number, address, fault);
+    const BusAddress address = WaitForKernel(plugged_.at(number));
+    Show(number, address, fault);
     return address;
   } catch (...) {
-    unplug(number);
+    Unplug(number);
     throw;
   }
 }
 
-void UsbipFrontEnd::unplug(int number) {
-  Plugged unit = take(number);
-  pull(unit);
-  waitUntilGone(unit);
+void UsbipFrontEnd::Unplug(int number) {
+  Plugged unit = Take(number);
+  Pull(unit);
+  WaitUntilGone(unit);
 }
 
-void UsbipFrontEnd::setOpenFault(int number, OpenFault fault) {
+void UsbipFrontEnd::SetOpenFault(int number, OpenFault fault) {
   const std::lock_guard lock(mutex_);
-  plugged_.at(number).node->set(fault);
+  plugged_.at(number).node->Set(fault);
 }
 
-void UsbipFrontEnd::connect(int number, const UsbIdentity &identity) {
-  auto [ours, kernels] = makeCable();
+void UsbipFrontEnd::Connect(int number, const UsbIdentity &identity) {
+  auto [ours, kernels] = MakeCable();
   const std::lock_guard lock(mutex_);
   const int plugging = ++pluggings_;
   auto connection = std::make_unique<DeviceConnection>(
       std::move(ours),
       DeviceSession(identity,
                     [this, number](const ControlRequest &request) {
-                      return requests_.transfer(number, request);
+                      return requests_.Transfer(number, request);
                     }),
-      [this, number, plugging](const std::string &reason) { onBroken(number, plugging, reason); });
-  const VhciPort port = controller_.attach(kernels.get(), deviceIdOf(number));
+      [this, number, plugging](const std::string &reason) { OnBroken(number, plugging, reason); });
+  const VhciPort port = controller_.Attach(kernels.Get(), DeviceIdOf(number));
   plugged_.emplace(number, Plugged{plugging, port, std::move(connection), {}, {}, false});
 }
 
-BusAddress UsbipFrontEnd::waitForKernel(const Plugged &unit) const {
+BusAddress UsbipFrontEnd::WaitForKernel(const Plugged &unit) const {
   const Clock::time_point end = Clock::now() + kKernelTakesAtMost;
-  while (Clock::now() < end && !unit.connection->isFinished()) {
-    if (const std::optional<BusAddress> address = controller_.addressAt(unit.port)) return *address;
+  while (Clock::now() < end && !unit.connection->IsFinished()) {
+    if (const std::optional<BusAddress> address = controller_.AddressAt(unit.port)) return *address;
     std::this_thread::sleep_for(kLookAgainAfter);
   }
   throw DeskError(kNotTakenUp);
 }
 
-void UsbipFrontEnd::show(int number, const BusAddress &address, OpenFault fault) {
+void UsbipFrontEnd::Show(int number, const BusAddress &address, OpenFault fault) {
   const std::lock_guard lock(mutex_);
   Plugged &unit = plugged_.at(number);
   if (unit.isBroken) throw DeskError(kNotTakenUp);
   unit.address = address;
-  unit.node = std::make_unique<DeviceNode>(controller_.nodeOf(address));
-  if (fault != OpenFault::None) unit.node->set(fault);
+  unit.node = std::make_unique<DeviceNode>(controller_.NodeOf(address));
+  if (fault != OpenFault::kNone) unit.node->Set(fault);
 }
 
-UsbipFrontEnd::Plugged UsbipFrontEnd::take(int number) {
+UsbipFrontEnd::Plugged UsbipFrontEnd::Take(int number) {
   const std::lock_guard lock(mutex_);
   Plugged unit = std::move(plugged_.at(number));
   plugged_.erase(number);
   return unit;
 }
 
-void UsbipFrontEnd::pull(Plugged &unit) {
+void UsbipFrontEnd::Pull(Plugged &unit) {
   unit.node.reset();
-  if (!unit.connection->isFinished()) controller_.detach(unit.port);
-  unit.connection->pull();
+  if (!unit.connection->IsFinished()) controller_.Detach(unit.port);
+  unit.connection->Pull();
 }
 
 // The thread of the connection is not waited for: it may be the one that is here, or wait for the
 // desk, which is locked.
-void UsbipFrontEnd::waitUntilGone(Plugged &unit) {
+void UsbipFrontEnd::WaitUntilGone(Plugged &unit) {
   const Clock::time_point end = Clock::now() + kKernelTakesAtMost;
-  while (unit.address && controller_.hasTracesOf(*unit.address, unit.port) && Clock::now() < end) {
+  while (unit.address && controller_.HasTracesOf(*unit.address, unit.port) && Clock::now() < end) {
     std::this_thread::sleep_for(kLookAgainAfter);
   }
   const std::lock_guard lock(mutex_);
   pulled_.push_back(std::move(unit.connection));
 }
 
-void UsbipFrontEnd::onBroken(int number, int plugging, const std::string &reason) {
+void UsbipFrontEnd::OnBroken(int number, int plugging, const std::string &reason) {
   std::optional<BusAddress> address;
   {
     const std::lock_guard lock(mutex_);
@@ -138,12 +138,12 @@ void UsbipFrontEnd::onBroken(int number, int plugging, const std::string &reason
     address = found->second.address;
   }
   std::fprintf(stderr, "trx-mixer-sim: the kernel dropped unit %d: %s\n", number, reason.c_str());
-  if (address) requests_.lost(number, *address);
+  if (address) requests_.Lost(number, *address);
 }
 
-void UsbipFrontEnd::forgetEnded() {
+void UsbipFrontEnd::ForgetEnded() {
   const std::lock_guard lock(mutex_);
-  pulled_.remove_if([](const auto &connection) { return connection->isFinished(); });
+  pulled_.remove_if([](const auto &connection) { return connection->IsFinished(); });
 }
 
 }  // namespace trxsim

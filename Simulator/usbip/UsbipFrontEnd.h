@@ -26,11 +26,11 @@ class UsbipFrontEnd : public FrontEnd {
   UsbipFrontEnd &operator=(const UsbipFrontEnd &) = delete;
 
   /// Where the requests of hosts come out.
-  RequestGate &requests() { return requests_; }
+  RequestGate &Requests() { return requests_; }
 
-  BusAddress plug(int number, const UsbIdentity &identity, OpenFault fault) override;
-  void unplug(int number) override;
-  void setOpenFault(int number, OpenFault fault) override;
+  BusAddress Plug(int number, const UsbIdentity &identity, OpenFault fault) override;
+  void Unplug(int number) override;
+  void SetOpenFault(int number, OpenFault fault) override;
 
  private:
   struct Plugged {
@@ -42,14 +42,14 @@ class UsbipFrontEnd : public FrontEnd {
     bool isBroken = false;
   };
 
-  void connect(int number, const UsbIdentity &identity);
-  BusAddress waitForKernel(const Plugged &unit) const;
-  void show(int number, const BusAddress &address, OpenFault fault);
-  Plugged take(int number);
-  void pull(Plugged &unit);
-  void waitUntilGone(Plugged &unit);
-  void onBroken(int number, int plugging, const std::string &reason);
-  void forgetEnded();
+  void Connect(int number, const UsbIdentity &identity);
+  BusAddress WaitForKernel(const Plugged &unit) const;
+  void Show(int number, const BusAddress &address, OpenFault fault);
+  Plugged Take(int number);
+  void Pull(Plugged &unit);
+  void WaitUntilGone(Plugged &unit);
+  void OnBroken(int number, int plugging, const std::string &reason);
+  void ForgetEnded();
 
   RequestGate requests_;
   VhciController controller_;

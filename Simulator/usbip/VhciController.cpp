@@ -31,40 +31,40 @@ constexpr int kHighSpeed = 3;
 // What the hub of high-speed devices says of itself; its companion for SuperSpeed says 5000.
 constexpr const char *kHighSpeedHub = "480";
 
-std::string textOf(const fs::path &file) {
+std::string TextOf(const fs::path &file) {
   std::stringstream text;
   text << std::ifstream(file).rdbuf();
   return text.str();
 }
 
-std::string wordOf(const fs::path &file) {
+std::string WordOf(const fs::path &file) {
   std::string word;
   std::ifstream(file) >> word;
   return word;
 }
 
-std::optional<int> numberOf(const fs::path &file) {
+std::optional<int> NumberOf(const fs::path &file) {
   int number = 0;
   return std::ifstream(file) >> number ? std::optional(number) : std::nullopt;
 }
 
 // 0 or the error. Sysfs wants the whole text in one piece.
-int writeText(const fs::path &file, const std::string &text) {
+int WriteText(const fs::path &file, const std::string &text) {
   const Descriptor descriptor(open(file.c_str(), O_WRONLY | O_CLOEXEC));
   if (!descriptor) return errno;
-  const ssize_t count = write(descriptor.get(), text.data(), text.size());
+  const ssize_t count = write(descriptor.Get(), text.data(), text.size());
   return count == static_cast<ssize_t>(text.size()) ? 0 : errno;
 }
 
 // Throws unless devices can be attached by writing to `file`.
-void requireAttach(const fs::path &file) {
+void RequireAttach(const fs::path &file) {
   if (access(file.c_str(), W_OK) == 0) return;
   if (geteuid() != 0) {
     throw DeskError(
         "plugging mixers into the running kernel needs root: try again with sudo. Without --usbip "
         "no privileges are needed");
   }
-  if (access(file.c_str(), F_OK) != 0) loadKernelModule("vhci-hcd");
+  if (access(file.c_str(), F_OK) != 0) LoadKernelModule("vhci-hcd");
   if (access(file.c_str(), W_OK) == 0) return;
   if (errno != ENOENT) {
     throw DeskError("cannot write " + file.string() + ": " + std::strerror(errno));
@@ -76,7 +76,7 @@ void requireAttach(const fs::path &file) {
 
 }  // namespace
 
-std::vector<VhciPort> parseVhciStatus(std::string_view text, int controller) {
+std::vector<VhciPort> ParseVhciStatus(std::string_view text, int controller) {
   std::vector<VhciPort> ports;
   std::istringstream lines{std::string(text)};
   for (std::string line; std::getline(lines, line);) {
@@ -91,26 +91,26 @@ std::vector<VhciPort> parseVhciStatus(std::string_view text, int controller) {
 }
 
 VhciController::VhciController(fs::path root) : root_(std::move(root)) {
-  requireAttach(root_ / kFirstController / "attach");
+  RequireAttach(root_ / kFirstController / "attach");
 }
 
-std::vector<VhciPort> VhciController::ports() const {
+std::vector<VhciPort> VhciController::Ports() const {
   std::vector<VhciPort> all;
   for (int controller = 0;; ++controller) {
-    const std::optional<fs::path> file = statusFile(controller);
+    const std::optional<fs::path> file = StatusFile(controller);
     if (!file) return all;
-    const std::vector<VhciPort> some = parseVhciStatus(textOf(*file), controller);
+    const std::vector<VhciPort> some = ParseVhciStatus(TextOf(*file), controller);
     all.insert(all.end(), some.begin(), some.end());
   }
 }
 
-VhciPort VhciController::attach(int socket, unsigned deviceId) const {
-  const std::vector<VhciPort> all = ports();
+VhciPort VhciController::Attach(int socket, unsigned deviceId) const {
+  const std::vector<VhciPort> all = Ports();
   for (const VhciPort &port : all) {
     if (!port.isFree) continue;
     char text[64];
     std::snprintf(text, sizeof text, "%d %d %u %d", port.number, socket, deviceId, kHighSpeed);
-    const int error = writeText(root_ / kFirstController / "attach", text);
+    const int error = WriteText(root_ / kFirstController / "attach", text);
     if (error == 0) return port;
     // Somebody else may have taken it meanwhile.
     if (error != EBUSY) {
@@ -122,52 +122,52 @@ VhciPort VhciController::attach(int socket, unsigned deviceId) const {
                   " ports of the virtual USB host controllers are taken; `unplug` a unit first");
 }
 
-void VhciController::detach(const VhciPort &port) const {
-  writeText(root_ / kFirstController / "detach", std::to_string(port.number));
+void VhciController::Detach(const VhciPort &port) const {
+  WriteText(root_ / kFirstController / "detach", std::to_string(port.number));
 }
 
-std::optional<BusAddress> VhciController::addressAt(const VhciPort &port) const {
-  const fs::path device = folderOf(port);
-  const std::optional<int> busNumber = numberOf(device / "busnum");
-  const std::optional<int> deviceNumber = numberOf(device / "devnum");
+std::optional<BusAddress> VhciController::AddressAt(const VhciPort &port) const {
+  const fs::path device = FolderOf(port);
+  const std::optional<int> busNumber = NumberOf(device / "busnum");
+  const std::optional<int> deviceNumber = NumberOf(device / "devnum");
   if (!busNumber || !deviceNumber) return std::nullopt;
   const BusAddress address{*busNumber, *deviceNumber};
-  return fs::exists(nodeOf(address)) ? std::optional(address) : std::nullopt;
+  return fs::exists(NodeOf(address)) ? std::optional(address) : std::nullopt;
 }
 
 // The node goes first, then the numbers, and the entry in the list of devices last.
-bool VhciController::hasTracesOf(const BusAddress &address, const VhciPort &port) const {
-  const fs::path device = folderOf(port);
+bool VhciController::HasTracesOf(const BusAddress &address, const VhciPort &port) const {
+  const fs::path device = FolderOf(port);
   return fs::exists(device) &&
-         numberOf(device / "devnum").value_or(address.device) == address.device;
+         NumberOf(device / "devnum").value_or(address.device) == address.device;
 }
 
 // Does not exist when the controller has no bus.
-fs::path VhciController::folderOf(const VhciPort &port) const {
-  return root_ / kDeviceList / (busName(port.controller) + '-' + std::to_string(port.hubPort));
+fs::path VhciController::FolderOf(const VhciPort &port) const {
+  return root_ / kDeviceList / (BusName(port.controller) + '-' + std::to_string(port.hubPort));
 }
 
-fs::path VhciController::nodeOf(const BusAddress &address) const {
+fs::path VhciController::NodeOf(const BusAddress &address) const {
   char text[48];
   std::snprintf(text, sizeof text, "dev/bus/usb/%03d/%03d", address.bus, address.device);
   return root_ / text;
 }
 
 // The first controller has the status files of all.
-std::optional<fs::path> VhciController::statusFile(int controller) const {
+std::optional<fs::path> VhciController::StatusFile(int controller) const {
   const std::string name = controller == 0 ? "status" : "status." + std::to_string(controller);
   const fs::path file = root_ / kFirstController / name;
   return fs::exists(file) ? std::optional(file) : std::nullopt;
 }
 
 // "3" when the controller's high-speed hub is usb3; empty when there is none.
-std::string VhciController::busName(int controller) const {
+std::string VhciController::BusName(int controller) const {
   constexpr std::string_view kHubPrefix = "usb";
   const fs::path folder = root_ / kPlatformFolder / ("vhci_hcd." + std::to_string(controller));
   std::error_code error;
   for (const fs::directory_entry &entry : fs::directory_iterator(folder, error)) {
     const std::string name = entry.path().filename();
-    if (name.starts_with(kHubPrefix) && wordOf(entry.path() / "speed") == kHighSpeedHub) {
+    if (name.starts_with(kHubPrefix) && WordOf(entry.path() / "speed") == kHighSpeedHub) {
       return name.substr(kHubPrefix.size());
     }
   }

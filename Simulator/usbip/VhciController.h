@@ -20,7 +20,7 @@ struct VhciPort {
 
 /// The high-speed ports of one controller, in their order, from what its status file says. Lines
 /// that say something else are passed over.
-std::vector<VhciPort> parseVhciStatus(std::string_view text, int controller);
+std::vector<VhciPort> ParseVhciStatus(std::string_view text, int controller);
 
 /// The kernel's virtual host controllers (vhci-hcd), by way of sysfs. One thread at a time.
 class VhciController {
@@ -30,29 +30,29 @@ class VhciController {
   explicit VhciController(std::filesystem::path root = "/");
 
   /// All high-speed ports, in the order of the buses.
-  std::vector<VhciPort> ports() const;
+  std::vector<VhciPort> Ports() const;
 
   /// Gives the kernel's end of a connection to the first free port, which becomes its device's.
   /// Throws `DeskError` when there is none.
-  VhciPort attach(int socket, unsigned deviceId) const;
+  VhciPort Attach(int socket, unsigned deviceId) const;
 
   /// Takes the device off a port; does nothing when none is there.
-  void detach(const VhciPort &port) const;
+  void Detach(const VhciPort &port) const;
 
   /// Where the device at a port is found; nothing while the kernel does not show it to hosts.
-  std::optional<BusAddress> addressAt(const VhciPort &port) const;
+  std::optional<BusAddress> AddressAt(const VhciPort &port) const;
 
   /// Whether anything is left of the device that was at `address`: the kernel takes one away piece
   /// by piece, and hosts may still find it when it cannot be opened any more.
-  bool hasTracesOf(const BusAddress &address, const VhciPort &port) const;
+  bool HasTracesOf(const BusAddress &address, const VhciPort &port) const;
 
   /// The device node that belongs to an address.
-  std::filesystem::path nodeOf(const BusAddress &address) const;
+  std::filesystem::path NodeOf(const BusAddress &address) const;
 
  private:
-  std::optional<std::filesystem::path> statusFile(int controller) const;
-  std::string busName(int controller) const;
-  std::filesystem::path folderOf(const VhciPort &port) const;
+  std::optional<std::filesystem::path> StatusFile(int controller) const;
+  std::string BusName(int controller) const;
+  std::filesystem::path FolderOf(const VhciPort &port) const;
 
   std::filesystem::path root_;
 };

@@ -32,8 +32,8 @@ bool IsPrintable(std::string_view text) {
 /// Everything that can be seen of the units.
 Lines Seen(CommandInterpreter &interpreter, const Desk &desk) {
   Lines seen;
-  for (const auto &[number, unit] : desk.units()) {
-    const Lines lines = interpreter.execute("get " + std::to_string(number)).lines;
+  for (const auto &[number, unit] : desk.Units()) {
+    const Lines lines = interpreter.Execute("get " + std::to_string(number)).lines;
     seen.insert(seen.end(), lines.begin(), lines.end());
   }
   return seen;
@@ -50,7 +50,7 @@ void CheckReply(const CommandReply &reply) {
 }
 
 void CheckUnits(const Desk &desk, const RecordingFrontEnd &frontEnd) {
-  for (const auto &[number, unit] : desk.units()) {
+  for (const auto &[number, unit] : desk.Units()) {
     const std::string ending = ' ' + std::to_string(number);
     const auto last = std::find_if(frontEnd.calls.rbegin(), frontEnd.calls.rend(), [&](auto call) {
       if (call.ends_with(" faulty")) call.resize(call.size() - 7);
@@ -62,23 +62,23 @@ void CheckUnits(const Desk &desk, const RecordingFrontEnd &frontEnd) {
     Promise(unit.address.has_value() == isPlugged,
             "the desk and what hosts see agree on what is plugged in");
     if (!unit.mixer) continue;
-    const std::size_t channels = unit.mixer->state().selectors.size();
+    const std::size_t channels = unit.mixer->State().selectors.size();
     Promise(channels >= 1 && channels <= 16, "a mixer has 1 to 16 channels");
   }
 }
 
 void AskEverything(Desk &desk, int number) {
-  for (const trxsim::RequestEntry &entry : trxsim::requestTable()) {
-    const auto length = static_cast<std::uint16_t>(entry.isRead() ? 6 : 0);
-    const std::size_t logged = desk.log().size();
+  for (const trxsim::RequestEntry &entry : trxsim::RequestTable()) {
+    const auto length = static_cast<std::uint16_t>(entry.IsRead() ? 6 : 0);
+    const std::size_t logged = desk.Log().size();
     const auto result =
-        desk.transfer(number, {entry.requestType, entry.request, 0, entry.index, length});
-    const bool isGone = result.outcome == Outcome::Gone;
-    Promise(desk.log().size() == logged + (isGone ? 0 : 1), "what crosses the wire is logged");
+        desk.Transfer(number, {entry.requestType, entry.request, 0, entry.index, length});
+    const bool isGone = result.outcome == Outcome::kGone;
+    Promise(desk.Log().size() == logged + (isGone ? 0 : 1), "what crosses the wire is logged");
     Promise(result.data.size() <= length, "a reply is no longer than the host asked for");
-    Promise(result.outcome == Outcome::Done || result.data.empty(), "a failed request has no data");
-    if (result.outcome == Outcome::Unplugged) {
-      Promise(!desk.unit(number).address, "a unit that vanishes is unplugged");
+    Promise(result.outcome == Outcome::kDone || result.data.empty(), "a failed request has no data");
+    if (result.outcome == Outcome::kUnplugged) {
+      Promise(!desk.UnitOf(number).address, "a unit that vanishes is unplugged");
     }
   }
 }
@@ -86,22 +86,22 @@ void AskEverything(Desk &desk, int number) {
 void Run(std::string_view input) {
   RecordingFrontEnd frontEnd;
   Desk desk(frontEnd);
-  desk.plugMixer();
+  desk.PlugMixer();
   CommandInterpreter interpreter(desk, {"ONE=1", "TWO=2"});
   Lines seen = Seen(interpreter, desk);
   while (!input.empty()) {
     const std::size_t end = std::min(input.find('\n'), input.size());
     const std::string_view line = input.substr(0, end);
     input.remove_prefix(std::min(end + 1, input.size()));
-    frontEnd.isFull = desk.units().size() >= kMostUnits;
-    const CommandReply reply = interpreter.execute(line);
+    frontEnd.isFull = desk.Units().size() >= kMostUnits;
+    const CommandReply reply = interpreter.Execute(line);
     CheckReply(reply);
     Lines seenNow = Seen(interpreter, desk);
     if (reply.refused) Promise(seenNow == seen, "a refusal changes nothing");
     seen = std::move(seenNow);
     CheckUnits(desk, frontEnd);
   }
-  for (const auto &[number, unit] : desk.units()) AskEverything(desk, number);
+  for (const auto &[number, unit] : desk.Units()) AskEverything(desk, number);
   CheckUnits(desk, frontEnd);
 }
 

@@ -39,14 +39,14 @@ class Device {
  public:
   explicit Device(Trouble trouble) {
     if (trouble == kStranger) {
-      desk_.plugStranger(0x1234, 0x5678);
+      desk_.PlugStranger(0x1234, 0x5678);
     } else {
-      desk_.plugMixer();
+      desk_.PlugMixer();
     }
-    constexpr RequestFaultKind kKinds[] = {RequestFaultKind::Stall, RequestFaultKind::Short,
-                                           RequestFaultKind::NoReply, RequestFaultKind::Vanish};
+    constexpr RequestFaultKind kKinds[] = {RequestFaultKind::kStall, RequestFaultKind::kShort,
+                                           RequestFaultKind::kNoReply, RequestFaultKind::kVanish};
     if (trouble >= kStall && trouble <= kVanish) {
-      desk_.setFault(1, std::nullopt, {kKinds[trouble - kStall], 1});
+      desk_.SetFault(1, std::nullopt, {kKinds[trouble - kStall], 1});
     }
   }
 
@@ -55,8 +55,8 @@ class Device {
     Bytes replies;
     while (!bytes.empty()) {
       const Input next = bytes.first(std::min(piece, bytes.size()));
-      const bool wasOver = session_.isOver();
-      const Bytes more = session_.receive(next);
+      const bool wasOver = session_.IsOver();
+      const Bytes more = session_.Receive(next);
       Promise(more.empty() || !wasOver, "nothing is answered once the conversation is over");
       replies.insert(replies.end(), more.begin(), more.end());
       bytes = bytes.subspan(next.size());
@@ -65,14 +65,14 @@ class Device {
   }
 
   const DeviceSession &Session() const { return session_; }
-  std::size_t LoggedRequests() const { return desk_.log().size(); }
+  std::size_t LoggedRequests() const { return desk_.Log().size(); }
 
  private:
   RecordingFrontEnd frontEnd_;
   Desk desk_{frontEnd_};
   DeviceSession session_{
       trxsim::UsbIdentity{0x4F52, 0x001F, true, "Maker", "Mixer", "1"},
-      [this](const ControlRequest &request) { return desk_.transfer(1, request); }};
+      [this](const ControlRequest &request) { return desk_.Transfer(1, request); }};
 };
 
 std::uint32_t NumberAt(Input bytes, std::size_t place) {
@@ -96,7 +96,7 @@ class Kernel {
 
  private:
   void Check(const SubmitFrame &frame) {
-    const bool isForMixer = frame.endpoint == 0 && !trxsim::isStandard(frame.setup);
+    const bool isForMixer = frame.endpoint == 0 && !trxsim::IsStandard(frame.setup);
     if (isForMixer && trouble_ == kVanish) {
       isUnplugged_ = true;
       return;
@@ -167,7 +167,7 @@ void Run(Input input) {
   const std::size_t piece = input[1] == 0 ? input.size() : input[1];
   const Input bytes = input.subspan(2);
 
-  const DecodedFrames decoded = trxsim::decodeFrames(bytes);
+  const DecodedFrames decoded = trxsim::DecodeFrames(bytes);
   CheckDecoded(bytes, decoded);
 
   Device device(trouble);
@@ -178,10 +178,10 @@ void Run(Input input) {
   Device slowDevice(trouble);
   Promise(slowDevice.Converse(bytes, piece) == replies,
           "the replies are the same in whatever pieces the bytes arrive");
-  Promise(slowDevice.Session().isOver() == device.Session().isOver(),
+  Promise(slowDevice.Session().IsOver() == device.Session().IsOver(),
           "so is whether the conversation is over");
-  Promise(device.Session().isOver() ||
-              slowDevice.Session().isInMidFrame() == device.Session().isInMidFrame(),
+  Promise(device.Session().IsOver() ||
+              slowDevice.Session().IsInMidFrame() == device.Session().IsInMidFrame(),
           "so is whether a frame has begun");
 }
 

@@ -14,114 +14,114 @@ constexpr const char *kReadFirmware = " c0 0 0 8001 2 1000";
 
 TEST(Bus, ListsTheRootHubAndTheMixers) {
   SimulatorRun run(2);
-  EXPECT_EQ(run.client().ask("list"), "1-1=001/002 1-2=001/003 usb1=001/001");
+  EXPECT_EQ(run.Client().Ask("list"), "1-1=001/002 1-2=001/003 usb1=001/001");
 }
 
 TEST(Bus, WithoutMixersHasOnlyTheRootHub) {
   SimulatorRun run(0);
-  EXPECT_EQ(run.client().ask("list"), "usb1=001/001");
-  EXPECT_TRUE(run.control("units").empty());
+  EXPECT_EQ(run.Client().Ask("list"), "usb1=001/001");
+  EXPECT_TRUE(run.Control("units").empty());
 }
 
 TEST(Bus, UeventReadsAsTheKernelWritesIt) {
   SimulatorRun run(1);
-  EXPECT_EQ(run.client().ask("cat /sys/bus/usb/devices/1-1/uevent"),
+  EXPECT_EQ(run.Client().Ask("cat /sys/bus/usb/devices/1-1/uevent"),
             "MAJOR=189/MINOR=1/DEVNAME=bus/usb/001/002/DEVTYPE=usb_device/DRIVER=usb/"
             "PRODUCT=" +
-                vendorIdInProduct() + "/1f/100/TYPE=0/0/0/BUSNUM=001/DEVNUM=002/");
-  EXPECT_EQ(run.client().ask("cat /sys/bus/usb/devices/usb1/uevent"),
+                VendorIdInProduct() + "/1f/100/TYPE=0/0/0/BUSNUM=001/DEVNUM=002/");
+  EXPECT_EQ(run.Client().Ask("cat /sys/bus/usb/devices/usb1/uevent"),
             "MAJOR=189/MINOR=0/DEVNAME=bus/usb/001/001/DEVTYPE=usb_device/DRIVER=usb/"
             "PRODUCT=1d6b/2/601/TYPE=9/0/1/BUSNUM=001/DEVNUM=001/");
 }
 
 TEST(Bus, InterfacesAreListedBesideTheirDevice) {
   SimulatorRun run(1);
-  EXPECT_EQ(run.client().ask("cat /sys/bus/usb/devices/1-1:1.0/uevent"),
-            "DEVTYPE=usb_interface/DRIVER=snd-usb-audio/PRODUCT=" + vendorIdInProduct() +
+  EXPECT_EQ(run.Client().Ask("cat /sys/bus/usb/devices/1-1:1.0/uevent"),
+            "DEVTYPE=usb_interface/DRIVER=snd-usb-audio/PRODUCT=" + VendorIdInProduct() +
                 "/1f/100/TYPE=0/0/0/"
                 "INTERFACE=1/1/0/MODALIAS=usb:v" +
-                vendorIdInModalias() + "p001Fd0100dc00dsc00dp00ic01isc01ip00in00/");
-  EXPECT_EQ(run.client().ask("cat /sys/bus/usb/devices/1-1:1.2/bInterfaceSubClass"), "03/");
+                VendorIdInModalias() + "p001Fd0100dc00dsc00dp00ic01isc01ip00in00/");
+  EXPECT_EQ(run.Client().Ask("cat /sys/bus/usb/devices/1-1:1.2/bInterfaceSubClass"), "03/");
 }
 
 TEST(Bus, AttributesReadAsTheKernelWritesThem) {
   SimulatorRun run(1);
   const std::string folder = "cat /sys/bus/usb/devices/1-1/";
-  EXPECT_EQ(run.client().ask(folder + "idVendor"), vendorId() + "/");
-  EXPECT_EQ(run.client().ask(folder + "idProduct"), "001f/");
-  EXPECT_EQ(run.client().ask(folder + "busnum"), "1/");
-  EXPECT_EQ(run.client().ask(folder + "devnum"), "2/");
-  EXPECT_EQ(run.client().ask(folder + "manufacturer"), "Orvik Audio/");
-  EXPECT_EQ(run.client().ask(folder + "product"), "TRX-SELVA/");
-  EXPECT_EQ(run.client().ask(folder + "serial"), "SIM00001/");
-  EXPECT_EQ(run.client().ask(folder + "version"), " 2.00/");
+  EXPECT_EQ(run.Client().Ask(folder + "idVendor"), VendorId() + "/");
+  EXPECT_EQ(run.Client().Ask(folder + "idProduct"), "001f/");
+  EXPECT_EQ(run.Client().Ask(folder + "busnum"), "1/");
+  EXPECT_EQ(run.Client().Ask(folder + "devnum"), "2/");
+  EXPECT_EQ(run.Client().Ask(folder + "manufacturer"), "Orvik Audio/");
+  EXPECT_EQ(run.Client().Ask(folder + "product"), "TRX-SELVA/");
+  EXPECT_EQ(run.Client().Ask(folder + "serial"), "SIM00001/");
+  EXPECT_EQ(run.Client().Ask(folder + "version"), " 2.00/");
 }
 
 TEST(Bus, NodeIsACharacterDevice) {
   SimulatorRun run(1);
-  EXPECT_EQ(run.client().ask(std::string("stat ") + kFirst), "character 189:1");
+  EXPECT_EQ(run.Client().Ask(std::string("stat ") + kFirst), "character 189:1");
 }
 
 TEST(Bus, UnpluggedUnitIsGoneFromEverywhere) {
   SimulatorRun run(2);
-  run.control("unplug 1");
-  EXPECT_EQ(run.client().ask("list"), "1-2=001/003 usb1=001/001");
-  EXPECT_EQ(run.client().ask("cat /sys/bus/usb/devices/1-1:1.0/uevent"), "ENOENT");
-  EXPECT_EQ(run.client().ask(std::string("open ") + kFirst), "ENOENT");
+  run.Control("unplug 1");
+  EXPECT_EQ(run.Client().Ask("list"), "1-2=001/003 usb1=001/001");
+  EXPECT_EQ(run.Client().Ask("cat /sys/bus/usb/devices/1-1:1.0/uevent"), "ENOENT");
+  EXPECT_EQ(run.Client().Ask(std::string("open ") + kFirst), "ENOENT");
 }
 
 TEST(Bus, HandleOfAnUnpluggedUnitIsDeadForGood) {
   SimulatorRun run(1);
-  const std::string handle = run.open(kFirst);
-  run.control("unplug 1");
-  EXPECT_EQ(run.client().ask("control " + handle + kReadFirmware), "ENODEV ee ee");
-  EXPECT_EQ(run.client().ask("other-ioctl " + handle), "ENODEV");
-  run.control("replug 1");
-  EXPECT_EQ(run.client().ask("control " + handle + kReadFirmware), "ENODEV ee ee");
-  EXPECT_TRUE(run.log().empty());
+  const std::string handle = run.Open(kFirst);
+  run.Control("unplug 1");
+  EXPECT_EQ(run.Client().Ask("control " + handle + kReadFirmware), "ENODEV ee ee");
+  EXPECT_EQ(run.Client().Ask("other-ioctl " + handle), "ENODEV");
+  run.Control("replug 1");
+  EXPECT_EQ(run.Client().Ask("control " + handle + kReadFirmware), "ENODEV ee ee");
+  EXPECT_TRUE(run.Log().empty());
 }
 
 TEST(Bus, ReplugGivesANewDeviceNumberAtTheSamePort) {
   SimulatorRun run(2);
-  run.control("unplug 1");
-  run.control("replug 1");
-  EXPECT_EQ(run.client().ask("list"), "1-1=001/004 1-2=001/003 usb1=001/001");
-  const std::string handle = run.open("/dev/bus/usb/001/004");
-  EXPECT_EQ(run.client().ask("control " + handle + kReadFirmware), "2 00 01");
+  run.Control("unplug 1");
+  run.Control("replug 1");
+  EXPECT_EQ(run.Client().Ask("list"), "1-1=001/004 1-2=001/003 usb1=001/001");
+  const std::string handle = run.Open("/dev/bus/usb/001/004");
+  EXPECT_EQ(run.Client().Ask("control " + handle + kReadFirmware), "2 00 01");
 }
 
 TEST(Bus, DeviceNumbersStartAgainAfter127) {
   SimulatorRun run(2);
   for (int number = 4; number <= 127; ++number) {
-    run.control("unplug 1");
-    run.control("replug 1");
+    run.Control("unplug 1");
+    run.Control("replug 1");
   }
-  EXPECT_EQ(run.client().ask("list"), "1-1=001/127 1-2=001/003 usb1=001/001");
-  run.control("unplug 1");
-  run.control("replug 1");
-  EXPECT_EQ(run.client().ask("list"), "1-1=001/002 1-2=001/003 usb1=001/001");
-  const std::string handle = run.open(kFirst);
-  EXPECT_EQ(run.client().ask("control " + handle + kReadFirmware), "2 00 01");
+  EXPECT_EQ(run.Client().Ask("list"), "1-1=001/127 1-2=001/003 usb1=001/001");
+  run.Control("unplug 1");
+  run.Control("replug 1");
+  EXPECT_EQ(run.Client().Ask("list"), "1-1=001/002 1-2=001/003 usb1=001/001");
+  const std::string handle = run.Open(kFirst);
+  EXPECT_EQ(run.Client().Ask("control " + handle + kReadFirmware), "2 00 01");
 }
 
 TEST(Bus, FullBusRefusesOneMoreUnit) {
   SimulatorRun run(100);
-  for (int number = 101; number <= 126; ++number) run.control("plug");
-  EXPECT_THROW(run.control("plug"), trxsim::CommandRefused);
-  EXPECT_EQ(run.control("units").size(), 126u);
-  run.control("unplug 60");
-  EXPECT_EQ(run.control("plug"), Lines{"127"});
+  for (int number = 101; number <= 126; ++number) run.Control("plug");
+  EXPECT_THROW(run.Control("plug"), trxsim::CommandRefused);
+  EXPECT_EQ(run.Control("units").size(), 126u);
+  run.Control("unplug 60");
+  EXPECT_EQ(run.Control("plug"), Lines{"127"});
 }
 
 TEST(Bus, StrangerIsThereButNotAMixer) {
   SimulatorRun run(1);
-  EXPECT_EQ(run.control("plug 1234:0abc"), Lines{"2"});
-  EXPECT_EQ(run.client().ask("cat /sys/bus/usb/devices/1-2/uevent"),
+  EXPECT_EQ(run.Control("plug 1234:0abc"), Lines{"2"});
+  EXPECT_EQ(run.Client().Ask("cat /sys/bus/usb/devices/1-2/uevent"),
             "MAJOR=189/MINOR=2/DEVNAME=bus/usb/001/003/DEVTYPE=usb_device/DRIVER=usb/"
             "PRODUCT=1234/abc/100/TYPE=0/0/0/BUSNUM=001/DEVNUM=003/");
-  const std::string handle = run.open("/dev/bus/usb/001/003");
-  EXPECT_EQ(run.client().ask("control " + handle + kReadFirmware), "EPIPE ee ee");
-  EXPECT_EQ(run.log(), Lines{"unit 2  IN   c0 00  wValue 0000  wIndex 8001  wLength 2  "
+  const std::string handle = run.Open("/dev/bus/usb/001/003");
+  EXPECT_EQ(run.Client().Ask("control " + handle + kReadFirmware), "EPIPE ee ee");
+  EXPECT_EQ(run.Log(), Lines{"unit 2  IN   c0 00  wValue 0000  wIndex 8001  wLength 2  "
                              "-> stalled                 firmware version"});
 }
 

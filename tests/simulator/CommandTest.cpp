@@ -13,16 +13,16 @@ using Lines = std::vector<std::string>;
 
 class Commands : public testing::Test {
  protected:
-  void SetUp() override { desk.plugMixer(); }
+  void SetUp() override { desk.PlugMixer(); }
 
-  Lines ask(const std::string &command) {
-    const CommandReply reply = interpreter.execute(command);
+  Lines Ask(const std::string &command) {
+    const CommandReply reply = interpreter.Execute(command);
     EXPECT_FALSE(reply.refused) << command << ": " << reply.error;
     return reply.lines;
   }
 
-  std::string refusal(const std::string &command) {
-    const CommandReply reply = interpreter.execute(command);
+  std::string Refusal(const std::string &command) {
+    const CommandReply reply = interpreter.Execute(command);
     EXPECT_TRUE(reply.refused) << command;
     EXPECT_TRUE(reply.lines.empty());
     return reply.error;
@@ -34,36 +34,36 @@ class Commands : public testing::Test {
 };
 
 TEST_F(Commands, UnitsListsEveryUnit) {
-  desk.plugStranger(0x1234, 0xABCD);
-  desk.unplug(2);
-  desk.setFault(1, OpenFault::Deny);
-  EXPECT_EQ(ask("units"), (Lines{"1  mixer " + vendorId() + ":001f  plugged 001/002  faults deny",
+  desk.PlugStranger(0x1234, 0xABCD);
+  desk.Unplug(2);
+  desk.SetFault(1, OpenFault::kDeny);
+  EXPECT_EQ(Ask("units"), (Lines{"1  mixer " + VendorId() + ":001f  plugged 001/002  faults deny",
                                  "2  stranger 1234:abcd  unplugged  faults none"}));
 }
 
 TEST_F(Commands, PlugAnswersTheNewNumber) {
-  EXPECT_EQ(ask("plug"), Lines{"2"});
-  EXPECT_EQ(ask("plug 1234:abcd"), Lines{"3"});
-  EXPECT_TRUE(desk.unit(2).mixer);
-  EXPECT_FALSE(desk.unit(3).mixer);
-  EXPECT_EQ(desk.unit(3).identity.product, 0xABCD);
+  EXPECT_EQ(Ask("plug"), Lines{"2"});
+  EXPECT_EQ(Ask("plug 1234:abcd"), Lines{"3"});
+  EXPECT_TRUE(desk.UnitOf(2).mixer);
+  EXPECT_FALSE(desk.UnitOf(3).mixer);
+  EXPECT_EQ(desk.UnitOf(3).identity.product, 0xABCD);
 }
 
 TEST_F(Commands, UnplugAndReplug) {
-  ask("unplug 1");
-  EXPECT_FALSE(desk.unit(1).address);
-  ask("replug 1");
-  EXPECT_TRUE(desk.unit(1).address);
+  Ask("unplug 1");
+  EXPECT_FALSE(desk.UnitOf(1).address);
+  Ask("replug 1");
+  EXPECT_TRUE(desk.UnitOf(1).address);
 }
 
 TEST_F(Commands, SetChangesWhatTheMixerReports) {
-  ask("set 1 selector 3 0x7f");
-  ask("set 1 reply-leading-byte 9");
-  ask("set 1 serato 1 2");
-  ask("set 1 port 3 4");
-  ask("set 1 firmware 0x0123");
-  ask("set 1 certify 4294967295");
-  const MixerState state = desk.unit(1).mixer->state();
+  Ask("set 1 selector 3 0x7f");
+  Ask("set 1 reply-leading-byte 9");
+  Ask("set 1 serato 1 2");
+  Ask("set 1 port 3 4");
+  Ask("set 1 firmware 0x0123");
+  Ask("set 1 certify 4294967295");
+  const MixerState state = desk.UnitOf(1).mixer->State();
   EXPECT_EQ(state.selectors, (std::vector<std::uint8_t>{0, 0, 0, 0x7F}));
   EXPECT_EQ(state.leadingByte, 9);
   EXPECT_EQ(state.serato, (std::array<std::uint8_t, 2>{1, 2}));
@@ -73,23 +73,23 @@ TEST_F(Commands, SetChangesWhatTheMixerReports) {
 }
 
 TEST_F(Commands, SetSeratoWithOneByteClearsTheSecond) {
-  ask("set 1 serato 1 2");
-  ask("set 1 serato 3");
-  EXPECT_EQ(desk.unit(1).mixer->state().serato, (std::array<std::uint8_t, 2>{3, 0}));
+  Ask("set 1 serato 1 2");
+  Ask("set 1 serato 3");
+  EXPECT_EQ(desk.UnitOf(1).mixer->State().serato, (std::array<std::uint8_t, 2>{3, 0}));
 }
 
 TEST_F(Commands, SetChannelsMakesRoomForMoreSelectors) {
-  EXPECT_NE(refusal("set 1 selector 4 1").find("set N channels COUNT"), std::string::npos);
-  ask("set 1 channels 5");
-  ask("set 1 selector 4 1");
-  EXPECT_EQ(desk.unit(1).mixer->state().selectors, (std::vector<std::uint8_t>{0, 0, 0, 0, 1}));
+  EXPECT_NE(Refusal("set 1 selector 4 1").find("set N channels COUNT"), std::string::npos);
+  Ask("set 1 channels 5");
+  Ask("set 1 selector 4 1");
+  EXPECT_EQ(desk.UnitOf(1).mixer->State().selectors, (std::vector<std::uint8_t>{0, 0, 0, 0, 1}));
 }
 
 TEST_F(Commands, GetShowsTheWholeState) {
-  ask("set 1 selector 0 6");
-  desk.transfer(1, {0x40, 3, 0x020A, 0x8002, 0});
-  EXPECT_EQ(ask("get 1"),
-            (Lines{"mixer " + vendorId() + ":001f", "plugged 001/002", "faults none",
+  Ask("set 1 selector 0 6");
+  desk.Transfer(1, {0x40, 3, 0x020A, 0x8002, 0});
+  EXPECT_EQ(Ask("get 1"),
+            (Lines{"mixer " + VendorId() + ":001f", "plugged 001/002", "faults none",
                    "selectors 00 06 00 00 00", "serato 00 00", "port 00 00", "firmware 0x0100",
                    "certify 0x00000001", "written mixer-output 0x020a",
                    "written usb-output-level never", "written midi-channel never",
@@ -97,35 +97,35 @@ TEST_F(Commands, GetShowsTheWholeState) {
 }
 
 TEST_F(Commands, GetOfAStrangerShowsWhatThereIs) {
-  ask("plug 1234:5678");
-  EXPECT_EQ(ask("get 2"), (Lines{"stranger 1234:5678", "plugged 001/003", "faults none"}));
+  Ask("plug 1234:5678");
+  EXPECT_EQ(Ask("get 2"), (Lines{"stranger 1234:5678", "plugged 001/003", "faults none"}));
 }
 
 TEST_F(Commands, FaultTakesKindArgumentAndRequest) {
-  ask("fault 1 refuse");
-  ask("fault 1 no-reply");
-  ask("fault 1 short 3 selectors");
-  ask("fault 1 vanish mixer-input");
-  ask("fault 1 stall certify");
-  EXPECT_EQ(desk.unit(1).faults.text(),
+  Ask("fault 1 refuse");
+  Ask("fault 1 no-reply");
+  Ask("fault 1 short 3 selectors");
+  Ask("fault 1 vanish mixer-input");
+  Ask("fault 1 stall certify");
+  EXPECT_EQ(desk.UnitOf(1).faults.Text(),
             "refuse, no-reply, short 3 selectors, stall certify, vanish mixer-input");
-  ask("clear 1");
-  EXPECT_EQ(desk.unit(1).faults.text(), "none");
+  Ask("clear 1");
+  EXPECT_EQ(desk.UnitOf(1).faults.Text(), "none");
 }
 
 TEST_F(Commands, LogShowsAndForgets) {
-  desk.transfer(1, {0x40, 3, 0x0300, 0x8003, 0});
-  EXPECT_EQ(ask("log"), desk.log());
-  EXPECT_EQ(ask("log").size(), 1u);
-  EXPECT_TRUE(ask("log clear").empty());
-  EXPECT_TRUE(ask("log").empty());
+  desk.Transfer(1, {0x40, 3, 0x0300, 0x8003, 0});
+  EXPECT_EQ(Ask("log"), desk.Log());
+  EXPECT_EQ(Ask("log").size(), 1u);
+  EXPECT_TRUE(Ask("log clear").empty());
+  EXPECT_TRUE(Ask("log").empty());
 }
 
-TEST_F(Commands, EnvironmentIsAsGiven) { EXPECT_EQ(ask("environment"), (Lines{"ONE=1", "TWO=2"})); }
+TEST_F(Commands, EnvironmentIsAsGiven) { EXPECT_EQ(Ask("environment"), (Lines{"ONE=1", "TWO=2"})); }
 
 TEST_F(Commands, HelpNamesEveryCommandSettingFaultAndRequest) {
   std::string help;
-  for (const std::string &line : ask("help")) help += line + '\n';
+  for (const std::string &line : Ask("help")) help += line + '\n';
   for (const char *word : {"  units ",
                            "  plug [VVVV:PPPP]",
                            "  unplug N",
@@ -153,30 +153,30 @@ TEST_F(Commands, HelpNamesEveryCommandSettingFaultAndRequest) {
   }
 }
 
-TEST_F(Commands, BlanksDoNotMatter) { EXPECT_EQ(ask("  units\t\r").size(), 1u); }
+TEST_F(Commands, BlanksDoNotMatter) { EXPECT_EQ(Ask("  units\t\r").size(), 1u); }
 
 TEST_F(Commands, RefusalsNameTheMistakeAndTheWayOut) {
-  EXPECT_EQ(refusal("unitz"), "there is no command \"unitz\"; `help` lists them");
-  EXPECT_EQ(refusal("unplug 7"), "there is no unit 7; `units` lists them");
-  EXPECT_EQ(refusal("unplug"), "something is missing; usage: unplug N");
-  EXPECT_EQ(refusal("unplug x"), "\"x\" is not a unit number; `units` lists them; usage: unplug N");
-  EXPECT_EQ(refusal("units now"), "\"now\" is too much; usage: units");
-  EXPECT_EQ(refusal("replug 1"), "unit 1 is plugged in; `unplug` it first");
-  EXPECT_EQ(refusal("set 1 colour 3"), "a mixer has no setting \"colour\"; `help` lists them");
-  EXPECT_EQ(refusal("set 1 serato 256"),
+  EXPECT_EQ(Refusal("unitz"), "there is no command \"unitz\"; `help` lists them");
+  EXPECT_EQ(Refusal("unplug 7"), "there is no unit 7; `units` lists them");
+  EXPECT_EQ(Refusal("unplug"), "something is missing; usage: unplug N");
+  EXPECT_EQ(Refusal("unplug x"), "\"x\" is not a unit number; `units` lists them; usage: unplug N");
+  EXPECT_EQ(Refusal("units now"), "\"now\" is too much; usage: units");
+  EXPECT_EQ(Refusal("replug 1"), "unit 1 is plugged in; `unplug` it first");
+  EXPECT_EQ(Refusal("set 1 colour 3"), "a mixer has no setting \"colour\"; `help` lists them");
+  EXPECT_EQ(Refusal("set 1 serato 256"),
             "\"256\" is not a number from 0 to 255; usage: set N serato A [B]");
   EXPECT_EQ(
-      refusal("fault 1 explode"),
+      Refusal("fault 1 explode"),
       "there is no fault \"explode\"; faults: stall, short K, no-reply, vanish, refuse, deny, "
       "hold");
   EXPECT_EQ(
-      refusal("fault 1 stall nothing"),
+      Refusal("fault 1 stall nothing"),
       "there is no request \"nothing\"; requests: firmware, selectors, serato, port, certify, "
       "mixer-output, usb-output-level, midi-channel, midi-key-mode, mixer-input");
 }
 
 TEST_F(Commands, BadOnesChangeNothing) {
-  const Lines before = ask("get 1");
+  const Lines before = Ask("get 1");
   for (const char *command : {"",
                               " ",
                               "set",
@@ -217,24 +217,24 @@ TEST_F(Commands, BadOnesChangeNothing) {
                               "environment x",
                               "help me",
                               "UNITS"}) {
-    EXPECT_FALSE(refusal(command).empty()) << command;
+    EXPECT_FALSE(Refusal(command).empty()) << command;
   }
-  EXPECT_EQ(ask("get 1"), before);
-  EXPECT_EQ(ask("units").size(), 1u);
+  EXPECT_EQ(Ask("get 1"), before);
+  EXPECT_EQ(Ask("units").size(), 1u);
 }
 
 TEST_F(Commands, HostileBytesAreRefusedInPrint) {
   std::string every;
   for (int value = 0; value < 256; ++value) every += static_cast<char>(value);
-  const std::string error = refusal(every);
+  const std::string error = Refusal(every);
   for (const char character : error) EXPECT_TRUE(character >= ' ' && character <= '~');
-  EXPECT_LT(refusal(std::string(1'000'000, 'x')).size(), 200u);
-  refusal(std::string(3, '\0'));
+  EXPECT_LT(Refusal(std::string(1'000'000, 'x')).size(), 200u);
+  Refusal(std::string(3, '\0'));
 }
 
 TEST(CommandReplies, EndWithOkOrError) {
-  EXPECT_EQ((CommandReply{{"a", "b"}, false, {}}.wireText()), "a\nb\nok\n");
-  EXPECT_EQ((CommandReply{{}, true, "no"}.wireText()), "error no\n");
+  EXPECT_EQ((CommandReply{{"a", "b"}, false, {}}.WireText()), "a\nb\nok\n");
+  EXPECT_EQ((CommandReply{{}, true, "no"}.WireText()), "error no\n");
 }
 
 }  // namespace

@@ -19,10 +19,10 @@ using Lines = std::vector<std::string>;
 using trxtest::TemporaryFolder;
 
 /// Everything that `from` still brings.
-std::string receiveAll(const Descriptor &from) {
+std::string ReceiveAll(const Descriptor &from) {
   std::string all;
   char buffer[4096];
-  for (ssize_t count; (count = recv(from.get(), buffer, sizeof buffer, 0)) > 0;) {
+  for (ssize_t count; (count = recv(from.Get(), buffer, sizeof buffer, 0)) > 0;) {
     all.append(buffer, static_cast<std::size_t>(count));
   }
   return all;
@@ -30,10 +30,10 @@ std::string receiveAll(const Descriptor &from) {
 
 class ControlProtocol : public testing::Test {
  protected:
-  void sendRaw(const Descriptor &to, const std::string &bytes) {
+  void SendRaw(const Descriptor &to, const std::string &bytes) {
     std::size_t sent = 0;
     while (sent < bytes.size()) {
-      const ssize_t count = send(to.get(), bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
+      const ssize_t count = send(to.Get(), bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
       if (count <= 0) return;  // the server may hang up on us, which is what some tests provoke
       sent += static_cast<std::size_t>(count);
     }
@@ -44,42 +44,42 @@ class ControlProtocol : public testing::Test {
   RecordingFrontEnd frontEnd;
   Desk desk{frontEnd};
   CommandInterpreter interpreter{desk, {"ONE=1"}};
-  ControlSocket controlSocket = ControlSocket::at(path);
-  ControlServer server{controlSocket.listener(), interpreter};
+  ControlSocket controlSocket = ControlSocket::At(path);
+  ControlServer server{controlSocket.Listener(), interpreter};
 };
 
 TEST_F(ControlProtocol, AnswersLinesThenOk) {
-  const Descriptor raw = connectUnixSocket(path);
-  sendRaw(raw, "environment\nplug\n");
-  shutdown(raw.get(), SHUT_WR);
-  EXPECT_EQ(receiveAll(raw), "ONE=1\nok\n1\nok\n");
+  const Descriptor raw = ConnectUnixSocket(path);
+  SendRaw(raw, "environment\nplug\n");
+  shutdown(raw.Get(), SHUT_WR);
+  EXPECT_EQ(ReceiveAll(raw), "ONE=1\nok\n1\nok\n");
 }
 
 TEST_F(ControlProtocol, AnswersErrorWithItsText) {
-  const Descriptor raw = connectUnixSocket(path);
-  sendRaw(raw, "unplug 1\n");
-  shutdown(raw.get(), SHUT_WR);
-  EXPECT_EQ(receiveAll(raw), "error there is no unit 1; `units` lists them\n");
+  const Descriptor raw = ConnectUnixSocket(path);
+  SendRaw(raw, "unplug 1\n");
+  shutdown(raw.Get(), SHUT_WR);
+  EXPECT_EQ(ReceiveAll(raw), "error there is no unit 1; `units` lists them\n");
 }
 
 TEST_F(ControlProtocol, ClientGetsLinesOrTheRefusal) {
   ControlClient client(path);
-  EXPECT_EQ(client.ask("plug"), Lines{"1"});
-  EXPECT_EQ(client.ask("units"),
-            Lines{"1  mixer " + vendorId() + ":001f  plugged 001/002  faults none"});
+  EXPECT_EQ(client.Ask("plug"), Lines{"1"});
+  EXPECT_EQ(client.Ask("units"),
+            Lines{"1  mixer " + VendorId() + ":001f  plugged 001/002  faults none"});
   try {
-    client.ask("unplug 2");
+    client.Ask("unplug 2");
     FAIL() << "not refused";
   } catch (const CommandRefused &refusal) {
     EXPECT_STREQ(refusal.what(), "there is no unit 2; `units` lists them");
   }
-  EXPECT_EQ(client.ask("environment"), Lines{"ONE=1"});
+  EXPECT_EQ(client.Ask("environment"), Lines{"ONE=1"});
 }
 
 TEST_F(ControlProtocol, ClientRefusesACommandOfTwoLines) {
   ControlClient client(path);
-  EXPECT_THROW(client.ask("plug\nplug"), CommandRefused);
-  EXPECT_TRUE(desk.units().empty());
+  EXPECT_THROW(client.Ask("plug\nplug"), CommandRefused);
+  EXPECT_TRUE(desk.Units().empty());
 }
 
 TEST_F(ControlProtocol, ServesManyClientsAtOnce) {
@@ -87,90 +87,90 @@ TEST_F(ControlProtocol, ServesManyClientsAtOnce) {
   for (int count = 0; count < 8; ++count) {
     clients.emplace_back([this] {
       ControlClient client(path);
-      for (int round = 0; round < 20; ++round) client.ask("plug");
+      for (int round = 0; round < 20; ++round) client.Ask("plug");
     });
   }
   for (std::thread &client : clients) client.join();
-  EXPECT_EQ(desk.units().size(), 160u);
+  EXPECT_EQ(desk.Units().size(), 160u);
 }
 
 TEST_F(ControlProtocol, LongReplyReachesASlowReaderWhole) {
-  desk.plugMixer();
-  for (int count = 0; count < 20'000; ++count) desk.transfer(1, {0xC0, 0, 0, 0x8002, 5});
+  desk.PlugMixer();
+  for (int count = 0; count < 20'000; ++count) desk.Transfer(1, {0xC0, 0, 0, 0x8002, 5});
   ControlClient slow(path);
-  const Descriptor unread = connectUnixSocket(path);
-  sendRaw(unread, "log\n");
-  EXPECT_EQ(slow.ask("log").size(), 20'000u);
+  const Descriptor unread = ConnectUnixSocket(path);
+  SendRaw(unread, "log\n");
+  EXPECT_EQ(slow.Ask("log").size(), 20'000u);
 }
 
 TEST_F(ControlProtocol, OverlongLineIsAnsweredAndTheConnectionClosed) {
-  const Descriptor raw = connectUnixSocket(path);
-  sendRaw(raw, std::string(100'000, 'x'));
-  EXPECT_EQ(receiveAll(raw), "error the line is too long; a command has at most 4096 characters\n");
-  EXPECT_EQ(ControlClient(path).ask("environment"), Lines{"ONE=1"});
+  const Descriptor raw = ConnectUnixSocket(path);
+  SendRaw(raw, std::string(100'000, 'x'));
+  EXPECT_EQ(ReceiveAll(raw), "error the line is too long; a command has at most 4096 characters\n");
+  EXPECT_EQ(ControlClient(path).Ask("environment"), Lines{"ONE=1"});
 }
 
 TEST_F(ControlProtocol, BinaryRubbishIsRefusedLineByLine) {
   std::string rubbish;
   for (int value = 0; value < 256; ++value) rubbish += static_cast<char>(value);
-  const Descriptor raw = connectUnixSocket(path);
-  sendRaw(raw, rubbish + "\nenvironment\n");
-  shutdown(raw.get(), SHUT_WR);
-  const std::string answer = receiveAll(raw);
+  const Descriptor raw = ConnectUnixSocket(path);
+  SendRaw(raw, rubbish + "\nenvironment\n");
+  shutdown(raw.Get(), SHUT_WR);
+  const std::string answer = ReceiveAll(raw);
   EXPECT_TRUE(answer.starts_with("error "));
   EXPECT_TRUE(answer.ends_with("\nONE=1\nok\n"));
 }
 
 TEST_F(ControlProtocol, ClientThatLeavesInMidLineDoesNoHarm) {
-  { sendRaw(connectUnixSocket(path), "unplu"); }
-  { sendRaw(connectUnixSocket(path), "log\nlog\nlog\n"); }
-  EXPECT_EQ(ControlClient(path).ask("environment"), Lines{"ONE=1"});
+  { SendRaw(ConnectUnixSocket(path), "unplu"); }
+  { SendRaw(ConnectUnixSocket(path), "log\nlog\nlog\n"); }
+  EXPECT_EQ(ControlClient(path).Ask("environment"), Lines{"ONE=1"});
 }
 
 TEST_F(ControlProtocol, SecondSimulatorIsKeptOffALiveSocket) {
   try {
-    ControlSocket::at(path);
+    ControlSocket::At(path);
     FAIL() << "took the socket of a live simulator";
   } catch (const ControlSocketError &error) {
     EXPECT_EQ(error.what(), "another simulator listens at " + path);
   }
-  EXPECT_EQ(ControlClient(path).ask("environment"), Lines{"ONE=1"});
+  EXPECT_EQ(ControlClient(path).Ask("environment"), Lines{"ONE=1"});
 }
 
 TEST(ControlSocketFile, OfADeadSimulatorIsTakenOver) {
   const TemporaryFolder folder;
   const std::string path = folder / "control.sock";
-  { const Descriptor dead = listenUnixSocket(path); }
+  { const Descriptor dead = ListenUnixSocket(path); }
   ASSERT_TRUE(std::filesystem::exists(path));
-  const ControlSocket controlSocket = ControlSocket::at(path);
-  EXPECT_TRUE(connectUnixSocket(path));
+  const ControlSocket controlSocket = ControlSocket::At(path);
+  EXPECT_TRUE(ConnectUnixSocket(path));
 }
 
 TEST(ControlSocketFile, OfASimulatorThatIsEndingIsNotTakenOver) {
   const TemporaryFolder folder;
   const std::string path = folder / "control.sock";
-  const ControlSocket ending = ControlSocket::at(path);
-  { const Descriptor ofTheServer = ending.listener(); }
-  EXPECT_THROW(ControlSocket::at(path), ControlSocketError);
+  const ControlSocket ending = ControlSocket::At(path);
+  { const Descriptor ofTheServer = ending.Listener(); }
+  EXPECT_THROW(ControlSocket::At(path), ControlSocketError);
 }
 
 TEST(ControlSocketFile, GoesAwayAtTheEnd) {
   const TemporaryFolder folder;
-  { const ControlSocket socket = ControlSocket::at(folder / "control.sock"); }
+  { const ControlSocket socket = ControlSocket::At(folder / "control.sock"); }
   EXPECT_EQ(folder.Entries(), 0u);
 }
 
 TEST(ControlSocketFile, IsNeverMadeFromAnotherFile) {
   const TemporaryFolder folder;
   std::filesystem::create_directory(folder / "precious");
-  EXPECT_THROW(ControlSocket::at(folder / "precious"), ControlSocketError);
+  EXPECT_THROW(ControlSocket::At(folder / "precious"), ControlSocketError);
   EXPECT_TRUE(std::filesystem::is_directory(folder / "precious"));
 }
 
 TEST(ControlSocketFile, WithAPathThatCannotBeIsRefused) {
   const TemporaryFolder folder;
-  EXPECT_THROW(ControlSocket::at(folder / "none/control.sock"), ControlSocketError);
-  EXPECT_THROW(ControlSocket::at(folder / std::string(200, 'x')), ControlSocketError);
+  EXPECT_THROW(ControlSocket::At(folder / "none/control.sock"), ControlSocketError);
+  EXPECT_THROW(ControlSocket::At(folder / std::string(200, 'x')), ControlSocketError);
 }
 
 TEST(ControlClients, SayWhenNobodyAnswers) {

@@ -9,52 +9,52 @@ namespace {
 
 TEST(Faults, AreNoneAtFirst) {
   const Faults faults;
-  EXPECT_FALSE(faults.faultOf(RequestId::Selectors));
-  EXPECT_FALSE(faults.faultOf(std::nullopt));
-  EXPECT_EQ(faults.open(), OpenFault::None);
-  EXPECT_EQ(faults.text(), "none");
+  EXPECT_FALSE(faults.FaultOf(RequestId::kSelectors));
+  EXPECT_FALSE(faults.FaultOf(std::nullopt));
+  EXPECT_EQ(faults.Open(), OpenFault::kNone);
+  EXPECT_EQ(faults.Text(), "none");
 }
 
 TEST(Faults, OfEveryRequestMeetAlsoUnknownRequests) {
   Faults faults;
-  faults.set(std::nullopt, {RequestFaultKind::Stall, 0});
-  ASSERT_TRUE(faults.faultOf(std::nullopt));
-  EXPECT_EQ(faults.faultOf(std::nullopt)->kind, RequestFaultKind::Stall);
-  ASSERT_TRUE(faults.faultOf(RequestId::MixerInput));
-  EXPECT_EQ(faults.faultOf(RequestId::MixerInput)->kind, RequestFaultKind::Stall);
+  faults.Set(std::nullopt, {RequestFaultKind::kStall, 0});
+  ASSERT_TRUE(faults.FaultOf(std::nullopt));
+  EXPECT_EQ(faults.FaultOf(std::nullopt)->kind, RequestFaultKind::kStall);
+  ASSERT_TRUE(faults.FaultOf(RequestId::kMixerInput));
+  EXPECT_EQ(faults.FaultOf(RequestId::kMixerInput)->kind, RequestFaultKind::kStall);
 }
 
 TEST(Faults, OfOneRequestMeetOnlyThat) {
   Faults faults;
-  faults.set(RequestId::Serato, {RequestFaultKind::NoReply, 0});
-  EXPECT_TRUE(faults.faultOf(RequestId::Serato));
-  EXPECT_FALSE(faults.faultOf(RequestId::MidiChannel));
-  EXPECT_FALSE(faults.faultOf(std::nullopt));
+  faults.Set(RequestId::kSerato, {RequestFaultKind::kNoReply, 0});
+  EXPECT_TRUE(faults.FaultOf(RequestId::kSerato));
+  EXPECT_FALSE(faults.FaultOf(RequestId::kMidiChannel));
+  EXPECT_FALSE(faults.FaultOf(std::nullopt));
 }
 
 TEST(Faults, OfOneRequestGoBeforeThoseOfEveryRequest) {
   Faults faults;
-  faults.set(RequestId::Serato, {RequestFaultKind::Short, 1});
-  faults.set(std::nullopt, {RequestFaultKind::Stall, 0});
-  ASSERT_TRUE(faults.faultOf(RequestId::Serato));
-  EXPECT_EQ(faults.faultOf(RequestId::Serato)->kind, RequestFaultKind::Short);
+  faults.Set(RequestId::kSerato, {RequestFaultKind::kShort, 1});
+  faults.Set(std::nullopt, {RequestFaultKind::kStall, 0});
+  ASSERT_TRUE(faults.FaultOf(RequestId::kSerato));
+  EXPECT_EQ(faults.FaultOf(RequestId::kSerato)->kind, RequestFaultKind::kShort);
 }
 
 TEST(Faults, AreWrittenAsTheControlCommandsNameThem) {
   Faults faults;
-  faults.set(OpenFault::Hold);
-  faults.set(std::nullopt, {RequestFaultKind::NoReply, 0});
-  faults.set(RequestId::Selectors, {RequestFaultKind::Short, 2});
-  faults.set(RequestId::MixerInput, {RequestFaultKind::Vanish, 0});
-  EXPECT_EQ(faults.text(), "hold, no-reply, short 2 selectors, vanish mixer-input");
+  faults.Set(OpenFault::kHold);
+  faults.Set(std::nullopt, {RequestFaultKind::kNoReply, 0});
+  faults.Set(RequestId::kSelectors, {RequestFaultKind::kShort, 2});
+  faults.Set(RequestId::kMixerInput, {RequestFaultKind::kVanish, 0});
+  EXPECT_EQ(faults.Text(), "hold, no-reply, short 2 selectors, vanish mixer-input");
 }
 
 TEST(Faults, AreAllGoneAfterClear) {
   Faults faults;
-  faults.set(OpenFault::Deny);
-  faults.set(RequestId::Selectors, {RequestFaultKind::Stall, 0});
-  faults.clear();
-  EXPECT_EQ(faults.text(), "none");
+  faults.Set(OpenFault::kDeny);
+  faults.Set(RequestId::kSelectors, {RequestFaultKind::kStall, 0});
+  faults.Clear();
+  EXPECT_EQ(faults.Text(), "none");
 }
 
 }  // namespace

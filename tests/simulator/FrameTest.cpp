@@ -30,10 +30,10 @@ const std::string kUnlink =
     "00000002 0000000a 00010002 00000000 00000000 "
     "00000007 00000000 00000000 00000000 00000000 00000000 00000000";
 
-DecodedFrames decode(const std::string &hex) { return decodeFrames(bytesOf(hex)); }
+DecodedFrames Decode(const std::string &hex) { return DecodeFrames(BytesOf(hex)); }
 
 TEST(Frames, ReadIsTakenApart) {
-  const DecodedFrames decoded = decode(kRead);
+  const DecodedFrames decoded = Decode(kRead);
   EXPECT_EQ(decoded.error, "");
   EXPECT_EQ(decoded.used, 48u);
   ASSERT_EQ(decoded.frames.size(), 1u);
@@ -51,7 +51,7 @@ TEST(Frames, ReadIsTakenApart) {
 }
 
 TEST(Frames, WriteIsTakenApart) {
-  const DecodedFrames decoded = decode(kWrite);
+  const DecodedFrames decoded = Decode(kWrite);
   ASSERT_EQ(decoded.frames.size(), 1u);
   const auto &frame = std::get<SubmitFrame>(decoded.frames[0]);
   EXPECT_FALSE(frame.isRead);
@@ -63,14 +63,14 @@ TEST(Frames, WriteIsTakenApart) {
 }
 
 TEST(Frames, DataOfAWriteBelongsToItsFrame) {
-  const DecodedFrames decoded = decode(kWriteWithData);
+  const DecodedFrames decoded = Decode(kWriteWithData);
   EXPECT_EQ(decoded.used, 51u);
   ASSERT_EQ(decoded.frames.size(), 1u);
-  EXPECT_EQ(hexOf(std::get<SubmitFrame>(decoded.frames[0]).data), "aabbcc");
+  EXPECT_EQ(HexOf(std::get<SubmitFrame>(decoded.frames[0]).data), "aabbcc");
 }
 
 TEST(Frames, UnlinkNamesItsVictim) {
-  const DecodedFrames decoded = decode(kUnlink);
+  const DecodedFrames decoded = Decode(kUnlink);
   EXPECT_EQ(decoded.used, 48u);
   ASSERT_EQ(decoded.frames.size(), 1u);
   const auto &frame = std::get<UnlinkFrame>(decoded.frames[0]);
@@ -79,7 +79,7 @@ TEST(Frames, UnlinkNamesItsVictim) {
 }
 
 TEST(Frames, AllFramesOfAPieceAreTakenInTheirOrder) {
-  const DecodedFrames decoded = decode(kWriteWithData + kRead + kUnlink);
+  const DecodedFrames decoded = Decode(kWriteWithData + kRead + kUnlink);
   EXPECT_EQ(decoded.used, 147u);
   ASSERT_EQ(decoded.frames.size(), 3u);
   EXPECT_EQ(std::get<SubmitFrame>(decoded.frames[0]).sequence, 9u);
@@ -88,9 +88,9 @@ TEST(Frames, AllFramesOfAPieceAreTakenInTheirOrder) {
 }
 
 TEST(Frames, BeginningOfAFrameWaitsForTheRest) {
-  const std::vector<std::uint8_t> whole = bytesOf(kWriteWithData);
+  const std::vector<std::uint8_t> whole = BytesOf(kWriteWithData);
   for (std::size_t length = 0; length < whole.size(); ++length) {
-    const DecodedFrames decoded = decodeFrames(std::span(whole).first(length));
+    const DecodedFrames decoded = DecodeFrames(std::span(whole).first(length));
     EXPECT_EQ(decoded.error, "") << length;
     EXPECT_EQ(decoded.used, 0u) << length;
     EXPECT_TRUE(decoded.frames.empty()) << length;
@@ -98,7 +98,7 @@ TEST(Frames, BeginningOfAFrameWaitsForTheRest) {
 }
 
 TEST(Frames, ReadWithoutDataStageMayComeAsAWrite) {
-  const DecodedFrames decoded = decode(
+  const DecodedFrames decoded = Decode(
       "00000001 00000007 00010002 00000000 00000000 "
       "00000000 00000000 00000000 00000000 00000000 c0000000 01800000");
   EXPECT_EQ(decoded.error, "");
@@ -106,7 +106,7 @@ TEST(Frames, ReadWithoutDataStageMayComeAsAWrite) {
 }
 
 TEST(Frames, LongestDataStageIsTaken) {
-  const DecodedFrames decoded = decode(
+  const DecodedFrames decoded = Decode(
       "00000001 00000007 00010002 00000001 00000000 "
       "00000000 0000ffff 00000000 00000000 00000000 c0000000 0180ffff");
   EXPECT_EQ(decoded.error, "");
@@ -122,27 +122,27 @@ struct Malformed {
 class MalformedFrames : public testing::TestWithParam<Malformed> {};
 
 TEST_P(MalformedFrames, AreNamed) {
-  const DecodedFrames decoded = decode(GetParam().header);
+  const DecodedFrames decoded = Decode(GetParam().header);
   EXPECT_EQ(decoded.error, GetParam().error);
   EXPECT_EQ(decoded.used, 0u);
   EXPECT_TRUE(decoded.frames.empty());
 }
 
 TEST_P(MalformedFrames, LeaveTheSoundOnesBeforeThem) {
-  const DecodedFrames decoded = decode(kWriteWithData + GetParam().header + kRead);
+  const DecodedFrames decoded = Decode(kWriteWithData + GetParam().header + kRead);
   EXPECT_EQ(decoded.error, GetParam().error);
   EXPECT_EQ(decoded.used, 51u);
   EXPECT_EQ(decoded.frames.size(), 1u);
 }
 
-std::string submit(const std::string &direction, const std::string &endpoint,
+std::string Submit(const std::string &direction, const std::string &endpoint,
                    const std::string &length, const std::string &packets,
                    const std::string &setup) {
   return "00000001 00000007 00010002 " + direction + endpoint + "00000000" + length + "00000000" +
          packets + "00000000" + setup;
 }
 
-std::string header(const std::string &command, const std::string &direction,
+std::string Header(const std::string &command, const std::string &direction,
                    const std::string &endpoint) {
   return command + "00000007 00010002" + direction + endpoint + std::string(56, '0');
 }
@@ -153,54 +153,54 @@ INSTANTIATE_TEST_SUITE_P(
     OfEveryKind, MalformedFrames,
     testing::Values(
         Malformed{"NoCommand", std::string(96, '0'), "unknown command 0x00000000"},
-        Malformed{"UnknownCommand", header("00000005", "00000000", "00000000"),
+        Malformed{"UnknownCommand", Header("00000005", "00000000", "00000000"),
                   "unknown command 0x00000005"},
-        Malformed{"CommandInTheWrongByteOrder", header("01000000", "00000000", "00000000"),
+        Malformed{"CommandInTheWrongByteOrder", Header("01000000", "00000000", "00000000"),
                   "unknown command 0x01000000"},
-        Malformed{"ReplyToASubmit", header("00000003", "00000000", "00000000"),
+        Malformed{"ReplyToASubmit", Header("00000003", "00000000", "00000000"),
                   "a reply where a request belongs"},
-        Malformed{"ReplyToAnUnlink", header("00000004", "00000000", "00000000"),
+        Malformed{"ReplyToAnUnlink", Header("00000004", "00000000", "00000000"),
                   "a reply where a request belongs"},
         Malformed{"UnknownDirection",
-                  submit("00000002", "00000000", "00000005", "00000000", kReadSetup),
+                  Submit("00000002", "00000000", "00000005", "00000000", kReadSetup),
                   "unknown direction 2"},
-        Malformed{"UnknownDirectionOfAnUnlink", header("00000002", "ffffffff", "00000000"),
+        Malformed{"UnknownDirectionOfAnUnlink", Header("00000002", "ffffffff", "00000000"),
                   "unknown direction 4294967295"},
         Malformed{"EndpointThatCannotBe",
-                  submit("00000001", "00000010", "00000005", "00000000", kReadSetup),
+                  Submit("00000001", "00000010", "00000005", "00000000", kReadSetup),
                   "endpoint 16"},
         Malformed{"HighestEndpoint",
-                  submit("00000001", "ffffffff", "00000005", "00000000", kReadSetup),
+                  Submit("00000001", "ffffffff", "00000005", "00000000", kReadSetup),
                   "endpoint 4294967295"},
         Malformed{"OverlongRead",
-                  submit("00000001", "00000000", "00010000", "00000000", kReadSetup),
+                  Submit("00000001", "00000000", "00010000", "00000000", kReadSetup),
                   "a data stage of 65536 bytes"},
         Malformed{"NegativeLength",
-                  submit("00000000", "00000000", "ffffffff", "00000000", "40030000 03800000"),
+                  Submit("00000000", "00000000", "ffffffff", "00000000", "40030000 03800000"),
                   "a data stage of 4294967295 bytes"},
         Malformed{"OverlongWriteAtAnotherEndpoint",
-                  submit("00000000", "00000001", "7fffffff", "00000000", "00000000 00000000"),
+                  Submit("00000000", "00000001", "7fffffff", "00000000", "00000000 00000000"),
                   "a data stage of 2147483647 bytes"},
-        Malformed{"Isochronous", submit("00000001", "00000001", "00000005", "00000001", kReadSetup),
+        Malformed{"Isochronous", Submit("00000001", "00000001", "00000005", "00000001", kReadSetup),
                   "an isochronous request"},
         Malformed{"NegativePackets",
-                  submit("00000001", "00000001", "00000005", "80000000", kReadSetup),
+                  Submit("00000001", "00000001", "00000005", "80000000", kReadSetup),
                   "an isochronous request"},
         Malformed{"ReadSetupInAWrite",
-                  submit("00000000", "00000000", "00000005", "00000000", kReadSetup),
+                  Submit("00000000", "00000000", "00000005", "00000000", kReadSetup),
                   "a setup packet of the other direction"},
         Malformed{"WriteSetupInARead",
-                  submit("00000001", "00000000", "00000005", "00000000", "40030000 03800500"),
+                  Submit("00000001", "00000000", "00000005", "00000000", "40030000 03800500"),
                   "a setup packet of the other direction"}),
     [](const auto &test) { return test.param.name; });
 
 TEST(Frames, AnyByteMayBeAnythingWithoutHarm) {
-  const std::vector<std::uint8_t> sound = bytesOf(kWriteWithData + kUnlink + kRead);
+  const std::vector<std::uint8_t> sound = BytesOf(kWriteWithData + kUnlink + kRead);
   for (std::size_t place = 0; place < sound.size(); ++place) {
     for (int value = 0; value < 256; ++value) {
       std::vector<std::uint8_t> changed = sound;
       changed[place] = static_cast<std::uint8_t>(value);
-      const DecodedFrames decoded = decodeFrames(changed);
+      const DecodedFrames decoded = DecodeFrames(changed);
       EXPECT_LE(decoded.used, changed.size());
       EXPECT_GE(decoded.used, 48 * decoded.frames.size());
     }
@@ -208,19 +208,19 @@ TEST(Frames, AnyByteMayBeAnythingWithoutHarm) {
 }
 
 TEST(Frames, ReplyToAReadCarriesItsData) {
-  EXPECT_EQ(hexOf(encodeSubmitReply(7, 0, 5, bytesOf("0006000000"))),
+  EXPECT_EQ(HexOf(EncodeSubmitReply(7, 0, 5, BytesOf("0006000000"))),
             "00000003 00000007 00000000 00000000 00000000 "
             "00000000 00000005 00000000 00000000 00000000 00000000 00000000 00060000 00");
 }
 
 TEST(Frames, ReplyOfAFailedRequestHasItsErrorNumber) {
-  EXPECT_EQ(hexOf(encodeSubmitReply(0x01020304, -32, 0, {})),
+  EXPECT_EQ(HexOf(EncodeSubmitReply(0x01020304, -32, 0, {})),
             "00000003 01020304 00000000 00000000 00000000 "
             "ffffffe0 00000000 00000000 00000000 00000000 00000000 00000000");
 }
 
 TEST(Frames, ReplyToAnUnlinkHasAStatusOnly) {
-  EXPECT_EQ(hexOf(encodeUnlinkReply(10, -104)),
+  EXPECT_EQ(HexOf(EncodeUnlinkReply(10, -104)),
             "00000004 0000000a 00000000 00000000 00000000 "
             "ffffff98 00000000 00000000 00000000 00000000 00000000 00000000");
 }

@@ -8,7 +8,7 @@
 #include <vector>
 
 /// The bytes that pairs of hexadecimal digits spell; blanks between pairs are passed over.
-inline std::vector<std::uint8_t> bytesOf(std::string_view text) {
+inline std::vector<std::uint8_t> BytesOf(std::string_view text) {
   std::vector<std::uint8_t> bytes;
   for (std::size_t place = 0; place + 1 < text.size();) {
     if (text[place] == ' ') {
@@ -23,7 +23,7 @@ inline std::vector<std::uint8_t> bytesOf(std::string_view text) {
 }
 
 /// The bytes as pairs of hexadecimal digits, with a blank after each fourth byte but the last.
-inline std::string hexOf(std::span<const std::uint8_t> bytes) {
+inline std::string HexOf(std::span<const std::uint8_t> bytes) {
   std::string text;
   for (std::size_t place = 0; place < bytes.size(); ++place) {
     char pair[4];

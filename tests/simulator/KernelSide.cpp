@@ -13,13 +13,13 @@ namespace {
 // An answer that takes longer than this never comes.
 constexpr timeval kPatience{20, 0};
 
-std::uint32_t numberAt(const std::vector<std::uint8_t> &bytes, std::size_t place) {
+std::uint32_t NumberAt(const std::vector<std::uint8_t> &bytes, std::size_t place) {
   std::uint32_t number = 0;
   for (std::size_t byte = 0; byte < 4; ++byte) number = number << 8 | bytes.at(place + byte);
   return number;
 }
 
-std::string word(unsigned number) {
+std::string Word(unsigned number) {
   char text[16];
   std::snprintf(text, sizeof text, "%08x", number);
   return text;
@@ -41,55 +41,55 @@ KernelSide::KernelSide(trxsim::DeviceSession session) {
 
 KernelSide::~KernelSide() = default;
 
-void KernelSide::send(const std::string &hex) {
-  const std::vector<std::uint8_t> bytes = bytesOf(hex);
+void KernelSide::Send(const std::string &hex) {
+  const std::vector<std::uint8_t> bytes = BytesOf(hex);
   // The unit may hang up on us, which is what some tests provoke.
-  ::send(socket_.get(), bytes.data(), bytes.size(), MSG_NOSIGNAL);
+  ::send(socket_.Get(), bytes.data(), bytes.size(), MSG_NOSIGNAL);
 }
 
-std::string KernelSide::request(const std::string &setup) {
-  submit(++sequence_, setup);
-  const std::vector<std::uint8_t> answer = bytesOf(reply());
+std::string KernelSide::Request(const std::string &setup) {
+  Submit(++sequence_, setup);
+  const std::vector<std::uint8_t> answer = BytesOf(Reply());
   if (answer.size() < 48) return "hung up";
-  if (numberAt(answer, 0) != 3 || numberAt(answer, 4) != sequence_) return hexOf(answer);
-  const auto status = static_cast<std::int32_t>(numberAt(answer, 20));
+  if (NumberAt(answer, 0) != 3 || NumberAt(answer, 4) != sequence_) return HexOf(answer);
+  const auto status = static_cast<std::int32_t>(NumberAt(answer, 20));
   const std::span data = std::span(answer).subspan(48);
-  return std::to_string(status) + (data.empty() ? "" : " " + hexOf(data));
+  return std::to_string(status) + (data.empty() ? "" : " " + HexOf(data));
 }
 
-void KernelSide::submit(unsigned sequence, const std::string &setup) {
-  const std::vector<std::uint8_t> packet = bytesOf(setup);
+void KernelSide::Submit(unsigned sequence, const std::string &setup) {
+  const std::vector<std::uint8_t> packet = BytesOf(setup);
   const unsigned length = packet.at(6) | static_cast<unsigned>(packet.at(7)) << 8;
   const bool isRead = (packet.at(0) & 0x80) != 0 && length > 0;
   if (isRead) reads_.insert(sequence);
-  send("00000001" + word(sequence) + "00010001" + word(isRead ? 1 : 0) + "00000000 00000000" +
-       word(length) + "00000000 00000000 00000000" + setup);
+  Send("00000001" + Word(sequence) + "00010001" + Word(isRead ? 1 : 0) + "00000000 00000000" +
+       Word(length) + "00000000 00000000 00000000" + setup);
 }
 
-std::string KernelSide::reply() {
-  std::vector<std::uint8_t> bytes = receive(48);
-  if (bytes.size() == 48 && numberAt(bytes, 0) == 3 && reads_.contains(numberAt(bytes, 4))) {
-    const std::vector<std::uint8_t> data = receive(numberAt(bytes, 24));
+std::string KernelSide::Reply() {
+  std::vector<std::uint8_t> bytes = Receive(48);
+  if (bytes.size() == 48 && NumberAt(bytes, 0) == 3 && reads_.contains(NumberAt(bytes, 4))) {
+    const std::vector<std::uint8_t> data = Receive(NumberAt(bytes, 24));
     bytes.insert(bytes.end(), data.begin(), data.end());
   }
-  return hexOf(bytes);
+  return HexOf(bytes);
 }
 
-void KernelSide::hangUp() { shutdown(socket_.get(), SHUT_WR); }
+void KernelSide::HangUp() { shutdown(socket_.Get(), SHUT_WR); }
 
-std::string KernelSide::endOfConnection() {
+std::string KernelSide::EndOfConnection() {
   char byte = 0;
-  while (recv(socket_.get(), &byte, 1, 0) > 0) {
+  while (recv(socket_.Get(), &byte, 1, 0) > 0) {
   }
-  while (!connection_->isFinished()) std::this_thread::yield();
+  while (!connection_->IsFinished()) std::this_thread::yield();
   connection_.reset();
   return broken_;
 }
 
-std::vector<std::uint8_t> KernelSide::receive(std::size_t length) {
+std::vector<std::uint8_t> KernelSide::Receive(std::size_t length) {
   std::vector<std::uint8_t> bytes(length);
   if (length == 0) return bytes;
-  const ssize_t count = recv(socket_.get(), bytes.data(), length, MSG_WAITALL);
+  const ssize_t count = recv(socket_.Get(), bytes.data(), length, MSG_WAITALL);
   if (count < 0) throw std::runtime_error("the unit does not answer");
   bytes.resize(static_cast<std::size_t>(count));
   return bytes;

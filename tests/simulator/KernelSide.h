@@ -18,29 +18,29 @@ class KernelSide {
   KernelSide &operator=(const KernelSide &) = delete;
 
   /// Sends bytes, given in hexadecimal.
-  void send(const std::string &hex);
+  void Send(const std::string &hex);
 
   /// Submits a control request, given by its setup packet in hexadecimal, and waits for the end of
   /// it: "STATUS" or "STATUS DATA", the status in decimal, the data in hexadecimal.
-  std::string request(const std::string &setup);
+  std::string Request(const std::string &setup);
 
-  /// Submits a control request whose reply is taken later, by `reply`.
-  void submit(unsigned sequence, const std::string &setup);
+  /// Submits a control request whose reply is taken later, by `Reply`.
+  void Submit(unsigned sequence, const std::string &setup);
 
   /// The next 48 bytes, and the data that they announce, in hexadecimal; "" when the unit hung up.
-  std::string reply();
+  std::string Reply();
 
   /// Ends the sending half: nothing more comes from the kernel.
-  void hangUp();
+  void HangUp();
 
   /// Pulls the cable at the other end.
-  void pull() { connection_->pull(); }
+  void Pull() { connection_->Pull(); }
 
   /// Waits for the end of the connection: what the kernel is said to have done, "" when nothing.
-  std::string endOfConnection();
+  std::string EndOfConnection();
 
  private:
-  std::vector<std::uint8_t> receive(std::size_t length);
+  std::vector<std::uint8_t> Receive(std::size_t length);
 
   trxsim::Descriptor socket_;
   std::string broken_;

@@ -11,58 +11,58 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-Bytes read(Mixer &mixer, std::uint16_t index, std::uint16_t length) {
-  const TransferResult result = mixer.answer({0xC0, 0, 0, index, length});
-  EXPECT_EQ(result.outcome, Outcome::Done);
+Bytes Read(Mixer &mixer, std::uint16_t index, std::uint16_t length) {
+  const TransferResult result = mixer.Answer({0xC0, 0, 0, index, length});
+  EXPECT_EQ(result.outcome, Outcome::kDone);
   return result.data;
 }
 
 TEST(MixerReads, FirmwareIsLeastSignificantByteFirst) {
   Mixer mixer;
-  mixer.state().firmware = 0x0123;
-  EXPECT_EQ(read(mixer, 0x8001, 2), (Bytes{0x23, 0x01}));
+  mixer.State().firmware = 0x0123;
+  EXPECT_EQ(Read(mixer, 0x8001, 2), (Bytes{0x23, 0x01}));
 }
 
 TEST(MixerReads, SelectorsFollowALeadingByte) {
   Mixer mixer;
-  mixer.state().leadingByte = 0x01;
-  mixer.state().selectors = {5, 7, 2, 9};
-  EXPECT_EQ(read(mixer, 0x8002, 5), (Bytes{0x01, 5, 7, 2, 9}));
+  mixer.State().leadingByte = 0x01;
+  mixer.State().selectors = {5, 7, 2, 9};
+  EXPECT_EQ(Read(mixer, 0x8002, 5), (Bytes{0x01, 5, 7, 2, 9}));
 }
 
 TEST(MixerReads, SelectorsAreFiveZeroBytesAtFirst) {
   Mixer mixer;
-  EXPECT_EQ(read(mixer, 0x8002, 64), (Bytes{0, 0, 0, 0, 0}));
+  EXPECT_EQ(Read(mixer, 0x8002, 64), (Bytes{0, 0, 0, 0, 0}));
 }
 
 TEST(MixerReads, SeratoIsTwoBytesAsSet) {
   Mixer mixer;
-  mixer.state().serato = {1, 0xAB};
-  EXPECT_EQ(read(mixer, 0x8004, 2), (Bytes{1, 0xAB}));
+  mixer.State().serato = {1, 0xAB};
+  EXPECT_EQ(Read(mixer, 0x8004, 2), (Bytes{1, 0xAB}));
 }
 
 TEST(MixerReads, PortStateIsTwoBytesAsSet) {
   Mixer mixer;
-  mixer.state().port = {1, 2};
-  EXPECT_EQ(read(mixer, 0x8006, 2), (Bytes{1, 2}));
+  mixer.State().port = {1, 2};
+  EXPECT_EQ(Read(mixer, 0x8006, 2), (Bytes{1, 2}));
 }
 
 TEST(MixerReads, CertifyLevelIsMostSignificantByteFirst) {
   Mixer mixer;
-  mixer.state().certify = 0x01020304;
-  EXPECT_EQ(read(mixer, 0x8007, 4), (Bytes{1, 2, 3, 4}));
+  mixer.State().certify = 0x01020304;
+  EXPECT_EQ(Read(mixer, 0x8007, 4), (Bytes{1, 2, 3, 4}));
 }
 
 TEST(MixerReads, ReplyIsCutToTheLengthAskedFor) {
   Mixer mixer;
-  mixer.state().selectors = {5, 7, 2, 9};
-  EXPECT_EQ(read(mixer, 0x8002, 3), (Bytes{0, 5, 7}));
-  EXPECT_EQ(read(mixer, 0x8007, 0), Bytes{});
+  mixer.State().selectors = {5, 7, 2, 9};
+  EXPECT_EQ(Read(mixer, 0x8002, 3), (Bytes{0, 5, 7}));
+  EXPECT_EQ(Read(mixer, 0x8007, 0), Bytes{});
 }
 
 TEST(MixerReads, ReplyIsNotStretchedToTheLengthAskedFor) {
   Mixer mixer;
-  EXPECT_EQ(read(mixer, 0x8001, 64).size(), 2u);
+  EXPECT_EQ(Read(mixer, 0x8001, 64).size(), 2u);
 }
 
 class MixerWrites : public testing::TestWithParam<std::tuple<std::uint16_t, RequestId>> {};
@@ -70,41 +70,41 @@ class MixerWrites : public testing::TestWithParam<std::tuple<std::uint16_t, Requ
 TEST_P(MixerWrites, KeepTheLastValue) {
   const auto [index, id] = GetParam();
   Mixer mixer;
-  EXPECT_EQ(mixer.lastWritten(id), std::nullopt);
-  EXPECT_EQ(mixer.answer({0x40, 3, 0x020A, index, 0}).outcome, Outcome::Done);
-  EXPECT_EQ(mixer.answer({0x40, 3, 0x0F00, index, 0}).outcome, Outcome::Done);
-  EXPECT_EQ(mixer.lastWritten(id), 0x0F00);
+  EXPECT_EQ(mixer.LastWritten(id), std::nullopt);
+  EXPECT_EQ(mixer.Answer({0x40, 3, 0x020A, index, 0}).outcome, Outcome::kDone);
+  EXPECT_EQ(mixer.Answer({0x40, 3, 0x0F00, index, 0}).outcome, Outcome::kDone);
+  EXPECT_EQ(mixer.LastWritten(id), 0x0F00);
 }
 
 TEST_P(MixerWrites, LeaveTheOtherSettingsAlone) {
   const auto [index, id] = GetParam();
   Mixer mixer;
-  mixer.answer({0x40, 3, 0x0300, index, 0});
+  mixer.Answer({0x40, 3, 0x0300, index, 0});
   int written = 0;
-  for (const RequestEntry &entry : requestTable()) written += mixer.lastWritten(entry.id) ? 1 : 0;
+  for (const RequestEntry &entry : RequestTable()) written += mixer.LastWritten(entry.id) ? 1 : 0;
   EXPECT_EQ(written, 1);
 }
 
 TEST_P(MixerWrites, WithADataStageStall) {
   const auto [index, id] = GetParam();
   Mixer mixer;
-  EXPECT_EQ(mixer.answer({0x40, 3, 0x0300, index, 2}).outcome, Outcome::Stalled);
-  EXPECT_EQ(mixer.lastWritten(id), std::nullopt);
+  EXPECT_EQ(mixer.Answer({0x40, 3, 0x0300, index, 2}).outcome, Outcome::kStalled);
+  EXPECT_EQ(mixer.LastWritten(id), std::nullopt);
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryWrite, MixerWrites,
-                         testing::Values(std::tuple{0x8002, RequestId::MixerOutput},
-                                         std::tuple{0x8003, RequestId::UsbOutputLevel},
-                                         std::tuple{0x8004, RequestId::MidiChannel},
-                                         std::tuple{0x8005, RequestId::MidiKeyMode},
-                                         std::tuple{0x8016, RequestId::MixerInput}));
+                         testing::Values(std::tuple{0x8002, RequestId::kMixerOutput},
+                                         std::tuple{0x8003, RequestId::kUsbOutputLevel},
+                                         std::tuple{0x8004, RequestId::kMidiChannel},
+                                         std::tuple{0x8005, RequestId::kMidiKeyMode},
+                                         std::tuple{0x8016, RequestId::kMixerInput}));
 
 class MixerStalls : public testing::TestWithParam<ControlRequest> {};
 
 TEST_P(MixerStalls, OnAnythingElse) {
   Mixer mixer;
-  const TransferResult result = mixer.answer(GetParam());
-  EXPECT_EQ(result.outcome, Outcome::Stalled);
+  const TransferResult result = mixer.Answer(GetParam());
+  EXPECT_EQ(result.outcome, Outcome::kStalled);
   EXPECT_TRUE(result.data.empty());
 }
 

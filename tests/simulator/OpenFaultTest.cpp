@@ -12,68 +12,68 @@ constexpr const char *kOpenSecond = "open /dev/bus/usb/001/003";
 /// A run whose client has none of root's privileges, whoever runs the tests.
 class OpenFault : public testing::Test {
  protected:
-  void SetUp() override { ASSERT_EQ(run.client().ask("drop-capabilities"), "dropped"); }
+  void SetUp() override { ASSERT_EQ(run.Client().Ask("drop-capabilities"), "dropped"); }
 
   SimulatorRun run{2};
 };
 
 TEST_F(OpenFault, RefuseFailsForEverybody) {
-  run.control("fault 1 refuse");
-  EXPECT_EQ(run.client().ask(kOpenFirst), "ENXIO");
-  Program asWhoeverRunsTheTests(run.furtherClient(), run.folder);
-  EXPECT_EQ(asWhoeverRunsTheTests.ask(kOpenFirst), "ENXIO");
+  run.Control("fault 1 refuse");
+  EXPECT_EQ(run.Client().Ask(kOpenFirst), "ENXIO");
+  Program asWhoeverRunsTheTests(run.FurtherClient(), run.folder);
+  EXPECT_EQ(asWhoeverRunsTheTests.Ask(kOpenFirst), "ENXIO");
 }
 
 TEST_F(OpenFault, DenyIsAMissingPermission) {
-  run.control("fault 1 deny");
-  EXPECT_EQ(run.client().ask(kOpenFirst), "EACCES");
+  run.Control("fault 1 deny");
+  EXPECT_EQ(run.Client().Ask(kOpenFirst), "EACCES");
 }
 
 TEST_F(OpenFault, HoldIsABusyDevice) {
-  run.control("fault 1 hold");
-  EXPECT_EQ(run.client().ask(kOpenFirst), "EBUSY");
+  run.Control("fault 1 hold");
+  EXPECT_EQ(run.Client().Ask(kOpenFirst), "EBUSY");
 }
 
 TEST_F(OpenFault, LeavesTheUnitOnTheBusAndTheOthersAlone) {
   for (const char *fault : {"refuse", "deny", "hold"}) {
-    run.control(std::string("fault 1 ") + fault);
-    EXPECT_EQ(run.client().ask("list"), "1-1=001/002 1-2=001/003 usb1=001/001");
-    const std::string handle = run.client().ask(kOpenSecond);
-    EXPECT_EQ(run.client().ask("control " + handle + " c0 0 0 8001 2 1000"), "2 00 01");
-    EXPECT_EQ(run.client().ask("close " + handle), "closed");
+    run.Control(std::string("fault 1 ") + fault);
+    EXPECT_EQ(run.Client().Ask("list"), "1-1=001/002 1-2=001/003 usb1=001/001");
+    const std::string handle = run.Client().Ask(kOpenSecond);
+    EXPECT_EQ(run.Client().Ask("control " + handle + " c0 0 0 8001 2 1000"), "2 00 01");
+    EXPECT_EQ(run.Client().Ask("close " + handle), "closed");
   }
 }
 
 TEST_F(OpenFault, EndsWithClear) {
   for (const char *fault : {"refuse", "deny", "hold"}) {
-    run.control(std::string("fault 1 ") + fault);
-    run.control("clear 1");
-    const std::string handle = run.client().ask(kOpenFirst);
-    EXPECT_EQ(run.client().ask("control " + handle + " c0 0 0 8001 2 1000"), "2 00 01") << fault;
-    EXPECT_EQ(run.client().ask("close " + handle), "closed");
+    run.Control(std::string("fault 1 ") + fault);
+    run.Control("clear 1");
+    const std::string handle = run.Client().Ask(kOpenFirst);
+    EXPECT_EQ(run.Client().Ask("control " + handle + " c0 0 0 8001 2 1000"), "2 00 01") << fault;
+    EXPECT_EQ(run.Client().Ask("close " + handle), "closed");
   }
 }
 
 TEST_F(OpenFault, LeavesHandlesThatAreOpenAlone) {
-  const std::string handle = run.client().ask(kOpenFirst);
-  run.control("fault 1 refuse");
-  EXPECT_EQ(run.client().ask("control " + handle + " c0 0 0 8001 2 1000"), "2 00 01");
+  const std::string handle = run.Client().Ask(kOpenFirst);
+  run.Control("fault 1 refuse");
+  EXPECT_EQ(run.Client().Ask("control " + handle + " c0 0 0 8001 2 1000"), "2 00 01");
 }
 
 TEST_F(OpenFault, StaysOverReplug) {
-  run.control("fault 1 refuse");
-  run.control("unplug 1");
-  run.control("replug 1");
-  EXPECT_EQ(run.client().ask("open /dev/bus/usb/001/004"), "ENXIO");
+  run.Control("fault 1 refuse");
+  run.Control("unplug 1");
+  run.Control("replug 1");
+  EXPECT_EQ(run.Client().Ask("open /dev/bus/usb/001/004"), "ENXIO");
 }
 
 TEST_F(OpenFault, MayBeMetAnyNumberOfTimesByOneProcess) {
   for (const char *fault : {"refuse", "deny", "hold"}) {
-    run.control(std::string("fault 1 ") + fault);
-    EXPECT_EQ(run.client().ask("open-often 200 /dev/bus/usb/001/002"), "200") << fault;
+    run.Control(std::string("fault 1 ") + fault);
+    EXPECT_EQ(run.Client().Ask("open-often 200 /dev/bus/usb/001/002"), "200") << fault;
   }
-  EXPECT_EQ(run.client().ask("open-often 200 /dev/bus/usb/001/099"), "200");
-  EXPECT_EQ(run.client().ask("open-often 200 /dev/bus/usb/001/003"), "0");
+  EXPECT_EQ(run.Client().Ask("open-often 200 /dev/bus/usb/001/099"), "200");
+  EXPECT_EQ(run.Client().Ask("open-often 200 /dev/bus/usb/001/003"), "0");
 }
 
 }  // namespace

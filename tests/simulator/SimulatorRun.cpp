@@ -16,7 +16,7 @@ namespace {
 
 using trxtest::TemporaryFolder;
 
-[[noreturn]] void become(std::vector<std::string> &words, const TemporaryFolder &folder) {
+[[noreturn]] void Become(std::vector<std::string> &words, const TemporaryFolder &folder) {
   setenv("TMPDIR", folder.Path().c_str(), 1);
   setenv("XDG_RUNTIME_DIR", folder.Path().c_str(), 1);
   unsetenv("TRX_MIXER_SIM_CONTROL");
@@ -27,7 +27,7 @@ using trxtest::TemporaryFolder;
   _exit(127);
 }
 
-std::vector<std::string> simulatorWords(int units, const std::string &socket) {
+std::vector<std::string> SimulatorWords(int units, const std::string &socket) {
   return {TRX_MIXER_SIM, "--units", std::to_string(units), "--control", socket, "--", USB_CLIENT};
 }
 
@@ -46,7 +46,7 @@ Program::Program(std::vector<std::string> words, const TemporaryFolder &folder) 
     dup2(in[0], STDIN_FILENO);
     dup2(out[1], STDOUT_FILENO);
     dup2(errors, STDERR_FILENO);
-    become(words, folder);
+    Become(words, folder);
   }
   close(in[0]);
   close(out[1]);
@@ -58,23 +58,23 @@ Program::Program(std::vector<std::string> words, const TemporaryFolder &folder) 
 Program::~Program() {
   if (process_ > 0) {
     kill(process_, SIGTERM);
-    finish();
+    Finish();
   }
   close(output_);
   unlink(errorFile_.c_str());
 }
 
-std::string Program::ask(const std::string &line) {
-  tell(line);
-  return answer();
+std::string Program::Ask(const std::string &line) {
+  Tell(line);
+  return Answer();
 }
 
-void Program::tell(const std::string &line) {
+void Program::Tell(const std::string &line) {
   const std::string bytes = line + '\n';
   EXPECT_EQ(write(input_, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
 }
 
-std::string Program::answer() {
+std::string Program::Answer() {
   for (;;) {
     const std::size_t end = received_.find('\n');
     if (end != std::string::npos) {
@@ -89,9 +89,9 @@ std::string Program::answer() {
   }
 }
 
-void Program::signal(int number) { kill(process_, number); }
+void Program::Signal(int number) { kill(process_, number); }
 
-int Program::finish() {
+int Program::Finish() {
   if (input_ >= 0) close(input_);
   input_ = -1;
   int status = 0;
@@ -100,13 +100,13 @@ int Program::finish() {
   return WIFSIGNALED(status) ? 1000 + WTERMSIG(status) : WEXITSTATUS(status);
 }
 
-std::string Program::errors() const {
+std::string Program::Errors() const {
   std::stringstream text;
   text << std::ifstream(errorFile_).rdbuf();
   return text.str();
 }
 
-std::string Program::rest() {
+std::string Program::Rest() {
   std::string all = std::move(received_);
   received_.clear();
   char buffer[4096];
@@ -117,26 +117,26 @@ std::string Program::rest() {
 }
 
 SimulatorRun::SimulatorRun(int units)
-    : program_(simulatorWords(units, socket), folder),
-      ready_(program_.ask("variable TRX_MIXER_SIM_CONTROL")),
+    : program_(SimulatorWords(units, socket), folder),
+      ready_(program_.Ask("variable TRX_MIXER_SIM_CONTROL")),
       control_(socket) {
-  EXPECT_EQ(ready_, socket) << program_.errors();
+  EXPECT_EQ(ready_, socket) << program_.Errors();
 }
 
-void SimulatorRun::waitForRequest() {
+void SimulatorRun::WaitForRequest() {
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-  while (log().empty()) {
+  while (Log().empty()) {
     if (std::chrono::steady_clock::now() > end) throw std::runtime_error("no request is made");
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
 }
 
-std::vector<std::string> SimulatorRun::furtherClient() const {
+std::vector<std::string> SimulatorRun::FurtherClient() const {
   return {TRX_MIXER_CTL, "--control", socket, "run", "--", USB_CLIENT};
 }
 
-std::string SimulatorRun::open(const std::string &path) {
-  const std::string descriptor = program_.ask("open " + path);
+std::string SimulatorRun::Open(const std::string &path) {
+  const std::string descriptor = program_.Ask("open " + path);
   EXPECT_TRUE(!descriptor.empty() && descriptor[0] >= '0' && descriptor[0] <= '9') << descriptor;
   return descriptor;
 }

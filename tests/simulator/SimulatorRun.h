@@ -19,25 +19,25 @@ class Program {
   Program &operator=(const Program &) = delete;
 
   /// Sends a line and waits for the answering line; "" at the end of the program's output.
-  std::string ask(const std::string &line);
+  std::string Ask(const std::string &line);
 
-  /// Sends a line whose answer is taken later by `answer`.
-  void tell(const std::string &line);
+  /// Sends a line whose answer is taken later by `Answer`.
+  void Tell(const std::string &line);
 
   /// Waits for a line.
-  std::string answer();
+  std::string Answer();
 
   /// Sends a signal.
-  void signal(int number);
+  void Signal(int number);
 
   /// Closes the input and waits for the end: the exit status, or 1000 plus the signal.
-  int finish();
+  int Finish();
 
   /// What it wrote to its standard error so far.
-  std::string errors() const;
+  std::string Errors() const;
 
   /// All that it still writes to its output.
-  std::string rest();
+  std::string Rest();
 
  private:
   pid_t process_ = -1;
@@ -55,22 +55,22 @@ class SimulatorRun {
   explicit SimulatorRun(int units);
 
   /// The command under the simulator.
-  Program &client() { return program_; }
+  Program &Client() { return program_; }
 
   /// Sends a control command; the lines of the reply.
-  std::vector<std::string> control(const std::string &command) { return control_.ask(command); }
+  std::vector<std::string> Control(const std::string &command) { return control_.Ask(command); }
 
   /// The wire log.
-  std::vector<std::string> log() { return control_.ask("log"); }
+  std::vector<std::string> Log() { return control_.Ask("log"); }
 
   /// Waits until a request stands in the wire log, at most ten seconds; throws after that.
-  void waitForRequest();
+  void WaitForRequest();
 
   /// Words that start one more client on the same desk, by way of trx-mixer-ctl.
-  std::vector<std::string> furtherClient() const;
+  std::vector<std::string> FurtherClient() const;
 
   /// Opens a device node in the client and returns its descriptor as text.
-  std::string open(const std::string &path);
+  std::string Open(const std::string &path);
 
   trxtest::TemporaryFolder folder;
   const std::string socket = folder / "control.sock";

@@ -29,17 +29,17 @@ namespace {
 
 using Words = std::istringstream;
 
-std::string errorText() { return strerrorname_np(errno); }
+std::string ErrorText() { return strerrorname_np(errno); }
 
-int openNode(const std::string &path) { return open(path.c_str(), O_RDWR | O_CLOEXEC); }
+int OpenNode(const std::string &path) { return open(path.c_str(), O_RDWR | O_CLOEXEC); }
 
-unsigned nextNumber(Words &words, int base) {
+unsigned NextNumber(Words &words, int base) {
   std::string word;
   words >> word;
   return static_cast<unsigned>(std::strtoul(word.c_str(), nullptr, base));
 }
 
-std::string hexText(const std::vector<unsigned char> &bytes) {
+std::string HexText(const std::vector<unsigned char> &bytes) {
   std::string text;
   for (const unsigned char byte : bytes) {
     char hex[4];
@@ -50,7 +50,7 @@ std::string hexText(const std::vector<unsigned char> &bytes) {
 }
 
 // Units on the bus as "1-1=001/002", in the order of their names.
-std::string list(Words &) {
+std::string List(Words &) {
   std::vector<std::string> units;
   for (const auto &entry : std::filesystem::directory_iterator("/sys/bus/usb/devices")) {
     const std::string name = entry.path().filename();
@@ -67,11 +67,11 @@ std::string list(Words &) {
 }
 
 // cat PATH: the file, with / for each end of line.
-std::string cat(Words &words) {
+std::string Cat(Words &words) {
   std::string path;
   words >> path;
   std::ifstream file(path);
-  if (!file) return errorText();
+  if (!file) return ErrorText();
   std::stringstream contents;
   contents << file.rdbuf();
   std::string text = contents.str();
@@ -79,30 +79,30 @@ std::string cat(Words &words) {
   return text;
 }
 
-std::string statNode(Words &words) {
+std::string StatNode(Words &words) {
   std::string path;
   words >> path;
   struct stat status {};
-  if (stat(path.c_str(), &status) != 0) return errorText();
+  if (stat(path.c_str(), &status) != 0) return ErrorText();
   return (S_ISCHR(status.st_mode) ? "character " : "other ") +
          std::to_string(major(status.st_rdev)) + ':' + std::to_string(minor(status.st_rdev));
 }
 
-std::string openCommand(Words &words) {
+std::string OpenCommand(Words &words) {
   std::string path;
   words >> path;
-  const int descriptor = openNode(path);
-  return descriptor < 0 ? errorText() : std::to_string(descriptor);
+  const int descriptor = OpenNode(path);
+  return descriptor < 0 ? ErrorText() : std::to_string(descriptor);
 }
 
 // open-often COUNT PATH: how many opens of COUNT failed.
-std::string openOften(Words &words) {
-  const unsigned count = nextNumber(words, 10);
+std::string OpenOften(Words &words) {
+  const unsigned count = NextNumber(words, 10);
   std::string path;
   words >> path;
   unsigned failed = 0;
   for (unsigned round = 0; round < count; ++round) {
-    const int descriptor = openNode(path);
+    const int descriptor = OpenNode(path);
     if (descriptor < 0) {
       ++failed;
     } else {
@@ -112,38 +112,38 @@ std::string openOften(Words &words) {
   return std::to_string(failed);
 }
 
-std::string closeCommand(Words &words) {
-  const int descriptor = static_cast<int>(nextNumber(words, 10));
-  return close(descriptor) == 0 ? "closed" : errorText();
+std::string CloseCommand(Words &words) {
+  const int descriptor = static_cast<int>(NextNumber(words, 10));
+  return close(descriptor) == 0 ? "closed" : ErrorText();
 }
 
 // control DESCRIPTOR TYPE REQUEST VALUE INDEX LENGTH TIMEOUT: the result and the whole buffer,
 // which held ee bytes before.
-std::string control(Words &words) {
-  const int descriptor = static_cast<int>(nextNumber(words, 10));
+std::string Control(Words &words) {
+  const int descriptor = static_cast<int>(NextNumber(words, 10));
   usbdevfs_ctrltransfer transfer{};
-  transfer.bRequestType = static_cast<__u8>(nextNumber(words, 16));
-  transfer.bRequest = static_cast<__u8>(nextNumber(words, 16));
-  transfer.wValue = static_cast<__u16>(nextNumber(words, 16));
-  transfer.wIndex = static_cast<__u16>(nextNumber(words, 16));
-  transfer.wLength = static_cast<__u16>(nextNumber(words, 10));
-  transfer.timeout = nextNumber(words, 10);
+  transfer.bRequestType = static_cast<__u8>(NextNumber(words, 16));
+  transfer.bRequest = static_cast<__u8>(NextNumber(words, 16));
+  transfer.wValue = static_cast<__u16>(NextNumber(words, 16));
+  transfer.wIndex = static_cast<__u16>(NextNumber(words, 16));
+  transfer.wLength = static_cast<__u16>(NextNumber(words, 10));
+  transfer.timeout = NextNumber(words, 10);
   std::vector<unsigned char> buffer(transfer.wLength, 0xEE);
   transfer.data = buffer.data();
   const int result = ioctl(descriptor, USBDEVFS_CONTROL, &transfer);
-  return (result < 0 ? errorText() : std::to_string(result)) + hexText(buffer);
+  return (result < 0 ? ErrorText() : std::to_string(result)) + HexText(buffer);
 }
 
 // other-ioctl DESCRIPTOR: an ioctl that is not a request to the unit.
-std::string otherIoctl(Words &words) {
+std::string OtherIoctl(Words &words) {
   int configuration = 1;
-  const int descriptor = static_cast<int>(nextNumber(words, 10));
+  const int descriptor = static_cast<int>(NextNumber(words, 10));
   const int result = ioctl(descriptor, USBDEVFS_SETCONFIGURATION, &configuration);
-  return result < 0 ? errorText() : std::to_string(result);
+  return result < 0 ? ErrorText() : std::to_string(result);
 }
 
-bool readsSelectors(const std::string &path) {
-  const int descriptor = openNode(path);
+bool ReadsSelectors(const std::string &path) {
+  const int descriptor = OpenNode(path);
   if (descriptor < 0) return false;
   unsigned char bytes[5] = {};
   usbdevfs_ctrltransfer transfer{0xC0, 0, 0, 0x8002, sizeof bytes, 5000, bytes};
@@ -153,9 +153,9 @@ bool readsSelectors(const std::string &path) {
 }
 
 // threads THREADS ROUNDS PATH...: how many reads of all succeeded, each with its own open.
-std::string threads(Words &words) {
-  const unsigned count = nextNumber(words, 10);
-  const unsigned rounds = nextNumber(words, 10);
+std::string Threads(Words &words) {
+  const unsigned count = NextNumber(words, 10);
+  const unsigned rounds = NextNumber(words, 10);
   std::vector<std::string> paths;
   for (std::string path; words >> path;) paths.push_back(path);
   std::atomic<unsigned> good{0};
@@ -163,7 +163,7 @@ std::string threads(Words &words) {
   for (unsigned number = 0; number < count; ++number) {
     readers.emplace_back([&, number] {
       for (unsigned round = 0; round < rounds; ++round) {
-        if (readsSelectors(paths[(number + round) % paths.size()])) ++good;
+        if (ReadsSelectors(paths[(number + round) % paths.size()])) ++good;
       }
     });
   }
@@ -172,18 +172,18 @@ std::string threads(Words &words) {
 }
 
 // Gives up every privilege of root but its name.
-std::string dropCapabilities(Words &) {
+std::string DropCapabilities(Words &) {
   __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
   __user_cap_data_struct none[2] = {};
-  return syscall(SYS_capset, &header, none) == 0 ? "dropped" : errorText();
+  return syscall(SYS_capset, &header, none) == 0 ? "dropped" : ErrorText();
 }
 
 // child COMMAND...: runs the command in a child that this program starts anew.
-std::string child(Words &words) {
+std::string Child(Words &words) {
   std::string rest;
   std::getline(words >> std::ws, rest);
   int ends[2];
-  if (pipe(ends) != 0) return errorText();
+  if (pipe(ends) != 0) return ErrorText();
   const pid_t process = fork();
   if (process == 0) {
     dup2(ends[1], STDOUT_FILENO);
@@ -202,14 +202,14 @@ std::string child(Words &words) {
   return answer;
 }
 
-std::string environmentVariable(Words &words) {
+std::string EnvironmentVariable(Words &words) {
   std::string name;
   words >> name;
   const char *value = std::getenv(name.c_str());
   return value != nullptr ? value : "";
 }
 
-std::string leave(Words &words) { std::_Exit(static_cast<int>(nextNumber(words, 10))); }
+std::string Leave(Words &words) { std::_Exit(static_cast<int>(NextNumber(words, 10))); }
 
 struct Command {
   const char *word;
@@ -217,22 +217,22 @@ struct Command {
 };
 
 constexpr Command kCommands[] = {
-    {"list", list},
-    {"cat", cat},
-    {"stat", statNode},
-    {"open", openCommand},
-    {"open-often", openOften},
-    {"close", closeCommand},
-    {"control", control},
-    {"other-ioctl", otherIoctl},
-    {"threads", threads},
-    {"drop-capabilities", dropCapabilities},
-    {"child", child},
-    {"variable", environmentVariable},
-    {"exit", leave},
+    {"list", List},
+    {"cat", Cat},
+    {"stat", StatNode},
+    {"open", OpenCommand},
+    {"open-often", OpenOften},
+    {"close", CloseCommand},
+    {"control", Control},
+    {"other-ioctl", OtherIoctl},
+    {"threads", Threads},
+    {"drop-capabilities", DropCapabilities},
+    {"child", Child},
+    {"variable", EnvironmentVariable},
+    {"exit", Leave},
 };
 
-std::string run(const std::string &line) {
+std::string Run(const std::string &line) {
   Words words(line);
   std::string first;
   words >> first;
@@ -246,9 +246,9 @@ std::string run(const std::string &line) {
 
 int main(int argc, char **argv) {
   if (argc > 1) {
-    std::cout << run(argv[1]) << std::endl;
+    std::cout << Run(argv[1]) << std::endl;
     return 0;
   }
-  for (std::string line; std::getline(std::cin, line);) std::cout << run(line) << std::endl;
+  for (std::string line; std::getline(std::cin, line);) std::cout << Run(line) << std::endl;
   return 0;
 }

@@ -33,45 +33,45 @@ constexpr const char *kSecondStatus =
     "hs  0009 004 000 00000000 000000 0-0\n"
     "ss  0012 004 000 00000000 000000 0-0\n";
 
-std::string portText(const VhciPort &port) {
+std::string PortText(const VhciPort &port) {
   return std::to_string(port.number) + " = " + std::to_string(port.controller) + '-' +
          std::to_string(port.hubPort) + (port.isFree ? " free" : " taken");
 }
 
-std::vector<std::string> texts(const std::vector<VhciPort> &ports) {
+std::vector<std::string> Texts(const std::vector<VhciPort> &ports) {
   std::vector<std::string> all;
-  for (const VhciPort &port : ports) all.push_back(portText(port));
+  for (const VhciPort &port : ports) all.push_back(PortText(port));
   return all;
 }
 
 class Vhci : public testing::Test {
  protected:
   Vhci() {
-    write(kFirst + "/attach", "");
-    write(kFirst + "/detach", "");
-    write(kFirst + "/status", kStatus);
-    write(kFirst + "/status.1", kSecondStatus);
-    write(kFirst + "/usb3/speed", "480\n");
-    write(kFirst + "/usb4/speed", "5000\n");
-    write(kSecond + "/usb6/speed", "5000\n");
-    write(kSecond + "/usb5/speed", "480\n");
+    Write(kFirst + "/attach", "");
+    Write(kFirst + "/detach", "");
+    Write(kFirst + "/status", kStatus);
+    Write(kFirst + "/status.1", kSecondStatus);
+    Write(kFirst + "/usb3/speed", "480\n");
+    Write(kFirst + "/usb4/speed", "5000\n");
+    Write(kSecond + "/usb6/speed", "5000\n");
+    Write(kSecond + "/usb5/speed", "480\n");
   }
 
-  void write(const std::string &path, const std::string &text) const {
+  void Write(const std::string &path, const std::string &text) const {
     fs::create_directories(fs::path(root / path).parent_path());
     std::ofstream(root / path) << text;
   }
 
-  std::string read(const std::string &path) const {
+  std::string Read(const std::string &path) const {
     std::stringstream text;
     text << std::ifstream(root / path).rdbuf();
     return text.str();
   }
 
-  void showDevice(const std::string &name, const std::string &bus,
+  void ShowDevice(const std::string &name, const std::string &bus,
                   const std::string &device) const {
-    write("sys/bus/usb/devices/" + name + "/busnum", bus + '\n');
-    write("sys/bus/usb/devices/" + name + "/devnum", device + '\n');
+    Write("sys/bus/usb/devices/" + name + "/busnum", bus + '\n');
+    Write("sys/bus/usb/devices/" + name + "/devnum", device + '\n');
   }
 
   const std::string kFirst = "sys/devices/platform/vhci_hcd.0";
@@ -81,101 +81,101 @@ class Vhci : public testing::Test {
 
 TEST(VhciStatus, ListsTheHighSpeedPorts) {
   EXPECT_EQ(
-      texts(parseVhciStatus(kStatus, 0)),
+      Texts(ParseVhciStatus(kStatus, 0)),
       (std::vector<std::string>{"0 = 0-1 taken", "1 = 0-2 free", "2 = 0-3 taken", "3 = 0-4 free"}));
 }
 
 TEST(VhciStatus, PassesOverWhatItDoesNotKnow) {
-  EXPECT_TRUE(parseVhciStatus("", 0).empty());
-  EXPECT_TRUE(parseVhciStatus("hs\nhs x\nhs 1\nhs 1 x\nqs 1 4\n\n", 0).empty());
-  EXPECT_EQ(texts(parseVhciStatus("hs 0010 004", 2)), std::vector<std::string>{"10 = 2-1 free"});
+  EXPECT_TRUE(ParseVhciStatus("", 0).empty());
+  EXPECT_TRUE(ParseVhciStatus("hs\nhs x\nhs 1\nhs 1 x\nqs 1 4\n\n", 0).empty());
+  EXPECT_EQ(Texts(ParseVhciStatus("hs 0010 004", 2)), std::vector<std::string>{"10 = 2-1 free"});
 }
 
 TEST_F(Vhci, PortsOfAllControllersComeInTheOrderOfTheirBuses) {
-  EXPECT_EQ(texts(VhciController(root.Path()).ports()),
+  EXPECT_EQ(Texts(VhciController(root.Path()).Ports()),
             (std::vector<std::string>{"0 = 0-1 taken", "1 = 0-2 free", "2 = 0-3 taken",
                                       "3 = 0-4 free", "8 = 1-1 taken", "9 = 1-2 free"}));
 }
 
 TEST_F(Vhci, AttachTakesTheFirstFreePortAtHighSpeed) {
   const VhciController vhci(root.Path());
-  EXPECT_EQ(portText(vhci.attach(17, 0x00010002)), "1 = 0-2 free");
-  EXPECT_EQ(read(kFirst + "/attach"), "1 17 65538 3");
+  EXPECT_EQ(PortText(vhci.Attach(17, 0x00010002)), "1 = 0-2 free");
+  EXPECT_EQ(Read(kFirst + "/attach"), "1 17 65538 3");
 }
 
 TEST_F(Vhci, AttachGoesOnToTheNextController) {
-  write(kFirst + "/status", "hs  0000 006 003 00010001 000003 3-1\n");
-  EXPECT_EQ(portText(VhciController(root.Path()).attach(17, 1)), "9 = 1-2 free");
+  Write(kFirst + "/status", "hs  0000 006 003 00010001 000003 3-1\n");
+  EXPECT_EQ(PortText(VhciController(root.Path()).Attach(17, 1)), "9 = 1-2 free");
 }
 
 TEST_F(Vhci, AttachSaysWhenNoPortIsFree) {
-  write(kFirst + "/status", "hs  0000 006 003 00010001 000003 3-1\n");
-  write(kFirst + "/status.1", "hs  0008 006 003 00010001 000003 3-1\n");
+  Write(kFirst + "/status", "hs  0000 006 003 00010001 000003 3-1\n");
+  Write(kFirst + "/status.1", "hs  0008 006 003 00010001 000003 3-1\n");
   const VhciController vhci(root.Path());
   try {
-    vhci.attach(17, 1);
+    vhci.Attach(17, 1);
     FAIL() << "found a port";
   } catch (const DeskError &error) {
     EXPECT_STREQ(
         error.what(),
         "all 2 ports of the virtual USB host controllers are taken; `unplug` a unit first");
   }
-  EXPECT_EQ(read(kFirst + "/attach"), "");
+  EXPECT_EQ(Read(kFirst + "/attach"), "");
 }
 
 TEST_F(Vhci, DetachNamesThePort) {
-  VhciController(root.Path()).detach({9, 1, 2, false});
-  EXPECT_EQ(read(kFirst + "/detach"), "9");
+  VhciController(root.Path()).Detach({9, 1, 2, false});
+  EXPECT_EQ(Read(kFirst + "/detach"), "9");
 }
 
 TEST_F(Vhci, AddressIsThatOfTheDeviceAtTheHighSpeedHub) {
   const VhciController vhci(root.Path());
   const VhciPort port{9, 1, 2, false};
-  showDevice("6-2", "6", "2");
-  EXPECT_FALSE(vhci.addressAt(port));
-  showDevice("5-2", "5", "14");
-  EXPECT_FALSE(vhci.addressAt(port)) << "there is no device node yet";
-  write("dev/bus/usb/005/014", "");
-  EXPECT_EQ(vhci.addressAt(port), (BusAddress{5, 14}));
+  ShowDevice("6-2", "6", "2");
+  EXPECT_FALSE(vhci.AddressAt(port));
+  ShowDevice("5-2", "5", "14");
+  EXPECT_FALSE(vhci.AddressAt(port)) << "there is no device node yet";
+  Write("dev/bus/usb/005/014", "");
+  EXPECT_EQ(vhci.AddressAt(port), (BusAddress{5, 14}));
 }
 
 TEST_F(Vhci, TracesOfADeviceAreThereUntilItsEntryInTheListIsGone) {
   const VhciController vhci(root.Path());
   const VhciPort port{9, 1, 2, false};
-  EXPECT_FALSE(vhci.hasTracesOf({5, 14}, port));
-  showDevice("5-2", "5", "14");
-  EXPECT_TRUE(vhci.hasTracesOf({5, 14}, port)) << "the node is gone, the rest is not";
-  EXPECT_FALSE(vhci.hasTracesOf({5, 13}, port)) << "another device has taken the port";
+  EXPECT_FALSE(vhci.HasTracesOf({5, 14}, port));
+  ShowDevice("5-2", "5", "14");
+  EXPECT_TRUE(vhci.HasTracesOf({5, 14}, port)) << "the node is gone, the rest is not";
+  EXPECT_FALSE(vhci.HasTracesOf({5, 13}, port)) << "another device has taken the port";
   fs::remove(root / "sys/bus/usb/devices/5-2/devnum");
-  EXPECT_TRUE(vhci.hasTracesOf({5, 14}, port)) << "a folder without its numbers";
+  EXPECT_TRUE(vhci.HasTracesOf({5, 14}, port)) << "a folder without its numbers";
   fs::remove_all(root / "sys/bus/usb/devices/5-2");
-  EXPECT_FALSE(vhci.hasTracesOf({5, 14}, port));
+  EXPECT_FALSE(vhci.HasTracesOf({5, 14}, port));
 }
 
 TEST_F(Vhci, DeniedNodeIsGivenBackAsTheSystemMadeIt) {
-  write("dev/bus/usb/005/014", "");
+  Write("dev/bus/usb/005/014", "");
   const fs::path path = root / "dev/bus/usb/005/014";
   const auto permissions = [&path] { return static_cast<int>(fs::status(path).permissions()); };
   fs::permissions(path, static_cast<fs::perms>(0664));
   {
     DeviceNode node(path);
     EXPECT_EQ(permissions(), 0664);
-    node.set(OpenFault::Deny);
+    node.Set(OpenFault::kDeny);
     EXPECT_EQ(permissions(), 0);
-    node.set(OpenFault::None);
+    node.Set(OpenFault::kNone);
     EXPECT_EQ(permissions(), 0664);
-    node.set(OpenFault::Deny);
-    node.set(OpenFault::Deny);
+    node.Set(OpenFault::kDeny);
+    node.Set(OpenFault::kDeny);
   }
   EXPECT_EQ(permissions(), 0664);
 }
 
 TEST_F(Vhci, NodeThatIsGoneNeedsNothingBack) {
-  write("dev/bus/usb/005/014", "");
+  Write("dev/bus/usb/005/014", "");
   DeviceNode node(root / "dev/bus/usb/005/014");
-  node.set(OpenFault::Deny);
+  node.Set(OpenFault::kDeny);
   fs::remove(root / "dev/bus/usb/005/014");
-  EXPECT_NO_THROW(node.set(OpenFault::None));
+  EXPECT_NO_THROW(node.Set(OpenFault::kNone));
 }
 
 TEST_F(Vhci, WithoutControllersSaysWhatToDo) {

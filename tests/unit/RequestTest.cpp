@@ -42,9 +42,9 @@ class Request : public testing::Test {
 
   void TearDown() override { closeUSB(&unit_); }
 
-  DeviceHandle unit() { return unit_; }
+  DeviceHandle Unit() { return unit_; }
 
-  std::vector<std::string> Tell(const std::string &command) { return simulator_.ask(command); }
+  std::vector<std::string> Tell(const std::string &command) { return simulator_.Ask(command); }
 
   // The wire log with single blanks. A line ends with the simulator's own name for the request.
   std::vector<std::string> WireLog() {
@@ -60,7 +60,7 @@ class Request : public testing::Test {
   }
 
  private:
-  trxsim::ControlClient simulator_{trxsim::clientControlSocket()};
+  trxsim::ControlClient simulator_{trxsim::ClientControlSocket()};
   DeviceHandle unit_ = nullptr;
 };
 
@@ -69,7 +69,7 @@ class Request : public testing::Test {
 TEST_F(Request, TheFirmwareVersionIsReadFrom8001) {
   Tell("set 1 firmware 0x0213");
   Buffer buffer = PresetBuffer();
-  EXPECT_EQ(GetFirmwareVersionNumber(unit(), buffer.data(), 2), kDone);
+  EXPECT_EQ(GetFirmwareVersionNumber(Unit(), buffer.data(), 2), kDone);
   EXPECT_THAT(buffer, ElementsAre(0x13, 0x02, 0xEE, 0xEE, 0xEE, 0xEE));
   EXPECT_THAT(WireLog(),
               ElementsAre(StartsWith(
@@ -81,7 +81,7 @@ TEST_F(Request, TheInputSelectorsAreReadFrom8002) {
   Tell("set 1 selector 0 6");
   Tell("set 1 selector 3 5");
   Buffer buffer = PresetBuffer();
-  EXPECT_EQ(GetInputSelectorInfo(unit(), buffer.data(), 5), kDone);
+  EXPECT_EQ(GetInputSelectorInfo(Unit(), buffer.data(), 5), kDone);
   EXPECT_THAT(buffer, ElementsAre(9, 6, 0, 0, 5, 0xEE));
   EXPECT_THAT(WireLog(),
               ElementsAre(StartsWith("unit 1 IN c0 00 wValue 0000 wIndex 8002 wLength 5 -> "
@@ -91,7 +91,7 @@ TEST_F(Request, TheInputSelectorsAreReadFrom8002) {
 TEST_F(Request, TheSeratoStateIsReadFrom8004) {
   Tell("set 1 serato 1 7");
   Buffer buffer = PresetBuffer();
-  EXPECT_EQ(GetSeratoActiveInfo(unit(), buffer.data(), 2), kDone);
+  EXPECT_EQ(GetSeratoActiveInfo(Unit(), buffer.data(), 2), kDone);
   EXPECT_THAT(buffer, ElementsAre(1, 7, 0xEE, 0xEE, 0xEE, 0xEE));
   EXPECT_THAT(WireLog(),
               ElementsAre(StartsWith(
@@ -101,7 +101,7 @@ TEST_F(Request, TheSeratoStateIsReadFrom8004) {
 TEST_F(Request, ThePortStateIsReadFrom8006) {
   Tell("set 1 port 0x12 0x34");
   Buffer buffer = PresetBuffer();
-  EXPECT_EQ(GetPortInfo(unit(), buffer.data(), 2), kDone);
+  EXPECT_EQ(GetPortInfo(Unit(), buffer.data(), 2), kDone);
   EXPECT_THAT(buffer, ElementsAre(0x12, 0x34, 0xEE, 0xEE, 0xEE, 0xEE));
   EXPECT_THAT(WireLog(),
               ElementsAre(StartsWith(
@@ -111,7 +111,7 @@ TEST_F(Request, ThePortStateIsReadFrom8006) {
 TEST_F(Request, TheCertifyLevelIsReadFrom8007) {
   Tell("set 1 certify 0x01020304");
   Buffer buffer = PresetBuffer();
-  EXPECT_EQ(GetCertifyLevel(unit(), buffer.data(), 4), kDone);
+  EXPECT_EQ(GetCertifyLevel(Unit(), buffer.data(), 4), kDone);
   EXPECT_THAT(buffer, ElementsAre(1, 2, 3, 4, 0xEE, 0xEE));
   EXPECT_THAT(WireLog(),
               ElementsAre(StartsWith("unit 1 IN c0 00 wValue 0000 wIndex 8007 wLength 4 -> "
@@ -121,35 +121,35 @@ TEST_F(Request, TheCertifyLevelIsReadFrom8007) {
 // --- Writes ------------------------------------------------------------------------------------
 
 TEST_F(Request, WhatTheMixerSendsIsWrittenTo8002) {
-  EXPECT_EQ(SetMixerOutputSetting(unit(), 0x0208), kDone);
+  EXPECT_EQ(SetMixerOutputSetting(Unit(), 0x0208), kDone);
   EXPECT_THAT(
       WireLog(),
       ElementsAre(StartsWith("unit 1 OUT 40 03 wValue 0208 wIndex 8002 wLength 0 -> 0 bytes ")));
 }
 
 TEST_F(Request, WhatTheMixerReceivesIsWrittenTo8016) {
-  EXPECT_EQ(SetMixerInputSetting(unit(), 0x0304), kDone);
+  EXPECT_EQ(SetMixerInputSetting(Unit(), 0x0304), kDone);
   EXPECT_THAT(
       WireLog(),
       ElementsAre(StartsWith("unit 1 OUT 40 03 wValue 0304 wIndex 8016 wLength 0 -> 0 bytes ")));
 }
 
 TEST_F(Request, TheOutputLevelIsWrittenTo8003) {
-  EXPECT_EQ(SetUSBOutputLevelSetting(unit(), 0x0300), kDone);
+  EXPECT_EQ(SetUSBOutputLevelSetting(Unit(), 0x0300), kDone);
   EXPECT_THAT(
       WireLog(),
       ElementsAre(StartsWith("unit 1 OUT 40 03 wValue 0300 wIndex 8003 wLength 0 -> 0 bytes ")));
 }
 
 TEST_F(Request, TheMidiChannelIsWrittenTo8004) {
-  EXPECT_EQ(SetMidiChannelSetting(unit(), 0x0F00), kDone);
+  EXPECT_EQ(SetMidiChannelSetting(Unit(), 0x0F00), kDone);
   EXPECT_THAT(
       WireLog(),
       ElementsAre(StartsWith("unit 1 OUT 40 03 wValue 0f00 wIndex 8004 wLength 0 -> 0 bytes ")));
 }
 
 TEST_F(Request, TheMidiKeyModeIsWrittenTo8005) {
-  EXPECT_EQ(SetMidiKeyModeSetting(unit(), 0x0100), kDone);
+  EXPECT_EQ(SetMidiKeyModeSetting(Unit(), 0x0100), kDone);
   EXPECT_THAT(
       WireLog(),
       ElementsAre(StartsWith("unit 1 OUT 40 03 wValue 0100 wIndex 8005 wLength 0 -> 0 bytes ")));
@@ -161,7 +161,7 @@ TEST_F(Request, AFullReplySaysItsLength) {
   Tell("set 1 certify 0x01020304");
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 4;
-  EXPECT_EQ(DeviceRequest(unit(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), kDone);
+  EXPECT_EQ(DeviceRequest(Unit(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), kDone);
   EXPECT_EQ(length, 4);
   EXPECT_THAT(buffer, ElementsAre(1, 2, 3, 4, 0xEE, 0xEE));
 }
@@ -171,7 +171,7 @@ TEST_F(Request, AReplyShorterThanWhatWasAskedForSaysItsLengthAndLeavesTheRest) {
   Tell("fault 1 short 3");
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 4;
-  EXPECT_EQ(DeviceRequest(unit(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), kDone);
+  EXPECT_EQ(DeviceRequest(Unit(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), kDone);
   EXPECT_EQ(length, 3);
   EXPECT_THAT(buffer, ElementsAre(1, 2, 3, 0xEE, 0xEE, 0xEE));
 }
@@ -179,7 +179,7 @@ TEST_F(Request, AReplyShorterThanWhatWasAskedForSaysItsLengthAndLeavesTheRest) {
 TEST_F(Request, AWriteSaysLengthZero) {
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 0;
-  EXPECT_EQ(DeviceRequest(unit(), 0x40, 3, 0x0100, 0x8003, buffer.data(), &length), kDone);
+  EXPECT_EQ(DeviceRequest(Unit(), 0x40, 3, 0x0100, 0x8003, buffer.data(), &length), kDone);
   EXPECT_EQ(length, 0);
   EXPECT_THAT(buffer, Each(0xEE));
 }
@@ -188,20 +188,20 @@ TEST_F(Request, AStallSaysLengthZeroAndLeavesTheBufferAlone) {
   Tell("fault 1 stall");
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 4;
-  EXPECT_EQ(DeviceRequest(unit(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), kStalled);
+  EXPECT_EQ(DeviceRequest(Unit(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), kStalled);
   EXPECT_EQ(length, 0);
   EXPECT_THAT(buffer, Each(0xEE));
-  EXPECT_EQ(SetUSBOutputLevelSetting(unit(), 0x0300), kStalled);
+  EXPECT_EQ(SetUSBOutputLevelSetting(Unit(), 0x0300), kStalled);
 }
 
 TEST_F(Request, AUnitUnpluggedSinceItWasOpenedIsNoDevice) {
   Tell("unplug 1");
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 4;
-  EXPECT_EQ(DeviceRequest(unit(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), kNoDevice);
+  EXPECT_EQ(DeviceRequest(Unit(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), kNoDevice);
   EXPECT_EQ(length, 0);
-  EXPECT_EQ(GetFirmwareVersionNumber(unit(), buffer.data(), 2), kNoDevice);
-  EXPECT_EQ(SetUSBOutputLevelSetting(unit(), 0x0300), kNoDevice);
+  EXPECT_EQ(GetFirmwareVersionNumber(Unit(), buffer.data(), 2), kNoDevice);
+  EXPECT_EQ(SetUSBOutputLevelSetting(Unit(), 0x0300), kNoDevice);
   EXPECT_THAT(buffer, Each(0xEE));
   Tell("replug 1");
 }

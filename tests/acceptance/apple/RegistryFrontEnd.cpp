@@ -22,8 +22,8 @@ trxsim::Descriptor ListenAt(const std::string &path) {
   trxsim::Descriptor listener(socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0));
   sockaddr_un address = {AF_UNIX, {}};
   path.copy(address.sun_path, sizeof address.sun_path - 1);
-  if (bind(listener.get(), reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0 ||
-      listen(listener.get(), SOMAXCONN) != 0) {
+  if (bind(listener.Get(), reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0 ||
+      listen(listener.Get(), SOMAXCONN) != 0) {
     throw std::system_error(errno, std::generic_category(), path);
   }
   return listener;
@@ -35,18 +35,18 @@ RegistryFrontEnd::RegistryFrontEnd(const std::string &path)
     : listener_(ListenAt(path)), accepting_([this] { Accept(); }) {}
 
 RegistryFrontEnd::~RegistryFrontEnd() {
-  shutdown(listener_.get(), SHUT_RDWR);
+  shutdown(listener_.Get(), SHUT_RDWR);
   accepting_.join();
   {
     const std::lock_guard lock(mutex_);
     isEnding_ = true;
-    for (const Client &client : clients_) shutdown(client.socket.get(), SHUT_RDWR);
+    for (const Client &client : clients_) shutdown(client.socket.Get(), SHUT_RDWR);
   }
   changed_.notify_all();
   for (Client &client : clients_) client.thread.join();
 }
 
-trxsim::BusAddress RegistryFrontEnd::plug(int number, const trxsim::UsbIdentity &identity,
+trxsim::BusAddress RegistryFrontEnd::Plug(int number, const trxsim::UsbIdentity &identity,
                                           trxsim::OpenFault fault) {
   const std::lock_guard lock(mutex_);
   lastDeviceNumber_ = NextDeviceNumber();
@@ -54,20 +54,20 @@ trxsim::BusAddress RegistryFrontEnd::plug(int number, const trxsim::UsbIdentity 
   return {1, lastDeviceNumber_};
 }
 
-void RegistryFrontEnd::unplug(int number) {
+void RegistryFrontEnd::Unplug(int number) {
   const std::lock_guard lock(mutex_);
   bus_.erase(Find(number));
   changed_.notify_all();
 }
 
-void RegistryFrontEnd::setOpenFault(int number, trxsim::OpenFault fault) {
+void RegistryFrontEnd::SetOpenFault(int number, trxsim::OpenFault fault) {
   const std::lock_guard lock(mutex_);
   Find(number)->second.device.fault = fault;
 }
 
 void RegistryFrontEnd::Accept() {
   for (;;) {
-    const int client = accept4(listener_.get(), nullptr, nullptr, SOCK_CLOEXEC);
+    const int client = accept4(listener_.Get(), nullptr, nullptr, SOCK_CLOEXEC);
     if (client < 0) return;
     const std::lock_guard lock(mutex_);
     clients_.remove_if([](Client &old) {
@@ -82,7 +82,7 @@ void RegistryFrontEnd::Accept() {
 }
 
 void RegistryFrontEnd::Serve(Client &client) {
-  const int socket = client.socket.get();
+  const int socket = client.socket.Get();
   RegistryRequest request;
   while (recv(socket, &request, sizeof request, 0) == sizeof request) {
     if (request.isTransfer) {
@@ -111,10 +111,10 @@ RegistryAnswer RegistryFrontEnd::Transfer(const RegistryRequest &request) {
     if (found == bus_.end()) return {};
     number = found->second.number;
   }
-  const trxsim::TransferResult result = requests_.transfer(number, request.setup);
+  const trxsim::TransferResult result = requests_.Transfer(number, request.setup);
   RegistryAnswer answer;
   answer.outcome =
-      result.outcome == trxsim::Outcome::NoReply ? WaitInVain(request.device) : result.outcome;
+      result.outcome == trxsim::Outcome::kNoReply ? WaitInVain(request.device) : result.outcome;
   answer.size =
       static_cast<std::uint16_t>(std::min(result.data.size(), RegistryAnswer::kMostBytes));
   std::copy_n(result.data.begin(), answer.size, answer.bytes.begin());
@@ -125,7 +125,7 @@ trxsim::Outcome RegistryFrontEnd::WaitInVain(int device) {
   std::unique_lock lock(mutex_);
   const bool isGone = changed_.wait_for(lock, kPatienceOfHosts,
                                         [&] { return isEnding_ || !bus_.contains(device); });
-  return isGone ? trxsim::Outcome::Unplugged : trxsim::Outcome::NoReply;
+  return isGone ? trxsim::Outcome::kUnplugged : trxsim::Outcome::kNoReply;
 }
 
 int RegistryFrontEnd::NextDeviceNumber() const {

@@ -27,10 +27,10 @@ class RegistryFrontEnd : public trxsim::FrontEnd {
   RegistryFrontEnd(const RegistryFrontEnd &) = delete;
   RegistryFrontEnd &operator=(const RegistryFrontEnd &) = delete;
 
-  trxsim::BusAddress plug(int number, const trxsim::UsbIdentity &identity,
+  trxsim::BusAddress Plug(int number, const trxsim::UsbIdentity &identity,
                           trxsim::OpenFault fault) override;
-  void unplug(int number) override;
-  void setOpenFault(int number, trxsim::OpenFault fault) override;
+  void Unplug(int number) override;
+  void SetOpenFault(int number, trxsim::OpenFault fault) override;
 
   /// The way of the hosts' requests to the desk.
   trxsim::RequestGate &requests() { return requests_; }

@@ -26,14 +26,14 @@ struct RegistryDevice {
   int device = 0;  ///< Its number on the bus.
   std::uint16_t vendor = 0;
   std::uint16_t product = 0;
-  trxsim::OpenFault fault = trxsim::OpenFault::None;
+  trxsim::OpenFault fault = trxsim::OpenFault::kNone;
 };
 
 /// The answer to a transfer. A silent device is answered for when the host's patience ends.
 struct RegistryAnswer {
   static constexpr std::size_t kMostBytes = 256;
 
-  trxsim::Outcome outcome = trxsim::Outcome::Gone;
+  trxsim::Outcome outcome = trxsim::Outcome::kGone;
   std::uint16_t size = 0;
   std::array<std::uint8_t, kMostBytes> bytes = {};
 };

@@ -22,9 +22,9 @@ std::size_t Ask(const std::string &path, const RegistryRequest &request, Answer 
   const trxsim::Descriptor registry(socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0));
   sockaddr_un address = {AF_UNIX, {}};
   path.copy(address.sun_path, sizeof address.sun_path - 1);
-  if (connect(registry.get(), reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0 &&
-      send(registry.get(), &request, sizeof request, MSG_NOSIGNAL) == sizeof request) {
-    const ssize_t received = recv(registry.get(), answer, size, 0);
+  if (connect(registry.Get(), reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0 &&
+      send(registry.Get(), &request, sizeof request, MSG_NOSIGNAL) == sizeof request) {
+    const ssize_t received = recv(registry.Get(), answer, size, 0);
     if (received >= 0) return static_cast<std::size_t>(received);
   }
   throw std::system_error(errno, std::generic_category(), path);
@@ -33,13 +33,13 @@ std::size_t Ask(const std::string &path, const RegistryRequest &request, Answer 
 // What the platform says when it makes a plug-in for a device that it cannot have.
 IOReturn PlugInStatus(trxsim::OpenFault fault) {
   switch (fault) {
-    case trxsim::OpenFault::None:
+    case trxsim::OpenFault::kNone:
       return kIOReturnSuccess;
-    case trxsim::OpenFault::Refuse:
+    case trxsim::OpenFault::kRefuse:
       return kIOReturnNoResources;
-    case trxsim::OpenFault::Deny:
+    case trxsim::OpenFault::kDeny:
       return kIOReturnNotPermitted;
-    case trxsim::OpenFault::Hold:
+    case trxsim::OpenFault::kHold:
       break;
   }
   return kIOReturnExclusiveAccess;
@@ -47,14 +47,14 @@ IOReturn PlugInStatus(trxsim::OpenFault fault) {
 
 IOReturn StatusOf(trxsim::Outcome outcome) {
   switch (outcome) {
-    case trxsim::Outcome::Done:
+    case trxsim::Outcome::kDone:
       return kIOReturnSuccess;
-    case trxsim::Outcome::Stalled:
+    case trxsim::Outcome::kStalled:
       return kIOUSBPipeStalled;
-    case trxsim::Outcome::NoReply:
+    case trxsim::Outcome::kNoReply:
       return kIOUSBTransactionTimeout;
-    case trxsim::Outcome::Unplugged:
-    case trxsim::Outcome::Gone:
+    case trxsim::Outcome::kUnplugged:
+    case trxsim::Outcome::kGone:
       break;
   }
   return kIOReturnNoDevice;

@@ -28,23 +28,23 @@ int Run(int argc, char **argv) {
   if (!command.empty() && command[0] == "--") command.erase(command.begin());
 
   const std::string registry = control + ".registry";
-  const trxsim::ControlSocket socket = trxsim::ControlSocket::at(control);
+  const trxsim::ControlSocket socket = trxsim::ControlSocket::At(control);
   trxtest::RegistryFrontEnd frontEnd(registry);
   trxsim::Desk desk(frontEnd);
-  frontEnd.requests().open(desk);
-  for (int unit = 0; unit < units; ++unit) desk.plugMixer();
+  frontEnd.requests().Open(desk);
+  for (int unit = 0; unit < units; ++unit) desk.PlugMixer();
   const trxsim::Environment additions = {std::string(trxtest::kRegistryVariable) + '=' + registry};
   trxsim::CommandInterpreter interpreter(desk, additions);
-  const trxsim::ControlServer server(socket.listener(), interpreter);
-  const int result = trxsim::runCommand(command, trxsim::environmentWith(additions));
-  frontEnd.requests().close();
+  const trxsim::ControlServer server(socket.Listener(), interpreter);
+  const int result = trxsim::RunCommand(command, trxsim::EnvironmentWith(additions));
+  frontEnd.requests().Close();
   return result;
 }
 
 }  // namespace
 
 int main(int argc, char **argv) {
-  trxsim::blockSignals();
+  trxsim::BlockSignals();
   try {
     return Run(argc, argv);
   } catch (const std::exception &failure) {

@@ -66,7 +66,7 @@ std::vector<std::string> SimulatedUnits::Tell(const Words &...words) {
   std::ostringstream command;
   const char *separator = "";
   ((command << separator << words, separator = " "), ...);
-  return simulator_.ask(command.str());
+  return simulator_.Ask(command.str());
 }
 
 int SimulatedUnits::PlugMixer() { return std::stoi(Tell("plug").at(0)); }
