@@ -31,6 +31,15 @@ enum class UnitFault {
   kVanishes,              ///< The unit is unplugged in the middle of the next request.
 };
 
+/// Where a unit is, as the platform calls it; 0 what it does not have.
+struct UnitPlace {
+  std::uint32_t bus = 0;
+  std::uint32_t address = 0;
+  std::uint32_t location = 0;
+
+  bool operator==(const UnitPlace &) const = default;
+};
+
 /// How a process may fail to know where the notification service is.
 enum class LostService { kNothingSaid, kNonsenseSaid };
 
@@ -53,6 +62,8 @@ class Rig {
   virtual void Unplug(int unit) = 0;
   /// Plugs an unplugged unit in again, behind all others.
   virtual void Replug(int unit) = 0;
+  /// Where a plugged unit is.
+  virtual UnitPlace PlaceOf(int unit) = 0;
 
   /// Whether a unit that vanishes in a request is off the bus by the time that the request has
   /// ended. Otherwise it may be there a moment longer, as one that takes no requests.

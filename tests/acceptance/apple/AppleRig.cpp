@@ -65,6 +65,11 @@ AppleRig::~AppleRig() {
   EXPECT_EQ(TakeWrongUses(), std::vector<std::string>());
 }
 
+// See RemoteDevices.cpp.
+UnitPlace AppleRig::PlaceOf(int unit) {
+  return {.location = 0x14000000 + static_cast<std::uint32_t>(DeviceNumberOf(unit))};
+}
+
 std::string AppleRig::LibraryFolder() { return LibraryFolderOfUser(); }
 
 std::string AppleRig::SettingsFile(const std::string &modelDisplayName) {

@@ -18,6 +18,8 @@ class AppleRig : public SimulatedUnits {
   AppleRig();
   ~AppleRig() override;
 
+  UnitPlace PlaceOf(int unit) override;
+
   std::string LibraryFolder() override;
   std::string SettingsFile(const std::string &modelDisplayName) override;
   std::string SystemRoot() override;

@@ -9,6 +9,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include <TRX-SELVASetup/Diagnostics.h>
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
 #include "Rights.h"
@@ -70,6 +71,10 @@ void IndexChanged(std::int32_t index, void *tag) {
 void ChannelIndexChanged(std::int32_t channel, std::int32_t index, void *tag) {
   std::cout << "! " << *static_cast<std::string *>(tag) << ' ' << channel << ' ' << index
             << std::endl;
+}
+
+void RequestEnded(const ORVRequestReport *report, void *) {
+  std::cout << "! kind " << report->kind << " outcome " << report->outcome << std::endl;
 }
 
 // --- Commands --------------------------------------------------------------------------------
@@ -147,6 +152,8 @@ const std::map<std::string, std::function<std::string(std::istream &)>> kCommand
        return std::string("done");
      }},
     {"give-up", GiveUp},
+    {"observe-requests",
+     [](std::istream &) { return std::to_string(ORV_ObserveRequests(RequestEnded, nullptr)); }},
 };
 
 std::string Answer(const std::string &line) {
@@ -168,7 +175,9 @@ void CarryOut(std::string &input) {
   for (std::size_t end = input.find('\n'); end != std::string::npos; end = input.find('\n')) {
     const std::string line = input.substr(0, end);
     input.erase(0, end + 1);
-    std::cout << "= " << Answer(line) << std::endl;
+    // What is told on the way has lines of its own.
+    const std::string answer = Answer(line);
+    std::cout << "= " << answer << std::endl;
   }
 }
 

@@ -59,9 +59,9 @@ int KernelRig::PlugMixer() {
 int KernelRig::PlugMixerInFront() {
   const std::vector<int> present = PluggedInTheOrderOfTheBus();
   if (present.empty()) return PlugMixer();
-  const int firstBus = BusOf(present.at(0));
+  const int firstBus = BusNumberOf(present.at(0));
   int stranger = PlugStranger(Stranger::kUnrelated);
-  while (BusOf(stranger) == firstBus) stranger = PlugStranger(Stranger::kUnrelated);
+  while (BusNumberOf(stranger) == firstBus) stranger = PlugStranger(Stranger::kUnrelated);
   Unplug(stranger);
   for (const int unit : present) {
     Unplug(unit);
@@ -106,8 +106,6 @@ void KernelRig::LetEverybodyIn(int unit) {
   if (fs::status(node).permissions() == fs::perms::none) return;
   fs::permissions(node, static_cast<fs::perms>(0666));
 }
-
-int KernelRig::BusOf(int unit) { return std::stoi(AddressOf(unit)); }
 
 std::vector<int> KernelRig::PluggedInTheOrderOfTheBus() {
   std::vector<std::pair<std::string, int>> places;

@@ -25,7 +25,6 @@ class KernelRig : public SimulatorRig {
  private:
   void NoteArrival(int unit);
   void LetEverybodyIn(int unit);
-  int BusOf(int unit);
   std::vector<int> PluggedInTheOrderOfTheBus();
 
   std::set<int> plugged_;

@@ -22,6 +22,11 @@ SimulatorRig::SimulatorRig(const std::string &folder)
   StartNotificationService();
 }
 
+UnitPlace SimulatorRig::PlaceOf(int unit) {
+  return {.bus = static_cast<std::uint32_t>(BusNumberOf(unit)),
+          .address = static_cast<std::uint32_t>(DeviceNumberOf(unit))};
+}
+
 std::string SimulatorRig::LibraryFolder() { return ConfigurationFolderIn(folder_) + "/orvikaudio"; }
 
 std::string SimulatorRig::SettingsFile(const std::string &modelDisplayName) {

@@ -19,6 +19,8 @@ class SimulatorRig : public SimulatedUnits {
   /// `folder` is the private folder of the case.
   explicit SimulatorRig(const std::string &folder);
 
+  UnitPlace PlaceOf(int unit) override;
+
   std::string LibraryFolder() override;
   std::string SettingsFile(const std::string &modelDisplayName) override;
   std::string SystemRoot() override;

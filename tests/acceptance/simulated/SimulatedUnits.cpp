@@ -94,6 +94,8 @@ std::string SimulatedUnits::AddressOf(int unit) {
   return place.substr(place.find(' ') + 1);
 }
 
+int SimulatedUnits::BusNumberOf(int unit) { return std::stoi(AddressOf(unit)); }
+
 int SimulatedUnits::DeviceNumberOf(int unit) {
   const std::string address = AddressOf(unit);
   return std::stoi(address.substr(address.find('/') + 1));

@@ -41,6 +41,7 @@ class SimulatedUnits : public Rig {
  protected:
   /// Where a plugged unit is found, such as "001/002": bus and device number.
   std::string AddressOf(int unit);
+  int BusNumberOf(int unit);
   int DeviceNumberOf(int unit);
 
  private:

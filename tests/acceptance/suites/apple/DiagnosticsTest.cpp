@@ -1,0 +1,32 @@
+// Units that do not open, as they are reported, where a unit is opened by asking every device: one
+// that cannot be asked has no place among the others, and the last one asked decides how the
+// opening of any has gone.
+#include "../../RequestReports.h"
+
+namespace trxtest {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class UnopenedUnit : public RequestReports {};
+
+TEST_F(UnopenedUnit, LeavesItsPlaceToTheNextAndIsReportedAsTheLastWithoutALocation) {
+  PlugMixers(3);
+  rig().SetFault(1, UnitFault::kRefusesToOpen);
+  Observe();
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(TakeReports(), (Lines{"unit 2 write 8003 0300 done", "unit 3 write 8003 0300 done",
+                                  "nowhere open 0000 0000 failed"}));
+}
+
+TEST_F(UnopenedUnit, InTheLastPlaceIsReportedOfEachUnit) {
+  PlugMixers(3);
+  rig().SetFault(3, UnitFault::kHeldByAnotherProcess);
+  Observe();
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(TakeReports(), (Lines{"unit 1 open 0000 0000 busy", "unit 2 open 0000 0000 busy",
+                                  "nowhere open 0000 0000 failed"}));
+}
+
+}  // namespace
+}  // namespace trxtest

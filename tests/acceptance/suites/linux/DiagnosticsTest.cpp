@@ -1,0 +1,66 @@
+// Units that do not open, as they are reported: here a unit has its place whether it opens or not.
+// And a path that follows the user's folders.
+#include <cstdlib>
+
+#include "../../RequestReports.h"
+
+namespace trxtest {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class UnopenedUnit : public RequestReports {};
+
+TEST_F(UnopenedUnit, IsReportedInItsTurnWithItsPlace) {
+  PlugMixers(3);
+  rig().SetFault(2, UnitFault::kRefusesToOpen);
+  Observe();
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(TakeReports(), (Lines{"unit 1 write 8003 0300 done", "unit 2 open 0000 0000 gone",
+                                  "unit 3 write 8003 0300 done"}));
+}
+
+TEST_F(UnopenedUnit, HeldByAnotherProcessIsBusy) {
+  for (int i = 0; i < 2; ++i) rig().PlugMixer();
+  rig().SetFault(1, UnitFault::kHeldByAnotherProcess);
+  const auto host = rig().StartHost();
+  ASSERT_EQ(host->Ask("give-up admin"), "done");
+  ASSERT_EQ(host->Ask("observe-requests"), "100");
+  EXPECT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 0"), "100");
+  EXPECT_EQ(host->TakeCalls(2), (Lines{"kind 0 outcome 6", "kind 2 outcome 0"}));
+}
+
+TEST_F(UnopenedUnit, WithoutARuleForThisUserIsNotPermitted) {
+  for (int i = 0; i < 2; ++i) rig().PlugMixer();
+  rig().SetFault(2, UnitFault::kNotPermitted);
+  const auto host = rig().StartHost();
+  ASSERT_EQ(host->Ask("give-up root"), "done");
+  ASSERT_EQ(host->Ask("observe-requests"), "100");
+  EXPECT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 0"), "100");
+  EXPECT_EQ(host->TakeCalls(2), (Lines{"kind 2 outcome 0", "kind 0 outcome 5"}));
+}
+
+class SettingsPathOfLinux : public Acceptance {};
+
+TEST_F(SettingsPathOfLinux, FollowsTheUsersFoldersAndLeavesEarlierTextsAsTheyAre) {
+  const std::string before = rig().SettingsFile("TRX-VOLT");
+  ORVStringRef first = nullptr;
+  EXPECT_EQ(ORV_GetSettingsFilePath(1, &first), 100);
+  setenv("XDG_CONFIG_HOME", "/elsewhere/\xC3\xA4 and \xFF", 1);
+  ORVStringRef second = nullptr;
+  EXPECT_EQ(ORV_GetSettingsFilePath(1, &second), 100);
+  EXPECT_STREQ(second,
+               "/elsewhere/\xC3\xA4 and \xFF/orvikaudio/Preferences/"
+               "com.orvikaudio.TRX-VOLTautosetup.plist");
+  setenv("XDG_CONFIG_HOME", "not/absolute", 1);
+  setenv("HOME", "/home/somebody", 1);
+  ORVStringRef third = nullptr;
+  EXPECT_EQ(ORV_GetSettingsFilePath(1, &third), 100);
+  EXPECT_STREQ(third,
+               "/home/somebody/.config/orvikaudio/Preferences/"
+               "com.orvikaudio.TRX-VOLTautosetup.plist");
+  EXPECT_EQ(CharactersOf(first), before);
+}
+
+}  // namespace
+}  // namespace trxtest
