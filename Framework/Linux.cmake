@@ -5,7 +5,7 @@ pkg_check_modules(LIBSYSTEMD REQUIRED IMPORTED_TARGET libsystemd)
 
 # The code once, as objects: the shared library exports the public functions only, and the unit tests reach the seams.
 add_library(framework OBJECT
-  Class/ORVFunc/Linux/ORVFunc.cpp
+  Class/ORVFunc/Linux/Observe.cpp
   Class/Platform/Linux/EventLoop.cpp
   Class/Platform/Linux/FileReplacement.cpp
   Class/Platform/Linux/Folders.cpp

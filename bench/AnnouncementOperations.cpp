@@ -3,14 +3,14 @@
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
 #include "Announcement.h"
-#include "ChangeKinds.h"
 #include "Floor.h"
 #include "Operation.h"
+#include "Setting.h"
 
 namespace trxbench {
 namespace {
 
-void Announce() { orv::Announce(orv::kBoostLevelChange, ORV_PRODUCT_TRX_SELVA, 1); }
+void Announce() { orv::Announce(orv::boostLevel.change, ORV_PRODUCT_TRX_SELVA, 1); }
 
 void AnnounceWithSdBus() {
   static sd_bus *const bus = OpenBus();

@@ -4,7 +4,7 @@
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
-#include "ChangeKinds.h"
+#include "ChangeKind.h"
 #include "ConnectedUnits.h"
 #include "Product.h"
 #include "SettingsFile.h"
@@ -128,20 +128,16 @@ constexpr LimitPerChannel kSettableChoices = {8, 8, 7, 0, 0};
 
 constexpr std::int64_t kConvTableWidth = 8;
 
-// The channel counted from 1 in the high byte, the mixer's code for the signal in the low byte.
-constexpr std::array<std::uint16_t, 23> _convTable_SELVA = {
-    0x0103, 0x0100, 0x0106, 0x0107, 0x0108, 0x0109, 0x010D, 0x010A,  //
-    0x0203, 0x0200, 0x0206, 0x0207, 0x0208, 0x0209, 0x020D, 0x020A,  //
-    0x030A, 0x0311, 0x0312, 0x0307, 0x0308, 0x0309, 0x030D,
-};
-
-// The sister models' tables; their routing is set with raw values only.
-[[maybe_unused]] constexpr std::array<std::uint16_t, 24> _convTable_LUMEN = {
+// The channel counted from 1 in the high byte, the mixer's code for the signal in the low byte. The
+// tables of the sister models end with one entry more; nothing reads them, as the routing of those
+// models is set with raw values only.
+constexpr std::array<std::uint16_t, 24> _convTable_LUMEN = {
     0x0103, 0x0100, 0x0106, 0x0107, 0x0108, 0x0109, 0x010D, 0x010A,  //
     0x0203, 0x0200, 0x0206, 0x0207, 0x0208, 0x0209, 0x020D, 0x020A,  //
     0x030A, 0x0311, 0x0312, 0x0307, 0x0308, 0x0309, 0x030D, 0x0000,
 };
-[[maybe_unused]] constexpr std::array<std::uint16_t, 24> _convTable_MORROW = _convTable_LUMEN;
+[[maybe_unused]] constexpr const auto &_convTable_MORROW = _convTable_LUMEN;
+constexpr auto _convTable_SELVA = std::span(_convTable_LUMEN).first<23>();
 
 // Nothing for a place that the table does not have, such as one of a stored index that is no
 // choice.
@@ -188,7 +184,7 @@ bool AnySelectorRefuses(std::int32_t unitCount, std::uint16_t length, std::int32
   return isRefused;
 }
 
-// The thresholds with and without a unit differ: without one, nothing is known of the selectors.
+// The thresholds with and without a unit differ: docs/compatibility.md.
 StatusCode WarnAboutChoice(std::int32_t unitCount, std::int32_t channel, std::uint32_t index) {
   if (unitCount == 0) return index < 3 ? ORV_SUCCESS_WITH_WARNING : ORV_SUCCESS;
   const bool isRefused = AnySelectorRefuses(unitCount, 4, channel, [&](std::uint8_t selector) {
@@ -240,7 +236,14 @@ const Row *RowOf(const std::array<Row, size> &rows, ProductId productId) {
   return nullptr;
 }
 
+LastPosted inputAudioInfo;
+
 }  // namespace
+
+// A routing change reaches even a receiver that the platform has suspended: what a channel carries
+// must not be shown wrong.
+constinit ChangeKind<ChannelIndexCallback> orv::inputAudioChange = {
+    " InputAudio Change", Delivery::kImmediately, inputAudioInfo};
 
 StatusCode ORV_GetNumOfInputAudioIndex(ProductId productId, int32_t channel, int32_t *count) {
   if (count == nullptr || !kSelvaOnly.Contains(productId)) return ORV_BAD_ARGUMENT;
@@ -266,7 +269,7 @@ StatusCode ORV_SetUSBInputAudio(ProductId productId, int32_t channel, uint32_t i
       ApplyToEveryUnit(productId, SetMixerOutputSetting, *RoutingValue(channel, index));
   MergeSettingValue(ModelDisplayName(productId), kKeys[static_cast<std::size_t>(channel)],
                     static_cast<int32_t>(index));
-  Announce(kInputAudioChange, productId, channel, index);
+  Announce(inputAudioChange, productId, channel, index);
   return WarnAboutChoice(unitCount, channel, index);
 }
 
@@ -303,4 +306,14 @@ StatusCode ORV_SetCurrentUSBInputAudio(ProductId productId, int32_t channel) {
   if (value == nullptr) return ORV_BAD_ARGUMENT;
   ApplyToEveryUnit(productId, SetMixerOutputSetting, *value);
   return ORV_SUCCESS;
+}
+
+StatusCode ORV_RegisterInputAudioChangedCallback(ProductId productId, ChannelIndexCallback callback,
+                                                 void *context) {
+  return Register(inputAudioChange, kEveryServedModel, productId, callback, context);
+}
+
+StatusCode ORV_UnregisterInputAudioChangedCallback(ProductId productId,
+                                                   ChannelIndexCallback /*callback*/) {
+  return Unregister(inputAudioChange, kEveryServedModel, productId);
 }

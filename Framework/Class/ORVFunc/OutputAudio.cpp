@@ -4,7 +4,7 @@
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
-#include "ChangeKinds.h"
+#include "ChangeKind.h"
 #include "ConnectedUnits.h"
 #include "Product.h"
 #include "SettingsFile.h"
@@ -68,7 +68,13 @@ bool IsTakenBySetters(ProductId productId, std::int32_t channel) {
   return channel >= 0 && channel < kChannelsTakenBySetters && kSelvaOnly.Contains(productId);
 }
 
+LastPosted outputAudioInfo;
+
 }  // namespace
+
+// Delivered as a change of the input routing is.
+constinit ChangeKind<ChannelIndexCallback> orv::outputAudioChange = {
+    " OutputAudio Change", Delivery::kImmediately, outputAudioInfo};
 
 StatusCode ORV_GetNumOfOutputAudioIndex(ProductId productId, int32_t channel, uint32_t *count) {
   if (count == nullptr || !kSelvaOnly.Contains(productId)) return ORV_BAD_ARGUMENT;
@@ -92,7 +98,7 @@ StatusCode ORV_SetUSBOutputAudio(ProductId productId, int32_t channel, uint32_t 
   const int32_t unitCount = Apply(productId, channel, index);
   MergeSettingValue(ModelDisplayName(productId), kKeys[static_cast<std::size_t>(channel)],
                     static_cast<int32_t>(index));
-  Announce(kOutputAudioChange, productId, channel, index);
+  Announce(outputAudioChange, productId, channel, index);
   ReadBack(unitCount);
   return ORV_SUCCESS;
 }
@@ -102,7 +108,7 @@ StatusCode ORV_SetUSBOutputAudioDefault(ProductId productId, int32_t channel) {
   if (!IsTakenBySetters(productId, channel)) return ORV_BAD_ARGUMENT;
   const uint32_t defaultIndex = channel < kChannels ? static_cast<uint32_t>(channel) : 0;
   const int32_t unitCount = Apply(productId, channel, defaultIndex);
-  Announce(kOutputAudioChange, productId, channel, defaultIndex);
+  Announce(outputAudioChange, productId, channel, defaultIndex);
   ReadBack(unitCount);
   return ORV_SUCCESS;
 }
@@ -123,4 +129,14 @@ StatusCode ORV_SetCurrentUSBOutputAudio(ProductId productId, int32_t channel) {
   const std::uint16_t *const value = RequestValue(channel, recorded);
   if (value != nullptr) ApplyToEveryUnit(productId, SetMixerInputSetting, *value);
   return ORV_SUCCESS;
+}
+
+StatusCode ORV_RegisterOutputAudioChangedCallback(ProductId productId,
+                                                  ChannelIndexCallback callback, void *context) {
+  return Register(outputAudioChange, kEveryServedModel, productId, callback, context);
+}
+
+StatusCode ORV_UnregisterOutputAudioChangedCallback(ProductId productId,
+                                                    ChannelIndexCallback /*callback*/) {
+  return Unregister(outputAudioChange, kEveryServedModel, productId);
 }

@@ -7,8 +7,8 @@
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
 #include "CentreRecorder.h"
-#include "ChangeKinds.h"
 #include "ChildProcess.h"
+#include "Setting.h"
 
 namespace {
 
@@ -43,8 +43,8 @@ void CallsNothing(std::int32_t, void *) {}
 
 TEST(PostedMessage, OfARoutingChangeIsTheFormThatIsDeliveredImmediately) {
   const CentreRecorder centre;
-  Announce(kInputAudioChange, 11, 1, 7);
-  Announce(kOutputAudioChange, 0, -1, 2);
+  Announce(inputAudioChange, 11, 1, 7);
+  Announce(outputAudioChange, 0, -1, 2);
   EXPECT_THAT(centre.Messages(),
               ElementsAre("postNotificationName:\"TRX-SELVA InputAudio Change\" object:nil "
                           "userInfo:{Channel i 1, Index i 7, ProductID i 11} "
@@ -56,8 +56,8 @@ TEST(PostedMessage, OfARoutingChangeIsTheFormThatIsDeliveredImmediately) {
 
 TEST(PostedMessage, OfAnyOtherChangeIsThePlainForm) {
   const CentreRecorder centre;
-  Announce(kBoostLevelChange, 5, 3);
-  Announce(kMidiChannelChange, 1, 15);
+  Announce(boostLevel.change, 5, 3);
+  Announce(midiChannel.change, 1, 15);
   EXPECT_THAT(centre.Messages(),
               ElementsAre("postNotificationName:\"TRX-HALDEN BoostLevel Change\" object:nil "
                           "userInfo:{Index i 3, ProductID i 5}",
@@ -129,8 +129,8 @@ TEST(RaisedException, InAnswerToAPostEndsThere) {
   ExpectQuietSuccess([] {
     CentreRecorder centre;
     centre.Raise();
-    Announce(kInputAudioChange, 11, 1, 7);
-    Announce(kBoostLevelChange, 5, 3);
+    Announce(inputAudioChange, 11, 1, 7);
+    Announce(boostLevel.change, 5, 3);
     EXPECT_THAT(centre.Messages(), SizeIs(2));
   });
 }

@@ -10,9 +10,9 @@
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
-#include "ChangeKinds.h"
 #include "NotificationDaemon.h"
 #include "RunLoop.h"
+#include "Setting.h"
 
 namespace orv {
 namespace {
@@ -87,7 +87,7 @@ TEST_F(Notifications, ReachTheCallbackOfTheirKindAndModelInAnotherProcess) {
 
 TEST_F(Notifications, ReachTheProcessThatAnnouncesToo) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &selva_), 100);
-  Announce(kBoostLevelChange, 11, 2);
+  Announce(boostLevel.change, 11, 2);
   EXPECT_THAT(calls_, IsEmpty()) << "inside the announcement";
   EXPECT_TRUE(HasCome("selva 2"));
   EXPECT_THAT(calls_, ElementsAre("selva 2"));
@@ -103,6 +103,18 @@ TEST_F(Notifications, CallOnceForEachRegistrationTheCallbackRegisteredLast) {
   EXPECT_TRUE(HaveCome(6));
   EXPECT_THAT(calls_, UnorderedElementsAre("selva 1", "selva 1", "selva 1", "selva 2", "selva 2",
                                            "selva 2"));
+}
+
+// A kind of change for which the observer's class has no operation.
+LastPosted faderInfo;
+ChangeKind<IndexCallback> faderChange = {" Fader Change", Delivery::kPlain, faderInfo};
+
+TEST_F(Notifications, OfAKindThatTheLibraryGotLaterReachItsCallback) {
+  ASSERT_EQ(Register<IndexCallback>(faderChange, kSelvaOnly, 11, Called, &selva_), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &arden_), 100);
+  AnnounceElsewhere({"TRX-SELVA Fader Change={ ProductID = <*I11>; Index = <*I2>; }"});
+  EXPECT_TRUE(HasCome("selva 2"));
+  EXPECT_THAT(calls_, ElementsAre("selva 2"));
 }
 
 TEST_F(Notifications, CallNothingOnceUnregistered) {

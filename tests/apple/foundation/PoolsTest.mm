@@ -8,12 +8,12 @@
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
-#include "ChangeKinds.h"
 #include "ChildProcess.h"
 #include "Folders.h"
 #include "HeapGrowth.h"
 #include "LocalizedStrings.h"
 #include "NotificationDaemon.h"
+#include "Setting.h"
 #include "SettingsFile.h"
 #include "SystemVersion.h"
 #include "Text.h"
@@ -40,7 +40,7 @@ void UseEverything() {
   ProductId productId = 0;
   ORV_GetProductId(KeptText("TRX-SELVA"), &productId);
   TextOfLiteral("REC OUT");
-  Announce(kBoostLevelChange, 11, 1);
+  Announce(boostLevel.change, 11, 1);
 }
 
 TEST(Pools, NeedNotBeTheHosts) {

@@ -9,7 +9,7 @@
 
 #import <Foundation/Foundation.h>
 
-#include "ChangeKinds.h"
+#include "Setting.h"
 
 namespace {
 
@@ -44,13 +44,13 @@ void Announce(const std::string &argument) {
   const std::string rest = argument.substr(sign + 1);
   const Numbers numbers(rest);
   if (what == "input") {
-    Announce(kInputAudioChange, numbers.Unsigned(0), numbers.values[1], numbers.Unsigned(2));
+    Announce(inputAudioChange, numbers.Unsigned(0), numbers.values[1], numbers.Unsigned(2));
   } else if (what == "output") {
-    Announce(kOutputAudioChange, numbers.Unsigned(0), numbers.values[1], numbers.Unsigned(2));
+    Announce(outputAudioChange, numbers.Unsigned(0), numbers.values[1], numbers.Unsigned(2));
   } else if (what == "boost") {
-    Announce(kBoostLevelChange, numbers.Unsigned(0), numbers.Unsigned(1));
+    Announce(boostLevel.change, numbers.Unsigned(0), numbers.Unsigned(1));
   } else if (what == "midi") {
-    Announce(kMidiChannelChange, numbers.Unsigned(0), numbers.Unsigned(1));
+    Announce(midiChannel.change, numbers.Unsigned(0), numbers.Unsigned(1));
   } else {
     Post(what, rest);
   }

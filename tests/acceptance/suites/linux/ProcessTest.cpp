@@ -145,6 +145,9 @@ TEST_F(Process, SettersOnEightThreadsReachEveryUnitTearNoFileAndAnnounceAll) {
     std::int32_t index = -77;
     ASSERT_EQ(ORV_GetCurrentBoostLevelIndex(11, &index), 100);
     ASSERT_TRUE(index >= 0 && index < 4) << index;
+    if (looks < 10) {
+      ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, nullptr, nullptr), 100);
+    }
     ++looks;
   }
   for (std::thread &thread : threads) thread.join();
