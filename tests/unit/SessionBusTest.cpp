@@ -78,12 +78,17 @@ class SessionBus : public testing::Test {
     ASSERT_GE(sd_bus_flush(sender_.get()), 0);
   }
 
-  // A message with this content, as if it had arrived.
-  Message Arrived(const std::function<int(sd_bus_message *)> &fill) {
+  // A signal with this content, as if it had arrived.
+  Message Arrived(const std::function<int(sd_bus_message *)> &fill,
+                  const char *path = "/com/orvikaudio/Setup",
+                  const char *interface = "com.orvikaudio.Setup", const char *member = "Changed") {
     sd_bus_message *message = nullptr;
-    EXPECT_GE(sd_bus_message_new_signal(sender_.get(), &message, "/com/orvikaudio/Setup",
-                                        "com.orvikaudio.Setup", "Changed"),
-              0);
+    EXPECT_GE(sd_bus_message_new_signal(sender_.get(), &message, path, interface, member), 0);
+    return Arrived(message, fill);
+  }
+
+  static Message Arrived(sd_bus_message *message,
+                         const std::function<int(sd_bus_message *)> &fill) {
     Message held(message);
     EXPECT_GE(fill(message), 0);
     EXPECT_GE(sd_bus_message_seal(message, 1, 0), 0);
@@ -196,6 +201,42 @@ TEST_F(SessionBus, AMessageOfTheAgreedShapeIsANotification) {
               ElementsAre(Pair("Index", 7), Pair("ProductID", 11)));
 }
 
+// A notification with so many other entries, the last one being what counts.
+int AppendMany(sd_bus_message *to, int others) {
+  int result = sd_bus_message_append(to, "s", "name");
+  if (result >= 0) result = sd_bus_message_open_container(to, 'a', "{si}");
+  for (int i = 0; i < others && result >= 0; ++i) {
+    result = sd_bus_message_append(to, "{si}", ("key " + std::to_string(i)).c_str(), i);
+  }
+  if (result >= 0) result = sd_bus_message_append(to, "{si}", "Index", 7);
+  return result < 0 ? result : sd_bus_message_close_container(to);
+}
+
+TEST_F(SessionBus, OtherEntriesArePassedOver) {
+  const Message few = Arrived([](sd_bus_message *to) {
+    return sd_bus_message_append(to, "sa{si}", "name", 6, "index", 1, "Channel", 2, "", 3, "Index",
+                                 4, "Index ", 5, "ProductID", 6);
+  });
+  const auto notification = ReadNotification(few.get());
+  ASSERT_TRUE(notification);
+  EXPECT_THAT(notification->userInfo.Entries(),
+              ElementsAre(Pair("Channel", 2), Pair("Index", 4), Pair("ProductID", 6)));
+}
+
+TEST_F(SessionBus, OfManyEntriesNoneButTheKnownAreKept) {
+  const Message many = Arrived([](sd_bus_message *to) { return AppendMany(to, 50'000); });
+  const auto notification = ReadNotification(many.get());
+  ASSERT_TRUE(notification);
+  EXPECT_THAT(notification->userInfo.Entries(), ElementsAre(Pair("Index", 7)));
+}
+
+TEST_F(SessionBus, AMessageWithMoreThan65536EntriesIsNone) {
+  const Message most = Arrived([](sd_bus_message *to) { return AppendMany(to, 65'535); });
+  EXPECT_TRUE(ReadNotification(most.get()));
+  const Message tooMany = Arrived([](sd_bus_message *to) { return AppendMany(to, 65'536); });
+  EXPECT_FALSE(ReadNotification(tooMany.get()));
+}
+
 TEST_F(SessionBus, AKeyThatComesTwiceHasItsLastValue) {
   const Message message = Arrived([](sd_bus_message *to) {
     return sd_bus_message_append(to, "sa{si}", "name", 2, "Index", 7, "Index", 8);
@@ -228,6 +269,33 @@ TEST_F(SessionBus, AMessageOfAnotherShapeIsNone) {
   for (std::size_t i = 0; i < others.size(); ++i) {
     EXPECT_FALSE(ReadNotification(Arrived(others[i]).get()).has_value()) << "shape " << i;
   }
+}
+
+// The rules of the bus hold for what is sent to all; anybody may send anything to one connection.
+TEST_F(SessionBus, ASignalOfAnotherPathInterfaceOrMemberIsNone) {
+  const auto fill = [](sd_bus_message *to) {
+    return sd_bus_message_append(to, "sa{si}", "name", 1, "Index", 7);
+  };
+  const auto isNotification = [&](const char *path, const char *interface, const char *member) {
+    return ReadNotification(Arrived(fill, path, interface, member).get()).has_value();
+  };
+  EXPECT_TRUE(isNotification("/com/orvikaudio/Setup", "com.orvikaudio.Setup", "Changed"));
+  EXPECT_FALSE(isNotification("/com/orvikaudio/Setup/a", "com.orvikaudio.Setup", "Changed"));
+  EXPECT_FALSE(isNotification("/com/orvikaudio", "com.orvikaudio.Setup", "Changed"));
+  EXPECT_FALSE(isNotification("/com/orvikaudio/Setup", "com.orvikaudio.Setup2", "Changed"));
+  EXPECT_FALSE(isNotification("/com/orvikaudio/Setup", "com.orvikaudio.Setup", "Changes"));
+}
+
+TEST_F(SessionBus, ACallOfAMethodOfTheSameNameIsNone) {
+  sd_bus_message *call = nullptr;
+  ASSERT_GE(
+      sd_bus_message_new_method_call(sender_.get(), &call, "org.freedesktop.DBus",
+                                     "/com/orvikaudio/Setup", "com.orvikaudio.Setup", "Changed"),
+      0);
+  const Message message = Arrived(call, [](sd_bus_message *to) {
+    return sd_bus_message_append(to, "sa{si}", "name", 1, "Index", 7);
+  });
+  EXPECT_FALSE(ReadNotification(message.get()).has_value());
 }
 
 TEST(SessionBusThatIsAway, GivesNoConnection) {

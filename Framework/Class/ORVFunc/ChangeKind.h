@@ -14,11 +14,6 @@
 
 namespace orv {
 
-/// The keys of a notification's dictionary.
-inline constexpr const char *kProductIdKey = "ProductID";
-inline constexpr const char *kChannelKey = "Channel";
-inline constexpr const char *kIndexKey = "Index";
-
 /// Keeps the dictionary of the change announced last. The library never reads it: it is there under
 /// its name for whoever looks into a process with a debugger. Any thread, without a lock.
 class LastPosted {

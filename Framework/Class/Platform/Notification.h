@@ -1,6 +1,7 @@
 // What a change notification is made of.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <initializer_list>
 #include <string>
@@ -9,6 +10,13 @@
 #include <vector>
 
 namespace orv {
+
+/// The keys of a notification's dictionary. Other programs may add entries of their own: they are
+/// passed over.
+inline constexpr const char *kProductIdKey = "ProductID";
+inline constexpr const char *kChannelKey = "Channel";
+inline constexpr const char *kIndexKey = "Index";
+inline constexpr std::array kNotificationKeys = {kProductIdKey, kChannelKey, kIndexKey};
 
 /// The dictionary of integers that a notification carries. Keeps the order in which its keys were
 /// first set.

@@ -1,5 +1,7 @@
 #include "SessionBus.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <string_view>
 
 #include <time.h>
@@ -27,13 +29,25 @@ int AppendDictionary(sd_bus_message *message, const UserInfo &userInfo) {
   return result < 0 ? result : sd_bus_message_close_container(message);
 }
 
+bool IsNotificationKey(std::string_view key) {
+  return std::find(kNotificationKeys.begin(), kNotificationKeys.end(), key) !=
+         kNotificationKeys.end();
+}
+
+// A dictionary with more entries than this is not read to its end: a bus carries messages of many
+// millions, and a host that dispatches them must not stand still.
+constexpr int kMostEntries = 65'536;
+
 int ReadDictionary(sd_bus_message *message, UserInfo &userInfo) {
   int result = sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "{si}");
   if (result < 0) return result;
   const char *key = nullptr;
   std::int32_t value = 0;
-  while ((result = sd_bus_message_read(message, "{si}", &key, &value)) > 0)
-    userInfo.Set(key, value);
+  int left = kMostEntries;
+  while ((result = sd_bus_message_read(message, "{si}", &key, &value)) > 0) {
+    if (left-- == 0) return -E2BIG;
+    if (IsNotificationKey(key)) userInfo.Set(key, value);
+  }
   return result < 0 ? result : sd_bus_message_exit_container(message);
 }
 

@@ -33,8 +33,8 @@ Bus ConnectToBus() noexcept;
 /// Puts a notification into a message and sends it. Returns a negative errno value on failure.
 int SendNotification(sd_bus *bus, const std::string &name, const UserInfo &userInfo);
 
-/// The notification in a received message; nothing when the message is another or has another
-/// shape.
+/// The notification in a received message, with the keys of Notification.h; other entries are passed
+/// over. Nothing when the message is another one, has another shape or more than 65,536 entries.
 std::optional<Notification> ReadNotification(sd_bus_message *message);
 
 /// The rule that asks the bus for the notifications of one name.
