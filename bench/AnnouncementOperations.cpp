@@ -1,10 +1,13 @@
-// The announcement alone. No exported function announces and does nothing else, so this program is
-// linked with the library's objects.
+// The announcement alone, and reading one that has many entries. No exported function does either
+// and nothing else, so this program is linked with the library's objects.
+#include <string>
+
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
 #include "Announcement.h"
 #include "Floor.h"
 #include "Operation.h"
+#include "SessionBus.h"
 #include "Setting.h"
 
 namespace trxbench {
@@ -20,6 +23,29 @@ void AnnounceWithSdBus() {
       "announce with sd-bus");
 }
 
+// A received announcement with so many entries that mean nothing to the library.
+sd_bus_message *NewAnnouncementWith(int entries) {
+  sd_bus_message *message = nullptr;
+  int result = sd_bus_message_new_signal(OpenBus(), &message, orv::kBusPath, orv::kBusInterface,
+                                         orv::kBusMember);
+  if (result >= 0) result = sd_bus_message_append(message, "s", "TRX-SELVA BoostLevel Change");
+  if (result >= 0) result = sd_bus_message_open_container(message, 'a', "{si}");
+  for (int i = 0; i < entries && result >= 0; ++i) {
+    result = sd_bus_message_append(message, "{si}", ("entry " + std::to_string(i)).c_str(), i);
+  }
+  if (result >= 0) result = sd_bus_message_close_container(message);
+  if (result >= 0) result = sd_bus_message_seal(message, 1, 0);
+  Require(result >= 0, "make an announcement");
+  return message;
+}
+
+template <int entries>
+void ReadAnnouncement() {
+  static sd_bus_message *const message = NewAnnouncementWith(entries);
+  sd_bus_message_rewind(message, 1);
+  Require(orv::ReadNotification(message).has_value(), "read an announcement");
+}
+
 }  // namespace
 
 const std::vector<Operation> &Operations() {
@@ -27,6 +53,9 @@ const std::vector<Operation> &Operations() {
       {"announce", Announce, Leaves::kAnnouncement},
       {"announce-floor", BarePost, Leaves::kAnnouncement},
       {"announce-sd-bus", AnnounceWithSdBus, Leaves::kAnnouncement},
+      {"announce-read-400", ReadAnnouncement<400>},
+      {"announce-read-800", ReadAnnouncement<800>},
+      {"announce-read-1600", ReadAnnouncement<1600>},
   };
   return operations;
 }

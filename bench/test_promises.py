@@ -68,6 +68,10 @@ class Growth(Promise):
                  - counts.system_calls("walk-floor"))
         self.assertLessEqual(self.assert_grows_evenly(calls), 1.25 * floor)
 
+    def test_of_reading_an_announcement_with_its_entries(self):
+        self.assert_grows_evenly({hundreds: counts.instructions(f"announce-read-{hundreds}00")
+                                  for hundreds in (4, 8, 16)})
+
 
 class Instructions(Promise):
     def test_of_a_getter(self):

@@ -1,7 +1,8 @@
 // The input describes messages, which are sent over a real bus to this process. Every callback that
 // a host can register is registered, once. Per message:
 //   1 byte   the name: one of those that are observed, then others
-//   1 byte   below 128: a notification as it should be; else a message of another shape
+//   1 byte   below 128: a notification as it should be, 127 with many entries of another program in
+//            front, whose number the next byte gives; else a message of another shape
 //   1 byte   how many entries or other repeated parts
 //   the parts: 1 byte selects a key or text, 4 bytes are a number
 #include <algorithm>
@@ -15,6 +16,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <poll.h>
@@ -38,6 +40,8 @@ constexpr const char *kShape = "sa{si}";
 
 constexpr std::size_t kMostMessages = 32;
 constexpr std::size_t kMostParts = 6;
+constexpr std::uint8_t kWithManyOthers = 127;
+constexpr std::size_t kMostEntries = 65'536;
 constexpr auto kPatience = std::chrono::seconds(30);
 
 /// Takes the input apart; zeros when it is over.
@@ -171,16 +175,28 @@ Message NewMessage(sd_bus *bus, const char *path, const char *interface, const c
   return Message(message);
 }
 
-/// A notification of the right shape; what is in it is also left in `entries`.
-Message Notification(sd_bus *bus, const char *name, Input &input, Entries &entries) {
+/// How many entries of another program a byte stands for: a few, or as many as may be at most.
+std::size_t OthersOf(std::uint8_t byte) {
+  return byte == 255 ? kMostEntries : byte * std::size_t{8};
+}
+
+/// A notification of the right shape; what is in it behind `others` entries of another program is
+/// also left in `entries`. Gives nothing in `entries` when it is too long to be taken for one.
+Message Notification(sd_bus *bus, const char *name, std::size_t others, Input &input,
+                     std::optional<Entries> &entries) {
   Message message = NewMessage(bus, kPath, kInterface, kMember);
   sd_bus_message_append(message.get(), "s", name);
   sd_bus_message_open_container(message.get(), 'a', "{si}");
-  for (std::size_t left = input.Byte() % (kMostParts + 1); left > 0; --left) {
+  for (std::size_t i = 0; i < others; ++i) {
+    sd_bus_message_append(message.get(), "{si}", std::to_string(i).c_str(), 7);
+  }
+  const std::size_t parts = input.Byte() % (kMostParts + 1);
+  if (others + parts <= kMostEntries) entries.emplace();
+  for (std::size_t left = parts; left > 0; --left) {
     const std::string key = KeySelectedBy(input.Byte());
     const std::int32_t value = input.Number();
     sd_bus_message_append(message.get(), "{si}", key.c_str(), value);
-    entries[key] = value;  // of two entries with the same key, the last one counts
+    if (entries) (*entries)[key] = value;  // of two entries with the same key, the last one counts
   }
   sd_bus_message_close_container(message.get());
   return message;
@@ -332,6 +348,7 @@ class Host {
 void Run(Input input) {
   static Host host;
   std::vector<Call> expected;
+  bool mayHaveManyOthers = true;  // once: such a message takes its time to make
   for (std::size_t sent = 0; sent < kMostMessages && !input.IsOver(); ++sent) {
     const std::string name = NameSelectedBy(input.Byte());
     const std::uint8_t form = input.Byte();
@@ -339,9 +356,14 @@ void Run(Input input) {
       host.Send(OtherMessage(host.Poster(), name.c_str(), form, input));
       continue;
     }
-    Entries entries;
-    host.Send(Notification(host.Poster(), name.c_str(), input, entries));
-    if (const auto call = ExpectedCall(name, entries)) expected.push_back(*call);
+    std::size_t others = 0;
+    if (form == kWithManyOthers && std::exchange(mayHaveManyOthers, false)) {
+      others = OthersOf(input.Byte());
+    }
+    std::optional<Entries> entries;
+    host.Send(Notification(host.Poster(), name.c_str(), others, input, entries));
+    if (!entries) continue;
+    if (const auto call = ExpectedCall(name, *entries)) expected.push_back(*call);
   }
   host.Await(std::move(expected));
 }
