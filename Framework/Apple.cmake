@@ -5,11 +5,9 @@
 # carries a framework of its own along would get the texts of the installed one all the same.
 set(TRX_FRAMEWORKS_FOLDER /Library/Frameworks CACHE STRING "Where the framework is installed and found by its hosts")
 
-set(public_headers
-  ${PROJECT_SOURCE_DIR}/include/TRX-SELVASetup/Diagnostics.h
-  ${PROJECT_SOURCE_DIR}/include/TRX-SELVASetup/TRX-SELVASetup.h)
 set(module_map ${CMAKE_CURRENT_SOURCE_DIR}/module.modulemap)
-set(exported_symbols ${CMAKE_CURRENT_SOURCE_DIR}/TRX-SELVASetup.exp)
+set(exported_symbols ${CMAKE_CURRENT_BINARY_DIR}/TRX-SELVASetup.exp)
+write_exported_symbols_list(${exported_symbols} ${public_headers})
 
 add_library(TRX-SELVASetup SHARED ${public_headers} ${module_map})
 add_library(TRX-SELVASetup::TRX-SELVASetup ALIAS TRX-SELVASetup)

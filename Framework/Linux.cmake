@@ -36,6 +36,9 @@ target_link_libraries(framework PRIVATE framework-shared PUBLIC PkgConfig::LIBPL
 # tests/installation/abi describes the exported interface.
 target_compile_options(framework PRIVATE $<$<AND:$<CXX_COMPILER_ID:GNU>,$<NOT:$<CONFIG:Debug>>>:-fno-ipa-icf>)
 
+write_version_script(${CMAKE_CURRENT_BINARY_DIR}/TRX-SELVASetup.map
+  ${public_headers} ${PROJECT_SOURCE_DIR}/include/TRX-SELVASetup/EventLoop.h)
+
 add_library(TRX-SELVASetup SHARED)
 add_library(TRX-SELVASetup::TRX-SELVASetup ALIAS TRX-SELVASetup)
 target_link_libraries(TRX-SELVASetup PRIVATE framework)
@@ -44,12 +47,12 @@ target_include_directories(TRX-SELVASetup
 set_target_properties(TRX-SELVASetup PROPERTIES
   VERSION ${PROJECT_VERSION}
   SOVERSION ${PROJECT_VERSION_MAJOR}
-  LINK_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/TRX-SELVASetup.map)
+  LINK_DEPENDS ${CMAKE_CURRENT_BINARY_DIR}/TRX-SELVASetup.map)
 # Texts that were handed out stay valid for the life of the process, so the library stays loaded; and its functions call each
 # other, whatever a host calls its own.
 target_link_options(TRX-SELVASetup PRIVATE
   -Wl,-z,nodelete -Wl,-Bsymbolic-functions
-  -Wl,--version-script=${CMAKE_CURRENT_SOURCE_DIR}/TRX-SELVASetup.map)
+  -Wl,--version-script=${CMAKE_CURRENT_BINARY_DIR}/TRX-SELVASetup.map)
 # What clang's sanitizers call is in the program, so there the library may have it undefined.
 if(NOT (TRX_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang"))
   target_link_options(TRX-SELVASetup PRIVATE -Wl,--no-undefined)

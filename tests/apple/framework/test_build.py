@@ -30,7 +30,7 @@ class Build(unittest.TestCase):
                             "/Library/Frameworks/TRX-SELVASetup.framework/Versions/A/TRX-SELVASetup")
         self.assert_follows(words, "-compatibility_version", "1.0.0")
         self.assert_follows(words, "-current_version", "1.0.0")
-        self.assertIn(f"-Wl,-exported_symbols_list,{SOURCE}/Framework/TRX-SELVASetup.exp", words)
+        self.assertIn(f"-Wl,-exported_symbols_list,{BUILD}/Framework/TRX-SELVASetup.exp", words)
         for framework in ["CoreFoundation", "Foundation", "IOKit"]:
             self.assert_follows(words, "-framework", framework)
 

@@ -61,7 +61,7 @@ class Interface(unittest.TestCase):
         library = xml.etree.ElementTree.parse(LIBRARY_DESCRIPTION)
         exported = [entry.get("name") for entry in library.iterfind("elf-function-symbols/elf-symbol")]
         typed = [entry.get("name") for entry in library.iterfind("abi-instr/function-decl")]
-        self.assertEqual(len(exported), 52)
+        self.assertIn("ORV_GetProductId", exported)
         self.assertEqual(typed, exported)
 
     def test_has_no_constant_that_the_description_leaves_out(self):
