@@ -24,7 +24,7 @@ def plugged():
 
 def plug(mixers, strangers):
     """Leaves so many mixers and so many other devices on the bus."""
-    for kind, wanted, words in (("mixer", mixers, ()), ("stranger", strangers, (STRANGER,))):
+    for kind, wanted, words in (("TRX-SELVA", mixers, ()), ("other", strangers, (STRANGER,))):
         numbers = [number for number, other in plugged().items() if other == kind]
         for number in numbers[wanted:]:
             mixer_control("unplug", number)

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "CommandArguments.h"
+#include "UnitKindText.h"
 
 namespace trxsim {
 
@@ -59,7 +60,7 @@ std::string AddressText(const std::optional<BusAddress> &address) {
 }
 
 std::string IdentityText(const UsbIdentity &identity) {
-  return (identity.isMixer ? "mixer " : "stranger ") + Hex(identity.vendor, 4) + ':' +
+  return (identity.isMixer ? identity.productName : "other") + ' ' + Hex(identity.vendor, 4) + ':' +
          Hex(identity.product, 4);
 }
 
@@ -154,22 +155,11 @@ Lines RunUnits(Context &context) {
   return lines;
 }
 
-std::uint16_t IdArgument(const std::string &text, const std::string &whole) {
-  const std::optional<std::uint32_t> number = ParseNumber(text, 16, 0xFFFF);
-  if (number && text.size() == 4) return static_cast<std::uint16_t>(*number);
-  throw CommandError(Quoted(whole) +
-                     " is not VENDOR:PRODUCT with four hexadecimal digits each; for example " +
-                     "`plug 1234:0001`");
-}
-
 Lines RunPlug(Context &context) {
-  if (context.arguments.Left() == 0) return {std::to_string(context.desk.PlugMixer())};
-  const std::string ids = context.arguments.Word();
+  const bool isNamed = context.arguments.Left() > 0;
+  const UnitKind kind = isNamed ? ParseUnitKind(context.arguments.Word()) : kMixerModels.front();
   context.arguments.End();
-  const std::size_t colon = std::min(ids.find(':'), ids.size());
-  const std::string product = colon < ids.size() ? ids.substr(colon + 1) : "";
-  return {std::to_string(
-      context.desk.PlugStranger(IdArgument(ids.substr(0, colon), ids), IdArgument(product, ids)))};
+  return {std::to_string(context.desk.Plug(kind))};
 }
 
 Lines RunUnplug(Context &context) {
@@ -282,11 +272,9 @@ Lines RunEnvironment(Context &context) {
 Lines RunHelp(Context &context);
 
 constexpr std::array<Command, 11> kCommands{{
-    {"units", "units", "all units: number, kind and ids, bus/device address, faults", RunUnits},
-    {"plug", "plug [VVVV:PPPP]",
-     "plug in a new mixer, or a stranger with these ids; answers its "
-     "number",
-     RunPlug},
+    {"units", "units", "list all units: number, kind and ids, bus/device address, faults",
+     RunUnits},
+    {"plug", "plug [KIND]", "plug in a new unit and print its number (kinds below)", RunPlug},
     {"unplug", "unplug N", "take unit N off the bus", RunUnplug},
     {"replug", "replug N", "plug unit N in again, under a new device number", RunReplug},
     {"set", "set N SETTING VALUE...", "change what mixer N reports (settings below)", RunSet},
@@ -307,26 +295,7 @@ std::string HelpLine(std::string_view usage, std::string_view help) {
 
 Lines RunHelp(Context &context) {
   context.arguments.End();
-  Lines lines{"Commands:"};
-  for (const Command &command : kCommands) {
-    lines.push_back(HelpLine(command.usage, command.help));
-  }
-  lines.push_back("Settings (numbers are decimal, or hexadecimal after 0x):");
-  for (const Setting &setting : kSettings) {
-    lines.push_back(HelpLine(setting.usage, setting.help));
-  }
-  lines.push_back("Faults of requests, of every one or of the REQUEST named:");
-  lines.push_back(HelpLine("fault N stall [REQUEST]", "the request is refused"));
-  lines.push_back(HelpLine("fault N short K [REQUEST]", "only K bytes of the reply come"));
-  lines.push_back(HelpLine("fault N no-reply [REQUEST]", "the request runs into its time-out"));
-  lines.push_back(HelpLine("fault N vanish [REQUEST]", "the unit is unplugged during the request"));
-  lines.push_back("Faults of opening:");
-  lines.push_back(HelpLine("fault N refuse", "nobody can open the unit"));
-  lines.push_back(
-      HelpLine("fault N deny", "no permission, as without a udev rule; root still may"));
-  lines.push_back(HelpLine("fault N hold", "busy (EBUSY), except for CAP_SYS_ADMIN"));
-  lines.push_back("Requests: " + RequestWords());
-  return lines;
+  return CommandHelp();
 }
 
 Lines Run(Context &context) {
@@ -345,6 +314,36 @@ std::string CommandReply::WireText() const {
   std::string text;
   for (const std::string &line : lines) text += line + '\n';
   return text + (refused ? "error " + error : "ok") + '\n';
+}
+
+std::vector<std::string> CommandHelp() {
+  Lines lines{"Commands:"};
+  for (const Command &command : kCommands) {
+    lines.push_back(HelpLine(command.usage, command.help));
+  }
+  lines.push_back("Settings (numbers are decimal, or hexadecimal after 0x):");
+  for (const Setting &setting : kSettings) {
+    lines.push_back(HelpLine(setting.usage, setting.help));
+  }
+  lines.push_back("Kinds of unit:");
+  lines.push_back(HelpLine("plug", "a mixer, TRX-SELVA"));
+  lines.push_back(HelpLine("plug MODEL", "a mixer of this model: " + ModelNames()));
+  lines.push_back(HelpLine("plug VENDOR:PRODUCT",
+                           "another USB device with these hexadecimal ids; the "
+                           "mixers' maker is " +
+                               MakerIdText()));
+  lines.push_back("Faults of requests, of every one or of the REQUEST named:");
+  lines.push_back(HelpLine("fault N stall [REQUEST]", "the request is refused"));
+  lines.push_back(HelpLine("fault N short K [REQUEST]", "only K bytes of the reply come"));
+  lines.push_back(HelpLine("fault N no-reply [REQUEST]", "the request runs into its time-out"));
+  lines.push_back(HelpLine("fault N vanish [REQUEST]", "the unit is unplugged during the request"));
+  lines.push_back("Faults of opening:");
+  lines.push_back(HelpLine("fault N refuse", "nobody can open the unit"));
+  lines.push_back(
+      HelpLine("fault N deny", "no permission, as without a udev rule; root still may"));
+  lines.push_back(HelpLine("fault N hold", "busy (EBUSY), except for CAP_SYS_ADMIN"));
+  lines.push_back("Requests: " + RequestWords());
+  return lines;
 }
 
 CommandInterpreter::CommandInterpreter(Desk &desk, std::vector<std::string> environment)

@@ -18,6 +18,9 @@ struct CommandReply {
   std::string WireText() const;
 };
 
+/// The answer to the command "help": all commands with their arguments.
+std::vector<std::string> CommandHelp();
+
 /// Understands control commands and carries them out on a desk. Takes any bytes as a command. Safe
 /// for any number of threads.
 class CommandInterpreter {

@@ -11,6 +11,7 @@
 #include <CLI/CLI.hpp>
 #include <unistd.h>
 
+#include "CommandInterpreter.h"
 #include "ControlAddress.h"
 #include "ControlClient.h"
 #include "Environment.h"
@@ -42,14 +43,19 @@ int RunProgram(trxsim::ControlClient &simulator, std::vector<std::string> words)
   return errno == ENOENT ? kNotFound : kNoExec;
 }
 
-int SendCommand(trxsim::ControlClient &simulator, const std::vector<std::string> &words) {
-  std::string command;
-  for (const std::string &word : words) command += (command.empty() ? "" : " ") + word;
-  for (const std::string &line : simulator.Ask(command)) std::printf("%s\n", line.c_str());
+int Print(const std::vector<std::string> &lines) {
+  for (const std::string &line : lines) std::printf("%s\n", line.c_str());
   return kDone;
 }
 
+int SendCommand(trxsim::ControlClient &simulator, const std::vector<std::string> &words) {
+  std::string command;
+  for (const std::string &word : words) command += (command.empty() ? "" : " ") + word;
+  return Print(simulator.Ask(command));
+}
+
 int Talk(const std::string &socket, std::vector<std::string> words) {
+  if (words == std::vector<std::string>{"help"}) return Print(trxsim::CommandHelp());
   const bool run = words[0] == "run";
   if (run) {
     words.erase(words.begin());

@@ -56,8 +56,8 @@ const DeviceKind &KindOf(const UsbIdentity &identity) {
                                 {{1, 1, 0, "snd-usb-audio", AudioHeader()},
                                  {1, 2, 0, "snd-usb-audio", {}},
                                  {1, 3, 0, "snd-usb-audio", MidiHeader()}}};
-  static const DeviceKind stranger{0x0100, 0x0200, 0, 0, "480", 0, {{0xFF, 0, 0, nullptr, {}}}};
-  return identity.isMixer ? mixer : stranger;
+  static const DeviceKind other{0x0100, 0x0200, 0, 0, "480", 0, {{0xFF, 0, 0, nullptr, {}}}};
+  return identity.isMixer ? mixer : other;
 }
 
 std::vector<std::uint8_t> DeviceDescriptor(const UsbIdentity &identity, const DeviceKind &kind) {
@@ -97,8 +97,9 @@ std::vector<std::uint8_t> ConfigurationDescriptor(const DeviceKind &kind) {
                       interface.classSpecific.end());
   }
   const std::size_t total = kLength + interfaces.size();
-  std::vector<std::uint8_t> bytes{kLength, kConfiguration, Low(total), High(total), number, 1,
-                                  0,       kSelfPowered,   0};
+  const std::array<std::uint8_t, kLength> configuration{
+      kLength, kConfiguration, Low(total), High(total), number, 1, 0, kSelfPowered, 0};
+  std::vector<std::uint8_t> bytes(configuration.begin(), configuration.end());
   bytes.insert(bytes.end(), interfaces.begin(), interfaces.end());
   return bytes;
 }

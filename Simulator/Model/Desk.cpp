@@ -9,14 +9,19 @@ namespace {
 
 constexpr std::uint16_t kMixerProductId = 0x001F;
 
-UsbIdentity MixerIdentity(int number) {
+constexpr const char *kMaker = "Orvik Audio";
+
+Unit NewUnit(const MixerModel &model, int number) {
   char serial[16];
   std::snprintf(serial, sizeof serial, "SIM%05d", number);
-  return {MAKER_USB_VENDOR_ID, kMixerProductId, true, "Orvik Audio", "TRX-SELVA", serial};
+  Mixer mixer;
+  mixer.State().selectors.resize(model.selectors);
+  return {{MAKER_USB_VENDOR_ID, kMixerProductId, true, kMaker, model.name, serial}, mixer, {}, {}};
 }
 
-UsbIdentity StrangerIdentity(std::uint16_t vendor, std::uint16_t product) {
-  return {vendor, product, false, "", "Stranger", ""};
+Unit NewUnit(const UsbIds &ids, int) {
+  const char *manufacturer = ids.vendor == MAKER_USB_VENDOR_ID ? kMaker : "";
+  return {{ids.vendor, ids.product, false, manufacturer, "Other device", ""}, {}, {}, {}};
 }
 
 std::string UnitText(int number) { return "unit " + std::to_string(number); }
@@ -26,14 +31,13 @@ std::string UnitText(int number) { return "unit " + std::to_string(number); }
 Desk::Desk(FrontEnd &frontEnd, WireLog::Sink logSink)
     : frontEnd_(frontEnd), log_(std::move(logSink)) {}
 
-int Desk::PlugMixer() {
+int Desk::Plug(const UnitKind &kind) {
   const std::lock_guard lock(mutex_);
-  return Add({MixerIdentity(static_cast<int>(units_.size()) + 1), Mixer(), {}, {}});
-}
-
-int Desk::PlugStranger(std::uint16_t vendor, std::uint16_t product) {
-  const std::lock_guard lock(mutex_);
-  return Add({StrangerIdentity(vendor, product), {}, {}, {}});
+  const int number = static_cast<int>(units_.size()) + 1;
+  Unit unit = std::visit([number](const auto &one) { return NewUnit(one, number); }, kind);
+  Connect(number, unit);
+  units_.emplace(number, std::move(unit));
+  return number;
 }
 
 void Desk::Unplug(int number) {
@@ -69,7 +73,7 @@ Unit Desk::UnitOf(int number) const {
 void Desk::Change(int number, const std::function<void(MixerState &)> &edit) {
   const std::lock_guard lock(mutex_);
   Unit &unit = Find(number);
-  if (!unit.mixer) throw DeskError(UnitText(number) + " is a stranger and has no settings");
+  if (!unit.mixer) throw DeskError(UnitText(number) + " is no mixer and has no settings");
   edit(unit.mixer->State());
 }
 
@@ -122,13 +126,6 @@ const Unit &Desk::Find(int number) const {
     throw DeskError("there is no " + UnitText(number) + "; `units` lists them");
   }
   return found->second;
-}
-
-int Desk::Add(Unit unit) {
-  const int number = static_cast<int>(units_.size()) + 1;
-  Connect(number, unit);
-  units_.emplace(number, std::move(unit));
-  return number;
 }
 
 void Desk::Connect(int number, Unit &unit) {

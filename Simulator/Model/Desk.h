@@ -12,6 +12,7 @@
 #include "Fault.h"
 #include "FrontEnd.h"
 #include "Mixer.h"
+#include "UnitKind.h"
 #include "WireLog.h"
 
 namespace trxsim {
@@ -25,23 +26,20 @@ class DeskError : public std::runtime_error {
 /// One unit as the desk knows it.
 struct Unit {
   UsbIdentity identity;
-  std::optional<Mixer> mixer;         ///< Nothing for a stranger, which stalls every request.
+  std::optional<Mixer> mixer;         ///< Empty for another device, which stalls every request.
   Faults faults;                      ///< Kept over unplug and replug.
-  std::optional<BusAddress> address;  ///< Nothing while unplugged.
+  std::optional<BusAddress> address;  ///< Empty while unplugged.
 };
 
-/// All mixers and strangers, plugged in or not, and the log of what they were asked. Units have
-/// numbers from 1 that stay theirs over unplug and replug. Safe for any number of threads.
+/// All units, plugged in or not, and the log of their requests. Units are numbered from 1 and keep
+/// their number over unplug and replug. Safe for any number of threads.
 class Desk {
  public:
   /// Shows its units through `frontEnd`, which must outlive it.
   Desk(FrontEnd &frontEnd, WireLog::Sink logSink = {});
 
-  /// Plugs a new mixer in and returns its number.
-  int PlugMixer();
-
-  /// Plugs in a new unit that is not one of ours and returns its number.
-  int PlugStranger(std::uint16_t vendor, std::uint16_t product);
+  /// Plugs in a new unit and returns its number.
+  int Plug(const UnitKind &kind = kMixerModels.front());
 
   /// Takes a plugged unit off the bus.
   void Unplug(int number);
@@ -83,7 +81,6 @@ class Desk {
  private:
   Unit &Find(int number);
   const Unit &Find(int number) const;
-  int Add(Unit unit);
   void Connect(int number, Unit &unit);
   void Disconnect(int number, Unit &unit);
   static TransferResult Answer(Unit &unit, const ControlRequest &request);

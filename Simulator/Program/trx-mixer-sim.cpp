@@ -13,11 +13,13 @@
 #include <CLI/CLI.hpp>
 #include <dlfcn.h>
 
+#include "../Control/CommandArguments.h"
 #include "../Control/CommandInterpreter.h"
 #include "../Control/ControlAddress.h"
 #include "../Control/ControlServer.h"
 #include "../Control/ControlSocket.h"
 #include "../Control/Environment.h"
+#include "../Control/UnitKindText.h"
 #include "../Control/UsageFormatter.h"
 #include "../Model/Desk.h"
 #include "../Model/RequestGate.h"
@@ -29,8 +31,6 @@ namespace {
 
 enum ExitCode { kUsage = 2, kSimulatorFailed = 125 };
 
-constexpr int kMostUnits = 100;
-
 // A socket path must fit in 107 bytes, and that of a mixer takes some 50 below this folder.
 constexpr std::size_t kLongestTemporaryFolder = 50;
 
@@ -41,6 +41,7 @@ constexpr const char *kExamples =
     "Examples:\n"
     "  trx-mixer-sim -- trxctl status                one mixer, one command\n"
     "  trx-mixer-sim --units 2 -- bash               a shell with two mixers plugged in\n"
+    "  trx-mixer-sim --units TRX-SELVA,TRX-VOLT -- bash  a mixer of each model\n"
     "  trx-mixer-sim --wire-log wire.txt -- ./tests  all requests go to a file too\n"
     "  sudo trx-mixer-sim --usbip --units 2          two mixers for every program, until Ctrl-C\n"
     "\n"
@@ -54,7 +55,7 @@ constexpr const char *kExamples =
     "could not be set up, 126 the command cannot be run, 127 there is no such command.\n";
 
 struct Options {
-  int units = 1;
+  std::vector<trxsim::UnitKind> units;
   bool usbip = false;
   std::string wireLog;
   std::string control;
@@ -129,8 +130,8 @@ class Wiring {
 };
 
 /// Without a command: until the user has had enough.
-int KeepPluggedIn(int units) {
-  std::printf("trx-mixer-sim: mixers plugged in: %d; Ctrl-C unplugs them\n", units);
+int KeepPluggedIn(std::size_t units) {
+  std::printf("trx-mixer-sim: units plugged in: %zu; Ctrl-C unplugs them\n", units);
   std::fflush(stdout);
   trxsim::WaitForEnd();
   return 0;
@@ -142,10 +143,10 @@ int Simulate(const Options &options, const trxsim::ControlSocket &control, Front
              const trxsim::Environment &additions) {
   trxsim::Desk desk(frontEnd, OpenWireLog(options.wireLog));
   const Wiring wiring(frontEnd.Requests(), desk);
-  for (int unit = 0; unit < options.units; ++unit) desk.PlugMixer();
+  for (const trxsim::UnitKind &kind : options.units) desk.Plug(kind);
   trxsim::CommandInterpreter interpreter(desk, additions);
   const trxsim::ControlServer server(control.Listener(), interpreter);
-  if (options.command.empty()) return KeepPluggedIn(options.units);
+  if (options.command.empty()) return KeepPluggedIn(options.units.size());
   return trxsim::RunCommand(options.command, trxsim::EnvironmentWith(additions));
 }
 
@@ -175,6 +176,24 @@ int Simulate(const Options &options) {
                        : SimulateForCommand(options, control);
 }
 
+std::string UnitsHelp() {
+  return "what is plugged in at the start: how many TRX-SELVA mixers, or a list of kinds such as "
+         "TRX-SELVA,TRX-VOLT. A kind is a mixer model (" +
+         trxsim::ModelNames() +
+         ") or VENDOR:PRODUCT for another USB device; the mixers' maker is " +
+         trxsim::MakerIdText();
+}
+
+/// What is wrong with the value of --units; empty when nothing is.
+std::string UnitsError(const std::string &units) {
+  try {
+    trxsim::ParseUnits(units);
+    return {};
+  } catch (const trxsim::CommandError &error) {
+    return error.what();
+  }
+}
+
 int Run(int argc, char **argv) {
   CLI::App app(
       "Run a command, and its children, with software mixers plugged in: no hardware, no "
@@ -185,8 +204,10 @@ int Run(int argc, char **argv) {
   app.footer(kExamples);
   app.prefix_command();
   Options options;
-  app.add_option("--units", options.units, "how many mixers are plugged in at the start")
-      ->check(CLI::Range(0, kMostUnits))
+  std::string units = "1";
+  app.add_option("--units", units, UnitsHelp())
+      ->type_name("COUNT|KIND,...")
+      ->check(UnitsError)
       ->capture_default_str();
   app.add_flag("--usbip", options.usbip,
                "plug the mixers into the running kernel; needs root and the kernel module "
@@ -200,6 +221,7 @@ int Run(int argc, char **argv) {
   } catch (const CLI::ParseError &error) {
     return app.exit(error) == 0 ? 0 : kUsage;
   }
+  options.units = trxsim::ParseUnits(units);
   options.command = app.remaining();
   if (!options.command.empty() && options.command[0] == "--") {
     options.command.erase(options.command.begin());

@@ -76,7 +76,8 @@ void AskEverything(Desk &desk, int number) {
     const bool isGone = result.outcome == Outcome::kGone;
     Promise(desk.Log().size() == logged + (isGone ? 0 : 1), "what crosses the wire is logged");
     Promise(result.data.size() <= length, "a reply is no longer than the host asked for");
-    Promise(result.outcome == Outcome::kDone || result.data.empty(), "a failed request has no data");
+    Promise(result.outcome == Outcome::kDone || result.data.empty(),
+            "a failed request has no data");
     if (result.outcome == Outcome::kUnplugged) {
       Promise(!desk.UnitOf(number).address, "a unit that vanishes is unplugged");
     }
@@ -86,7 +87,7 @@ void AskEverything(Desk &desk, int number) {
 void Run(std::string_view input) {
   RecordingFrontEnd frontEnd;
   Desk desk(frontEnd);
-  desk.PlugMixer();
+  desk.Plug();
   CommandInterpreter interpreter(desk, {"ONE=1", "TWO=2"});
   Lines seen = Seen(interpreter, desk);
   while (!input.empty()) {

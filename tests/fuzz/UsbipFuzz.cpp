@@ -39,9 +39,9 @@ class Device {
  public:
   explicit Device(Trouble trouble) {
     if (trouble == kStranger) {
-      desk_.PlugStranger(0x1234, 0x5678);
+      desk_.Plug(trxsim::UsbIds{0x1234, 0x5678});
     } else {
-      desk_.PlugMixer();
+      desk_.Plug();
     }
     constexpr RequestFaultKind kKinds[] = {RequestFaultKind::kStall, RequestFaultKind::kShort,
                                            RequestFaultKind::kNoReply, RequestFaultKind::kVanish};

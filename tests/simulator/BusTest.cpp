@@ -57,6 +57,18 @@ TEST(Bus, AttributesReadAsTheKernelWritesThem) {
   EXPECT_EQ(run.Client().Ask(folder + "version"), " 2.00/");
 }
 
+TEST(Bus, ListsMixersOfTheModelsAskedFor) {
+  SimulatorRun run("TRX-SELVA,TRX-VOLT," + VendorId() + ":0020");
+  EXPECT_EQ(run.Client().Ask("list"), "1-1=001/002 1-2=001/003 1-3=001/004 usb1=001/001");
+  EXPECT_EQ(run.Client().Ask("cat /sys/bus/usb/devices/1-1/product"), "TRX-SELVA/");
+  EXPECT_EQ(run.Client().Ask("cat /sys/bus/usb/devices/1-2/product"), "TRX-VOLT/");
+  EXPECT_EQ(run.Client().Ask("cat /sys/bus/usb/devices/1-2/idProduct"), "001f/");
+  EXPECT_EQ(run.Client().Ask("cat /sys/bus/usb/devices/1-3/manufacturer"), "Orvik Audio/");
+  EXPECT_EQ(run.Client().Ask("cat /sys/bus/usb/devices/1-3/idProduct"), "0020/");
+  const std::string volt = run.Open("/dev/bus/usb/001/003");
+  EXPECT_EQ(run.Client().Ask("control " + volt + " c0 0 0 8002 5 1000"), "3 00 00 00 ee ee");
+}
+
 TEST(Bus, NodeIsACharacterDevice) {
   SimulatorRun run(1);
   EXPECT_EQ(run.Client().Ask(std::string("stat ") + kFirst), "character 189:1");
@@ -113,7 +125,7 @@ TEST(Bus, FullBusRefusesOneMoreUnit) {
   EXPECT_EQ(run.Control("plug"), Lines{"127"});
 }
 
-TEST(Bus, StrangerIsThereButNotAMixer) {
+TEST(Bus, OtherDeviceIsListedButIsNoMixer) {
   SimulatorRun run(1);
   EXPECT_EQ(run.Control("plug 1234:0abc"), Lines{"2"});
   EXPECT_EQ(run.Client().Ask("cat /sys/bus/usb/devices/1-2/uevent"),

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "Control/CommandArguments.h"
 #include "Control/CommandInterpreter.h"
+#include "Control/UnitKindText.h"
 #include "MakerIds.h"
 #include "RecordingFrontEnd.h"
 
@@ -13,7 +15,7 @@ using Lines = std::vector<std::string>;
 
 class Commands : public testing::Test {
  protected:
-  void SetUp() override { desk.PlugMixer(); }
+  void SetUp() override { desk.Plug(); }
 
   Lines Ask(const std::string &command) {
     const CommandReply reply = interpreter.Execute(command);
@@ -34,11 +36,12 @@ class Commands : public testing::Test {
 };
 
 TEST_F(Commands, UnitsListsEveryUnit) {
-  desk.PlugStranger(0x1234, 0xABCD);
+  desk.Plug(UsbIds{0x1234, 0xABCD});
   desk.Unplug(2);
   desk.SetFault(1, OpenFault::kDeny);
-  EXPECT_EQ(Ask("units"), (Lines{"1  mixer " + VendorId() + ":001f  plugged 001/002  faults deny",
-                                 "2  stranger 1234:abcd  unplugged  faults none"}));
+  EXPECT_EQ(Ask("units"),
+            (Lines{"1  TRX-SELVA " + VendorId() + ":001f  plugged 001/002  faults deny",
+                   "2  other 1234:abcd  unplugged  faults none"}));
 }
 
 TEST_F(Commands, PlugAnswersTheNewNumber) {
@@ -47,6 +50,12 @@ TEST_F(Commands, PlugAnswersTheNewNumber) {
   EXPECT_TRUE(desk.UnitOf(2).mixer);
   EXPECT_FALSE(desk.UnitOf(3).mixer);
   EXPECT_EQ(desk.UnitOf(3).identity.product, 0xABCD);
+}
+
+TEST_F(Commands, PlugTakesAModelInAnyCase) {
+  EXPECT_EQ(Ask("plug trx-volt"), Lines{"2"});
+  EXPECT_EQ(Ask("units")[1], "2  TRX-VOLT " + VendorId() + ":001f  plugged 001/003  faults none");
+  EXPECT_EQ(Ask("get 2")[3], "selectors 00 00 00");
 }
 
 TEST_F(Commands, UnplugAndReplug) {
@@ -89,16 +98,16 @@ TEST_F(Commands, GetShowsTheWholeState) {
   Ask("set 1 selector 0 6");
   desk.Transfer(1, {0x40, 3, 0x020A, 0x8002, 0});
   EXPECT_EQ(Ask("get 1"),
-            (Lines{"mixer " + VendorId() + ":001f", "plugged 001/002", "faults none",
+            (Lines{"TRX-SELVA " + VendorId() + ":001f", "plugged 001/002", "faults none",
                    "selectors 00 06 00 00 00", "serato 00 00", "port 00 00", "firmware 0x0100",
                    "certify 0x00000001", "written mixer-output 0x020a",
                    "written usb-output-level never", "written midi-channel never",
                    "written midi-key-mode never", "written mixer-input never"}));
 }
 
-TEST_F(Commands, GetOfAStrangerShowsWhatThereIs) {
+TEST_F(Commands, GetOfAnotherDeviceShowsItsIdsAddressAndFaults) {
   Ask("plug 1234:5678");
-  EXPECT_EQ(Ask("get 2"), (Lines{"stranger 1234:5678", "plugged 001/003", "faults none"}));
+  EXPECT_EQ(Ask("get 2"), (Lines{"other 1234:5678", "plugged 001/003", "faults none"}));
 }
 
 TEST_F(Commands, FaultTakesKindArgumentAndRequest) {
@@ -127,7 +136,7 @@ TEST_F(Commands, HelpNamesEveryCommandSettingFaultAndRequest) {
   std::string help;
   for (const std::string &line : Ask("help")) help += line + '\n';
   for (const char *word : {"  units ",
-                           "  plug [VVVV:PPPP]",
+                           "  plug [KIND]",
                            "  unplug N",
                            "  replug N",
                            "  set N selector CHANNEL VALUE",
@@ -161,6 +170,9 @@ TEST_F(Commands, RefusalsNameTheMistakeAndTheWayOut) {
   EXPECT_EQ(Refusal("unplug"), "something is missing; usage: unplug N");
   EXPECT_EQ(Refusal("unplug x"), "\"x\" is not a unit number; `units` lists them; usage: unplug N");
   EXPECT_EQ(Refusal("units now"), "\"now\" is too much; usage: units");
+  EXPECT_EQ(Refusal("plug TRX"),
+            "\"TRX\" is neither a mixer model (TRX-SELVA, TRX-Arden, TRX-VOLT, TRX-HALDEN, "
+            "TRX-LUMEN, TRX-MORROW) nor VENDOR:PRODUCT with four hexadecimal digits each");
   EXPECT_EQ(Refusal("replug 1"), "unit 1 is plugged in; `unplug` it first");
   EXPECT_EQ(Refusal("set 1 colour 3"), "a mixer has no setting \"colour\"; `help` lists them");
   EXPECT_EQ(Refusal("set 1 serato 256"),
@@ -230,6 +242,33 @@ TEST_F(Commands, HostileBytesAreRefusedInPrint) {
   for (const char character : error) EXPECT_TRUE(character >= ' ' && character <= '~');
   EXPECT_LT(Refusal(std::string(1'000'000, 'x')).size(), 200u);
   Refusal(std::string(3, '\0'));
+}
+
+std::string NamesOf(const std::string &units) {
+  RecordingFrontEnd frontEnd;
+  Desk desk(frontEnd);
+  std::string names;
+  for (const UnitKind &kind : ParseUnits(units)) {
+    names += desk.UnitOf(desk.Plug(kind)).identity.productName + '|';
+  }
+  return names;
+}
+
+TEST(Units, AreACountOrAListOfKinds) {
+  EXPECT_EQ(NamesOf("0"), "");
+  EXPECT_EQ(NamesOf("2"), "TRX-SELVA|TRX-SELVA|");
+  EXPECT_EQ(NamesOf("TRX-SELVA,trx-volt,1234:0001"), "TRX-SELVA|TRX-VOLT|Other device|");
+  EXPECT_EQ(ParseUnits("100").size(), 100u);
+}
+
+TEST(Units, AreRefusedUnlessEachIsKnownAndAllFit) {
+  std::string tooMany = "TRX-SELVA";
+  for (int count = 0; count < 100; ++count) tooMany += ",TRX-SELVA";
+  for (const std::string &text :
+       {std::string(), std::string("-1"), std::string("101"), std::string("99999999999999999999"),
+        std::string("2,TRX-VOLT"), std::string("TRX-VOLT,"), std::string("TRX-BOLT"), tooMany}) {
+    EXPECT_THROW(ParseUnits(text), CommandError) << text;
+  }
 }
 
 TEST(CommandReplies, EndWithOkOrError) {

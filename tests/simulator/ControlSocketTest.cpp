@@ -66,7 +66,7 @@ TEST_F(ControlProtocol, ClientGetsLinesOrTheRefusal) {
   ControlClient client(path);
   EXPECT_EQ(client.Ask("plug"), Lines{"1"});
   EXPECT_EQ(client.Ask("units"),
-            Lines{"1  mixer " + VendorId() + ":001f  plugged 001/002  faults none"});
+            Lines{"1  TRX-SELVA " + VendorId() + ":001f  plugged 001/002  faults none"});
   try {
     client.Ask("unplug 2");
     FAIL() << "not refused";
@@ -95,7 +95,7 @@ TEST_F(ControlProtocol, ServesManyClientsAtOnce) {
 }
 
 TEST_F(ControlProtocol, LongReplyReachesASlowReaderWhole) {
-  desk.PlugMixer();
+  desk.Plug();
   for (int count = 0; count < 20'000; ++count) desk.Transfer(1, {0xC0, 0, 0, 0x8002, 5});
   ControlClient slow(path);
   const Descriptor unread = ConnectUnixSocket(path);

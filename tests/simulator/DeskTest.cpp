@@ -17,29 +17,50 @@ class DeskTest : public testing::Test {
   Desk desk{frontEnd};
 };
 
-TEST_F(DeskTest, NumbersUnitsFromOneStrangersIncluded) {
-  EXPECT_EQ(desk.PlugMixer(), 1);
-  EXPECT_EQ(desk.PlugStranger(0x1234, 0x5678), 2);
-  EXPECT_EQ(desk.PlugMixer(), 3);
+TEST_F(DeskTest, NumbersAllUnitsFromOne) {
+  EXPECT_EQ(desk.Plug(), 1);
+  EXPECT_EQ(desk.Plug(UsbIds{0x1234, 0x5678}), 2);
+  EXPECT_EQ(desk.Plug(), 3);
 }
 
 TEST_F(DeskTest, MixerShowsTheMakersIds) {
-  desk.PlugMixer();
+  desk.Plug();
   ASSERT_EQ(frontEnd.identities.size(), 1u);
   EXPECT_EQ(frontEnd.identities[0].vendor, MAKER_USB_VENDOR_ID);
   EXPECT_EQ(frontEnd.identities[0].product, 0x001F);
   EXPECT_TRUE(frontEnd.identities[0].isMixer);
 }
 
-TEST_F(DeskTest, StrangerShowsTheIdsGivenAndStalls) {
-  desk.PlugStranger(0x1234, 0x5678);
+TEST_F(DeskTest, MixerHasTheNameAndTheSelectorsOfItsModel) {
+  const std::vector<std::pair<std::string, std::size_t>> expected{
+      {"TRX-SELVA", 4},  {"TRX-Arden", 4}, {"TRX-VOLT", 2},
+      {"TRX-HALDEN", 4}, {"TRX-LUMEN", 4}, {"TRX-MORROW", 4}};
+  ASSERT_EQ(kMixerModels.size(), expected.size());
+  for (std::size_t place = 0; place < expected.size(); ++place) {
+    const Unit unit = desk.UnitOf(desk.Plug(kMixerModels[place]));
+    EXPECT_EQ(unit.identity.productName, expected[place].first);
+    EXPECT_EQ(unit.identity.product, 0x001F);
+    EXPECT_EQ(unit.mixer->State().selectors.size(), expected[place].second);
+  }
+}
+
+TEST_F(DeskTest, OtherDeviceOfTheMakerShowsTheMakersNameButIsNoMixer) {
+  desk.Plug(UsbIds{MAKER_USB_VENDOR_ID, 0x0020});
+  EXPECT_EQ(frontEnd.identities[0].manufacturer, "Orvik Audio");
+  EXPECT_EQ(frontEnd.identities[0].productName, "Other device");
+  EXPECT_FALSE(frontEnd.identities[0].isMixer);
+}
+
+TEST_F(DeskTest, OtherDeviceShowsItsIdsAndStalls) {
+  desk.Plug(UsbIds{0x1234, 0x5678});
   EXPECT_EQ(frontEnd.identities[0].vendor, 0x1234);
+  EXPECT_EQ(frontEnd.identities[0].manufacturer, "");
   EXPECT_EQ(frontEnd.identities[0].product, 0x5678);
   EXPECT_EQ(desk.Transfer(1, kReadSelectors).outcome, Outcome::kStalled);
 }
 
 TEST_F(DeskTest, ReplugKeepsTheNumberAndTheSettingsButNotTheAddress) {
-  desk.PlugMixer();
+  desk.Plug();
   desk.Transfer(1, kWriteLevel);
   desk.Unplug(1);
   EXPECT_FALSE(desk.UnitOf(1).address);
@@ -51,14 +72,14 @@ TEST_F(DeskTest, ReplugKeepsTheNumberAndTheSettingsButNotTheAddress) {
 }
 
 TEST_F(DeskTest, UnitThatWentAwayByItselfIsUnplugged) {
-  desk.PlugMixer();
+  desk.Plug();
   desk.Lost(1, *desk.UnitOf(1).address);
   EXPECT_FALSE(desk.UnitOf(1).address);
   EXPECT_EQ(frontEnd.calls, (std::vector<std::string>{"plug 1", "unplug 1"}));
 }
 
 TEST_F(DeskTest, LossOfAUnitThatWasPluggedInAgainIsOldNews) {
-  desk.PlugMixer();
+  desk.Plug();
   const BusAddress first = *desk.UnitOf(1).address;
   desk.Unplug(1);
   desk.Lost(1, first);
@@ -74,35 +95,35 @@ TEST_F(DeskTest, RequestToAUnitThatWasNeverPluggedInLeavesNoTrace) {
 }
 
 TEST_F(DeskTest, RequestToAnUnpluggedUnitLeavesNoTrace) {
-  desk.PlugMixer();
+  desk.Plug();
   desk.Unplug(1);
   EXPECT_EQ(desk.Transfer(1, kReadSelectors).outcome, Outcome::kGone);
   EXPECT_TRUE(desk.Log().empty());
 }
 
 TEST_F(DeskTest, StallFaultKeepsTheWriteOut) {
-  desk.PlugMixer();
+  desk.Plug();
   desk.SetFault(1, std::nullopt, {RequestFaultKind::kStall, 0});
   EXPECT_EQ(desk.Transfer(1, kWriteLevel).outcome, Outcome::kStalled);
   EXPECT_EQ(desk.UnitOf(1).mixer->LastWritten(RequestId::kUsbOutputLevel), std::nullopt);
 }
 
 TEST_F(DeskTest, NoReplyFaultKeepsTheWriteOut) {
-  desk.PlugMixer();
+  desk.Plug();
   desk.SetFault(1, RequestId::kUsbOutputLevel, {RequestFaultKind::kNoReply, 0});
   EXPECT_EQ(desk.Transfer(1, kWriteLevel).outcome, Outcome::kNoReply);
   EXPECT_EQ(desk.UnitOf(1).mixer->LastWritten(RequestId::kUsbOutputLevel), std::nullopt);
 }
 
 TEST_F(DeskTest, ShortFaultCutsTheReply) {
-  desk.PlugMixer();
+  desk.Plug();
   desk.SetFault(1, std::nullopt, {RequestFaultKind::kShort, 2});
   EXPECT_EQ(desk.Transfer(1, kReadSelectors).data.size(), 2u);
   EXPECT_EQ(desk.Transfer(1, kWriteLevel).outcome, Outcome::kDone);
 }
 
 TEST_F(DeskTest, VanishFaultUnplugsTheUnit) {
-  desk.PlugMixer();
+  desk.Plug();
   desk.SetFault(1, RequestId::kSelectors, {RequestFaultKind::kVanish, 0});
   EXPECT_EQ(desk.Transfer(1, kReadSelectors).outcome, Outcome::kUnplugged);
   EXPECT_FALSE(desk.UnitOf(1).address);
@@ -111,14 +132,14 @@ TEST_F(DeskTest, VanishFaultUnplugsTheUnit) {
 }
 
 TEST_F(DeskTest, FaultsOfOneUnitLeaveTheOthersAlone) {
-  desk.PlugMixer();
-  desk.PlugMixer();
+  desk.Plug();
+  desk.Plug();
   desk.SetFault(1, std::nullopt, {RequestFaultKind::kStall, 0});
   EXPECT_EQ(desk.Transfer(2, kReadSelectors).outcome, Outcome::kDone);
 }
 
 TEST_F(DeskTest, OpenFaultGoesToTheFrontEndAndStaysOverReplug) {
-  desk.PlugMixer();
+  desk.Plug();
   desk.SetFault(1, OpenFault::kRefuse);
   desk.Unplug(1);
   desk.Replug(1);
@@ -128,7 +149,7 @@ TEST_F(DeskTest, OpenFaultGoesToTheFrontEndAndStaysOverReplug) {
 }
 
 TEST_F(DeskTest, OpenFaultOfAnUnpluggedUnitWaitsForItsPlug) {
-  desk.PlugMixer();
+  desk.Plug();
   desk.Unplug(1);
   desk.SetFault(1, OpenFault::kDeny);
   desk.Replug(1);
@@ -137,13 +158,13 @@ TEST_F(DeskTest, OpenFaultOfAnUnpluggedUnitWaitsForItsPlug) {
 
 TEST_F(DeskTest, UnitThatDoesNotFitIsNotAdded) {
   frontEnd.isFull = true;
-  EXPECT_THROW(desk.PlugMixer(), DeskError);
+  EXPECT_THROW(desk.Plug(), DeskError);
   EXPECT_TRUE(desk.Units().empty());
 }
 
 TEST_F(DeskTest, RefusesWhatMakesNoSense) {
-  desk.PlugMixer();
-  desk.PlugStranger(1, 2);
+  desk.Plug();
+  desk.Plug(UsbIds{1, 2});
   EXPECT_THROW(desk.Unplug(7), DeskError);
   EXPECT_THROW(desk.Replug(1), DeskError);
   EXPECT_THROW(desk.Change(2, [](MixerState &) {}), DeskError);

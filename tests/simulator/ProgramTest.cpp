@@ -62,7 +62,11 @@ TEST(SimulatorProgram, RefusesBadOptions) {
   const TemporaryFolder folder;
   EXPECT_EQ(Program(Simulate({"--units", "-1", "--", "true"}), folder).Finish(), 2);
   EXPECT_EQ(Program(Simulate({"--units", "101", "--", "true"}), folder).Finish(), 2);
-  EXPECT_EQ(Program(Simulate({"--units", "x", "--", "true"}), folder).Finish(), 2);
+  Program program(Simulate({"--units", "TRX-BOLT", "--", "true"}), folder);
+  EXPECT_EQ(program.Finish(), 2);
+  EXPECT_NE(program.Errors().find("--units: \"TRX-BOLT\" is neither a mixer model (TRX-SELVA, "),
+            std::string::npos)
+      << program.Errors();
 }
 
 TEST(SimulatorProgram, HelpTeachesWithExamples) {
@@ -202,8 +206,17 @@ TEST(SimulatorProgram, KeepsTheListsThatTheEnvironmentHas) {
 TEST(ControlProgram, PrintsTheReply) {
   SimulatorRun run(1);
   Program program(Control({"--control", run.socket, "units"}), run.folder);
-  EXPECT_EQ(program.Rest(), "1  mixer " + VendorId() + ":001f  plugged 001/002  faults none\n");
+  EXPECT_EQ(program.Rest(), "1  TRX-SELVA " + VendorId() + ":001f  plugged 001/002  faults none\n");
   EXPECT_EQ(program.Finish(), 0);
+}
+
+TEST(ControlProgram, HelpsWithoutASimulator) {
+  const TemporaryFolder folder;
+  Program program(Control({"help"}), folder);
+  const std::string help = program.Rest();
+  EXPECT_EQ(program.Finish(), 0);
+  EXPECT_TRUE(help.starts_with("Commands:\n  units ")) << help;
+  EXPECT_EQ(program.Errors(), "");
 }
 
 TEST(ControlProgram, FindsTheUsualSocketByItself) {

@@ -27,8 +27,8 @@ using trxtest::TemporaryFolder;
   _exit(127);
 }
 
-std::vector<std::string> SimulatorWords(int units, const std::string &socket) {
-  return {TRX_MIXER_SIM, "--units", std::to_string(units), "--control", socket, "--", USB_CLIENT};
+std::vector<std::string> SimulatorWords(const std::string &units, const std::string &socket) {
+  return {TRX_MIXER_SIM, "--units", units, "--control", socket, "--", USB_CLIENT};
 }
 
 }  // namespace
@@ -116,7 +116,7 @@ std::string Program::Rest() {
   return all;
 }
 
-SimulatorRun::SimulatorRun(int units)
+SimulatorRun::SimulatorRun(const std::string &units)
     : program_(SimulatorWords(units, socket), folder),
       ready_(program_.Ask("variable TRX_MIXER_SIM_CONTROL")),
       control_(socket) {

@@ -51,8 +51,9 @@ class Program {
 /// in `folder`.
 class SimulatorRun {
  public:
-  /// Starts with this many mixers; returns when the client runs.
-  explicit SimulatorRun(int units);
+  /// Starts with these units, as --units takes them; returns when the client runs.
+  explicit SimulatorRun(const std::string &units);
+  explicit SimulatorRun(int mixers) : SimulatorRun(std::to_string(mixers)) {}
 
   /// The command under the simulator.
   Program &Client() { return program_; }

@@ -20,15 +20,15 @@ const std::string kReadFirmware = "c0000000 01800200";
 const std::string kReadSelectors = "c0000000 02800500";
 const std::string kWriteLevel = "40030003 03800000";
 
-/// Unit 1 is a mixer, unit 2 a stranger; both are connected.
+/// Unit 1 is a mixer, unit 2 another device; both are connected.
 class Usbip : public testing::Test {
  protected:
   Usbip() {
     gate.Open(desk);
-    desk.PlugMixer();
-    desk.PlugStranger(0x1234, 0x5678);
+    desk.Plug();
+    desk.Plug(UsbIds{0x1234, 0x5678});
     mixer = std::make_unique<KernelSide>(Session(1));
-    stranger = std::make_unique<KernelSide>(Session(2));
+    other = std::make_unique<KernelSide>(Session(2));
   }
 
   DeviceSession Session(int number) {
@@ -41,7 +41,7 @@ class Usbip : public testing::Test {
   Desk desk{frontEnd};
   RequestGate gate;
   std::unique_ptr<KernelSide> mixer;
-  std::unique_ptr<KernelSide> stranger;
+  std::unique_ptr<KernelSide> other;
 };
 
 std::string VendorOnTheWire() { return VendorId().substr(2) + VendorId().substr(0, 2); }
@@ -63,11 +63,12 @@ TEST_F(Usbip, MixerTellsItsTexts) {
   EXPECT_EQ(mixer->Request("80060303 0904ff00"), "0 12035300 49004d00 30003000 30003000 3100");
 }
 
-TEST_F(Usbip, StrangerTellsItsOwnIdsAndTexts) {
-  EXPECT_EQ(stranger->Request("80060001 00001200"), "0 12010002 00000040 34127856 00010002 0001");
-  EXPECT_EQ(stranger->Request("80060002 0000ff00"), "0 09021200 010100c0 00090400 0000ff00 0000");
-  EXPECT_EQ(stranger->Request("80060103 0904ff00"), "-32");
-  EXPECT_EQ(stranger->Request("80060203 0904ff00"), "0 12035300 74007200 61006e00 67006500 7200");
+TEST_F(Usbip, OtherDeviceTellsItsOwnIdsAndTexts) {
+  EXPECT_EQ(other->Request("80060001 00001200"), "0 12010002 00000040 34127856 00010002 0001");
+  EXPECT_EQ(other->Request("80060002 0000ff00"), "0 09021200 010100c0 00090400 0000ff00 0000");
+  EXPECT_EQ(other->Request("80060103 0904ff00"), "-32");
+  EXPECT_EQ(other->Request("80060203 0904ff00"),
+            "0 1a034f00 74006800 65007200 20006400 65007600 69006300 6500");
 }
 
 TEST_F(Usbip, DescriptorIsNoLongerThanTheKernelAskedFor) {
@@ -163,11 +164,11 @@ TEST_F(Usbip, WritesReachTheMixer) {
 TEST_F(Usbip, OtherVendorAndClassRequestsStall) {
   EXPECT_EQ(mixer->Request("c0000000 03800200"), "-32");
   EXPECT_EQ(mixer->Request("a1810001 00010200"), "-32");
-  EXPECT_EQ(stranger->Request(kReadFirmware), "-32");
+  EXPECT_EQ(other->Request(kReadFirmware), "-32");
 }
 
 TEST_F(Usbip, WireLogIsThatOfEveryFrontEnd) {
-  stranger->Request(kReadFirmware);
+  other->Request(kReadFirmware);
   mixer->Request(kWriteLevel);
   mixer->Request("c0000000 02800400");
   mixer->Request("a1810001 00010200");
@@ -257,7 +258,7 @@ TEST_F(Usbip, VanishFaultHangsUpWithoutAReply) {
   EXPECT_EQ(mixer->Request(kReadFirmware), "0 0001");
   EXPECT_EQ(mixer->Request(kReadSelectors), "hung up");
   EXPECT_EQ(mixer->EndOfConnection(), "");
-  EXPECT_EQ(stranger->Request(kReadFirmware), "-32");
+  EXPECT_EQ(other->Request(kReadFirmware), "-32");
   EXPECT_EQ(desk.Log()[1],
             "unit 1  IN   c0 00  wValue 0000  wIndex 8002  wLength 5  "
             "-> unplugged               input selectors");
@@ -291,7 +292,7 @@ TEST_F(Usbip, MalformedFrameEndsThatConnectionOnly) {
   mixer->Send("00000009" + std::string(88, '0'));
   EXPECT_EQ(mixer->Reply(), "");
   EXPECT_EQ(mixer->EndOfConnection(), "it sent a malformed frame: unknown command 0x00000009");
-  EXPECT_EQ(stranger->Request(kReadFirmware), "-32");
+  EXPECT_EQ(other->Request(kReadFirmware), "-32");
 }
 
 TEST_F(Usbip, SoundFramesBeforeAMalformedOneAreAnswered) {

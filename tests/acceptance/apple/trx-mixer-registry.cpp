@@ -32,7 +32,7 @@ int Run(int argc, char **argv) {
   trxtest::RegistryFrontEnd frontEnd(registry);
   trxsim::Desk desk(frontEnd);
   frontEnd.requests().Open(desk);
-  for (int unit = 0; unit < units; ++unit) desk.PlugMixer();
+  for (int unit = 0; unit < units; ++unit) desk.Plug();
   const trxsim::Environment additions = {std::string(trxtest::kRegistryVariable) + '=' + registry};
   trxsim::CommandInterpreter interpreter(desk, additions);
   const trxsim::ControlServer server(socket.Listener(), interpreter);
