@@ -1,5 +1,6 @@
 #include "Descriptors.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -85,22 +86,21 @@ std::vector<std::uint8_t> DeviceDescriptor(const UsbIdentity &identity, const De
 
 std::vector<std::uint8_t> ConfigurationDescriptor(const DeviceKind &kind) {
   constexpr std::uint8_t kLength = 9;
-  std::vector<std::uint8_t> interfaces;
+  const auto append = [](std::vector<std::uint8_t> &bytes, const auto &more) {
+    bytes.insert(bytes.end(), more.begin(), more.end());
+  };
+  std::vector<std::uint8_t> bytes(kLength);
   std::uint8_t number = 0;
   for (const InterfaceKind &interface : kind.interfaces) {
-    const std::array<std::uint8_t, kLength> one{
-        kLength, kInterface,          number++,           0,
-        0,       interface.classCode, interface.subclass, interface.protocol,
-        0};
-    interfaces.insert(interfaces.end(), one.begin(), one.end());
-    interfaces.insert(interfaces.end(), interface.classSpecific.begin(),
-                      interface.classSpecific.end());
+    append(bytes, std::array<std::uint8_t, kLength>{kLength, kInterface, number++, 0, 0,
+                                                    interface.classCode, interface.subclass,
+                                                    interface.protocol, 0});
+    append(bytes, interface.classSpecific);
   }
-  const std::size_t total = kLength + interfaces.size();
-  const std::array<std::uint8_t, kLength> configuration{
-      kLength, kConfiguration, Low(total), High(total), number, 1, 0, kSelfPowered, 0};
-  std::vector<std::uint8_t> bytes(configuration.begin(), configuration.end());
-  bytes.insert(bytes.end(), interfaces.begin(), interfaces.end());
+  const std::array<std::uint8_t, kLength> header{
+      kLength, kConfiguration, Low(bytes.size()), High(bytes.size()), number, 1, 0, kSelfPowered,
+      0};
+  std::copy(header.begin(), header.end(), bytes.begin());
   return bytes;
 }
 
