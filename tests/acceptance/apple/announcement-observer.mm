@@ -27,8 +27,8 @@ using Words = std::vector<std::string>;
 constexpr std::array<const char *, 10> kModels = {
     "TRX-Arden",  "TRX-ARDEN",  "TRX-VOLT",  "TRX-BRISK",  "TRC-FENNO",
     "TRX-CIRRUS", "TRX-HALDEN", "TRX-LUMEN", "TRX-MORROW", "TRX-SELVA"};
-constexpr std::array<const char *, 5> kKinds = {"InputAudio", "OutputAudio", "BoostLevel",
-                                                "MidiChannel", "MidiKeyMode"};
+// Those for which the headers declare callbacks.
+constexpr std::array kKinds = {KINDS_OF_CHANGE};
 
 constexpr NSTimeInterval kTurn = 0.01;
 constexpr NSTimeInterval kPatience = 10;

@@ -1,6 +1,6 @@
-// Every function with every combination of arguments, in range and out of it, on an empty desk:
-// what is accepted, and what becomes of the result. The tables here say what is accepted;
-// everything that does not stand in them is refused.
+// The functions with every combination of arguments, in range and out of it, on an empty desk: what
+// is accepted, and what becomes of the result. The tables here say what is accepted; everything
+// that does not stand in them is refused. SettingTest.cpp has the settings without channels.
 #include <limits>
 #include <map>
 #include <span>
@@ -29,11 +29,9 @@ struct Places {
   std::span<const std::uint32_t> indexes;
 };
 
-constexpr std::int32_t kNoChannel[] = {0};
 constexpr std::uint32_t kNoIndex[] = {0};
 constexpr Places kChannelsAndIndexes = {kChannels, kIndexes};
 constexpr Places kChannelsOnly = {kChannels, kNoIndex};
-constexpr Places kIndexesOnly = {kNoChannel, kIndexes};
 
 // How many indexes each channel of a model has, from index and channel 0 on. A function without a
 // channel has one row, a function without an index has rows of 1.
@@ -49,8 +47,6 @@ bool Contains(const Accepted &accepted, ProductId product, std::int32_t channel 
 
 const Accepted kAllSix = {{0, {1}}, {1, {1}}, {5, {1}}, {6, {1}}, {8, {1}}, {11, {1}}};
 const Accepted kSelva = {{11, {1}}};
-const Accepted kVolt = {{1, {1}}};
-const Accepted kNobody = {};
 
 // A result before the call.
 constexpr std::int32_t kBefore = -1234567;
@@ -367,65 +363,6 @@ TEST_F(Arguments, SetCurrentOutputAudioTakesThreeChannelsOfSelva) {
   ExpectNothingHappened();
 }
 
-// --- Boost level, MIDI channel, MIDI key mode ------------------------------------------------
-
-// The five functions of a family without channels.
-struct Family {
-  const char *name;
-  StatusCode (*count)(ProductId, std::uint32_t *);
-  StatusCode (*text)(ProductId, std::uint32_t, std::uint32_t, ORVStringRef *);
-  StatusCode (*set)(ProductId, std::uint32_t);
-  StatusCode (*current)(ProductId, std::int32_t *);
-  StatusCode (*setCurrent)(ProductId);
-};
-
-class FamilyArguments : public Arguments {
- protected:
-  // `accepted` holds the indexes of each model that the family serves, `models` only its models.
-  void SweepFamily(const Family &family, const Accepted &accepted, const Accepted &models,
-                   std::uint32_t count, std::int32_t defaultIndex, std::size_t settings) {
-    SweepProducts(family.name, family.count, models, kBeforeUnsigned, count, kBeforeUnsigned);
-    SweepProducts(family.name, family.current, models, kBefore, defaultIndex, kBefore);
-    SweepTexts(family.name, accepted, kIndexesOnly,
-               [&](ProductId product, std::int32_t, std::uint32_t index, ORVStringRef *text) {
-                 return family.text(product, index, index, text);
-               });
-    for (const ProductId product : kAllProducts) {
-      EXPECT_EQ(family.setCurrent(product), Contains(models, product) ? 100 : 102) << product;
-    }
-    const std::size_t sets = SweepSetter(
-        family.name, accepted, kIndexesOnly,
-        [&](ProductId product, std::int32_t, std::uint32_t index) {
-          return family.set(product, index);
-        },
-        Success);
-    EXPECT_EQ(sets, settings);
-    EXPECT_EQ(rig().TakeAnnouncements(settings).size(), settings);
-  }
-};
-
-TEST_F(FamilyArguments, BoostLevelTakesSixModelsAndFourLevels) {
-  SweepFamily(
-      {"BoostLevel", ORV_GetNumOfBoostLevelIndex, ORV_GetBoostLevelText, ORV_SetBoostLevelIndex,
-       ORV_GetCurrentBoostLevelIndex, ORV_SetCurrentBoostLevelIndex},
-      {{0, {4}}, {1, {4}}, {5, {4}}, {6, {4}}, {8, {4}}, {11, {4}}}, kAllSix, 4, 3, 24);
-}
-
-TEST_F(FamilyArguments, MidiChannelTakesVoltAndSixteenChannels) {
-  SweepFamily(
-      {"MidiChannel", ORV_GetNumOfMidiChannelIndex, ORV_GetMidiChannelText, ORV_SetMidiChannelIndex,
-       ORV_GetCurrentMidiChannelIndex, ORV_SetCurrentMidiChannelIndex},
-      {{1, {16}}}, kVolt, 16, 0, 16);
-}
-
-TEST_F(FamilyArguments, MidiKeyModeTakesNothing) {
-  SweepFamily(
-      {"MidiKeyMode", ORV_GetNumOfMidiKeyModeIndex, ORV_GetMidiKeyModeText, ORV_SetMidiKeyModeIndex,
-       ORV_GetCurrentMidiKeyModeIndex, ORV_SetCurrentMidiKeyModeIndex},
-      kNobody, kNobody, 0, 0, 0);
-  ExpectNothingHappened();
-}
-
 // --- Version texts ---------------------------------------------------------------------------
 
 TEST_F(Arguments, VersionTextsTakeSelvaOrSixModelsWhenAllIsInstalled) {
@@ -457,7 +394,6 @@ TEST_F(Arguments, VersionTextsTakeSelvaOrSixModelsWhenAllIsInstalled) {
 
 // --- Callbacks -------------------------------------------------------------------------------
 
-void NeverCalled(std::int32_t, void *) { ADD_FAILURE() << "nothing was announced"; }
 void NeverCalledWithChannel(std::int32_t, std::int32_t, void *) {
   ADD_FAILURE() << "nothing was announced";
 }
@@ -480,17 +416,11 @@ void SweepRegistration(const char *name, StatusCode (*put)(ProductId, Callback, 
   }
 }
 
-TEST_F(Arguments, CallbacksAreForSixModelsTheMidiChannelsForVoltAndTheKeyModesForNobody) {
+TEST_F(Arguments, CallbacksOfTheRoutingsAreForSixModels) {
   SweepRegistration("InputAudio", ORV_RegisterInputAudioChangedCallback,
                     ORV_UnregisterInputAudioChangedCallback, NeverCalledWithChannel, kAllSix);
   SweepRegistration("OutputAudio", ORV_RegisterOutputAudioChangedCallback,
                     ORV_UnregisterOutputAudioChangedCallback, NeverCalledWithChannel, kAllSix);
-  SweepRegistration("BoostLevel", ORV_RegisterBoostLevelChangedCallback,
-                    ORV_UnregisterBoostLevelChangedCallback, NeverCalled, kAllSix);
-  SweepRegistration("MidiChannel", ORV_RegisterMidiChannelChangedCallback,
-                    ORV_UnregisterMidiChannelChangedCallback, NeverCalled, kVolt);
-  SweepRegistration("MidiKeyMode", ORV_RegisterMidiKeyModeChangedCallback,
-                    ORV_UnregisterMidiKeyModeChangedCallback, NeverCalled, kNobody);
   ExpectNothingHappened();
 }
 

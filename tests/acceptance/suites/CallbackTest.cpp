@@ -19,8 +19,6 @@ std::string selva = "selva";
 
 class Callbacks : public Deliveries {};
 
-const std::vector<ProductId> kRefused = {2, 3, 4, 7, 9, 10, 12, 13, 0x80000000, 0xFFFFFFFF};
-
 Announcement ChannelChange(const std::string &name, std::int32_t product, std::int32_t channel,
                            std::int32_t index) {
   return {name, {{"ProductID", product}, {"Channel", channel}, {"Index", index}}};
@@ -28,53 +26,6 @@ Announcement ChannelChange(const std::string &name, std::int32_t product, std::i
 
 Announcement IndexChange(const std::string &name, std::int32_t product, std::int32_t index) {
   return {name, {{"ProductID", product}, {"Index", index}}};
-}
-
-TEST_F(Callbacks, SixModelsAreAcceptedForRoutingAndBoostAndOneForTheMidiChannel) {
-  for (const ProductId product : {0U, 1U, 5U, 6U, 8U, 11U}) {
-    EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(product, ChannelIndexA, &first), 100);
-    EXPECT_EQ(ORV_RegisterOutputAudioChangedCallback(product, ChannelIndexA, &first), 100);
-    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexA, &first), 100);
-    EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(product, IndexA, &first),
-              product == 1 ? 100 : 102);
-    EXPECT_EQ(ORV_UnregisterInputAudioChangedCallback(product, ChannelIndexA), 100);
-    EXPECT_EQ(ORV_UnregisterOutputAudioChangedCallback(product, ChannelIndexA), 100);
-    EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(product, IndexA), 100);
-    EXPECT_EQ(ORV_UnregisterMidiChannelChangedCallback(product, IndexA), product == 1 ? 100 : 102);
-  }
-}
-
-TEST_F(Callbacks, EveryOtherModelIsRefused) {
-  for (const ProductId product : kRefused) {
-    EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(product, ChannelIndexA, &first), 102);
-    EXPECT_EQ(ORV_RegisterOutputAudioChangedCallback(product, ChannelIndexA, &first), 102);
-    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexA, &first), 102);
-    EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(product, IndexA, &first), 102);
-    EXPECT_EQ(ORV_UnregisterInputAudioChangedCallback(product, ChannelIndexA), 102);
-    EXPECT_EQ(ORV_UnregisterOutputAudioChangedCallback(product, ChannelIndexA), 102);
-    EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(product, IndexA), 102);
-    EXPECT_EQ(ORV_UnregisterMidiChannelChangedCallback(product, IndexA), 102);
-  }
-  ExpectNothingHappened();
-}
-
-TEST_F(Callbacks, TheKeyModeFunctionsRefuseEveryModel) {
-  for (const ProductId product : kAllProducts) {
-    EXPECT_EQ(ORV_RegisterMidiKeyModeChangedCallback(product, IndexA, &first), 102) << product;
-    EXPECT_EQ(ORV_UnregisterMidiKeyModeChangedCallback(product, IndexA), 102) << product;
-  }
-  for (const char *name : {"TRX-VOLT MidiKeyMode Change", "TRX-SELVA MidiKeyMode Change"}) {
-    rig().Announce(IndexChange(name, 1, 1));
-  }
-  EXPECT_EQ(DeliverAll(), CallList());
-}
-
-TEST_F(Callbacks, UnregisteringWhatWasNeverRegisteredSucceeds) {
-  EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, IndexA), 100);
-  EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, nullptr), 100);
-  EXPECT_EQ(ORV_UnregisterInputAudioChangedCallback(11, nullptr), 100);
-  EXPECT_EQ(ORV_UnregisterOutputAudioChangedCallback(11, nullptr), 100);
-  EXPECT_EQ(ORV_UnregisterMidiChannelChangedCallback(1, nullptr), 100);
 }
 
 TEST_F(Callbacks, OnesOwnChangeComesBackWithTheContext) {
