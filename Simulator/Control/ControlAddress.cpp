@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace trxsim {
@@ -11,6 +12,11 @@ namespace {
 const char *Variable(const char *name) {
   const char *value = std::getenv(name);
   return value != nullptr && *value != '\0' ? value : nullptr;
+}
+
+bool Exists(const std::string &path) {
+  struct stat status {};
+  return lstat(path.c_str(), &status) == 0;
 }
 
 }  // namespace
@@ -25,9 +31,20 @@ ControlPlace DefaultControlPlace() {
   return {folder, folder + "/control.sock", true};
 }
 
+bool IsOwnFolder(const std::string &folder) {
+  struct stat status {};
+  return lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
+         status.st_uid == getuid() && (status.st_mode & 0077) == 0;
+}
+
 std::string ClientControlSocket() {
   const char *given = Variable(kControlVariable);
-  return given != nullptr ? given : DefaultControlPlace().socket;
+  if (given != nullptr) return given;
+  const ControlPlace place = DefaultControlPlace();
+  if (place.makesFolder && Exists(place.folder) && !IsOwnFolder(place.folder)) {
+    throw SimulatorNotTrusted(place.folder + " is not a folder of this user alone");
+  }
+  return place.socket;
 }
 
 }  // namespace trxsim

@@ -2,10 +2,13 @@
 
 #include <cerrno>
 #include <cstring>
+#include <optional>
 #include <string_view>
 
 #include <sys/socket.h>
 #include <unistd.h>
+
+#include "ControlAddress.h"
 
 namespace trxsim {
 
@@ -20,6 +23,10 @@ ControlClient::ControlClient(const std::string &path)
     : path_(path), socket_(ConnectUnixSocket(path)) {
   if (!socket_) {
     throw SimulatorUnreachable("no simulator answers at " + path + ": " + std::strerror(errno));
+  }
+  const std::optional<uid_t> peer = PeerOf(socket_);
+  if (!peer || (*peer != geteuid() && *peer != 0)) {
+    throw SimulatorNotTrusted("the simulator at " + path + " belongs to another user");
   }
 }
 

@@ -23,7 +23,8 @@ class CommandRefused : public std::runtime_error {
 /// A connection to the run-time control of a simulator. One thread at a time.
 class ControlClient {
  public:
-  /// Connects to the control socket at `path`. Throws `SimulatorUnreachable`.
+  /// Connects to the control socket at `path`. Throws `SimulatorUnreachable`, and
+  /// `SimulatorNotTrusted` when neither this user nor root listens there.
   explicit ControlClient(const std::string &path);
 
   /// Sends one command line and returns the lines of the reply. Throws `CommandRefused`, or

@@ -49,12 +49,8 @@ Descriptor Claim(const std::string &path) {
 // Makes `folder` for this user alone. Under /tmp anybody may have made it, so an existing one is
 // looked at.
 void MakeOwnFolder(const std::string &folder) {
-  if (mkdir(folder.c_str(), 0700) == 0) return;
-  struct stat status {};
-  const bool isOwn = errno == EEXIST && lstat(folder.c_str(), &status) == 0 &&
-                     S_ISDIR(status.st_mode) && status.st_uid == getuid() &&
-                     (status.st_mode & 0077) == 0;
-  if (!isOwn) throw ControlSocketError(folder + " is not a folder of yours alone");
+  if (mkdir(folder.c_str(), 0700) == 0 || IsOwnFolder(folder)) return;
+  throw ControlSocketError(folder + " is not a folder of this user alone");
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <cstring>
-#include <optional>
 
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -40,6 +39,15 @@ Descriptor ConnectUnixSocket(const std::string &path) {
   if (!socketEnd) return Descriptor();
   if (connect(socketEnd.Get(), Generic(*address), sizeof *address) != 0) return Descriptor();
   return socketEnd;
+}
+
+std::optional<uid_t> PeerOf(const Descriptor &connected) {
+  ucred peer{};
+  socklen_t length = sizeof peer;
+  if (getsockopt(connected.Get(), SOL_SOCKET, SO_PEERCRED, &peer, &length) != 0) {
+    return std::nullopt;
+  }
+  return peer.uid;
 }
 
 Descriptor ListenUnixSocket(const std::string &path) {

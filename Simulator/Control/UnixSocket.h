@@ -1,7 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
+
+#include <sys/types.h>
 
 namespace trxsim {
 
@@ -28,6 +31,10 @@ class Descriptor {
 
 /// A stream socket connected to `path`; none, with errno set, when nobody answers there.
 Descriptor ConnectUnixSocket(const std::string &path);
+
+/// The user who made the other end of a connected stream socket listen; nobody, with errno set,
+/// when the system does not say.
+std::optional<uid_t> PeerOf(const Descriptor &connected);
 
 /// A non-blocking stream socket that listens at `path`; none, with errno set, on failure.
 Descriptor ListenUnixSocket(const std::string &path);

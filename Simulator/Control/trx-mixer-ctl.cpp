@@ -15,6 +15,7 @@
 #include "ControlAddress.h"
 #include "ControlClient.h"
 #include "Environment.h"
+#include "SimulatedEnvironment.h"
 #include "UsageFormatter.h"
 
 namespace {
@@ -31,11 +32,14 @@ constexpr const char *kExamples =
     "  trx-mixer-ctl help                        every command of the simulator\n"
     "  trx-mixer-ctl run -- bash                 a shell in which the mixers are plugged in\n"
     "\n"
-    "Exit codes: 0 done, 1 refused by the simulator, 2 usage, 3 no simulator reachable;\n"
+    "Exit codes: 0 done, 1 refused by the simulator, 2 usage, 3 no simulator of this user;\n"
     "run: that of the program, 126 or 127 if it cannot be started.\n";
 
-int RunProgram(trxsim::ControlClient &simulator, std::vector<std::string> words) {
-  std::vector<std::string> environment = trxsim::EnvironmentWith(simulator.Ask("environment"));
+int RunProgram(const std::string &socket, std::vector<std::string> words) {
+  trxsim::ControlClient simulator(socket);
+  const trxsim::Environment additions = simulator.Ask("environment");
+  trxsim::RequireExpectedEnvironment(additions, socket);
+  std::vector<std::string> environment = trxsim::EnvironmentWith(additions);
   const std::vector<char *> variables = trxsim::ExecVector(environment);
   const std::vector<char *> arguments = trxsim::ExecVector(words);
   execvpe(arguments[0], arguments.data(), variables.data());
@@ -48,13 +52,14 @@ int Print(const std::vector<std::string> &lines) {
   return kDone;
 }
 
-int SendCommand(trxsim::ControlClient &simulator, const std::vector<std::string> &words) {
+int SendCommand(const std::string &socket, const std::vector<std::string> &words) {
+  trxsim::ControlClient simulator(socket);
   std::string command;
   for (const std::string &word : words) command += (command.empty() ? "" : " ") + word;
   return Print(simulator.Ask(command));
 }
 
-int Talk(const std::string &socket, std::vector<std::string> words) {
+int Talk(const std::string &given, std::vector<std::string> words) {
   if (words == std::vector<std::string>{"help"}) return Print(trxsim::CommandHelp());
   const bool run = words[0] == "run";
   if (run) {
@@ -65,8 +70,8 @@ int Talk(const std::string &socket, std::vector<std::string> words) {
     std::fprintf(stderr, "trx-mixer-ctl: run what? For example: trx-mixer-ctl run -- bash\n");
     return kUsage;
   }
-  trxsim::ControlClient simulator(socket);
-  return run ? RunProgram(simulator, std::move(words)) : SendCommand(simulator, words);
+  const std::string socket = given.empty() ? trxsim::ClientControlSocket() : given;
+  return run ? RunProgram(socket, std::move(words)) : SendCommand(socket, words);
 }
 
 int RunTool(int argc, char **argv) {
@@ -75,10 +80,11 @@ int RunTool(int argc, char **argv) {
       std::make_shared<trxsim::UsageFormatter>("trx-mixer-ctl [OPTIONS] COMMAND [ARGUMENT...]"));
   app.footer(kExamples);
   app.prefix_command();
-  std::string socket = trxsim::ClientControlSocket();
-  app.add_option("--control", socket, "control socket of the simulator")
-      ->type_name("SOCKET")
-      ->capture_default_str();
+  std::string socket;
+  app.add_option("--control", socket,
+                 "control socket of the simulator; without this, that of the simulator in which "
+                 "this program runs, or the usual one of the user")
+      ->type_name("SOCKET");
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError &error) {
@@ -99,6 +105,9 @@ int RunTool(int argc, char **argv) {
 int main(int argc, char **argv) {
   try {
     return RunTool(argc, argv);
+  } catch (const trxsim::SimulatorNotTrusted &failure) {
+    std::fprintf(stderr, "trx-mixer-ctl: %s\n", failure.what());
+    return kUnreachable;
   } catch (const trxsim::SimulatorUnreachable &failure) {
     std::fprintf(stderr,
                  "trx-mixer-ctl: %s\n"

@@ -15,10 +15,10 @@
 
 #include "../Control/CommandArguments.h"
 #include "../Control/CommandInterpreter.h"
-#include "../Control/ControlAddress.h"
 #include "../Control/ControlServer.h"
 #include "../Control/ControlSocket.h"
 #include "../Control/Environment.h"
+#include "../Control/SimulatedEnvironment.h"
 #include "../Control/UnitKindText.h"
 #include "../Control/UsageFormatter.h"
 #include "../Model/Desk.h"
@@ -33,9 +33,6 @@ enum ExitCode { kUsage = 2, kSimulatorFailed = 125 };
 
 // A socket path must fit in 107 bytes, and that of a mixer takes some 50 below this folder.
 constexpr std::size_t kLongestTemporaryFolder = 50;
-
-// Shows programs the testbed; found where the dynamic linker looks.
-constexpr const char *kPreload = "libumockdev-preload.so.0";
 
 constexpr const char *kExamples =
     "Examples:\n"
@@ -62,18 +59,6 @@ struct Options {
   std::vector<std::string> command;
 };
 
-/// Folder with what this program brings along for the commands it runs.
-std::string CompanionFolder() {
-  const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe");
-  return (program.parent_path() / TRX_SIM_COMPANION_FOLDER).lexically_normal();
-}
-
-std::string ControlEntry(const std::string &socket) {
-  return std::string(trxsim::kControlVariable) + '=' + socket;
-}
-
-std::string GuardPath() { return CompanionFolder() + "/libtrx-mixer-sim-guard.so"; }
-
 /// The dynamic linker only warns of a library that it cannot preload, and the command would see
 /// the machine's own bus.
 void RequirePreloadable(const std::string &library, const char *package) {
@@ -83,17 +68,6 @@ void RequirePreloadable(const std::string &library, const char *package) {
                              "; it comes with " + package);
   }
   dlclose(handle);
-}
-
-/// What a process needs to find mixers that only it is to see.
-trxsim::Environment SimulatedEnvironment(const std::string &testbed, const std::string &control) {
-  return {
-      "LD_PRELOAD=" + GuardPath() + ':' + kPreload,
-      "UMOCKDEV_DIR=" + testbed,
-      ControlEntry(control),
-      // The address sanitizer wants to be loaded first, which it need not be for these libraries.
-      "ASAN_OPTIONS=verify_asan_link_order=0",
-  };
 }
 
 trxsim::WireLog::Sink OpenWireLog(const std::string &path) {
@@ -152,18 +126,19 @@ int Simulate(const Options &options, const trxsim::ControlSocket &control, Front
 
 /// On a bus that only the command and its children see.
 int SimulateForCommand(const Options &options, const trxsim::ControlSocket &control) {
-  RequirePreloadable(GuardPath(), "trx-mixer-sim");
-  RequirePreloadable(kPreload, "the package libumockdev0");
+  RequirePreloadable(trxsim::GuardPath(), "trx-mixer-sim");
+  RequirePreloadable(trxsim::kPreload, "the package libumockdev0");
   KeepTemporaryFolderShort();
   trxsim::UmockdevFrontEnd frontEnd;
-  const trxsim::Environment additions = SimulatedEnvironment(frontEnd.RootFolder(), control.Path());
+  const trxsim::Environment additions =
+      trxsim::SimulatedEnvironment(frontEnd.RootFolder(), control.Path());
   return Simulate(options, control, frontEnd, additions);
 }
 
 /// On the buses of the running kernel.
 int SimulateForMachine(const Options &options, const trxsim::ControlSocket &control) {
   trxsim::UsbipFrontEnd frontEnd;
-  return Simulate(options, control, frontEnd, {ControlEntry(control.Path())});
+  return Simulate(options, control, frontEnd, {trxsim::ControlEntry(control.Path())});
 }
 
 int Simulate(const Options &options) {

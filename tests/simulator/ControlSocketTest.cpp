@@ -2,12 +2,16 @@
 
 #include <thread>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/socket.h>
 
+#include "Control/ControlAddress.h"
 #include "Control/ControlClient.h"
 #include "Control/ControlServer.h"
 #include "Control/ControlSocket.h"
+#include "Control/SimulatedEnvironment.h"
 #include "MakerIds.h"
 #include "RecordingFrontEnd.h"
 #include "TemporaryFolder.h"
@@ -171,6 +175,61 @@ TEST(ControlSocketFile, WithAPathThatCannotBeIsRefused) {
   const TemporaryFolder folder;
   EXPECT_THROW(ControlSocket::At(folder / "none/control.sock"), ControlSocketError);
   EXPECT_THROW(ControlSocket::At(folder / std::string(200, 'x')), ControlSocketError);
+}
+
+/// The simulator's answer to "environment", checked by a client.
+class SimulatorAnswers : public testing::Test {
+ protected:
+  SimulatorAnswers() { std::filesystem::create_directory(testbed); }
+
+  std::string Refusal(const Environment &answer) {
+    try {
+      RequireExpectedEnvironment(answer, socket.Path());
+      return {};
+    } catch (const SimulatorNotTrusted &refusal) {
+      return refusal.what();
+    }
+  }
+
+  TemporaryFolder folder;
+  const std::string testbed = folder / "testbed";
+  ControlSocket socket = ControlSocket::At(folder / "control.sock");
+  const std::string from = "the simulator at " + socket.Path() + " gives ";
+};
+
+TEST_F(SimulatorAnswers, AreTakenWhenTheyAreASimulators) {
+  EXPECT_EQ(Refusal(SimulatedEnvironment(testbed, socket.Path())), "");
+  EXPECT_EQ(Refusal({ControlEntry(socket.Path())}), "");
+}
+
+TEST_F(SimulatorAnswers, AreRefusedWithAnyOtherVariable) {
+  for (const char *entry : {"PATH=/tmp", "LD_AUDIT=/tmp/x.so", "LD_PRELOAD2=x", "LD_PRELOAD", "",
+                            "=", "ld_preload=x", "UMOCKDEV_DI=/", "\x1b[2J=1"}) {
+    EXPECT_EQ(Refusal({entry}), from + "a variable that programs do not need") << entry;
+  }
+}
+
+TEST_F(SimulatorAnswers, AreRefusedWithAnyOtherValue) {
+  std::filesystem::create_directory(folder / "shared");
+  std::filesystem::permissions(folder / "shared", std::filesystem::perms::all);
+  std::filesystem::create_directory_symlink(testbed, folder / "link");
+  const std::string expected = GuardPath() + ":libumockdev-preload.so.0";
+  const std::pair<std::string, Lines> values[] = {
+      {"LD_PRELOAD",
+       {"", "/tmp/x.so", GuardPath(), expected + ":/tmp/x.so", "/tmp/x.so:" + expected}},
+      {"UMOCKDEV_DIR",
+       {"", "testbed", folder / "none", folder / "shared", folder / "link",
+        folder / "control.sock"}},
+      {"TRX_MIXER_SIM_CONTROL", {"", "control.sock", folder / "none.sock", testbed}},
+      {"ASAN_OPTIONS", {"", "log_path=/tmp/x", "verify_asan_link_order=0:log_path=/tmp/x"}}};
+  for (const auto &[name, bad] : values) {
+    for (const std::string &value : bad) {
+      EXPECT_EQ(Refusal({ControlEntry(socket.Path()), name + '=' + value}),
+                from + "an unexpected value for " + name +
+                    "; use the trx-mixer-ctl of the same installation")
+          << value;
+    }
+  }
 }
 
 TEST(ControlClients, SayWhenNobodyAnswers) {
