@@ -1,8 +1,10 @@
 #include "ControlSocket.h"
 
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <filesystem>
+#include <thread>
 
 #include <fcntl.h>
 #include <stdlib.h>
@@ -35,11 +37,23 @@ void RemoveDeadSocket(const std::string &path) {
   unlink(path.c_str());
 }
 
+// A simulator holds the lock for some microseconds. In a shared folder any user can hold it for
+// ever; whoever waits longer than this waits for no simulator and goes on without.
+void WaitForLock(const Descriptor &folder) {
+  constexpr std::chrono::milliseconds kPause(10);
+  constexpr int kTries = 100;
+  for (int tried = 0; tried < kTries; ++tried) {
+    if (flock(folder.Get(), LOCK_EX | LOCK_NB) == 0) return;
+    std::this_thread::sleep_for(kPause);
+  }
+}
+
 // Two simulators that start at once must not take the same file for a dead one; the lock on the
 // folder orders them and leaves nothing behind.
 Descriptor Claim(const std::string &path) {
   const Descriptor folder(open(FolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (!folder || flock(folder.Get(), LOCK_EX) != 0) Fail(path);
+  if (!folder) Fail(path);
+  WaitForLock(folder);
   RemoveDeadSocket(path);
   Descriptor listener = ListenUnixSocket(path);
   if (!listener) Fail(path);

@@ -171,6 +171,14 @@ TEST(ControlSocketFile, IsNeverMadeFromAnotherFile) {
   EXPECT_TRUE(std::filesystem::is_directory(folder / "precious"));
 }
 
+TEST(ControlSocketFile, IsMadeEvenWhileAnotherProgramLocksItsFolder) {
+  const TemporaryFolder folder;
+  const Descriptor other(open(folder.Path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  ASSERT_EQ(flock(other.Get(), LOCK_EX), 0);
+  const ControlSocket controlSocket = ControlSocket::At(folder / "control.sock");
+  EXPECT_TRUE(ConnectUnixSocket(folder / "control.sock"));
+}
+
 TEST(ControlSocketFile, WithAPathThatCannotBeIsRefused) {
   const TemporaryFolder folder;
   EXPECT_THROW(ControlSocket::At(folder / "none/control.sock"), ControlSocketError);
