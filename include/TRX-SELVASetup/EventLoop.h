@@ -1,14 +1,8 @@
 /*
  * TRX-SELVASetup on Linux: how notifications reach the host's event loop.
  *
- * The library starts no thread, so the host's own loop watches one descriptor and calls one
- * function:
- *
- *     struct pollfd loop = {-1, POLLIN, 0};
- *     ORV_GetNotificationDescriptor(&loop.fd);
- *     for (;;) {
- *       if (poll(&loop, 1, -1) > 0) ORV_DispatchNotifications();
- *     }
+ * The library starts no thread. The host's own loop watches one descriptor for reading and calls
+ * one function when it is readable. docs/host-writers.md shows this with poll, GLib and Qt.
  */
 #ifndef TRX_SELVASETUP_EVENT_LOOP_H
 #define TRX_SELVASETUP_EVENT_LOOP_H

@@ -1,62 +1,38 @@
 /*
  * TRX-SELVASetup: read and change the settings of the USB DJ mixers of the TRX-SELVA family.
  *
- * A complete host for Linux. It sets the boost level on every connected mixer, waits for the
- * announcement of that change (its own, like anybody else's) and prints it:
+ * README.md shows a complete host. docs/host-writers.md has the event loop, threads, examples for
+ * GLib, Qt and Python, and a table of what each model offers.
  *
- *     #include <poll.h>
- *     #include <stdio.h>
- *     #include <TRX-SELVASetup/EventLoop.h>
- *     #include <TRX-SELVASetup/TRX-SELVASetup.h>
+ * Rules for every function:
  *
- *     static void boost_changed(int32_t index, void *context) {
- *       ORVStringRef text = "";
- *       ORV_GetBoostLevelText(ORV_PRODUCT_TRX_SELVA, (uint32_t)index, 0, &text);
- *       printf("boost level is now %s\n", text);
- *       *(int *)context = 1;
- *     }
- *
- *     int main(void) {
- *       int told = 0;
- *       struct pollfd loop = {-1, POLLIN, 0};
- *       ORV_RegisterBoostLevelChangedCallback(ORV_PRODUCT_TRX_SELVA, boost_changed, &told);
- *       ORV_SetBoostLevelIndex(ORV_PRODUCT_TRX_SELVA, 1);
- *       ORV_GetNotificationDescriptor(&loop.fd);
- *       for (int turn = 0; !told && turn < 50; turn++) {
- *         poll(&loop, 1, 100);
- *         ORV_DispatchNotifications();
- *       }
- *       return told ? 0 : 1;
- *     }
- *
- * Build it with: cc host.c $(pkg-config --cflags --libs TRX-SELVASetup)
- *
- * What holds for every function
- *
- * - Each call is synchronous, on the caller's thread. The library starts no thread, takes no lock,
- *   keeps no mixer open between calls and caches nothing. What it keeps, on Linux, is connections
- *   to the session bus: one for each thread that has set something, one for what is received.
- * - A call takes as long as the mixers take to answer: up to 5 seconds for each request that a
- *   mixer leaves without one. On Linux, a session bus that hangs is waited for once, for 5 seconds.
- * - The result is always a StatusCode. Arguments are checked first, result pointers before
- *   anything else; when a check fails the call answers ORV_BAD_ARGUMENT and has done nothing,
- *   unless its description says otherwise.
- * - A mixer that cannot be opened or that refuses a request is passed over in silence, and so is a
- *   settings file that cannot be written: such failures never change the result.
- * - The mixers addressed are all connected ones, whichever ProductId is passed. The ProductId
- *   selects texts, bounds, the settings file and the name of the announcement.
+ * - A call runs on the caller's thread and returns when everything is done. The library starts no
+ *   thread, takes no lock, keeps no mixer open between calls and caches nothing. On Linux it keeps
+ *   connections to the session bus: one for each thread that has set something, one that receives.
+ * - A call waits up to 5 seconds for each request that a mixer does not answer. On Linux it also
+ *   waits, once and up to 5 seconds, for a session bus that does not answer.
+ * - The result is a StatusCode. Arguments are checked first, result pointers before all others.
+ *   When a check fails, the call returns ORV_BAD_ARGUMENT and has done nothing, unless its
+ *   description says otherwise.
+ * - A mixer that cannot be opened or that refuses a request is skipped. A settings file that cannot
+ *   be written is left as it is. Neither changes a result; Diagnostics.h reports the requests.
+ * - A call addresses all connected mixers, whichever ProductId it names. The ProductId selects
+ *   texts, bounds, the settings file and the name of the announcement.
  * - Functions may run on several threads at once. The Register and Unregister functions belong to
- *   the one thread that also receives the notifications (on Linux: the one that calls
- *   ORV_DispatchNotifications, see EventLoop.h; on macOS: the main thread, with its run loop). Of
- *   two settings of one model that are stored at the very same time, on two threads or in two
+ *   the receiving thread: on Linux the one that calls ORV_DispatchNotifications (EventLoop.h), on
+ *   macOS the main thread with its run loop.
+ * - Of two settings of one model that are stored at the very same time, on two threads or in two
  *   processes, one may be lost from the file.
- * - Texts handed out belong to the library, stay valid and unchanged for the life of the process,
- *   and are never freed by the host.
+ * - Texts that the library gives out belong to it. They stay valid and unchanged for the life of
+ *   the process; the host never frees them.
  */
 #ifndef TRX_SELVASETUP_TRX_SELVASETUP_H
 #define TRX_SELVASETUP_TRX_SELVASETUP_H
 
 #include <stdint.h>
+
+/** The version of this header: major * 10000 + minor * 100 + patch. Since 1.0. */
+#define TRX_SELVASETUP_VERSION 10000
 
 #if defined(__APPLE__)
 #include <CoreFoundation/CFString.h>
@@ -72,12 +48,11 @@
 extern "C" {
 #endif
 
-/** The number of a mixer model; one of the ORV_PRODUCT_ values. Compared as an unsigned number.
- * Since 1.0. */
+/** The number of a mixer model: one of the ORV_PRODUCT_ values. Since 1.0. */
 typedef uint32_t ProductId;
 
-/** The models. TRX_BRISK, TRC_FENNO and TRX_CIRRUS are recognised by name only: every function
- * refuses them. Since 1.0. */
+/** The models. ORV_GetProductId recognises TRX_BRISK, TRC_FENNO and TRX_CIRRUS; every other
+ * function refuses them. Since 1.0. */
 enum {
   ORV_PRODUCT_TRX_ARDEN = 0,
   ORV_PRODUCT_TRX_VOLT = 1,
@@ -90,14 +65,15 @@ enum {
   ORV_PRODUCT_TRX_SELVA = 11
 };
 
-/** What a function answers; one of the ORV_ status values below. Since 1.0. */
+/** The result of a function: one of the ORV_ status values below. Since 1.0. */
 typedef int32_t StatusCode;
 
 /** The status values. Since 1.0. */
 enum {
   /** Done; also when no mixer is connected and there was nothing to do. */
   ORV_SUCCESS = 100,
-  /** Done, but the state of the mixer does not let it take effect as asked: show the warning. */
+  /** Done, but the position of the mixer's input selector keeps it from taking effect, or there is
+     no mixer to ask: show the warning text. */
   ORV_SUCCESS_WITH_WARNING = 101,
   /** A null result pointer, a model that the function does not serve, a number out of range, or a
      reply out of range. */
@@ -109,12 +85,12 @@ enum {
 };
 
 /**
- * A text: UTF-8, ended by a zero byte (on macOS the platform's string object, a CFStringRef or
- * NSString). Text results belong to the library, stay valid and unchanged for the life of the
- * process, and are neither freed, nor released, nor changed by the host. Since 1.0.
+ * A text: UTF-8, ended by a zero byte; on macOS the platform's string object, a CFStringRef or
+ * NSString. Texts from the library belong to it and stay valid and unchanged for the life of the
+ * process. The host does not free, release or change them. Since 1.0.
  *
- * A library built over another implementation of Foundation hands out string objects as on macOS;
- * its hosts are compiled with ORV_TEXT_IS_CFSTRING defined.
+ * A library built over another implementation of Foundation gives out string objects as on macOS.
+ * Its hosts are compiled with ORV_TEXT_IS_CFSTRING defined.
  */
 #if defined(__APPLE__)
 typedef CFStringRef ORVStringRef;
@@ -125,25 +101,25 @@ typedef const char *ORVStringRef;
 #endif
 
 /**
- * Told of a change of a setting that has a channel.
+ * Called after a change of a setting that has channels.
  *
  * @param channel  the channel, 0-based.
  * @param index    the index now chosen for that channel.
- * @param context  the pointer given at registration, unchanged.
+ * @param context  the pointer given at registration.
  *
- * Runs on the thread that delivers notifications, never inside the call that made the change. No
- * exception may leave it. Since 1.0.
+ * Runs on the receiving thread, never inside the call that made the change. It must not throw.
+ * Since 1.0.
  */
 typedef void (*ChannelIndexCallback)(int32_t channel, int32_t index, void *context);
 
 /**
- * Told of a change of a setting without a channel.
+ * Called after a change of a setting without channels.
  *
  * @param index    the index now chosen.
- * @param context  the pointer given at registration, unchanged.
+ * @param context  the pointer given at registration.
  *
- * Runs on the thread that delivers notifications, never inside the call that made the change. No
- * exception may leave it. Since 1.0.
+ * Runs on the receiving thread, never inside the call that made the change. It must not throw.
+ * Since 1.0.
  */
 typedef void (*IndexCallback)(int32_t index, void *context);
 
@@ -155,10 +131,10 @@ typedef void (*IndexCallback)(int32_t index, void *context);
 /**
  * Turns the name of a model into its ProductId.
  *
- * The name may stand between other words and in any case: "my trx-selva mixer" is
+ * Other words around the name are ignored, and so is case: "my trx-selva mixer" is
  * ORV_PRODUCT_TRX_SELVA.
  *
- * @param name       the text to look at; stays the caller's.
+ * @param name       the text to search; stays the caller's.
  * @param productId  receives the model; untouched unless the result is ORV_SUCCESS.
  * @return ORV_SUCCESS; ORV_BAD_ARGUMENT when a pointer is null or the text names no model.
  *
@@ -184,8 +160,8 @@ ORV_EXPORT StatusCode ORV_IsUSBConnection(ProductId productId);
  */
 
 /**
- * Gives the certify level of the mixers. With several mixers, that of the last one that could be
- * opened.
+ * Gives the certify level that the mixers report: a number whose meaning is not known. With several
+ * mixers, that of the last one that could be opened.
  *
  * @param productId  TRX_HALDEN (always 0, without asking a mixer), TRX_LUMEN, TRX_MORROW or
  *     TRX_SELVA.
@@ -211,16 +187,15 @@ ORV_EXPORT StatusCode ORV_GetFirmwareVersionIndex(ProductId productId, uint32_t 
 
 /**
  * Gives the position of a mixer channel's input selector. With several mixers, that of the last one
- * that could be opened.
+ * that could be opened. Known are 6 and 7 on TRX_SELVA, the positions for the mixer's USB ports.
  *
  * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
  * @param channel    the mixer channel: 0 to 3 for TRX_ARDEN, 0 to 2 for TRX_VOLT, 0 to 4 for the
- *     others. The mixers report no position for the last of them (2 and 4; TRX_ARDEN reports all):
- *     it reads as 0.
+ *     others. Mixers other than TRX_ARDEN do not report the last one (2 or 4): it reads as 0.
  * @param selector   receives the position, 0 to 7; untouched when no mixer could be opened.
  * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null selector, another model or channel (selector
- *     untouched), and when a mixer reports a position of 8 or more (selector holds it; the mixers
- *     behind it are not asked).
+ *     untouched), and when a mixer reports a position of 8 or more (selector holds it; the
+ *     remaining mixers are not asked).
  *
  * Any thread. Since 1.0.
  */
@@ -231,11 +206,11 @@ ORV_EXPORT StatusCode ORV_GetMixerInputSelectorStatus(ProductId productId, uint3
  * Tells whether Serato is active on the mixers. With several mixers, on the last one that could be
  * opened.
  *
- * @param productId  TRX_ARDEN, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA; TRX_VOLT is refused
- *     as soon as a mixer can be opened, and accepted before.
+ * @param productId  TRX_ARDEN, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA. TRX_VOLT is refused
+ *     when a mixer can be opened, and accepted otherwise.
  * @param active     receives 1 or 0; untouched when no mixer could be opened.
  * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null pointer or another model, and when a mixer does
- *     not answer or reports 2 or more (active untouched by that mixer; the mixers behind it are
+ *     not answer or reports 2 or more (that mixer does not change active; the remaining ones are
  *     not asked).
  *
  * Any thread. Since 1.0.
@@ -245,7 +220,7 @@ ORV_EXPORT StatusCode ORV_GetMixerSeratoActiveStatus(ProductId productId, uint32
 /** @} */
 
 /**
- * @name USB input audio: which mixer signal each channel that the computer records carries
+ * @name USB input audio: which mixer signal the computer records on each recording channel
  * @{
  */
 
@@ -270,8 +245,8 @@ ORV_EXPORT StatusCode ORV_GetNumOfInputAudioIndex(ProductId productId, int32_t c
  * @param channel    the recording channel: 0 to 3 for TRX_ARDEN, 0 to 2 for TRX_VOLT, 0 to 4 for
  *     the others.
  * @param index      the choice: below 8 for TRX_ARDEN; below 2 (channels 0 and 1) or 6 (channel 2)
- *     for TRX_VOLT; below 9 (channels 0 to 3) or 10 (channel 4) for the others, where numbers past
- *     a channel's own choices give the text that follows in the tables.
+ *     for TRX_VOLT; below 9 (channels 0 to 3) or 10 (channel 4) for the others. An index past a
+ *     channel's own choices gives the text that comes next in the library's tables.
  * @param reserved   ignored.
  * @param text       receives the text; the library's own, for the life of the process.
  * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null text, another model, channel or index (text
@@ -283,16 +258,16 @@ ORV_EXPORT StatusCode ORV_GetUSBInputAudioText(ProductId productId, int32_t chan
                                                uint32_t reserved, ORVStringRef *text);
 
 /**
- * Chooses the signal of a recording channel: sends it to every connected mixer, stores it,
- * announces it, then looks at the input selectors of the mixers.
+ * Chooses the signal of a recording channel: sends the choice to every connected mixer, stores and
+ * announces it, then reads the input selectors of the mixers.
  *
  * @param productId  TRX_SELVA.
  * @param channel    the recording channel, 0 to 2.
  * @param index      the choice: below 8 for channels 0 and 1, below 7 for channel 2.
  * @return ORV_SUCCESS. ORV_SUCCESS_WITH_WARNING when all was done, but a control tone (index 0 or
- *     1) was chosen and a mixer's input selector of that channel stands elsewhere; without a
- *     mixer, for index 0 to 2: show the text of ORV_GetWarningTextForSetUSBAudioInput.
- *     ORV_BAD_ARGUMENT for another model, channel or index (nothing done).
+ *     1) was chosen and a mixer's input selector of that channel is in neither position 6 nor 7;
+ *     without a mixer, for index 0 to 2. ORV_GetWarningTextForSetUSBAudioInput has the text to
+ *     show. ORV_BAD_ARGUMENT for another model, channel or index (nothing done).
  *
  * Any thread. Since 1.0.
  */
@@ -305,14 +280,14 @@ ORV_EXPORT StatusCode ORV_SetUSBInputAudio(ProductId productId, int32_t channel,
  * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
  * @param channel    the recording channel: 0 to 3 for TRX_ARDEN, 0 to 2 for TRX_VOLT, 0 to 4 for
  *     the others.
- * @param group      the number for bits 12 to 15 of the value, less 1; -1 leaves them 0. Not
- *     checked.
+ * @param group      bits 12 to 15 of the value, minus 1; not checked. What a mixer does with these
+ *     bits is not known. -1 leaves them 0, as in all values of ORV_SetUSBInputAudio.
  * @param source     the mixer's code for the signal: below 4 for channels 0 and 1 of TRX_VOLT,
  *     else below 16.
  * @return ORV_SUCCESS. ORV_SUCCESS_WITH_WARNING when the value was sent, but a mixer's input
- *     selector of that channel stands elsewhere (source below 4; TRX_VOLT: channels 0 and 1);
- *     without a mixer, for source below 3 (TRX_VOLT: always). ORV_BAD_ARGUMENT for another model,
- *     channel or source (nothing sent).
+ *     selector of that channel is not in position 4 (source below 4) or, for channels 0 and 1 of
+ *     TRX_VOLT, 2; without a mixer, for source below 3 (TRX_VOLT: always). ORV_BAD_ARGUMENT for
+ *     another model, channel or source (nothing sent).
  *
  * Any thread. Since 1.0.
  */
@@ -320,14 +295,14 @@ ORV_EXPORT StatusCode ORV_SetUSBInputAudioDirect(ProductId productId, int32_t ch
                                                  int32_t group, uint32_t source);
 
 /**
- * Gives the choice stored last for a recording channel, by any process.
+ * Gives the stored choice of a recording channel, whichever process stored it.
  *
  * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
  * @param channel    the recording channel: 0 to 3 for TRX_ARDEN, 0 to 2 for TRX_VOLT, 0 to 5 for
  *     the others.
  * @param index      receives the stored index. When none is stored: 3 for TRX_ARDEN; 1 (channels 0
  *     and 1) or 5 (channel 2) for TRX_VOLT; 0 for the others. Always 0 for channel 5. A stored
- *     number that is no choice is handed out unchanged.
+ *     number that is no choice is given unchanged.
  * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null index, another model or channel (index
  *     untouched).
  *
@@ -338,24 +313,25 @@ ORV_EXPORT StatusCode ORV_GetCurrentUSBInputAudioIndex(ProductId productId, int3
 
 /**
  * Sends the stored choice of a recording channel to every connected mixer again. Stores and
- * announces nothing and does not look at the input selectors.
+ * announces nothing and does not read the input selectors.
  *
  * @param productId  TRX_SELVA.
  * @param channel    the recording channel, 0 to 2.
  * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model or
- *     channel, and when the stored number leads past the routing table (nothing sent).
+ *     channel, and when the stored number is past the end of the routing table (nothing sent).
  *
  * Any thread. Since 1.0.
  */
 ORV_EXPORT StatusCode ORV_SetCurrentUSBInputAudio(ProductId productId, int32_t channel);
 
 /**
- * Gives the text to show when an input routing setter answered ORV_SUCCESS_WITH_WARNING: what is
- * going on and what to do on the mixer.
+ * Gives the text to show when an input routing setter returned ORV_SUCCESS_WITH_WARNING: what the
+ * matter is and what to do on the mixer.
  *
  * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
  * @param channel    the recording channel: 0 to 3; 0 to 2 for TRX_VOLT; 0 to 4 for TRX_HALDEN.
- * @param status     what the setter answered; only ORV_SUCCESS_WITH_WARNING has a text.
+ *     Channel 4 of other models has no text, although ORV_SetUSBInputAudioDirect accepts it.
+ * @param status     the result of the setter; only ORV_SUCCESS_WITH_WARNING has a text.
  * @param language   0 English, 1 Japanese, 2 French, 3 German, 4 Italian, 5 Dutch, 6 Spanish, 7
  *     Russian, 8 Portuguese, 9 Chinese (simplified), 10 Chinese (traditional), 11 Korean, 99 the
  *     language of the user's system. The text for "no mixer connected" always comes in the
@@ -375,7 +351,7 @@ ORV_EXPORT StatusCode ORV_GetWarningTextForSetUSBAudioInput(ProductId productId,
 /** @} */
 
 /**
- * @name USB output audio: which mixer channel each channel that the computer plays is assigned to
+ * @name USB output audio: which mixer channel each playback channel of the computer is assigned to
  * @{
  */
 
@@ -411,12 +387,12 @@ ORV_EXPORT StatusCode ORV_GetUSBOutputAudioText(ProductId productId, int32_t cha
                                                 ORVStringRef *text);
 
 /**
- * Assigns a playback channel: sends the assignment to every connected mixer, stores it, announces
- * it, then asks each mixer for its input selectors.
+ * Assigns a playback channel: sends the assignment to every connected mixer, stores and announces
+ * it, then reads the input selectors of the mixers.
  *
  * @param productId  TRX_SELVA.
  * @param channel    the playback channel, 0 to 2. Channels 3 and 4 are accepted, stored and
- *     announced too; the mixers are sent 0 for them.
+ *     announced too; for them the mixers get 0.
  * @param index      the choice, 0 to 2.
  * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model, channel
  *     or index (nothing done).
@@ -426,13 +402,13 @@ ORV_EXPORT StatusCode ORV_GetUSBOutputAudioText(ProductId productId, int32_t cha
 ORV_EXPORT StatusCode ORV_SetUSBOutputAudio(ProductId productId, int32_t channel, uint32_t index);
 
 /**
- * Assigns a playback channel to its default for the time being: channel 0 to "CH1", 1 to "CH2", 2
- * to "AUX". Sends and announces it and asks each mixer for its input selectors, but stores nothing:
- * the user's choice stays.
+ * Assigns a playback channel to its default until further notice: channel 0 to "CH1", 1 to "CH2", 2
+ * to "AUX". Sends and announces it and reads the input selectors of the mixers, but stores nothing:
+ * the user's choice stays in the file.
  *
  * @param productId  TRX_SELVA.
- * @param channel    the playback channel, 0 to 2. For channels 3 and 4 the mixers are sent 0, and
- *     index 0 is announced.
+ * @param channel    the playback channel, 0 to 2. For channels 3 and 4 the mixers get 0, and index
+ *     0 is announced.
  * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model or channel
  *     (nothing done).
  *
@@ -441,12 +417,12 @@ ORV_EXPORT StatusCode ORV_SetUSBOutputAudio(ProductId productId, int32_t channel
 ORV_EXPORT StatusCode ORV_SetUSBOutputAudioDefault(ProductId productId, int32_t channel);
 
 /**
- * Gives the assignment stored last for a playback channel, by any process.
+ * Gives the stored assignment of a playback channel, whichever process stored it.
  *
  * @param productId  TRX_SELVA.
  * @param channel    the playback channel, 0 to 2.
  * @param index      receives the stored index, the channel's own number when none is stored. A
- *     stored number that is no choice is handed out unchanged.
+ *     stored number that is no choice is given unchanged.
  * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null index, another model or channel (index
  *     untouched).
  *
@@ -461,8 +437,9 @@ ORV_EXPORT StatusCode ORV_GetCurrentUSBOutputAudioIndex(ProductId productId, int
  *
  * @param productId  TRX_SELVA.
  * @param channel    the playback channel, 0 to 2.
- * @return ORV_SUCCESS, whatever the mixers answered, and also when the stored number leads past
- *     the assignment table (nothing is sent then); ORV_BAD_ARGUMENT for another model or channel.
+ * @return ORV_SUCCESS, whatever the mixers answered, and also when the stored number is past the
+ *     end of the assignment table (nothing is sent then); ORV_BAD_ARGUMENT for another model or
+ *     channel.
  *
  * Any thread. Since 1.0.
  */
@@ -503,8 +480,8 @@ ORV_EXPORT StatusCode ORV_GetBoostLevelText(ProductId productId, uint32_t index,
 
 /**
  * Sets the boost level: sends it to every connected mixer, stores it in the model's settings file
- * and announces it to every process of the user. All three happen also when the level is the one
- * already set; the last two also when no mixer is connected.
+ * and announces it to every process of the user. It does so even if the level is the one already
+ * set, and stores and announces even if no mixer is connected.
  *
  * @param productId  as for ORV_GetNumOfBoostLevelIndex.
  * @param index      the level, 0 (loudest) to 3 (quietest).
@@ -516,11 +493,11 @@ ORV_EXPORT StatusCode ORV_GetBoostLevelText(ProductId productId, uint32_t index,
 ORV_EXPORT StatusCode ORV_SetBoostLevelIndex(ProductId productId, uint32_t index);
 
 /**
- * Gives the boost level stored last, by any process.
+ * Gives the stored boost level, whichever process stored it.
  *
  * @param productId  as for ORV_GetNumOfBoostLevelIndex.
  * @param index      receives the stored level, 3 when none is stored. A stored number that is no
- *     level (written by another program) is handed out unchanged.
+ *     level (written by another program) is given unchanged.
  * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null index or another model (index untouched).
  *
  * Any thread. Since 1.0.
@@ -584,11 +561,11 @@ ORV_EXPORT StatusCode ORV_GetMidiChannelText(ProductId productId, uint32_t index
 ORV_EXPORT StatusCode ORV_SetMidiChannelIndex(ProductId productId, uint32_t index);
 
 /**
- * Gives the MIDI channel stored last, by any process.
+ * Gives the stored MIDI channel, whichever process stored it.
  *
  * @param productId  TRX_VOLT.
  * @param index      receives the stored channel, 0 when none is stored. A stored number that is no
- *     channel is handed out unchanged.
+ *     channel is given unchanged.
  * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null index or another model (index untouched).
  *
  * Any thread. Since 1.0.
@@ -597,7 +574,7 @@ ORV_EXPORT StatusCode ORV_GetCurrentMidiChannelIndex(ProductId productId, int32_
 
 /**
  * Sends the stored MIDI channel (0 when none is stored) to every connected mixer again. Stores and
- * announces nothing.
+ * announces nothing. Only the first four channels can be sent again.
  *
  * @param productId  TRX_VOLT.
  * @return ORV_SUCCESS, whatever the mixers answered; ORV_BAD_ARGUMENT for another model, and when
@@ -610,12 +587,12 @@ ORV_EXPORT StatusCode ORV_SetCurrentMidiChannelIndex(ProductId productId);
 /** @} */
 
 /**
- * @name MIDI key mode: part of the interface, offered by no model
+ * @name MIDI key mode: no model has one, so all of these functions return ORV_BAD_ARGUMENT
  * @{
  */
 
 /**
- * Would tell how many key modes there are.
+ * No model has key modes to count.
  *
  * @param productId  any.
  * @param count      untouched.
@@ -626,7 +603,7 @@ ORV_EXPORT StatusCode ORV_SetCurrentMidiChannelIndex(ProductId productId);
 ORV_EXPORT StatusCode ORV_GetNumOfMidiKeyModeIndex(ProductId productId, uint32_t *count);
 
 /**
- * Would give the text of a key mode.
+ * No model has a key mode with a text.
  *
  * @param productId  any.
  * @param index      ignored.
@@ -640,7 +617,7 @@ ORV_EXPORT StatusCode ORV_GetMidiKeyModeText(ProductId productId, uint32_t index
                                              ORVStringRef *text);
 
 /**
- * Would set the key mode.
+ * No model has a key mode to set.
  *
  * @param productId  any.
  * @param index      ignored.
@@ -651,7 +628,7 @@ ORV_EXPORT StatusCode ORV_GetMidiKeyModeText(ProductId productId, uint32_t index
 ORV_EXPORT StatusCode ORV_SetMidiKeyModeIndex(ProductId productId, uint32_t index);
 
 /**
- * Would give the stored key mode.
+ * No model has a stored key mode.
  *
  * @param productId  any.
  * @param index      untouched.
@@ -662,7 +639,7 @@ ORV_EXPORT StatusCode ORV_SetMidiKeyModeIndex(ProductId productId, uint32_t inde
 ORV_EXPORT StatusCode ORV_GetCurrentMidiKeyModeIndex(ProductId productId, int32_t *index);
 
 /**
- * Would send the stored key mode again.
+ * No model has a key mode to send again.
  *
  * @param productId  any.
  * @return ORV_BAD_ARGUMENT, always; nothing sent.
@@ -676,10 +653,9 @@ ORV_EXPORT StatusCode ORV_SetCurrentMidiKeyModeIndex(ProductId productId);
 /**
  * @name Version texts of what is installed
  *
- * Each is read from an installed file at each call. On Linux the files lie below the system root:
- * the folder named by the environment variable TRX_SYSTEM_ROOT (ignored in a set-user-id process),
- * else the one of the installation. A version that is no text, such as a number, counts as missing,
- * since a host could do nothing with a number in a text's place.
+ * Each call reads an installed file. On Linux the files are below the system root: the folder named
+ * by the environment variable TRX_SYSTEM_ROOT (ignored in a set-user-id process), else that of the
+ * installation. A version that is not a text, such as a number, counts as missing.
  * @{
  */
 
@@ -696,7 +672,7 @@ ORV_EXPORT StatusCode ORV_SetCurrentMidiKeyModeIndex(ProductId productId);
 ORV_EXPORT StatusCode ORV_GetPkgVersionText(ProductId productId, ORVStringRef *text);
 
 /**
- * Gives the version of a model's installed audio driver. Linux needs none: the answer there is
+ * Gives the version of a model's installed audio driver. Linux needs none and returns
  * ORV_BAD_ARGUMENT.
  *
  * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
@@ -721,7 +697,7 @@ ORV_EXPORT StatusCode ORV_GetDriverVersionText(ProductId productId, ORVStringRef
 ORV_EXPORT StatusCode ORV_GetUtilityVersionText(ProductId productId, ORVStringRef *text);
 
 /**
- * Gives the version of the installed library, which need not be the copy that answers.
+ * Gives the version of the installed library, which may differ from the copy that is running.
  *
  * @param productId  TRX_SELVA.
  * @param text       receives the version; the library's own, for the life of the process.
@@ -737,13 +713,15 @@ ORV_EXPORT StatusCode ORV_GetLibraryVersionText(ProductId productId, ORVStringRe
 /**
  * @name Change callbacks
  *
- * Every setter announces its change to every process of the user, its own included. A host learns
- * of it through the callback that it registered for that kind of setting and that model; there is
- * one callback a kind and model, the one registered last. Each successful Register call adds one
- * delivery: after n of them the callback runs n times for each change. Unregister empties the place
- * of the callback; a later Register fills it again.
+ * Every setter announces its change to every process of the user, its own included. The library
+ * then calls the callback registered for that kind of setting and that model. There is one callback
+ * for each kind and model: the one registered last.
  *
- * All of these belong to the one thread that receives the notifications.
+ * Register once for each kind and model in a process. Each successful Register call adds one
+ * delivery: after n of them the callback runs n times for each change. Unregister removes the
+ * callback, not the deliveries: after it, one more Register makes the callback run n + 1 times.
+ *
+ * All of these functions belong to the receiving thread.
  * @{
  */
 
@@ -752,7 +730,7 @@ ORV_EXPORT StatusCode ORV_GetLibraryVersionText(ProductId productId, ORVStringRe
  *
  * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
  * @param callback   called with channel, index and context; null is accepted and calls nothing.
- * @param context    handed back to the callback; stays the host's.
+ * @param context    passed to the callback; stays the host's.
  * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model
  *     (nothing changed).
  *
@@ -780,7 +758,7 @@ ORV_EXPORT StatusCode ORV_UnregisterInputAudioChangedCallback(ProductId productI
  *
  * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
  * @param callback   called with channel, index and context; null is accepted and calls nothing.
- * @param context    handed back to the callback; stays the host's.
+ * @param context    passed to the callback; stays the host's.
  * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model
  *     (nothing changed).
  *
@@ -808,7 +786,7 @@ ORV_EXPORT StatusCode ORV_UnregisterOutputAudioChangedCallback(ProductId product
  *
  * @param productId  TRX_ARDEN, TRX_VOLT, TRX_HALDEN, TRX_LUMEN, TRX_MORROW or TRX_SELVA.
  * @param callback   called with index and context; null is accepted and calls nothing.
- * @param context    handed back to the callback; stays the host's.
+ * @param context    passed to the callback; stays the host's.
  * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model
  *     (nothing changed).
  *
@@ -835,7 +813,7 @@ ORV_EXPORT StatusCode ORV_UnregisterBoostLevelChangedCallback(ProductId productI
  *
  * @param productId  TRX_VOLT.
  * @param callback   called with index and context; null is accepted and calls nothing.
- * @param context    handed back to the callback; stays the host's.
+ * @param context    passed to the callback; stays the host's.
  * @return ORV_SUCCESS, also when there is no session bus; ORV_BAD_ARGUMENT for another model
  *     (nothing changed).
  *
@@ -858,7 +836,7 @@ ORV_EXPORT StatusCode ORV_UnregisterMidiChannelChangedCallback(ProductId product
                                                                IndexCallback callback);
 
 /**
- * Would register a callback for changes of the MIDI key mode; no model offers a key mode.
+ * No model has a key mode whose changes could be announced.
  *
  * @param productId  any.
  * @param callback   ignored.
@@ -871,7 +849,7 @@ ORV_EXPORT StatusCode ORV_RegisterMidiKeyModeChangedCallback(ProductId productId
                                                              IndexCallback callback, void *context);
 
 /**
- * Would remove the callback for changes of the MIDI key mode; no model offers a key mode.
+ * No model has a key mode whose changes could be announced.
  *
  * @param productId  any.
  * @param callback   ignored.
