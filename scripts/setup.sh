@@ -17,7 +17,8 @@ test_packages=(
   "${bench_packages[@]}"
   libgtest-dev libgmock-dev
   clang libclang-rt-dev dbus-bin doxygen locales binutils util-linux procps
-  libglib2.0-bin mandoc zsh fish libgnustep-base-dev gnustep-base-runtime gobjc qemu-system-x86
+  libglib2.0-bin mandoc zsh fish libgnustep-base-dev gnustep-base-runtime gobjc
+  libudev-dev qt6-base-dev qemu-system-x86
   busybox-static cpio zstd lz4 abigail-tools mmdebstrap debian-archive-keyring uidmap lintian
 )
 
@@ -55,3 +56,23 @@ build_preset() {
   cmake --preset "$1" -DBUILD_TESTING="$2" --log-level=WARNING >/dev/null
   cmake --build --preset "$1"
 }
+
+# Runs a command on software mixers, as many as the first argument says, with the programs of the release build. Bus, settings and
+# runtime folder are made for the occasion.
+on_software_mixers() (
+  units=$1
+  shift
+  stage=$(mktemp -d)
+  trap 'rm -rf "$stage"' EXIT
+
+  # The bus's own remarks, such as that it may not raise its descriptor limit, are shown only when something fails.
+  # shellcheck disable=SC2016
+  env XDG_CONFIG_HOME="$stage/settings" XDG_RUNTIME_DIR="$stage" \
+    PATH="$PWD/build/release/bin:$PATH" TRX_SYSTEM_ROOT="$PWD/build/release/share/orvikaudio" \
+    dbus-run-session -- bash -c 'exec "$@" 2>&3 3>&-' session \
+    trx-mixer-sim --units "$units" -- "$@" 3>&2 2>"$stage/bus" || {
+    status=$?
+    cat "$stage/bus" >&2
+    exit "$status"
+  }
+)

@@ -38,6 +38,7 @@
 #include <CoreFoundation/CFString.h>
 #endif
 
+/** Marks the functions that the library exports. Since 1.0. */
 #if defined(__GNUC__)
 #define ORV_EXPORT __attribute__((visibility("default")))
 #else

@@ -1,9 +1,9 @@
 #!/bin/sh
-# Builds the hosts with the line that is told to host writers. Arguments: compiler, installation, folder for the programs,
-# sources. CFLAGS are used as well.
+# Builds hosts with the build lines that the documentation gives. Arguments: C compiler, C++ compiler, installation, folder for
+# the programs, sources. CFLAGS and CXXFLAGS are used as well.
 set -eu
-compiler=$1 installation=$2 programs=$3
-shift 3
+c_compiler=$1 cpp_compiler=$2 installation=$3 programs=$4
+shift 4
 
 description=$(find "$installation" -name TRX-SELVASetup.pc)
 PKG_CONFIG_PATH=$(dirname "$description")${PKG_CONFIG_PATH:+:$PKG_CONFIG_PATH}
@@ -11,9 +11,16 @@ export PKG_CONFIG_PATH
 
 mkdir -p "$programs"
 for source in "$@"; do
-  others=
-  if grep -q glib "$source"; then others=$(pkg-config --cflags --libs glib-2.0); fi
+  name=$(basename "$source") modules=TRX-SELVASetup
+  case $name in
+    poll-host.c) modules="$modules libudev" ;;
+    glib-host.c) modules="$modules libudev glib-2.0" ;;
+    qt-host.cpp) modules="$modules libudev Qt6Core" ;;
+  esac
+  case $name in
+    *.c) build="$c_compiler ${CFLAGS-}" ;;
+    *.cpp) build="$cpp_compiler ${CXXFLAGS-} -fPIC" ;;
+  esac
   # shellcheck disable=SC2046,SC2086
-  "$compiler" ${CFLAGS-} -o "$programs/$(basename "$source" .c)" "$source" \
-    $(pkg-config --cflags --libs TRX-SELVASetup) $others
+  $build -o "$programs/${name%.*}" "$source" $(pkg-config --cflags --libs $modules)
 done

@@ -123,7 +123,7 @@ class HostTest(unittest.TestCase):
     def assert_stored(self, settings):
         self.assertEqual(plistlib.loads(self.settings_file.read_bytes()), settings)
 
-    def assert_sets_the_level_and_is_told(self, command):
+    def assert_sets_the_level_and_hears_of_it(self, command):
         ended = self.run_host(command)
         self.assertEqual((ended.returncode, ended.stdout, ended.stderr),
                          (0, "boost level is now -10 dB\n", ""))
@@ -131,14 +131,14 @@ class HostTest(unittest.TestCase):
         self.assert_stored({"MaxLevel": 1})
 
 
-class HostOfTheHeader(HostTest):
-    """The program with which TRX-SELVASetup.h opens."""
+class HostOfTheReadme(HostTest):
+    """The program that README.md shows."""
 
-    def test_built_with_the_build_line_it_sets_the_level_and_is_told(self):
-        self.assert_sets_the_level_and_is_told(self.installed(BUILT_BY_BUILD_LINE / "header-host"))
+    def test_built_with_the_build_line_it_sets_the_level_and_hears_of_it(self):
+        self.assert_sets_the_level_and_hears_of_it(self.installed(BUILT_BY_BUILD_LINE / "my-host"))
 
-    def test_built_with_find_package_it_sets_the_level_and_is_told(self):
-        self.assert_sets_the_level_and_is_told(self.installed(BUILT_BY_CMAKE / "my-host"))
+    def test_built_with_find_package_it_sets_the_level_and_hears_of_it(self):
+        self.assert_sets_the_level_and_hears_of_it(self.installed(BUILT_BY_CMAKE / "my-host"))
 
 
 class HostThatExits(HostTest):
@@ -158,51 +158,86 @@ class HostThatUnloads(HostTest):
 
 
 class HostInPython(HostTest):
-    def test_it_sets_the_level_and_is_told(self):
-        self.assert_sets_the_level_and_is_told([sys.executable, str(EXAMPLES / "python-host.py")])
+    def test_it_sets_the_level_and_hears_of_it(self):
+        self.assert_sets_the_level_and_hears_of_it([sys.executable, str(EXAMPLES / "python-host.py")])
 
 
-class HostOnPoll(HostTest):
-    def test_it_sends_what_is_typed_and_is_told(self):
-        host = self.start(self.installed(BUILT_BY_BUILD_LINE / "poll-host"))
+class EventLoopTests:
+    """What the host named `name` does on each event loop."""
+
+    def start_host(self):
+        return self.start(self.installed(BUILT_BY_BUILD_LINE / self.name))
+
+    def test_it_sends_what_is_typed_and_hears_of_it(self):
+        host = self.start_host()
         host.type(b"0\n")
         self.assertEqual(host.line(), "boost level: -5 dB")
         self.assert_on_the_wire(("0300", "8003"))
         self.assert_stored({"MaxLevel": 0})
         self.assertEqual(host.end_of_input(), (0, b""))
 
-    def test_it_is_told_what_another_process_sets(self):
-        host = self.start(self.installed(BUILT_BY_BUILD_LINE / "poll-host"))
+    def test_it_sends_the_stored_settings_to_a_mixer_that_is_plugged_in(self):
+        self.run_host([str(BUILT_BY_BUILD_LINE / "input-host"), "5"])
+        self.run_host([str(BUILT_BY_BUILD_LINE / "my-host")])
+        host = self.start_host()
+        mixer("unplug", "1")
+        mixer("log", "clear")
+        mixer("replug", "1")
+        self.assertEqual(host.line(), "settings sent to the new mixer")
+        self.assert_on_the_wire(("0109", "8002"), ("0100", "8016"),
+                                ("0203", "8002"), ("0201", "8016"),
+                                ("030a", "8002"), ("0304", "8016"),
+                                ("0200", "8003"))
+        self.assertEqual(host.end_of_input(), (0, b""))
+
+
+class HostOnPoll(EventLoopTests, HostTest):
+    name = "poll-host"
+
+    def test_it_hears_what_another_process_sets(self):
+        host = self.start_host()
         self.run_host([str(BUILT_BY_BUILD_LINE / "input-host"), "7"])
         self.assertEqual(host.line(), "recording channel 1: REC OUT")
-        self.run_host([str(BUILT_BY_BUILD_LINE / "header-host")])
+        self.run_host([str(BUILT_BY_BUILD_LINE / "my-host")])
         self.assertEqual(host.line(), "boost level: -10 dB")
         self.assertEqual(host.end_of_input(), (0, b""))
 
     def test_without_a_session_bus_it_sends_and_stores_all_the_same(self):
         self.env["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=/nowhere"
-        host = self.start(self.installed(BUILT_BY_BUILD_LINE / "poll-host"))
+        host = self.start_host()
         host.type(b"0\n")
         self.assertEqual(host.end_of_input(), (0, b""))
         self.assert_on_the_wire(("0300", "8003"))
         self.assert_stored({"MaxLevel": 0})
 
 
-class HostOnGLib(HostTest):
-    def test_it_sends_what_is_typed_and_is_told(self):
-        host = self.start(self.installed(BUILT_BY_BUILD_LINE / "glib-host"))
-        host.type(b"3\n")
-        self.assertEqual(host.line(), "boost level: -19 dB")
-        self.assert_on_the_wire(("0000", "8003"))
-        self.assert_stored({"MaxLevel": 3})
-        self.assertEqual(host.end_of_input(), (0, b""))
+class HostOnGLib(EventLoopTests, HostTest):
+    name = "glib-host"
 
-    def test_it_is_told_what_is_announced_without_the_library(self):
-        host = self.start(self.installed(BUILT_BY_BUILD_LINE / "glib-host"))
+    def test_it_hears_what_is_announced_without_the_library(self):
+        host = self.start_host()
         subprocess.run(["sh", "-e", str(EXAMPLES / "announce.sh")], check=True, timeout=PATIENCE)
         self.assertEqual(host.line(), "boost level: -15 dB")
         self.assert_on_the_wire()
         self.assertEqual(host.end_of_input(), (0, b""))
+
+
+class HostOnQt(EventLoopTests, HostTest):
+    name = "qt-host"
+
+
+class HostThatReports(HostTest):
+    def report(self):
+        return self.run_host(self.installed(BUILT_BY_BUILD_LINE / "report-host")).stdout
+
+    def test_it_prints_who_took_the_setting_and_where_it_is_stored(self):
+        self.assertRegex(self.report(), "^bus 1, address [0-9]+: done\n"
+                                        f"taken by 1\nstored in {re.escape(str(self.settings_file))}\n$")
+
+    def test_it_prints_that_the_mixer_refused(self):
+        mixer("fault", "1", "stall")
+        self.addCleanup(mixer, "clear", "1")
+        self.assertRegex(self.report(), "^bus 1, address [0-9]+: refused\ntaken by 0\nstored in ")
 
 
 class HostWithInputMenu(HostTest):
