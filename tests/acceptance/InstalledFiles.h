@@ -5,6 +5,9 @@
 #include <fstream>
 #include <string>
 
+#include <sys/inotify.h>
+#include <unistd.h>
+
 #include "Acceptance.h"
 
 namespace trxtest {
@@ -40,6 +43,18 @@ class InstalledFiles : public Acceptance {
     const std::string folder = rig().SystemRoot() + framework;
     std::filesystem::create_directory_symlink("A", folder + "/Versions/Current");
     std::filesystem::create_directory_symlink("Versions/Current/Resources", folder + "/Resources");
+  }
+
+  /// Whether an installed file is opened while `call` runs.
+  template <typename Call>
+  bool IsOpenedBy(const std::string &path, Call call) {
+    const int watch = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    EXPECT_NE(inotify_add_watch(watch, (rig().SystemRoot() + path).c_str(), IN_OPEN), -1);
+    call();
+    inotify_event event = {};
+    const bool isOpened = read(watch, &event, sizeof event) == ssize_t{sizeof event};
+    close(watch);
+    return isOpened;
   }
 
   void Uninstall(const std::string &path) {

@@ -1,4 +1,5 @@
 // USB input audio: which mixer signal each of the channels that the computer records carries.
+// docs/compatibility.md has the reasons for bounds and thresholds that differ between functions.
 #include <array>
 #include <span>
 
@@ -79,8 +80,8 @@ constexpr std::array<std::int32_t, 48> TRXHALDEN_TEXT = {
     0,  0,  0,
 };
 
-// Hosts may ask for more than TRXLUMEN_TEXT holds, and have always been answered from TRXMID_TEXT,
-// which follows it: the two are one sequence.
+// Hosts may ask for more than TRXLUMEN_TEXT holds and are answered from TRXMID_TEXT, which follows
+// it: docs/compatibility.md. So the two are one sequence.
 constexpr std::size_t kLumenEntries = 24;
 constexpr std::size_t kMidEntries = 20;
 constexpr std::array<std::int32_t, kLumenEntries + kMidEntries> kLumenThenMid = {
@@ -108,7 +109,7 @@ struct TextTable {
   ProductSet models;
   std::span<const std::int32_t> entries;
   std::uint32_t width;
-  LimitPerChannel accepted;  // looser than the rows for the models with control tones
+  LimitPerChannel accepted;  // looser than the rows: docs/compatibility.md
 };
 
 constexpr std::array<TextTable, 4> kTextTables = {{

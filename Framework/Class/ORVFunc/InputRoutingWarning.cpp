@@ -41,7 +41,7 @@ constexpr const char *kWithoutUnit = "WARNING1";
 constexpr std::uint32_t kPortWithOwnWarning = 1;
 
 // The port of the first unit; 0 when it cannot be read. A unit of a model without warnings by port
-// is opened all the same, as hosts are used to, but not asked.
+// is opened all the same, but not asked: docs/compatibility.md.
 std::uint32_t PortOfFirstUnit(const Warned &row) {
   std::uint32_t port = 0;
   VisitUnits(1, [&](DeviceHandle unit) {
@@ -78,8 +78,8 @@ std::string BundlePath() {
                         : "/System/Library/Frameworks/TRX-SELVASetup.framework");
 }
 
-// Without a unit there is no telling in which language the host is used: the system's is the safe
-// one.
+// Without a unit the text comes in the system's language, whichever is named:
+// docs/compatibility.md.
 ORVStringRef WarningText(const std::string &bundlePath, const std::string &key,
                          std::int32_t language) {
   if (language == kSystemLanguage || key == kWithoutUnit) {
@@ -91,8 +91,7 @@ ORVStringRef WarningText(const std::string &bundlePath, const std::string &key,
 
 }  // namespace
 
-// The bundle is looked for even for a language that is then refused: who traces a host sees the
-// same accesses for every language.
+// The bundle is looked for even for a language that is then refused: docs/compatibility.md.
 StatusCode ORV_GetWarningTextForSetUSBAudioInput(ProductId productId, int32_t channel,
                                                  StatusCode status, int32_t language,
                                                  ORVStringRef *text) {

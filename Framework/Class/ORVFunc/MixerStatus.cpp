@@ -15,7 +15,7 @@ namespace {
 constexpr ProductSet kCertifiedModels = {ORV_PRODUCT_TRX_HALDEN, ORV_PRODUCT_TRX_LUMEN,
                                          ORV_PRODUCT_TRX_MORROW, ORV_PRODUCT_TRX_SELVA};
 
-// TRX-HALDEN is answered, but not asked: its level is always 0.
+// TRX-HALDEN is answered, but not asked: its level is always 0, docs/compatibility.md.
 constexpr ProductSet kModelsAskedForCertifyLevel = {ORV_PRODUCT_TRX_LUMEN, ORV_PRODUCT_TRX_MORROW,
                                                     ORV_PRODUCT_TRX_SELVA};
 
@@ -101,7 +101,7 @@ StatusCode ORV_GetMixerSeratoActiveStatus(ProductId productId, uint32_t *active)
   StatusCode status = ORV_SUCCESS;
   VisitUnits(CheckUSBAudio(productId), [&](DeviceHandle unit) {
     std::array<std::uint8_t, 2> reply = {0xFF, 0xFF};
-    // TRX-VOLT knows no Serato: it is refused, though not before a unit is there to be asked.
+    // TRX-VOLT knows no Serato: it is refused once a unit opens, docs/compatibility.md.
     if (!kVoltOnly.Contains(productId)) GetSeratoActiveInfo(unit, reply.data(), reply.size());
     if (reply[0] >= kSeratoStates) {
       status = ORV_BAD_ARGUMENT;

@@ -1,5 +1,5 @@
 // USB output audio: which mixer channel each of the channels that the computer plays is assigned
-// to.
+// to. docs/compatibility.md has the reasons for bounds that differ between functions.
 #include <array>
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
@@ -21,8 +21,8 @@ constexpr std::uint32_t kChoicesWithText = 4;
 
 constexpr std::array<const char *, 4> OutputAudioText = {"CH1", "CH2", "AUX", nullptr};
 
-// Places in OutputAudioText, a row a channel. A text is asked for with one index more than a row
-// holds, which reads on into the next row: hence the fourth.
+// Places in OutputAudioText, a row a channel. Hosts may ask for one index more than a row holds,
+// which reads on into the next row: hence the fourth.
 constexpr std::array<std::int32_t, 12> TRXSELVA_OUT_TEXT = {
     0, 1, 2,  //
     0, 1, 2,  //
@@ -54,8 +54,7 @@ std::int32_t Apply(ProductId productId, std::int32_t channel, std::uint32_t inde
   return ApplyToEveryUnit(productId, SetMixerInputSetting, value != nullptr ? *value : 0);
 }
 
-// The mixers expect to be asked for their selectors after a routing change; the answer does not
-// matter.
+// The answer does not matter: docs/compatibility.md.
 void ReadBack(std::int32_t unitCount) {
   VisitUnits(unitCount, [](DeviceHandle unit) {
     std::array<std::uint8_t, 4> selectors = {};

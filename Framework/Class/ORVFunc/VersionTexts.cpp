@@ -52,7 +52,7 @@ StatusCode ORV_GetPkgVersionText(ProductId productId, ORVStringRef *text) {
   });
 }
 
-// The system's version is looked at even for a model that is then refused.
+// The system's version is looked at even for a model that is then refused: docs/compatibility.md.
 StatusCode ORV_GetDriverVersionText(ProductId productId, ORVStringRef *text) {
   if (text == nullptr) return ORV_BAD_ARGUMENT;
   return UnlessOutOfMemory<StatusCode>(ORV_BAD_ARGUMENT, [&]() -> StatusCode {

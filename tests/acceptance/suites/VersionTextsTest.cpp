@@ -124,6 +124,36 @@ TEST_F(VersionTexts, OtherModelsAndANullResultAreRefusedEvenWhenTheFilesAreThere
   }
 }
 
+// --- What is looked at first -----------------------------------------------------------------
+
+TEST_F(VersionTexts, TheDriverLooksAtTheSystemEvenForAModelThatIsThenRefused) {
+  InstallSystem("10.15");
+  for (const ProductId product : {0U, 2U, 11U, 12U, 0xFFFFFFFFU}) {
+    EXPECT_TRUE(IsOpenedBy(kSystem, [&] { Ask(ORV_GetDriverVersionText, product); })) << product;
+  }
+  EXPECT_FALSE(IsOpenedBy(kSystem, [] { ORV_GetDriverVersionText(11, nullptr); }));
+}
+
+TEST_F(VersionTexts, TheLibraryRefusesAModelBeforeItLooksAtTheSystem) {
+  InstallSystem("10.15");
+  for (const ProductId product : {0U, 1U, 2U, 8U, 12U, 0xFFFFFFFFU}) {
+    EXPECT_FALSE(IsOpenedBy(kSystem, [&] { Ask(ORV_GetLibraryVersionText, product); })) << product;
+  }
+  EXPECT_FALSE(IsOpenedBy(kSystem, [] { ORV_GetLibraryVersionText(11, nullptr); }));
+  EXPECT_TRUE(IsOpenedBy(kSystem, [] { Ask(ORV_GetLibraryVersionText, 11); }));
+}
+
+TEST_F(VersionTexts, TheOthersRefuseAModelBeforeTheyLookAtAnything) {
+  InstallSystem("10.15");
+  Install(kReceipt, "<key>PackageVersion</key><string>1</string>");
+  EXPECT_FALSE(IsOpenedBy(kReceipt, [] { Ask(ORV_GetPkgVersionText, 0); }));
+  EXPECT_FALSE(IsOpenedBy(kReceipt, [] { ORV_GetPkgVersionText(11, nullptr); }));
+  EXPECT_TRUE(IsOpenedBy(kReceipt, [] { Ask(ORV_GetPkgVersionText, 11); }));
+  InstallInfo(kSelvaSetup, "1", "1");
+  EXPECT_FALSE(IsOpenedBy(kSelvaSetup, [] { ORV_GetUtilityVersionText(11, nullptr); }));
+  EXPECT_FALSE(IsOpenedBy(kSystem, [] { Ask(ORV_GetUtilityVersionText, 11); }));
+}
+
 // --- Which system counts as a later one ------------------------------------------------------
 
 TEST_F(VersionTexts, ASystemIsALaterOneWhenItsSecondNumberIsAboveTen) {
