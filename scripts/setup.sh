@@ -23,7 +23,7 @@ test_packages=(
 )
 
 package_packages=(
-  dpkg-dev fakeroot file binutils help2man gzip
+  dpkg-dev fakeroot file binutils gzip
 )
 
 lint_packages=(
