@@ -24,7 +24,8 @@
 /// Observes a kind of change that came to the library later and has no operation above.
 @interface ORVKindObserver : NSObject {
  @public
-  const orv::ChangeKind<IndexCallback> *kind;
+  const void *kind;
+  void (*receive)(const void *kind, NSNotification *notification);
 }
 - (void)changed:(NSNotification *)notification;
 @end
@@ -66,7 +67,7 @@ void Receive(const orv::ChangeKind<Callback> &kind, NSNotification *notification
 
 @implementation ORVKindObserver
 - (void)changed:(NSNotification *)notification {
-  Receive(*kind, notification);
+  receive(kind, notification);
 }
 @end
 
@@ -81,34 +82,48 @@ ORVFunc *TheObserver() {
   return observer;
 }
 
-ORVKindObserver *ObserverOf(const ChangeKind<IndexCallback> &kind) {
+template <typename Callback>
+ORVKindObserver *ObserverOf(const ChangeKind<Callback> &kind) {
   ORVKindObserver *const observer =
       UnlessRaised<ORVKindObserver *>(nil, [] { return [ORVKindObserver alloc]; });
-  if (observer != nil) observer->kind = &kind;
+  if (observer == nil) return nil;
+  observer->kind = &kind;
+  observer->receive = [](const void *received, NSNotification *notification) {
+    Receive(*static_cast<const ChangeKind<Callback> *>(received), notification);
+  };
   return observer;
 }
 
-void AddHandler(const std::string &name, NotificationHandler handler) {
-  if (handler.observer != nil) AddObserver(name, handler);
+// Null for a kind that has no operation.
+SEL OperationFor(const ChangeKind<ChannelIndexCallback> &kind) {
+  if (&kind == &inputAudioChange) return @selector(inputAudioChanged:);
+  if (&kind == &outputAudioChange) return @selector(outputAudioChanged:);
+  return nullptr;
+}
+
+SEL OperationFor(const ChangeKind<IndexCallback> &kind) {
+  if (&kind == &boostLevel.change) return @selector(boostLevelChanged:);
+  if (&kind == &midiChannel.change) return @selector(midiChannelChanged:);
+  if (&kind == &midiKeyMode.change) return @selector(midiKeyModeChanged:);
+  return nullptr;
+}
+
+template <typename Callback>
+void AddObservation(const std::string &name, const ChangeKind<Callback> &kind) noexcept {
+  const SEL operation = OperationFor(kind);
+  const id observer = operation != nullptr ? id{TheObserver()} : id{ObserverOf(kind)};
+  if (observer == nil) return;
+  AddObserver(name, { observer, operation != nullptr ? operation : @selector(changed:) });
 }
 
 }  // namespace
 
 void Observe(const std::string &name, ChangeKind<ChannelIndexCallback> &kind) noexcept {
-  AddHandler(name, {
-    TheObserver(),
-        &kind == &inputAudioChange ? @selector(inputAudioChanged:) : @selector(outputAudioChanged:)
-  });
+  AddObservation(name, kind);
 }
 
 void Observe(const std::string &name, ChangeKind<IndexCallback> &kind) noexcept {
-  if (&kind == &boostLevel.change) {
-    AddHandler(name, { TheObserver(), @selector(boostLevelChanged:) });
-  } else if (&kind == &midiChannel.change) {
-    AddHandler(name, { TheObserver(), @selector(midiChannelChanged:) });
-  } else {
-    AddHandler(name, { ObserverOf(kind), @selector(changed:) });
-  }
+  AddObservation(name, kind);
 }
 
 }  // namespace orv
