@@ -52,7 +52,9 @@ class RequestReports : public Acceptance {
   static void Note(const ORVRequestReport *report, void *context) {
     auto *const self = static_cast<RequestReports *>(context);
     self->reports_.push_back(self->UnitOf(*report) + ' ' + LineOf(*report));
-    if (self->action_) self->action_();
+    // A copy: an action may put another in its place.
+    const auto action = self->action_;
+    if (action) action();
   }
 
  private:

@@ -65,9 +65,8 @@ class Rig {
   /// Where a plugged unit is.
   virtual UnitPlace PlaceOf(int unit) = 0;
 
-  /// Whether a unit that vanishes in a request is off the bus by the time that the request has
-  /// ended. Otherwise it may be there a moment longer, as one that takes no requests.
-  virtual bool VanishedUnitsAreForgottenAtOnce() { return true; }
+  /// Whether a unit that vanishes in a call leaves the others their places until the call ends.
+  virtual bool PlacesHoldInACall() { return true; }
   /// @}
 
   /// @name What a mixer reports. At the start 4 channels, all bytes 0, firmware 0x0100, certify

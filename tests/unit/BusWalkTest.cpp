@@ -15,8 +15,8 @@
 namespace orv {
 namespace {
 
+using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::UnorderedElementsAre;
 
 using Address = std::pair<int, int>;
 
@@ -24,8 +24,9 @@ class BusWalk : public testing::Test {
  protected:
   static std::vector<Address> Units() {
     std::vector<Address> addresses;
-    for (const UnitAddress &unit : ConnectedUnits()) addresses.emplace_back(unit.bus, unit.device);
-    EXPECT_EQ(CheckUSBAudio(11), static_cast<std::int32_t>(addresses.size()));
+    for (const UnitAddress &unit : LookAtBus()) addresses.emplace_back(unit.bus, unit.device);
+    BusLook look;
+    EXPECT_EQ(CheckUSBAudio(11, &look), static_cast<std::int32_t>(addresses.size()));
     return addresses;
   }
 
@@ -47,22 +48,31 @@ TEST_F(BusWalk, FindsEveryMixer) {
   bus_.PlugMixer("1-2", 1, 5);
   bus_.PlugMixer("1-2.4", 1, 12);
   bus_.PlugMixer("3-1.1.4", 3, 127);
-  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5), Address(1, 12), Address(3, 127)));
+  EXPECT_THAT(Units(), ElementsAre(Address(1, 5), Address(1, 12), Address(3, 127)));
+}
+
+TEST_F(BusWalk, GivesTheOrderOfTheBusWhateverTheOrderOfTheFolder) {
+  bus_.PlugMixer("10-1", 10, 2);
+  bus_.PlugMixer("2-1", 2, 10);
+  bus_.PlugMixer("2-3", 2, 9);
+  bus_.PlugMixer("1-9", 1, 100);
+  EXPECT_THAT(Units(), ElementsAre(Address(1, 100), Address(2, 9), Address(2, 10), Address(10, 2)));
 }
 
 TEST_F(BusWalk, LooksAfreshEachTime) {
   bus_.PlugMixer("1-2", 1, 5);
-  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5)));
+  EXPECT_THAT(Units(), ElementsAre(Address(1, 5)));
   bus_.PlugMixer("1-3", 1, 6);
-  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5), Address(1, 6)));
+  EXPECT_THAT(Units(), ElementsAre(Address(1, 5), Address(1, 6)));
   bus_.Unlist("1-2");
-  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 6)));
+  EXPECT_THAT(Units(), ElementsAre(Address(1, 6)));
 }
 
 TEST_F(BusWalk, FindsTheSameForEveryModel) {
   bus_.PlugMixer("1-2", 1, 5);
   for (const ProductId productId : {0U, 1U, 2U, 11U, 12U, 0xFFFFFFFFU}) {
-    EXPECT_EQ(CheckUSBAudio(productId), 1);
+    BusLook look;
+    EXPECT_EQ(CheckUSBAudio(productId, &look), 1);
   }
 }
 
@@ -78,7 +88,7 @@ TEST_F(BusWalk, PassesOverDevicesOfOtherMakersAndModels) {
     bus_.List("1-" + std::to_string(port), Summary(product, "001", "0" + std::to_string(port)));
     ++port;
   }
-  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5)));
+  EXPECT_THAT(Units(), ElementsAre(Address(1, 5)));
 }
 
 TEST_F(BusWalk, PassesOverRootHubsAndInterfacesWhateverTheirIds) {
@@ -88,7 +98,7 @@ TEST_F(BusWalk, PassesOverRootHubsAndInterfacesWhateverTheirIds) {
   bus_.List("1-2:1.0", MixerSummary(1, 5));
   bus_.List("1-0:1.0", MixerSummary(1, 1));
   bus_.List("1-2.4:1.3", MixerSummary(1, 6));
-  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5)));
+  EXPECT_THAT(Units(), ElementsAre(Address(1, 5)));
 }
 
 TEST_F(BusWalk, FindsMixersAmongMoreEntriesThanTheKernelHandsOutAtOnce) {
@@ -103,13 +113,13 @@ TEST_F(BusWalk, PassesOverEntriesThatAreGone) {
   bus_.ListDangling("1-1");
   bus_.PlugMixer("1-2", 1, 5);
   bus_.ListDangling("1-3");
-  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5)));
+  EXPECT_THAT(Units(), ElementsAre(Address(1, 5)));
 }
 
 TEST_F(BusWalk, PassesOverEntriesWithoutASummary) {
   bus_.ListWithoutSummary("1-1");
   bus_.PlugMixer("1-2", 1, 5);
-  EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5)));
+  EXPECT_THAT(Units(), ElementsAre(Address(1, 5)));
 }
 
 TEST_F(BusWalk, PassesOverSummariesThatMakeNoSense) {
@@ -158,7 +168,7 @@ TEST_F(BusWalk, PassesOverSummariesThatMakeNoSense) {
   };
   for (const std::string &summary : summaries) {
     bus_.List("1-9", summary);
-    EXPECT_THAT(Units(), UnorderedElementsAre(Address(1, 5))) << '"' << summary << '"';
+    EXPECT_THAT(Units(), ElementsAre(Address(1, 5))) << '"' << summary << '"';
     bus_.Unlist("1-9");
   }
 }
@@ -166,7 +176,7 @@ TEST_F(BusWalk, PassesOverSummariesThatMakeNoSense) {
 TEST_F(BusWalk, ReadsASummaryInAnyOrderAndWithoutALastLineEnd) {
   bus_.List("1-2", "DEVNUM=009\nBUSNUM=002\nANYTHING=else\nPRODUCT=" + Vendor() + "/1f/100");
   bus_.List("1-3", "PRODUCT=" + Vendor() + "/1f/100\nBUSNUM=3\nDEVNUM=10");
-  EXPECT_THAT(Units(), UnorderedElementsAre(Address(2, 9), Address(3, 10)));
+  EXPECT_THAT(Units(), ElementsAre(Address(2, 9), Address(3, 10)));
 }
 
 TEST_F(BusWalk, FindsAMixerBehindManyOtherDevices) {
@@ -174,7 +184,7 @@ TEST_F(BusWalk, FindsAMixerBehindManyOtherDevices) {
     bus_.List("2-" + std::to_string(i), Summary("1d6b/2/601", "002", std::to_string(i)));
   }
   bus_.PlugMixer("9-9", 9, 9);
-  EXPECT_THAT(Units(), UnorderedElementsAre(Address(9, 9)));
+  EXPECT_THAT(Units(), ElementsAre(Address(9, 9)));
 }
 
 // A number must not be taken for another because the rest of it was not read.

@@ -35,44 +35,67 @@ class VisitOfAllUnits : public testing::Test {
     bus_.PlugMixer("1-3", 1, 4);
   }
 
-  // The units that a visit of the first `count` reaches.
-  static std::vector<std::string> Visited(std::int32_t count) {
+  // The units that a visit reaches.
+  static std::vector<std::string> Visited(const ConnectedUnits &units) {
     std::vector<std::string> visited;
-    VisitUnits(count, [&](DeviceHandle unit) {
+    VisitUnits(units, [&](DeviceHandle unit) {
       visited.push_back(NodeBehind(unit));
       return Visit::kNext;
     });
     return visited;
   }
 
+  static std::vector<std::string> Visited() { return Visited(ConnectedUnits(11)); }
+
   MockBus bus_;
 };
 
 TEST_F(VisitOfAllUnits, ReachesEachOnceInOrder) {
-  EXPECT_THAT(Visited(3), ElementsAre("node 1/2", "node 1/3", "node 1/4"));
-}
-
-TEST_F(VisitOfAllUnits, ReachesNoMoreThanWereCounted) {
-  EXPECT_THAT(Visited(2), ElementsAre("node 1/2", "node 1/3"));
-  EXPECT_THAT(Visited(0), IsEmpty());
-  EXPECT_THAT(Visited(-1), IsEmpty());
+  EXPECT_THAT(Visited(), ElementsAre("node 1/2", "node 1/3", "node 1/4"));
 }
 
 TEST_F(VisitOfAllUnits, SkipsAUnitThatDoesNotOpen) {
   std::filesystem::remove(bus_.Node(1, 3));
-  EXPECT_THAT(Visited(3), ElementsAre("node 1/2", "node 1/4"));
+  EXPECT_THAT(Visited(), ElementsAre("node 1/2", "node 1/4"));
   std::filesystem::create_directory(bus_.Node(1, 3));
-  EXPECT_THAT(Visited(3), ElementsAre("node 1/2", "node 1/4"));
+  EXPECT_THAT(Visited(), ElementsAre("node 1/2", "node 1/4"));
 }
 
-TEST_F(VisitOfAllUnits, SkipsAUnitUnpluggedSinceTheCount) {
-  bus_.Unlist("1-3");
-  EXPECT_THAT(Visited(3), ElementsAre("node 1/2", "node 1/3"));
+TEST_F(VisitOfAllUnits, SkipsAUnitUnpluggedSinceTheLookAndNoOther) {
+  const ConnectedUnits units(11);
+  bus_.Unlist("1-1");
+  std::filesystem::remove(bus_.Node(1, 2));
+  EXPECT_THAT(Visited(units), ElementsAre("node 1/3", "node 1/4"));
+}
+
+TEST_F(VisitOfAllUnits, ReachesNoneThatWasPluggedInSinceTheLook) {
+  const ConnectedUnits units(11);
+  bus_.PlugMixer("1-4", 1, 1);
+  EXPECT_THAT(Visited(units), ElementsAre("node 1/2", "node 1/3", "node 1/4"));
+  EXPECT_EQ(units.Count(), 3);
+}
+
+TEST_F(VisitOfAllUnits, LooksAtTheBusOnce) {
+  const ConnectedUnits units(11);
+  bus_.RemoveList();
+  EXPECT_THAT(Visited(units), ElementsAre("node 1/2", "node 1/3", "node 1/4"));
+  EXPECT_THAT(Visited(units), ElementsAre("node 1/2", "node 1/3", "node 1/4"));
+}
+
+// One mixer is pulled while the first one is served, and its number goes to another device.
+TEST_F(VisitOfAllUnits, HasNothingForADeviceThatGotTheNumberOfAUnit) {
+  std::vector<std::string> visited;
+  VisitUnits(ConnectedUnits(11), [&](DeviceHandle unit) {
+    visited.push_back(NodeBehind(unit));
+    bus_.MakeNode(1, 3, 0x1D6B, 2);
+    return Visit::kNext;
+  });
+  EXPECT_THAT(visited, ElementsAre("node 1/2", "node 1/4"));
 }
 
 TEST_F(VisitOfAllUnits, EndsWhenTheVisitorHasSeenEnough) {
   std::vector<std::string> visited;
-  VisitUnits(3, [&](DeviceHandle unit) {
+  VisitUnits(ConnectedUnits(11), [&](DeviceHandle unit) {
     visited.push_back(NodeBehind(unit));
     return visited.size() == 2 ? Visit::kStop : Visit::kNext;
   });
@@ -81,7 +104,7 @@ TEST_F(VisitOfAllUnits, EndsWhenTheVisitorHasSeenEnough) {
 
 TEST_F(VisitOfAllUnits, HasOneUnitOpenAtATimeAndClosesItAlways) {
   int visits = 0;
-  VisitUnits(3, [&](DeviceHandle) {
+  VisitUnits(ConnectedUnits(11), [&](DeviceHandle) {
     EXPECT_EQ(bus_.OpenFiles(), 1);
     return ++visits == 2 ? Visit::kStop : Visit::kNext;
   });
@@ -89,20 +112,34 @@ TEST_F(VisitOfAllUnits, HasOneUnitOpenAtATimeAndClosesItAlways) {
   EXPECT_EQ(bus_.OpenFiles(), 0);
 }
 
+TEST_F(VisitOfAllUnits, OrOfTheFirstAlone) {
+  std::vector<std::string> visited;
+  const auto visit = [&](DeviceHandle unit) { visited.push_back(NodeBehind(unit)); };
+  VisitFirstUnit(ConnectedUnits(11), visit);
+  EXPECT_THAT(visited, ElementsAre("node 1/2"));
+  std::filesystem::remove(bus_.Node(1, 2));
+  VisitFirstUnit(ConnectedUnits(11), visit);
+  EXPECT_THAT(visited, ElementsAre("node 1/2")) << "the second in place of the first";
+  bus_.RemoveList();
+  VisitFirstUnit(ConnectedUnits(11), visit);
+  EXPECT_THAT(visited, ElementsAre("node 1/2"));
+  EXPECT_EQ(bus_.OpenFiles(), 0);
+}
+
 TEST_F(VisitOfAllUnits, SendsOneValueToEachWhateverTheyAnswer) {
-  EXPECT_EQ(ApplyToEveryUnit(11, RecordingRequest, 0x020A), 3);
+  EXPECT_EQ(ApplyToEveryUnit(11, RecordingRequest, 0x020A).Count(), 3);
   EXPECT_THAT(sent, ElementsAre("node 1/2 value 522", "node 1/3 value 522", "node 1/4 value 522"));
 }
 
 TEST_F(VisitOfAllUnits, CountsUnitsThatDoNotOpenToo) {
   std::filesystem::remove(bus_.Node(1, 2));
-  EXPECT_EQ(ApplyToEveryUnit(11, RecordingRequest, 1), 3);
+  EXPECT_EQ(ApplyToEveryUnit(11, RecordingRequest, 1).Count(), 3);
   EXPECT_THAT(sent, ElementsAre("node 1/3 value 1", "node 1/4 value 1"));
 }
 
 TEST_F(VisitOfAllUnits, SendsNothingWhenThereIsNone) {
   for (const char *name : {"1-1", "1-2", "1-3"}) bus_.Unlist(name);
-  EXPECT_EQ(ApplyToEveryUnit(11, RecordingRequest, 1), 0);
+  EXPECT_EQ(ApplyToEveryUnit(11, RecordingRequest, 1).Count(), 0);
   EXPECT_THAT(sent, IsEmpty());
 }
 

@@ -15,9 +15,19 @@ namespace fs = std::filesystem;
 constexpr const char *kList = "sys/bus/usb/devices";
 constexpr const char *kFolders = "sys/devices/pci0000:00";
 
+constexpr std::size_t kDescriptorSize = 18;
+
 std::string ThreeDigits(unsigned number) {
   std::string digits = std::to_string(number);
   return digits.insert(0, 3 - std::min<std::size_t>(digits.size(), 3), '0');
+}
+
+// As a mixer gives it, but for the ids.
+std::string DeviceDescriptor(unsigned vendor, unsigned product) {
+  const std::array<unsigned, kDescriptorSize> bytes = {
+      18,           1, 0, 2, 0, 0, 0, 64, vendor & 0xFF, vendor >> 8, product & 0xFF,
+      product >> 8, 0, 1, 1, 2, 3, 1};
+  return std::string(bytes.begin(), bytes.end());
 }
 
 void Write(const fs::path &path, const std::string &contents) {
@@ -53,10 +63,15 @@ void MockBus::ListDangling(const std::string &name) {
 void MockBus::ListWithoutSummary(const std::string &name) { Folder(name); }
 
 void MockBus::PlugMixer(const std::string &name, unsigned bus, unsigned device) {
+  MakeNode(bus, device, MAKER_USB_VENDOR_ID, 0x1F);
+  List(name, MixerSummary(bus, device));
+}
+
+void MockBus::MakeNode(unsigned bus, unsigned device, unsigned vendor, unsigned product) {
   const fs::path node = Node(bus, device);
   fs::create_directories(node.parent_path());
-  Write(node, "node " + std::to_string(bus) + "/" + std::to_string(device));
-  List(name, MixerSummary(bus, device));
+  Write(node, DeviceDescriptor(vendor, product) + "node " + std::to_string(bus) + "/" +
+                  std::to_string(device));
 }
 
 void MockBus::Unlist(const std::string &name) { fs::remove(root_ / kList / name); }
@@ -79,7 +94,7 @@ int MockBus::OpenFiles() const {
 
 std::string NodeBehind(DeviceHandle unit) {
   std::array<char, 64> text = {};
-  const ssize_t size = pread(unit->descriptor, text.data(), text.size(), 0);
+  const ssize_t size = pread(unit->descriptor, text.data(), text.size(), kDescriptorSize);
   return std::string(text.data(), size > 0 ? static_cast<std::size_t>(size) : 0);
 }
 

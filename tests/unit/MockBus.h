@@ -31,6 +31,9 @@ class MockBus {
   /// Lists an entry with a mixer's summary, and makes its node.
   void PlugMixer(const std::string &name, unsigned bus, unsigned device);
 
+  /// Makes the node of a device with these ids, whatever is listed.
+  void MakeNode(unsigned bus, unsigned device, unsigned vendor, unsigned product);
+
   /// Takes an entry off the list.
   void Unlist(const std::string &name);
 
@@ -50,7 +53,7 @@ class MockBus {
   std::filesystem::path root_;
 };
 
-/// What the node of an open unit holds: "node 1/5" for the mixer on bus 1 with number 5.
+/// Which node an open unit has: "node 1/5" for the one on bus 1 with number 5.
 std::string NodeBehind(DeviceHandle unit);
 
 /// What the kernel says of a mixer.

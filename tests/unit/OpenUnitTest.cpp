@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include "BusWalk.h"
 #include "MockBus.h"
 #include "USBDevice.h"
 
@@ -25,11 +26,12 @@ constexpr auto kNoDevice = static_cast<PlatformStatus>(0xE00002C0);
 std::vector<std::string> NodesInOrder() {
   std::vector<std::string> nodes;
   DeviceHandle handle = nullptr;
-  for (std::uint32_t n = 0; open_pipes(&handle, n) == 0; ++n) {
+  const BusLook look = LookAtBus();
+  for (std::uint32_t n = 0; open_pipes(&handle, n, look) == 0; ++n) {
     nodes.push_back(NodeBehind(handle));
     closeUSB(&handle);
   }
-  EXPECT_EQ(nodes.size(), static_cast<std::size_t>(CheckUSBAudio(11)));
+  EXPECT_EQ(nodes.size(), look.size());
   return nodes;
 }
 
@@ -54,7 +56,7 @@ TEST(OpenUnit, OpensTheNodeForReadingAndWritingAndNotForChildren) {
   MockBus bus;
   bus.PlugMixer("1-2", 1, 5);
   DeviceHandle handle = nullptr;
-  ASSERT_EQ(open_pipes(&handle, 0), 0);
+  ASSERT_EQ(open_pipes(&handle, 0, LookAtBus()), 0);
   ASSERT_NE(handle, nullptr);
   EXPECT_EQ(NodeBehind(handle), "node 1/5");
   EXPECT_EQ(fcntl(handle->descriptor, F_GETFL) & O_ACCMODE, O_RDWR);
@@ -70,7 +72,7 @@ TEST(OpenUnit, AnswersTheGeneralErrorBehindTheLastUnit) {
   bus.PlugMixer("1-3", 1, 6);
   for (const std::uint32_t n : {2U, 3U, 0xFFFFFFFFU}) {
     DeviceHandle handle = nullptr;
-    EXPECT_EQ(open_pipes(&handle, n), kGeneralError) << n;
+    EXPECT_EQ(open_pipes(&handle, n, LookAtBus()), kGeneralError) << n;
     EXPECT_EQ(handle, nullptr);
   }
 }
@@ -78,25 +80,25 @@ TEST(OpenUnit, AnswersTheGeneralErrorBehindTheLastUnit) {
 TEST(OpenUnit, AnswersTheGeneralErrorWithoutAnyUnit) {
   MockBus bus;
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(open_pipes(&handle, 0, LookAtBus()), kGeneralError);
   EXPECT_EQ(handle, nullptr);
 }
 
 TEST(OpenUnit, LeavesAHandleAloneThatIsNotNull) {
   MockBus bus;
   bus.PlugMixer("1-2", 1, 5);
-  USBDeviceInterface other = {-1};
+  USBDeviceInterface other = {-1, {}};
   DeviceHandle handle = &other;
-  EXPECT_EQ(openUSB(&handle, 0), kGeneralError);
+  EXPECT_EQ(openUSB(&handle, 0, LookAtBus()), kGeneralError);
   EXPECT_EQ(handle, &other);
 }
 
 TEST(OpenUnit, ThroughPipesClearsAHandleThatIsNotNull) {
   MockBus bus;
   bus.PlugMixer("1-2", 1, 5);
-  USBDeviceInterface other = {-1};
+  USBDeviceInterface other = {-1, {}};
   DeviceHandle handle = &other;
-  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_EQ(open_pipes(&handle, 0, LookAtBus()), 0);
   ASSERT_NE(handle, nullptr);
   ASSERT_NE(handle, &other);
   EXPECT_EQ(NodeBehind(handle), "node 1/5");
@@ -108,8 +110,8 @@ TEST(OpenUnit, SaysThatADeviceIsGoneWhoseNodeIsMissing) {
   bus.PlugMixer("1-2", 1, 5);
   std::filesystem::remove(bus.Node(1, 5));
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(CheckUSBAudio(11), 1);
-  EXPECT_EQ(open_pipes(&handle, 0), kNoDevice);
+  EXPECT_EQ(LookAtBus().size(), 1U);
+  EXPECT_EQ(open_pipes(&handle, 0, LookAtBus()), kNoDevice);
   EXPECT_EQ(handle, nullptr);
 }
 
@@ -119,7 +121,7 @@ TEST(OpenUnit, AnswersTheGeneralErrorForAFolderInThePlaceOfTheNode) {
   std::filesystem::remove(bus.Node(1, 5));
   std::filesystem::create_directory(bus.Node(1, 5));
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(open_pipes(&handle, 0, LookAtBus()), kGeneralError);
   EXPECT_EQ(handle, nullptr);
 }
 
@@ -129,8 +131,75 @@ TEST(OpenUnit, SaysThatADeviceIsGoneForASocketInThePlaceOfTheNode) {
   std::filesystem::remove(bus.Node(1, 5));
   ASSERT_EQ(mknod(bus.Node(1, 5).c_str(), S_IFSOCK | 0666, 0), 0);
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), kNoDevice);
+  EXPECT_EQ(open_pipes(&handle, 0, LookAtBus()), kNoDevice);
   EXPECT_EQ(handle, nullptr);
+}
+
+// A device number is given again sooner or later: the node is another device's by now.
+TEST(OpenUnit, SaysThatAUnitIsGoneWhoseNumberAnotherDeviceHas) {
+  struct Ids {
+    unsigned vendor;
+    unsigned product;
+  };
+  constexpr unsigned kMaker = MAKER_USB_VENDOR_ID;
+  for (const Ids &ids : {Ids{kMaker, 0x20}, Ids{kMaker, 0x11F}, Ids{kMaker ^ 1, 0x1F},
+                         Ids{kMaker ^ 0x100, 0x1F}, Ids{0x1D6B, 2}, Ids{0, 0}}) {
+    MockBus bus;
+    bus.PlugMixer("1-2", 1, 5);
+    bus.MakeNode(1, 5, ids.vendor, ids.product);
+    DeviceHandle handle = nullptr;
+    EXPECT_EQ(open_pipes(&handle, 0, LookAtBus()), kNoDevice);
+    EXPECT_EQ(handle, nullptr);
+    EXPECT_EQ(bus.OpenFiles(), 0);
+  }
+}
+
+TEST(OpenUnit, OpensNoNodeWithLessThanADescriptor) {
+  for (const std::uintmax_t size : {0U, 1U, 10U, 17U}) {
+    MockBus bus;
+    bus.PlugMixer("1-2", 1, 5);
+    std::filesystem::resize_file(bus.Node(1, 5), size);
+    DeviceHandle handle = nullptr;
+    EXPECT_EQ(open_pipes(&handle, 0, LookAtBus()), kNoDevice) << size;
+    EXPECT_EQ(bus.OpenFiles(), 0);
+  }
+}
+
+TEST(OpenUnit, OpensANodeWithADescriptorAndNoMore) {
+  MockBus bus;
+  bus.PlugMixer("1-2", 1, 5);
+  std::filesystem::resize_file(bus.Node(1, 5), 18);
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0, LookAtBus()), 0);
+  closeUSB(&handle);
+}
+
+// Reading from a pipe would wait for a writer.
+TEST(OpenUnit, DoesNotWaitForWhatIsNoDevice) {
+  MockBus bus;
+  bus.PlugMixer("1-2", 1, 5);
+  std::filesystem::remove(bus.Node(1, 5));
+  ASSERT_EQ(mkfifo(bus.Node(1, 5).c_str(), 0666), 0);
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0, LookAtBus()), kGeneralError);
+  EXPECT_EQ(handle, nullptr);
+  EXPECT_EQ(bus.OpenFiles(), 0);
+}
+
+TEST(OpenUnit, GoesByTheLookWhateverHappenedSince) {
+  MockBus bus;
+  bus.PlugMixer("1-2", 1, 5);
+  bus.PlugMixer("1-3", 1, 6);
+  const BusLook look = LookAtBus();
+  bus.Unlist("1-2");
+  std::filesystem::remove(bus.Node(1, 5));
+  bus.PlugMixer("1-1", 1, 2);
+  DeviceHandle handle = nullptr;
+  EXPECT_EQ(open_pipes(&handle, 0, look), kNoDevice);
+  ASSERT_EQ(open_pipes(&handle, 1, look), 0);
+  EXPECT_EQ(NodeBehind(handle), "node 1/6");
+  closeUSB(&handle);
+  EXPECT_EQ(open_pipes(&handle, 2, look), kGeneralError);
 }
 
 TEST(OpenUnit, LeavesNoFileOpen) {
@@ -142,10 +211,10 @@ TEST(OpenUnit, LeavesNoFileOpen) {
   std::filesystem::remove(bus.Node(1, 6));
   for (int i = 0; i < 10; ++i) {
     DeviceHandle handle = nullptr;
-    EXPECT_EQ(open_pipes(&handle, 0), 0);
+    EXPECT_EQ(open_pipes(&handle, 0, LookAtBus()), 0);
     EXPECT_EQ(bus.OpenFiles(), 1);
     closeUSB(&handle);
-    EXPECT_EQ(open_pipes(&handle, 1), kNoDevice);
+    EXPECT_EQ(open_pipes(&handle, 1, LookAtBus()), kNoDevice);
     EXPECT_EQ(bus.OpenFiles(), 0);
   }
 }

@@ -64,9 +64,11 @@ TEST_F(OutOfMemory, AConnectionIsThenNotSeen) {
 }
 
 TEST_F(OutOfMemory, AUnitIsThenNotOpened) {
-  const auto statuses = AnswersWhileMemoryGrows([] {
+  BusLook look;
+  ASSERT_EQ(CheckUSBAudio(11, &look), 2);
+  const auto statuses = AnswersWhileMemoryGrows([&] {
     DeviceHandle unit = nullptr;
-    const PlatformStatus status = open_pipes(&unit, 0);
+    const PlatformStatus status = open_pipes(&unit, 0, look);
     EXPECT_EQ(unit != nullptr, status == 0);
     closeUSB(&unit);
     return status;

@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "BusWalk.h"
 #include "USBDevice.h"
 #include "VendorRequest.h"
 
@@ -37,7 +38,7 @@ class Request : public testing::Test {
   void SetUp() override {
     Tell("clear 1");
     Tell("log clear");
-    ASSERT_EQ(open_pipes(&unit_, 0), kDone);
+    ASSERT_EQ(open_pipes(&unit_, 0, LookAtBus()), kDone);
   }
 
   void TearDown() override { closeUSB(&unit_); }

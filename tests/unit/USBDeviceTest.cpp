@@ -14,19 +14,19 @@ constexpr std::uint32_t kNoSuchPosition = 0xFFFFFFFF;
 constexpr auto kGeneralError = static_cast<PlatformStatus>(0xE00002BC);
 
 TEST(OpenPipes, AnswersTheGeneralErrorForANullPointer) {
-  EXPECT_EQ(open_pipes(nullptr, 0), kGeneralError);
+  EXPECT_EQ(open_pipes(nullptr, 0, {}), kGeneralError);
 }
 
 TEST(OpenPipes, ClearsTheHandleEvenWhenThereIsNoSuchUnit) {
-  USBDeviceInterface other = {-1};
+  USBDeviceInterface other = {-1, {}};
   DeviceHandle handle = &other;
-  EXPECT_EQ(open_pipes(&handle, kNoSuchPosition), kGeneralError);
+  EXPECT_EQ(open_pipes(&handle, kNoSuchPosition, {}), kGeneralError);
   EXPECT_EQ(handle, nullptr);
 }
 
 TEST(OpenUSB, AnswersTheGeneralErrorWhenThereIsNoSuchUnit) {
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(openUSB(&handle, kNoSuchPosition), kGeneralError);
+  EXPECT_EQ(openUSB(&handle, kNoSuchPosition, {}), kGeneralError);
   EXPECT_EQ(handle, nullptr);
 }
 
@@ -39,7 +39,7 @@ TEST(CloseUSB, LeavesANullHandleAlone) {
 TEST(CloseUSB, ClosesTheNodeAndClearsTheHandle) {
   const int descriptor = open("/dev/null", O_RDWR | O_CLOEXEC);
   ASSERT_GE(descriptor, 0);
-  DeviceHandle handle = new USBDeviceInterface{descriptor};
+  DeviceHandle handle = new USBDeviceInterface{descriptor, {}};
   closeUSB(&handle);
   EXPECT_EQ(handle, nullptr);
   EXPECT_EQ(fcntl(descriptor, F_GETFD), -1);

@@ -22,9 +22,9 @@ class RequestToWhatIsNoDevice : public testing::Test {
   void SetUp() override {
     std::array<int, 2> pipeEnds = {};
     ASSERT_EQ(pipe2(pipeEnds.data(), O_CLOEXEC), 0);
-    pipe_ = {pipeEnds[0]};
+    pipe_.descriptor = pipeEnds[0];
     otherEnd_ = pipeEnds[1];
-    null_ = {open("/dev/null", O_RDWR | O_CLOEXEC)};
+    null_.descriptor = open("/dev/null", O_RDWR | O_CLOEXEC);
     ASSERT_GE(null_.descriptor, 0);
   }
   void TearDown() override {
@@ -33,9 +33,9 @@ class RequestToWhatIsNoDevice : public testing::Test {
     close(null_.descriptor);
   }
 
-  USBDeviceInterface pipe_ = {-1};
-  USBDeviceInterface null_ = {-1};
-  USBDeviceInterface closed_ = {-1};
+  USBDeviceInterface pipe_ = {-1, {}};
+  USBDeviceInterface null_ = {-1, {}};
+  USBDeviceInterface closed_ = {-1, {}};
   int otherEnd_ = -1;
 };
 

@@ -1,7 +1,7 @@
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
-#include "USBDevice.h"
+#include "ConnectedUnits.h"
 
 StatusCode ORV_IsUSBConnection(ProductId productId) {
-  return orv::CheckUSBAudio(productId) > 0 ? ORV_CONNECTED : ORV_NOT_CONNECTED;
+  return orv::ConnectedUnits(productId).Count() > 0 ? ORV_CONNECTED : ORV_NOT_CONNECTED;
 }

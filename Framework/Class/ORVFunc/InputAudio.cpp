@@ -173,10 +173,10 @@ std::uint16_t RawRoutingValue(std::int32_t channel, std::int32_t group, std::uin
 // Reads the input selectors of each unit until one stands where the chosen signal does not come
 // from. A selector that could not be read counts as standing at 0.
 template <typename Accepts>
-bool AnySelectorRefuses(std::int32_t unitCount, std::uint16_t length, std::int32_t channel,
+bool AnySelectorRefuses(const ConnectedUnits &units, std::uint16_t length, std::int32_t channel,
                         Accepts accepts) {
   bool isRefused = false;
-  VisitUnits(unitCount, [&](DeviceHandle unit) {
+  VisitUnits(units, [&](DeviceHandle unit) {
     std::array<std::uint8_t, 6> selectors = {};  // one more than is ever asked for
     GetInputSelectorInfo(unit, selectors.data(), length);
     isRefused = !accepts(selectors[static_cast<std::size_t>(channel) + 1]);
@@ -186,27 +186,28 @@ bool AnySelectorRefuses(std::int32_t unitCount, std::uint16_t length, std::int32
 }
 
 // The thresholds with and without a unit differ: docs/compatibility.md.
-StatusCode WarnAboutChoice(std::int32_t unitCount, std::int32_t channel, std::uint32_t index) {
-  if (unitCount == 0) return index < 3 ? ORV_SUCCESS_WITH_WARNING : ORV_SUCCESS;
-  const bool isRefused = AnySelectorRefuses(unitCount, 4, channel, [&](std::uint8_t selector) {
+StatusCode WarnAboutChoice(const ConnectedUnits &units, std::int32_t channel, std::uint32_t index) {
+  if (units.Count() == 0) return index < 3 ? ORV_SUCCESS_WITH_WARNING : ORV_SUCCESS;
+  const bool isRefused = AnySelectorRefuses(units, 4, channel, [&](std::uint8_t selector) {
     return index >= 2 || selector == 6 || selector == 7;
   });
   return isRefused ? ORV_SUCCESS_WITH_WARNING : ORV_SUCCESS;
 }
 
-StatusCode WarnAboutRawValue(std::int32_t unitCount, std::int32_t channel, std::uint32_t source) {
-  if (unitCount == 0) return source < 3 ? ORV_SUCCESS_WITH_WARNING : ORV_SUCCESS;
+StatusCode WarnAboutRawValue(const ConnectedUnits &units, std::int32_t channel,
+                             std::uint32_t source) {
+  if (units.Count() == 0) return source < 3 ? ORV_SUCCESS_WITH_WARNING : ORV_SUCCESS;
   const bool isRefused = AnySelectorRefuses(
-      unitCount, 5, channel, [&](std::uint8_t selector) { return source >= 4 || selector == 4; });
+      units, 5, channel, [&](std::uint8_t selector) { return source >= 4 || selector == 4; });
   return isRefused ? ORV_SUCCESS_WITH_WARNING : ORV_SUCCESS;
 }
 
 // TRX-VOLT has selectors for its first two channels, and nothing vouches for them while no unit is
 // connected.
-StatusCode WarnAboutRawValueOnVolt(std::int32_t unitCount, std::int32_t channel) {
-  if (unitCount == 0) return ORV_SUCCESS_WITH_WARNING;
+StatusCode WarnAboutRawValueOnVolt(const ConnectedUnits &units, std::int32_t channel) {
+  if (units.Count() == 0) return ORV_SUCCESS_WITH_WARNING;
   const bool isRefused = AnySelectorRefuses(
-      unitCount, 3, channel, [&](std::uint8_t selector) { return channel >= 2 || selector == 2; });
+      units, 3, channel, [&](std::uint8_t selector) { return channel >= 2 || selector == 2; });
   return isRefused ? ORV_SUCCESS_WITH_WARNING : ORV_SUCCESS;
 }
 
@@ -266,22 +267,22 @@ StatusCode ORV_GetUSBInputAudioText(ProductId productId, int32_t channel, uint32
 StatusCode ORV_SetUSBInputAudio(ProductId productId, int32_t channel, uint32_t index) {
   if (!kSelvaOnly.Contains(productId)) return ORV_BAD_ARGUMENT;
   if (!IsBelow(kSettableChoices, channel, index)) return ORV_BAD_ARGUMENT;
-  const int32_t unitCount =
+  const ConnectedUnits units =
       ApplyToEveryUnit(productId, SetMixerOutputSetting, *RoutingValue(channel, index));
   MergeSettingValue(ModelDisplayName(productId), kKeys[static_cast<std::size_t>(channel)],
                     static_cast<int32_t>(index));
   Announce(inputAudioChange, productId, channel, index);
-  return WarnAboutChoice(unitCount, channel, index);
+  return WarnAboutChoice(units, channel, index);
 }
 
 StatusCode ORV_SetUSBInputAudioDirect(ProductId productId, int32_t channel, int32_t group,
                                       uint32_t source) {
   const RawLimits *const limits = RowOf(kRawLimits, productId);
   if (limits == nullptr || !IsBelow(limits->sources, channel, source)) return ORV_BAD_ARGUMENT;
-  const int32_t unitCount =
+  const ConnectedUnits units =
       ApplyToEveryUnit(productId, SetMixerOutputSetting, RawRoutingValue(channel, group, source));
-  return kVoltOnly.Contains(productId) ? WarnAboutRawValueOnVolt(unitCount, channel)
-                                       : WarnAboutRawValue(unitCount, channel, source);
+  return kVoltOnly.Contains(productId) ? WarnAboutRawValueOnVolt(units, channel)
+                                       : WarnAboutRawValue(units, channel, source);
 }
 
 StatusCode ORV_GetCurrentUSBInputAudioIndex(ProductId productId, int32_t channel, int32_t *index) {

@@ -42,22 +42,21 @@ constexpr std::uint32_t kPortWithOwnWarning = 1;
 
 // The port of the first unit; 0 when it cannot be read. A unit of a model without warnings by port
 // is opened all the same, but not asked: docs/compatibility.md.
-std::uint32_t PortOfFirstUnit(const Warned &row) {
+std::uint32_t PortOfFirstUnit(const ConnectedUnits &units, const Warned &row) {
   std::uint32_t port = 0;
-  VisitUnits(1, [&](DeviceHandle unit) {
-    if (!row.dependsOnPort) return Visit::kStop;
+  VisitFirstUnit(units, [&](DeviceHandle unit) {
+    if (!row.dependsOnPort) return;
     std::array<std::uint8_t, 2> reply = {};
     GetPortInfo(unit, reply.data(), reply.size());
     port = reply[0] + reply[1] * 256U;
-    return Visit::kStop;
   });
   return port;
 }
 
-const char *ChooseKey(const Warned &row, std::int32_t unitCount) {
-  const std::uint32_t port = unitCount > 0 ? PortOfFirstUnit(row) : 0;
+const char *ChooseKey(const ConnectedUnits &units, const Warned &row) {
+  const std::uint32_t port = PortOfFirstUnit(units, row);
   if (!row.dependsOnPort) return "WARNING";
-  if (unitCount == 0) return kWithoutUnit;
+  if (units.Count() == 0) return kWithoutUnit;
   return port == kPortWithOwnWarning ? "WARNING3" : "WARNING2";
 }
 
@@ -98,7 +97,7 @@ StatusCode ORV_GetWarningTextForSetUSBAudioInput(ProductId productId, int32_t ch
   if (text == nullptr) return ORV_BAD_ARGUMENT;
   const Warned *const row = RowFor(productId, channel);
   if (row == nullptr || status != ORV_SUCCESS_WITH_WARNING) return ORV_BAD_ARGUMENT;
-  const char *const key = ChooseKey(*row, CheckUSBAudio(productId));
+  const char *const key = ChooseKey(ConnectedUnits(productId), *row);
   return UnlessOutOfMemory<StatusCode>(ORV_BAD_ARGUMENT, [&]() -> StatusCode {
     const std::string bundlePath = BundlePath();
     if (language != kSystemLanguage && !IsNamed(language)) return ORV_BAD_ARGUMENT;

@@ -55,7 +55,7 @@ const SelectorQuery *SelectorQueryFor(ProductId productId, std::int32_t channel)
 StatusCode ORV_GetMixerCertifyLevel(ProductId productId, uint32_t *level) {
   if (level == nullptr || !kCertifiedModels.Contains(productId)) return ORV_BAD_ARGUMENT;
   *level = 0;
-  VisitUnits(CheckUSBAudio(productId), [&](DeviceHandle unit) {
+  VisitUnits(ConnectedUnits(productId), [&](DeviceHandle unit) {
     if (kModelsAskedForCertifyLevel.Contains(productId)) {
       std::array<std::uint8_t, 4> reply = {};
       GetCertifyLevel(unit, reply.data(), reply.size());
@@ -70,12 +70,10 @@ StatusCode ORV_GetFirmwareVersionIndex(ProductId productId, uint32_t *version) {
   if (version == nullptr) return ORV_BAD_ARGUMENT;
   *version = 0;
   if (!kSelvaOnly.Contains(productId)) return ORV_BAD_ARGUMENT;
-  const int32_t firstUnitOnly = CheckUSBAudio(productId) > 0 ? 1 : 0;
-  VisitUnits(firstUnitOnly, [&](DeviceHandle unit) {
+  VisitFirstUnit(ConnectedUnits(productId), [&](DeviceHandle unit) {
     std::array<std::uint8_t, 2> reply = {};
     GetFirmwareVersionNumber(unit, reply.data(), reply.size());
     *version = reply[0] + reply[1] * 256U;
-    return Visit::kStop;
   });
   return ORV_SUCCESS;
 }
@@ -86,7 +84,7 @@ StatusCode ORV_GetMixerInputSelectorStatus(ProductId productId, uint32_t channel
   const SelectorQuery *const query = SelectorQueryFor(productId, static_cast<int32_t>(channel));
   if (query == nullptr) return ORV_BAD_ARGUMENT;
   StatusCode status = ORV_SUCCESS;
-  VisitUnits(CheckUSBAudio(productId), [&](DeviceHandle unit) {
+  VisitUnits(ConnectedUnits(productId), [&](DeviceHandle unit) {
     std::array<std::uint8_t, 6> reply = {};  // one more than is ever asked for
     GetInputSelectorInfo(unit, reply.data(), query->length);
     *selector = reply[channel + 1];
@@ -99,7 +97,7 @@ StatusCode ORV_GetMixerInputSelectorStatus(ProductId productId, uint32_t channel
 StatusCode ORV_GetMixerSeratoActiveStatus(ProductId productId, uint32_t *active) {
   if (active == nullptr || !kEveryServedModel.Contains(productId)) return ORV_BAD_ARGUMENT;
   StatusCode status = ORV_SUCCESS;
-  VisitUnits(CheckUSBAudio(productId), [&](DeviceHandle unit) {
+  VisitUnits(ConnectedUnits(productId), [&](DeviceHandle unit) {
     std::array<std::uint8_t, 2> reply = {0xFF, 0xFF};
     // TRX-VOLT knows no Serato: it is refused once a unit opens, docs/compatibility.md.
     if (!kVoltOnly.Contains(productId)) GetSeratoActiveInfo(unit, reply.data(), reply.size());

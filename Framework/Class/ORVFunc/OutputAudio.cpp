@@ -49,14 +49,14 @@ const std::uint16_t *RequestValue(std::int32_t channel, std::int64_t index) {
 }
 
 // Channels beyond the table are taken by the setters and send 0.
-std::int32_t Apply(ProductId productId, std::int32_t channel, std::uint32_t index) {
+ConnectedUnits Apply(ProductId productId, std::int32_t channel, std::uint32_t index) {
   const std::uint16_t *const value = RequestValue(channel, index);
   return ApplyToEveryUnit(productId, SetMixerInputSetting, value != nullptr ? *value : 0);
 }
 
 // The answer does not matter: docs/compatibility.md.
-void ReadBack(std::int32_t unitCount) {
-  VisitUnits(unitCount, [](DeviceHandle unit) {
+void ReadBack(const ConnectedUnits &units) {
+  VisitUnits(units, [](DeviceHandle unit) {
     std::array<std::uint8_t, 4> selectors = {};
     GetInputSelectorInfo(unit, selectors.data(), selectors.size());
     return Visit::kNext;
@@ -94,11 +94,11 @@ StatusCode ORV_GetUSBOutputAudioText(ProductId productId, int32_t channel, uint3
 
 StatusCode ORV_SetUSBOutputAudio(ProductId productId, int32_t channel, uint32_t index) {
   if (!IsTakenBySetters(productId, channel) || index >= kChoices) return ORV_BAD_ARGUMENT;
-  const int32_t unitCount = Apply(productId, channel, index);
+  const ConnectedUnits units = Apply(productId, channel, index);
   MergeSettingValue(ModelDisplayName(productId), kKeys[static_cast<std::size_t>(channel)],
                     static_cast<int32_t>(index));
   Announce(outputAudioChange, productId, channel, index);
-  ReadBack(unitCount);
+  ReadBack(units);
   return ORV_SUCCESS;
 }
 
@@ -106,9 +106,9 @@ StatusCode ORV_SetUSBOutputAudio(ProductId productId, int32_t channel, uint32_t 
 StatusCode ORV_SetUSBOutputAudioDefault(ProductId productId, int32_t channel) {
   if (!IsTakenBySetters(productId, channel)) return ORV_BAD_ARGUMENT;
   const uint32_t defaultIndex = channel < kChannels ? static_cast<uint32_t>(channel) : 0;
-  const int32_t unitCount = Apply(productId, channel, defaultIndex);
+  const ConnectedUnits units = Apply(productId, channel, defaultIndex);
   Announce(outputAudioChange, productId, channel, defaultIndex);
-  ReadBack(unitCount);
+  ReadBack(units);
   return ORV_SUCCESS;
 }
 

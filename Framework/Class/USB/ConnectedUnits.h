@@ -1,6 +1,6 @@
-// The way every family and every query reaches the mixers: count once, then open each by position,
+// The way every family and every query reaches the mixers: look once, then open each by position,
 // act, close. A unit that does not open, for whatever reason, is skipped in silence; so is one
-// unplugged since the count.
+// unplugged since the look.
 #pragma once
 
 #include <cstdint>
@@ -10,31 +10,60 @@
 
 namespace orv {
 
+/// The units that one exported call finds: it looks when this is made, and visits what it found, as
+/// often as it has to. Must not outlive the call.
+class ConnectedUnits {
+ public:
+  explicit ConnectedUnits(ProductId productId) noexcept
+      : count_(CheckUSBAudio(productId, &look_)) {}
+
+  std::int32_t Count() const { return count_; }
+
+  /// Opens the unit at a position and closes it behind `use`, which gets its handle. Returns
+  /// whether it could be opened.
+  template <typename Use>
+  bool WithUnit(std::int32_t position, Use use) const {
+    DeviceHandle unit = nullptr;
+    const PlatformStatus status = open_pipes(&unit, static_cast<std::uint32_t>(position), look_);
+    if (status != kIOReturnSuccess) return false;
+    use(unit);
+    closeUSB(&unit);
+    return true;
+  }
+
+ private:
+  BusLook look_;
+  std::int32_t count_;
+};
+
 /// Whether the units behind this one are to be visited too.
 enum class Visit { kNext, kStop };
 
-/// Opens each of the first `count` units in turn, calls `visit` with its handle, and closes it.
-/// `visit` returns a Visit.
+/// Opens each unit in turn, calls `visit` with its handle, and closes it. `visit` returns a Visit.
 template <typename Visitor>
-void VisitUnits(std::int32_t count, Visitor visit) {
-  for (std::int32_t i = 0; i < count; ++i) {
-    DeviceHandle unit = nullptr;
-    if (open_pipes(&unit, static_cast<std::uint32_t>(i)) != kIOReturnSuccess) continue;
-    const Visit next = visit(unit);
-    closeUSB(&unit);
-    if (next == Visit::kStop) return;
+void VisitUnits(const ConnectedUnits &units, Visitor visit) {
+  Visit next = Visit::kNext;
+  for (std::int32_t i = 0; i < units.Count() && next == Visit::kNext; ++i) {
+    units.WithUnit(i, [&](DeviceHandle unit) { next = visit(unit); });
   }
 }
 
+/// Opens the first unit, if there is one, calls `visit` with its handle, and closes it. One that
+/// does not open is not replaced by the next.
+template <typename Visitor>
+void VisitFirstUnit(const ConnectedUnits &units, Visitor visit) {
+  if (units.Count() > 0) units.WithUnit(0, visit);
+}
+
 /// Sends one write request to every connected unit; what the units answer does not matter. Returns
-/// the number of units counted at the start, for a caller that visits them again.
-std::int32_t ApplyToEveryUnit(ProductId productId, const auto &request, std::uint16_t value) {
-  const std::int32_t count = CheckUSBAudio(productId);
-  VisitUnits(count, [&](DeviceHandle unit) {
+/// the units, for a caller that visits them again.
+ConnectedUnits ApplyToEveryUnit(ProductId productId, const auto &request, std::uint16_t value) {
+  ConnectedUnits units(productId);
+  VisitUnits(units, [&](DeviceHandle unit) {
     request(unit, value);
     return Visit::kNext;
   });
-  return count;
+  return units;
 }
 
 }  // namespace orv

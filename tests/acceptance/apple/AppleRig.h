@@ -18,6 +18,7 @@ class AppleRig : public SimulatedUnits {
   AppleRig();
   ~AppleRig() override;
 
+  bool PlacesHoldInACall() override { return false; }
   UnitPlace PlaceOf(int unit) override;
 
   std::string LibraryFolder() override;

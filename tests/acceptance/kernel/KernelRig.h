@@ -20,8 +20,6 @@ class KernelRig : public SimulatorRig {
   void Replug(int unit) override;
   void ClearFaults(int unit) override;
 
-  bool VanishedUnitsAreForgottenAtOnce() override { return false; }
-
  private:
   void NoteArrival(int unit);
   void LetEverybodyIn(int unit);

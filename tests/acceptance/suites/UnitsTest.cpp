@@ -130,20 +130,6 @@ TEST_F(Units, OneThatVanishesDuringTheRequestIsPassedOver) {
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(1)}));
 }
 
-// Each position is looked up afresh: with the first unit gone, position 1 of two is that of nobody.
-TEST_F(Units, WhenTheFirstVanishesTheSecondHasMovedUpAndIsMissed) {
-  rig().PlugMixer();
-  rig().PlugMixer();
-  rig().SetFault(1, UnitFault::kVanishes);
-  Lines reached = SetLevelZero();
-  if (!rig().VanishedUnitsAreForgottenAtOnce() && reached.size() == 2) {
-    EXPECT_EQ(reached.back(), Taken(2)) << "it had not moved up yet";
-    reached.pop_back();
-  }
-  EXPECT_EQ(reached, (Lines{Sent(1, "unplugged")}));
-  EXPECT_EQ(SetLevelZero(), (Lines{Taken(2)}));
-}
-
 TEST_F(Units, OneUnpluggedDuringItsRequestEndsTheWait) {
   const int silent = rig().PlugMixer();
   rig().SetFault(silent, UnitFault::kStaysSilent);

@@ -31,7 +31,7 @@ class ConnectedUnits : public IOKitTest {
   // The devices that a setting reached, in order.
   std::vector<int> Reached() {
     reached_.clear();
-    counted_ = ApplyToEveryUnit(11, orv::SetMidiChannelSetting, 0x0F00);
+    counted_ = ApplyToEveryUnit(11, orv::SetMidiChannelSetting, 0x0F00).Count();
     return reached_;
   }
 
@@ -136,7 +136,7 @@ TEST_F(ConnectedUnits, OneUnpluggedSinceTheCountIsSkipped) {
     devices().Unplug(2);
     return TransferAnswer();
   });
-  EXPECT_EQ(ApplyToEveryUnit(11, orv::SetMidiChannelSetting, 0), 3);
+  EXPECT_EQ(ApplyToEveryUnit(11, orv::SetMidiChannelSetting, 0).Count(), 3);
   EXPECT_THAT(reached, ElementsAre(1, 3));
 }
 

@@ -5,7 +5,10 @@
 namespace trxtest {
 namespace {
 
-using orv::CheckUSBAudio;
+std::int32_t CountMixers(ProductId model) {
+  orv::BusLook look;
+  return orv::CheckUSBAudio(model, &look);
+}
 
 // Counting begins, up to the walk: `port` is what the registry is asked through.
 Lines CountBegins(const std::string &port, const std::string &services) {
@@ -22,7 +25,7 @@ Lines CountBegins(const std::string &port, const std::string &services) {
 class Count : public IOKitTest {};
 
 TEST_F(Count, OfNoDeviceAtAll) {
-  EXPECT_EQ(CheckUSBAudio(11), 0);
+  EXPECT_EQ(CountMixers(11), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({{MasterPortGiven()},
                     CountBegins("master port", "iterator 1"),
@@ -31,7 +34,7 @@ TEST_F(Count, OfNoDeviceAtAll) {
 
 TEST_F(Count, OfOneMixer) {
   devices().PlugMixer();
-  EXPECT_EQ(CheckUSBAudio(11), 1);
+  EXPECT_EQ(CountMixers(11), 1);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({{MasterPortGiven()},
                     CountBegins("master port", "iterator 1"),
@@ -46,7 +49,7 @@ TEST_F(Count, OfThreeMixersWithStrangersBetween) {
   devices().PlugMixer();
   devices().PlugOtherMakerWithTheSameProduct();
   devices().PlugMixer();
-  EXPECT_EQ(CheckUSBAudio(11), 3);
+  EXPECT_EQ(CountMixers(11), 3);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({{MasterPortGiven()},
                     CountBegins("master port", "iterator 1"),
@@ -60,25 +63,25 @@ TEST_F(Count, DoesNotCountStrangers) {
   devices().PlugUnrelated();
   devices().PlugOtherProductOfTheMaker();
   devices().PlugOtherMakerWithTheSameProduct();
-  EXPECT_EQ(CheckUSBAudio(11), 0);
+  EXPECT_EQ(CountMixers(11), 0);
 }
 
 TEST_F(Count, IsTheSameForEveryModel) {
   devices().PlugMixer();
   for (const ProductId model : {0U, 1U, 2U, 7U, 11U, 12U, 0xFFFFFFFFU}) {
-    EXPECT_EQ(CheckUSBAudio(model), 1) << model;
+    EXPECT_EQ(CountMixers(model), 1) << model;
   }
 }
 
 TEST_F(Count, CountsMixersThatCannotBeOpenedToo) {
   devices().SetFaults(devices().PlugMixer(), {.plugIn = kIOReturnExclusiveAccess});
-  EXPECT_EQ(CheckUSBAudio(11), 1);
+  EXPECT_EQ(CountMixers(11), 1);
 }
 
 TEST_F(Count, DoesNotMindAFailingMasterPort) {
   devices().PlugMixer();
   IOKitDouble::SetFaults({.masterPort = kIOReturnNoResources});
-  EXPECT_EQ(CheckUSBAudio(11), 1);
+  EXPECT_EQ(CountMixers(11), 1);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({{MasterPortRefused("E00002BE")},
                     CountBegins("null port", "iterator 1"),
@@ -89,7 +92,7 @@ TEST_F(Count, DoesNotMindAFailingMasterPort) {
 TEST_F(Count, IsZeroWithoutADictionary) {
   devices().PlugMixer();
   IOKitDouble::SetFaults({.noDictionary = true});
-  EXPECT_EQ(CheckUSBAudio(11), 0);
+  EXPECT_EQ(CountMixers(11), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             (Lines{MasterPortGiven(), "IOServiceMatching(IOUSBDevice) = nothing"}));
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1}));
@@ -98,7 +101,7 @@ TEST_F(Count, IsZeroWithoutADictionary) {
 TEST_F(Count, IsZeroWhenTheRegistryCannotBeAsked) {
   devices().PlugMixer();
   IOKitDouble::SetFaults({.services = kIOReturnError});
-  EXPECT_EQ(CheckUSBAudio(11), 0);
+  EXPECT_EQ(CountMixers(11), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({{MasterPortGiven()}, CountBegins("master port", "E00002BC")}));
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2}));
@@ -107,7 +110,7 @@ TEST_F(Count, IsZeroWhenTheRegistryCannotBeAsked) {
 TEST_F(Count, IsZeroWithoutAnIterator) {
   devices().PlugMixer();
   IOKitDouble::SetFaults({.noIterator = true});
-  EXPECT_EQ(CheckUSBAudio(11), 0);
+  EXPECT_EQ(CountMixers(11), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({{MasterPortGiven()}, CountBegins("master port", "nothing")}));
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2}));
@@ -116,10 +119,10 @@ TEST_F(Count, IsZeroWithoutAnIterator) {
 TEST_F(Count, LeavesThePortAndTheTwoNumbersAndNothingElse) {
   devices().PlugMixer();
   devices().PlugMixer();
-  CheckUSBAudio(11);
+  CountMixers(11);
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2}));
-  CheckUSBAudio(11);
-  CheckUSBAudio(11);
+  CountMixers(11);
+  CountMixers(11);
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 3, .numbers = 6}));
 }
 

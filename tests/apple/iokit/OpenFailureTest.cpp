@@ -34,13 +34,13 @@ TEST_F(OpenFailure, OfTheMasterPortEndsItAtOnce) {
   devices().PlugMixer();
   IOKitDouble::SetFaults({.masterPort = kNoResources});
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
   EXPECT_EQ(IOKitDouble::TakeCalls(), (Lines{
                                           MasterPortRefused("E00002BE"),
                                           "mach_port_deallocate(mach_task_self, null port)",
                                       }));
   handle = InUse();
-  EXPECT_EQ(openUSB(&handle, 0), kNoResources);
+  EXPECT_EQ(openUSB(&handle, 0, {}), kNoResources);
   EXPECT_EQ(handle, InUse());
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
@@ -49,14 +49,14 @@ TEST_F(OpenFailure, OfTheDictionaryGivesThePortBack) {
   devices().PlugMixer();
   IOKitDouble::SetFaults({.noDictionary = true});
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
   EXPECT_EQ(IOKitDouble::TakeCalls(), (Lines{
                                           MasterPortGiven(),
                                           "IOServiceMatching(IOUSBDevice) = nothing",
                                           "mach_port_deallocate(mach_task_self, master port)",
                                       }));
   handle = InUse();
-  EXPECT_EQ(openUSB(&handle, 0), 0);
+  EXPECT_EQ(openUSB(&handle, 0, {}), 0);
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
 
@@ -64,7 +64,7 @@ TEST_F(OpenFailure, OfTheServicesGivesThePortBack) {
   devices().PlugMixer();
   IOKitDouble::SetFaults({.services = kNoResources});
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             (Lines{
                 MasterPortGiven(),
@@ -73,7 +73,7 @@ TEST_F(OpenFailure, OfTheServicesGivesThePortBack) {
                 "mach_port_deallocate(mach_task_self, master port)",
             }));
   handle = InUse();
-  EXPECT_EQ(openUSB(&handle, 0), kNoResources);
+  EXPECT_EQ(openUSB(&handle, 0, {}), kNoResources);
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
 
@@ -81,7 +81,7 @@ TEST_F(OpenFailure, OfTheIteratorGivesThePortBack) {
   devices().PlugMixer();
   IOKitDouble::SetFaults({.noIterator = true});
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             (Lines{
                 MasterPortGiven(),
@@ -98,7 +98,7 @@ TEST_F(OpenFailure, OfAPlugInInFrontOfTheMixerIsForgotten) {
   devices().SetFaults(devices().PlugUnrelated(), {.plugIn = kHeld});
   devices().PlugMixer();
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_NE(handle, nullptr);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({WalkBegins(), Found("1", " = E00002C5"), Kept("2"), WalkEnds()}));
@@ -110,7 +110,7 @@ TEST_F(OpenFailure, OfAPlugInBehindTheMixerIsWhatTheCallerIsTold) {
   devices().PlugMixer();
   devices().SetFaults(devices().PlugUnrelated(), {.plugIn = kHeld});
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), kHeld);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), kHeld);
   EXPECT_NE(handle, nullptr);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({WalkBegins(), Kept("1"), Found("2", " = E00002C5"), WalkEnds()}));
@@ -122,7 +122,7 @@ TEST_F(OpenFailure, OfAPlugInIsForgottenWhenAnotherDeviceFollows) {
   devices().SetFaults(devices().PlugUnrelated(), {.plugIn = kHeld});
   devices().PlugUnrelated();
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_NE(handle, nullptr);
 }
 
@@ -130,7 +130,7 @@ TEST_F(OpenFailure, OfAMixersOwnPlugInMovesTheMixersBehindItUp) {
   devices().SetFaults(devices().PlugMixer(), {.plugIn = kHeld});
   devices().PlugMixer();
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({WalkBegins(), Found("1", " = E00002C5"), Kept("2"), WalkEnds()}));
 }
@@ -138,21 +138,21 @@ TEST_F(OpenFailure, OfAMixersOwnPlugInMovesTheMixersBehindItUp) {
 TEST_F(OpenFailure, OfTheOnlyMixersPlugInIsTheGeneralError) {
   devices().SetFaults(devices().PlugMixer(), {.plugIn = kHeld});
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
   EXPECT_EQ(handle, nullptr);
 }
 
 TEST_F(OpenFailure, OfAPlugInShowsItsStatusToAHandleInUse) {
   devices().SetFaults(devices().PlugMixer(), {.plugIn = kHeld});
   DeviceHandle handle = InUse();
-  EXPECT_EQ(openUSB(&handle, 0), kHeld);
+  EXPECT_EQ(openUSB(&handle, 0, {}), kHeld);
   EXPECT_EQ(handle, InUse());
 }
 
 TEST_F(OpenFailure, OfAPlugInThatSaysItWasMade) {
   devices().SetFaults(devices().PlugMixer(), {.noPlugIn = true});
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
   EXPECT_EQ(IOKitDouble::TakeCalls(), Joined({WalkBegins(), Found("1"), WalkEnds()}));
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
@@ -163,7 +163,7 @@ TEST_F(OpenFailure, OfTheInterfaceMakesTheDeviceNone) {
   devices().SetFaults(devices().PlugMixer(), {.query = E_NOINTERFACE, .noInterface = true});
   devices().PlugMixer();
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_EQ(
       IOKitDouble::TakeCalls(),
       Joined({WalkBegins(), Found("1"), Exchanged("1", " = 80000004"), Kept("2"), WalkEnds()}));
@@ -175,7 +175,7 @@ TEST_F(OpenFailure, OfTheInterfaceBehindTheMixerDoesNotCostTheMixer) {
   devices().PlugMixer();
   devices().SetFaults(devices().PlugUnrelated(), {.query = E_NOINTERFACE, .noInterface = true});
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_NE(handle, nullptr);
   closeUSB(&handle);
   EXPECT_EQ(IOKitDouble::Alive(), References());
@@ -184,14 +184,14 @@ TEST_F(OpenFailure, OfTheInterfaceBehindTheMixerDoesNotCostTheMixer) {
 TEST_F(OpenFailure, OfTheInterfaceAloneIsTheGeneralError) {
   devices().SetFaults(devices().PlugMixer(), {.noInterface = true});
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
 
 TEST_F(OpenFailure, OfTheQueryDoesNotMatterWhenTheInterfaceIsGivenAllTheSame) {
   devices().SetFaults(devices().PlugMixer(), {.query = E_NOINTERFACE});
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_NE(handle, nullptr);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({WalkBegins(), Found("1"), Exchanged("1", " = 80000004"), ReadInFull("1"),
@@ -234,7 +234,7 @@ TEST_P(OpenFailureOfRead, MakesAMixerNoneAndReleasesIt) {
   devices().SetFaults(devices().PlugMixer(), GetParam().faults);
   devices().PlugMixer();
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(), Joined({WalkBegins(), Found("1"), Exchanged("1"), Asked("1"),
                                               InterfaceReleased("1"), Kept("2"), WalkEnds()}));
   closeUSB(&handle);
@@ -245,7 +245,7 @@ TEST_P(OpenFailureOfRead, BehindTheMixerIsWhatTheCallerIsTold) {
   devices().PlugMixer();
   devices().SetFaults(devices().PlugUnrelated(), GetParam().faults);
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), kNoResources);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), kNoResources);
   EXPECT_NE(handle, nullptr);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({WalkBegins(), Kept("1"), Found("2"), Exchanged("2"), Asked("2"), WalkEnds()}));
@@ -255,7 +255,7 @@ TEST_P(OpenFailureOfRead, BehindTheMixerIsWhatTheCallerIsTold) {
 TEST_P(OpenFailureOfRead, OfTheOnlyMixerIsTheGeneralError) {
   devices().SetFaults(devices().PlugMixer(), GetParam().faults);
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), kGeneralError);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
   EXPECT_EQ(handle, nullptr);
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
@@ -268,23 +268,23 @@ INSTANTIATE_TEST_SUITE_P(Each, OpenFailureOfRead, testing::ValuesIn(kFailingRead
 TEST_F(OpenFailure, OfNothingLeavesWhatTheLastReleaseAnswered) {
   devices().SetFaults(devices().PlugUnrelated(), {.release = 7});
   DeviceHandle handle = InUse();
-  EXPECT_EQ(openUSB(&handle, 0), 7);
+  EXPECT_EQ(openUSB(&handle, 0, {}), 7);
   devices().SetFaults(1, {.release = 0xE00002C5});
-  EXPECT_EQ(openUSB(&handle, 0), kHeld);
+  EXPECT_EQ(openUSB(&handle, 0, {}), kHeld);
   EXPECT_EQ(handle, InUse());
 }
 
 TEST_F(OpenFailure, OfAReadIsForgottenOverWhatReleaseAnswered) {
   devices().SetFaults(devices().PlugUnrelated(), {.readClass = kNoResources, .release = 3});
   DeviceHandle handle = InUse();
-  EXPECT_EQ(openUSB(&handle, 0), 3);
+  EXPECT_EQ(openUSB(&handle, 0, {}), 3);
 }
 
 TEST_F(OpenFailure, NoReleaseInFrontOfTheMixerReachesTheCaller) {
   devices().SetFaults(devices().PlugUnrelated(), {.release = 7});
   devices().PlugMixer();
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_NE(handle, nullptr);
 }
 
@@ -293,7 +293,7 @@ TEST_F(OpenFailure, NoReleaseInFrontOfTheMixerReachesTheCaller) {
 TEST_F(OpenFailure, NoSecondMixerIsChosenBehindTheFirst) {
   for (int i = 0; i < 4; ++i) devices().PlugMixer();
   DeviceHandle handle = nullptr;
-  EXPECT_EQ(open_pipes(&handle, 0), 0);
+  EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({WalkBegins(), Kept("1"), Kept("2"), Kept("3"), Kept("4"), WalkEnds()}));
   EXPECT_EQ(IOKitDouble::Alive(), (References{.interfaces = 4}));

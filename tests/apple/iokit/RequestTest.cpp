@@ -36,7 +36,7 @@ class Request : public IOKitTest {
       if (request.wLength == 0) CopyUnused(request);
       return answer_;
     });
-    EXPECT_EQ(orv::open_pipes(&mixer_, 0), 0);
+    EXPECT_EQ(orv::open_pipes(&mixer_, 0, {}), 0);
     IOKitDouble::TakeCalls();
   }
   ~Request() override { orv::closeUSB(&mixer_); }

@@ -152,7 +152,7 @@ UnitPlace PlaceOf(DeviceHandle unit) noexcept {
   return {.location = location};
 }
 
-std::int32_t CheckUSBAudio(ProductId /*productId*/) noexcept {
+std::int32_t CheckUSBAudio(ProductId /*productId*/, BusLook * /*look*/) noexcept {
   // The port stays with the process, as one name that is counted. A failure does not matter: the
   // null port stands for the same.
   mach_port_t masterPort = MACH_PORT_NULL;
@@ -171,7 +171,7 @@ std::int32_t CheckUSBAudio(ProductId /*productId*/) noexcept {
 
 // The device is never opened for exclusive use: requests on endpoint 0 need no more than its
 // interface, and the audio driver and other processes keep theirs.
-PlatformStatus openUSB(DeviceHandle *handle, std::uint32_t n) noexcept {
+PlatformStatus openUSB(DeviceHandle *handle, std::uint32_t n, const BusLook & /*look*/) noexcept {
   mach_port_t masterPort = MACH_PORT_NULL;
   io_iterator_t devices = IO_OBJECT_NULL;
   PlatformStatus status = FindDevices(&masterPort, &devices);
@@ -184,10 +184,10 @@ PlatformStatus openUSB(DeviceHandle *handle, std::uint32_t n) noexcept {
   return status;
 }
 
-PlatformStatus open_pipes(DeviceHandle *handle, std::uint32_t n) noexcept {
+PlatformStatus open_pipes(DeviceHandle *handle, std::uint32_t n, const BusLook &look) noexcept {
   if (handle == nullptr) return kIOReturnError;
   *handle = nullptr;
-  const PlatformStatus status = openUSB(handle, n);
+  const PlatformStatus status = openUSB(handle, n, look);
   if (status != kIOReturnSuccess && IsObserved()) {
     Report({}, *handle != nullptr ? PlaceOf(*handle) : UnitPlace{}, OutcomeOf(status));
   }

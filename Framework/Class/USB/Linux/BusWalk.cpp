@@ -18,8 +18,8 @@ namespace {
 
 constexpr const char *kDevicesFolder = "/sys/bus/usb/devices";
 
-// The folder of devices. opendir would do, but every set comes here at least twice, and opendir
-// asks for the status of the folder and for 32 KiB of memory each time.
+// The folder of devices. opendir would do, but every call that reaches a mixer comes here, and
+// opendir asks for the status of the folder and for 32 KiB of memory each time.
 class Folder {
  public:
   Folder() : descriptor_(open(kDevicesFolder, O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
@@ -116,13 +116,14 @@ std::optional<UnitAddress> UnitBehind(int folder, const char *name) {
 
 }  // namespace
 
-std::vector<UnitAddress> ConnectedUnits() {
-  std::vector<UnitAddress> units;
+BusLook LookAtBus() {
+  BusLook units;
   Folder folder;
   while (const dirent64 *entry = folder.Next()) {
     if (!MayBeUnit(entry->d_name)) continue;
     if (const auto unit = UnitBehind(folder.Descriptor(), entry->d_name)) units.push_back(*unit);
   }
+  std::sort(units.begin(), units.end());
   return units;
 }
 

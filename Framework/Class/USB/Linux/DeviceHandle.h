@@ -1,6 +1,6 @@
 #pragma once
 
-#include "BusWalk.h"
+#include "BusLook.h"
 
 namespace orv {
 

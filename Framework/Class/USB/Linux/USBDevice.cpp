@@ -1,11 +1,12 @@
 #include "USBDevice.h"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <new>
 
 #include <fcntl.h>
+#include <linux/usb/ch9.h>
 #include <unistd.h>
 
 #include "BusWalk.h"
@@ -26,18 +27,34 @@ int OpenAwayFromStandardStreams(const char *path) {
   return next;
 }
 
-PlatformStatus OpenNode(UnitAddress address, DeviceHandle *handle) {
+// Device numbers are given again, and a process may be stopped between its look and the opening:
+// what was opened may be another device by now, which must never get a request meant for a mixer.
+// The node begins with the device's descriptor, its numbers in the byte order of this machine.
+PlatformStatus CheckIsMixer(int descriptor) {
+  usb_device_descriptor device;
+  const ssize_t size = pread(descriptor, &device, sizeof device, 0);
+  if (size < 0) return PlatformStatusFromErrno(errno);
+  const bool isMixer = size == sizeof device && device.idVendor == kMakerUsbVendorId &&
+                       device.idProduct == MIXER_USB_PRODUCT_ID;
+  return isMixer ? kIOReturnSuccess : kIOReturnNoDevice;
+}
+
+PlatformStatus MakeHandle(int descriptor, UnitAddress address, DeviceHandle *handle) {
+  const PlatformStatus status = CheckIsMixer(descriptor);
+  if (status != kIOReturnSuccess) return status;
+  *handle = new (std::nothrow) USBDeviceInterface{descriptor, address};
+  return *handle != nullptr ? kIOReturnSuccess : kIOReturnNoMemory;
+}
+
+PlatformStatus OpenUnit(UnitAddress address, DeviceHandle *handle) {
   std::array<char, sizeof "/dev/bus/usb/65535/65535"> path;
   std::snprintf(path.data(), path.size(), "/dev/bus/usb/%03u/%03u", unsigned{address.bus},
                 unsigned{address.device});
   const int descriptor = OpenAwayFromStandardStreams(path.data());
   if (descriptor < 0) return PlatformStatusFromErrno(errno);
-  *handle = new (std::nothrow) USBDeviceInterface{descriptor, address};
-  if (*handle == nullptr) {
-    close(descriptor);
-    return kIOReturnNoMemory;
-  }
-  return kIOReturnSuccess;
+  const PlatformStatus status = MakeHandle(descriptor, address, handle);
+  if (status != kIOReturnSuccess) close(descriptor);
+  return status;
 }
 
 UnitPlace PlaceOf(UnitAddress address) { return {.bus = address.bus, .address = address.device}; }
@@ -46,26 +63,22 @@ UnitPlace PlaceOf(UnitAddress address) { return {.bus = address.bus, .address = 
 
 UnitPlace PlaceOf(DeviceHandle unit) noexcept { return PlaceOf(unit->address); }
 
-std::int32_t CheckUSBAudio(ProductId /*productId*/) noexcept {
-  return UnlessOutOfMemory(0, [&] { return static_cast<std::int32_t>(ConnectedUnits().size()); });
+std::int32_t CheckUSBAudio(ProductId /*productId*/, BusLook *look) noexcept {
+  WhileMemoryLasts([&] { *look = LookAtBus(); });
+  return static_cast<std::int32_t>(look->size());
 }
 
-PlatformStatus openUSB(DeviceHandle *handle, std::uint32_t n) noexcept {
-  return UnlessOutOfMemory(kIOReturnNoMemory, [&] {
-    std::vector<UnitAddress> units = ConnectedUnits();
-    if (n >= units.size() || *handle != nullptr) return kIOReturnError;
-    const auto chosen = units.begin() + n;
-    std::nth_element(units.begin(), chosen, units.end());
-    const PlatformStatus status = OpenNode(*chosen, handle);
-    if (status != kIOReturnSuccess && IsObserved()) Report({}, PlaceOf(*chosen), OutcomeOf(status));
-    return status;
-  });
+PlatformStatus openUSB(DeviceHandle *handle, std::uint32_t n, const BusLook &look) noexcept {
+  if (n >= look.size() || *handle != nullptr) return kIOReturnError;
+  const PlatformStatus status = OpenUnit(look[n], handle);
+  if (status != kIOReturnSuccess && IsObserved()) Report({}, PlaceOf(look[n]), OutcomeOf(status));
+  return status;
 }
 
-PlatformStatus open_pipes(DeviceHandle *handle, std::uint32_t n) noexcept {
+PlatformStatus open_pipes(DeviceHandle *handle, std::uint32_t n, const BusLook &look) noexcept {
   if (handle == nullptr) return kIOReturnError;
   *handle = nullptr;
-  return openUSB(handle, n);
+  return openUSB(handle, n, look);
 }
 
 void closeUSB(DeviceHandle *handle) noexcept {

@@ -28,5 +28,17 @@ TEST_F(UnopenedUnit, InTheLastPlaceIsReportedOfEachUnit) {
                                   "nowhere open 0000 0000 failed"}));
 }
 
+// Each opening looks afresh: with the first mixer gone, the last position is that of nobody.
+TEST_F(UnopenedUnit, ThatVanishedInItsRequestLeavesItsPlaceToTheNextWithinTheSameCall) {
+  PlugMixers(3);
+  rig().SetFault(1, UnitFault::kVanishes);
+  Observe();
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(TakeReports(), (Lines{"unit 1 write 8003 0300 gone", "unit 3 write 8003 0300 done",
+                                  "nowhere open 0000 0000 failed"}));
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(TakeReports(), (Lines{"unit 2 write 8003 0300 done", "unit 3 write 8003 0300 done"}));
+}
+
 }  // namespace
 }  // namespace trxtest

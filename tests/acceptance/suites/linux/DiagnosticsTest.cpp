@@ -20,6 +20,44 @@ TEST_F(UnopenedUnit, IsReportedInItsTurnWithItsPlace) {
                                   "unit 3 write 8003 0300 done"}));
 }
 
+// Pulled while the first one is served: it is skipped, alone.
+TEST_F(UnopenedUnit, UnpluggedInTheMiddleOfASetIsGone) {
+  PlugMixers(3);
+  WhileReported([&] {
+    WhileReported(nullptr);
+    rig().Unplug(2);
+  });
+  Observe();
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(TakeReports(), (Lines{"unit 1 write 8003 0300 done", "unit 2 open 0000 0000 gone",
+                                  "unit 3 write 8003 0300 done"}));
+}
+
+TEST_F(UnopenedUnit, IsTheOnlyOneThatASetMissesWhenItVanishesInItsRequest) {
+  PlugMixers(3);
+  rig().SetFault(1, UnitFault::kVanishes);
+  Observe();
+  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(TakeReports(), (Lines{"unit 1 write 8003 0300 gone", "unit 2 write 8003 0300 done",
+                                  "unit 3 write 8003 0300 done"}));
+}
+
+// What is asked behind a setting is asked of the units that were told it, whatever is plugged in
+// and out meanwhile.
+TEST_F(UnopenedUnit, IsMissedByTheReadsOfTheSameCallAndAMixerPluggedInSinceIsNotAsked) {
+  PlugMixers(2);
+  int reports = 0;
+  WhileReported([&] {
+    if (++reports != 2) return;
+    rig().Unplug(1);
+    rig().PlugMixer();
+  });
+  Observe();
+  EXPECT_EQ(ORV_SetUSBOutputAudio(11, 0, 1), 100);
+  EXPECT_EQ(TakeReports(), (Lines{"unit 1 write 8016 0101 done", "unit 2 write 8016 0101 done",
+                                  "unit 1 open 0000 0000 gone", "unit 2 read 8002 0000 done"}));
+}
+
 TEST_F(UnopenedUnit, HeldByAnotherProcessIsBusy) {
   for (int i = 0; i < 2; ++i) rig().PlugMixer();
   rig().SetFault(1, UnitFault::kHeldByAnotherProcess);
