@@ -3,5 +3,5 @@
 s|\]\([./]*include/TRX-SELVASetup/([A-Za-z-]+\.h)\)|](@ref \1)|g
 s|\[([^]]*)\]\(#[^)]*\)|\1|g
 s|\]\(([^)#]+\.md)#[^)]*\)|](\1)|g
-s|\[([^]]*)\]\(Simulator/README\.md\)|\1|g
-s|\]\(examples|](../examples|g
+s~\[([^]]*)\]\([./]*(Simulator/README\.md|scripts/setup\.sh)\)~\1~g
+s|\]\(examples|](../docs/examples|g

@@ -23,7 +23,7 @@ test_packages=(
 )
 
 package_packages=(
-  dpkg-dev fakeroot file binutils gzip
+  dpkg-dev fakeroot file binutils gzip doxygen
 )
 
 lint_packages=(

@@ -14,6 +14,7 @@ TRIPLET = os.environ["TRIPLET"]
 LANGUAGES = ["Dutch", "English", "French", "German", "Italian", "Japanese", "Spanish", "ko", "pt", "ru",
              "zh_CN", "zh_TW"]
 FRAMEWORK = "usr/share/orvikaudio/Library/Frameworks/TRX-SELVASetup.framework"
+DOCUMENTATION = f"usr/share/doc/{DEVELOPMENT}"
 
 FILES = {
     LIBRARY: [
@@ -31,7 +32,12 @@ FILES = {
         f"usr/lib/{TRIPLET}/libTRX-SELVASetup.so",
         f"usr/lib/{TRIPLET}/pkgconfig/TRX-SELVASetup.pc",
         f"usr/lib/{TRIPLET}/cmake/TRX-SELVASetup/TRX-SELVASetupConfig.cmake",
-        f"usr/lib/{TRIPLET}/cmake/TRX-SELVASetup/TRX-SELVASetupConfigVersion.cmake"],
+        f"usr/lib/{TRIPLET}/cmake/TRX-SELVASetup/TRX-SELVASetupConfigVersion.cmake",
+        f"{DOCUMENTATION}/README.md",
+        f"{DOCUMENTATION}/docs/host-writers.md",
+        f"{DOCUMENTATION}/docs/examples/poll-host.c",
+        f"{DOCUMENTATION}/html/index.html",
+        f"{DOCUMENTATION}/html/TRX-SELVASetup_8h.html"],
     TOOLS: [
         "usr/bin/trxctl",
         "usr/share/man/man1/trxctl.1.gz",
