@@ -185,7 +185,7 @@ void AddMixerLines(Lines &lines, const Mixer &mixer) {
   lines.push_back("certify 0x" + Hex(state.certify, 8));
   for (const RequestEntry &entry : RequestTable()) {
     if (entry.IsRead()) continue;
-    const std::optional<std::uint16_t> value = mixer.LastWritten(entry.id);
+    const std::optional<std::uint16_t> value = mixer.LastWritten(*RequestNamed(entry.word));
     lines.push_back("written " + std::string(entry.word) + ' ' +
                     (value ? "0x" + Hex(*value, 4) : "never"));
   }

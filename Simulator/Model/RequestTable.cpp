@@ -1,6 +1,7 @@
 #include "RequestTable.h"
 
 #include <algorithm>
+#include <array>
 
 namespace trxsim {
 
@@ -12,29 +13,29 @@ constexpr std::uint8_t kRead = 0;
 constexpr std::uint8_t kWrite = 3;
 
 // Reads and writes share numbers with different meanings, and the mixer input is 0x8016.
-constexpr std::array<RequestEntry, 10> kRequests{{
-    {RequestId::kFirmware, kVendorRead, kRead, 0x8001, "firmware", "firmware version"},
-    {RequestId::kSelectors, kVendorRead, kRead, 0x8002, "selectors", "input selectors"},
-    {RequestId::kSerato, kVendorRead, kRead, 0x8004, "serato", "Serato activity"},
-    {RequestId::kPort, kVendorRead, kRead, 0x8006, "port", "port state"},
-    {RequestId::kCertify, kVendorRead, kRead, 0x8007, "certify", "certify level"},
-    {RequestId::kMixerOutput, kVendorWrite, kWrite, 0x8002, "mixer-output", "mixer output"},
-    {RequestId::kUsbOutputLevel, kVendorWrite, kWrite, 0x8003, "usb-output-level",
-     "USB output level"},
-    {RequestId::kMidiChannel, kVendorWrite, kWrite, 0x8004, "midi-channel", "MIDI channel"},
-    {RequestId::kMidiKeyMode, kVendorWrite, kWrite, 0x8005, "midi-key-mode", "MIDI key mode"},
-    {RequestId::kMixerInput, kVendorWrite, kWrite, 0x8016, "mixer-input", "mixer input"},
-}};
+constexpr auto kRequests = std::to_array<RequestEntry>({
+    {kVendorRead, kRead, 0x8001, "firmware", "firmware version"},
+    {kVendorRead, kRead, 0x8002, "selectors", "input selectors"},
+    {kVendorRead, kRead, 0x8004, "serato", "Serato activity"},
+    {kVendorRead, kRead, 0x8006, "port", "port state"},
+    {kVendorRead, kRead, 0x8007, "certify", "certify level"},
+    {kVendorWrite, kWrite, 0x8002, "mixer-output", "mixer output"},
+    {kVendorWrite, kWrite, 0x8003, "usb-output-level", "USB output level"},
+    {kVendorWrite, kWrite, 0x8004, "midi-channel", "MIDI channel"},
+    {kVendorWrite, kWrite, 0x8005, "midi-key-mode", "MIDI key mode"},
+    {kVendorWrite, kWrite, 0x8016, "mixer-input", "mixer input"},
+});
 
 template <typename Predicate>
 std::optional<RequestId> FindRequest(Predicate matches) {
   const auto found = std::find_if(kRequests.begin(), kRequests.end(), matches);
-  return found == kRequests.end() ? std::nullopt : std::optional(found->id);
+  if (found == kRequests.end()) return std::nullopt;
+  return static_cast<RequestId>(found - kRequests.begin());
 }
 
 }  // namespace
 
-const std::array<RequestEntry, 10> &RequestTable() { return kRequests; }
+std::span<const RequestEntry> RequestTable() { return kRequests; }
 
 const RequestEntry &EntryOf(RequestId id) { return kRequests[static_cast<std::size_t>(id)]; }
 

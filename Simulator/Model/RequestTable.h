@@ -1,16 +1,16 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string_view>
 
 #include "ControlTransfer.h"
 
 namespace trxsim {
 
-/// The ten vendor requests that a mixer answers.
-enum class RequestId {
+/// A vendor request that a mixer answers: its place in the table. Those with a name come first.
+enum class RequestId : std::size_t {
   kFirmware,
   kSelectors,
   kSerato,
@@ -25,7 +25,6 @@ enum class RequestId {
 
 /// One row of the request table.
 struct RequestEntry {
-  RequestId id;
   std::uint8_t requestType;  ///< bmRequestType
   std::uint8_t request;      ///< bRequest
   std::uint16_t index;       ///< wIndex
@@ -36,8 +35,8 @@ struct RequestEntry {
   bool IsRead() const { return (requestType & 0x80) != 0; }
 };
 
-/// All requests, reads first, each half in the order of wIndex.
-const std::array<RequestEntry, 10> &RequestTable();
+/// All requests, in the order of their RequestIds.
+std::span<const RequestEntry> RequestTable();
 
 /// The row of `id`.
 const RequestEntry &EntryOf(RequestId id);

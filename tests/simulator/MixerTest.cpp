@@ -81,7 +81,9 @@ TEST_P(MixerWrites, LeaveTheOtherSettingsAlone) {
   Mixer mixer;
   mixer.Answer({0x40, 3, 0x0300, index, 0});
   int written = 0;
-  for (const RequestEntry &entry : RequestTable()) written += mixer.LastWritten(entry.id) ? 1 : 0;
+  for (const RequestEntry &entry : RequestTable()) {
+    written += mixer.LastWritten(*RequestNamed(entry.word)) ? 1 : 0;
+  }
   EXPECT_EQ(written, 1);
 }
 
