@@ -14,8 +14,8 @@ namespace orv {
 /// on. A platform that suspends no receivers treats both alike.
 enum class Delivery { kPlain, kImmediately };
 
-/// Posts a notification. Without a notification service nothing happens. Any thread; what one
-/// thread posts arrives in that order.
+/// Posts a notification. Without a notification service nothing happens. Any thread. On Linux, what
+/// one thread posts arrives in that order; macOS promises no order between two notifications.
 void PostNotification(const std::string &name, const UserInfo &userInfo,
                       Delivery delivery) noexcept;
 
