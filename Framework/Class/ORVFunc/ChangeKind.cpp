@@ -16,7 +16,7 @@ void Post(ChangeKind<Callback> &kind, ProductId productId, const UserInfo &userI
   PostNotification(NameOf(kind, productId), userInfo, kind.delivery);
 }
 
-// Any process can post any number, so it is checked before it serves as a place in a table.
+// Any process can post any number, so it is checked before it is used as an index.
 template <typename Callback>
 Callback CallbackFor(const ChangeKind<Callback> &kind, ProductId productId) {
   return productId < kProductIdLimit ? kind.callbacks[productId] : nullptr;

@@ -14,13 +14,13 @@
 
 namespace orv {
 
-/// Keeps the dictionary of the change announced last. The library never reads it: it is there under
-/// its name for whoever looks into a process with a debugger. Any thread, without a lock.
+/// Keeps the dictionary of the last announced change. The library never reads it: it can be seen by
+/// name in a debugger. Any thread, without a lock.
 class LastPosted {
  public:
   void Keep(const UserInfo &userInfo) { delete held_.exchange(new Held{userInfo}); }
 
-  /// Holds nothing any more. What was held stays alive for the rest of the process.
+  /// Becomes empty. What it held stays alive for the rest of the process.
   void Empty() noexcept {
     if (Held *const held = held_.exchange(nullptr)) held->before = leftAlive_.exchange(held);
   }
@@ -35,10 +35,10 @@ class LastPosted {
   std::atomic<Held *> leftAlive_ = nullptr;
 };
 
-/// Callbacks and contexts have one place a ProductId. Only the receiving thread touches them.
+/// Callbacks and contexts are indexed by ProductId. Only the receiving thread uses them.
 template <typename Callback>
 struct ChangeKind {
-  const char *nameEnding;  // stands behind the model's name; null: never announced
+  const char *nameEnding;  // follows the model's name; null: never announced
   Delivery delivery;
   LastPosted &lastPosted;
   std::array<Callback, kProductIdLimit> callbacks = {};
@@ -59,20 +59,20 @@ template <typename Callback>
 StatusCode Register(ChangeKind<Callback> &kind, const ProductSet &models, ProductId productId,
                     Callback callback, void *context) noexcept;
 
-/// Takes a model's callback away. What is announced is delivered as before and finds no callback.
-/// The receiving thread only.
+/// Removes a model's callback. Changes are still delivered, and find no callback. The receiving
+/// thread only.
 template <typename Callback>
 StatusCode Unregister(ChangeKind<Callback> &kind, const ProductSet &models,
                       ProductId productId) noexcept;
 
-/// Calls the callback of the model that a received dictionary names, if it has one. The name of the
-/// notification does not matter, and a number that names no model is ignored. The receiving thread
+/// Calls the callback of the model that a received dictionary names, if there is one. The name of
+/// the notification is not used; a number that names no model is ignored. The receiving thread
 /// only.
 void Deliver(const ChangeKind<ChannelIndexCallback> &kind, const UserInfo &userInfo);
 void Deliver(const ChangeKind<IndexCallback> &kind, const UserInfo &userInfo);
 
-/// Adds one observation of a name, by the means of the platform: each notification of that name is
-/// delivered to the kind. The receiving thread only.
+/// Observes a name once more: the platform then delivers each notification of that name to the
+/// kind. The receiving thread only.
 void Observe(const std::string &name, ChangeKind<ChannelIndexCallback> &kind) noexcept;
 void Observe(const std::string &name, ChangeKind<IndexCallback> &kind) noexcept;
 

@@ -1,4 +1,4 @@
-// What a program needs that tells a person what happened.
+// For programs that report to a person: an observer of requests, and the settings file's path.
 #include <TRX-SELVASetup/Diagnostics.h>
 
 #include "OutOfMemory.h"

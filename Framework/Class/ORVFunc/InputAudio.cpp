@@ -1,4 +1,4 @@
-// USB input audio: which mixer signal each of the channels that the computer records carries.
+// USB input audio: which mixer signal the computer records on each recording channel.
 // docs/compatibility.md has the reasons for bounds and thresholds that differ between functions.
 #include <array>
 #include <span>
@@ -62,7 +62,7 @@ constexpr std::array<const char *, 42> InputAudioText = {
     "AUX",                       // 41
 };
 
-// The tables below hold places in InputAudioText, a row a channel.
+// The tables below hold indexes into InputAudioText, one row for each channel.
 
 constexpr std::array<std::int32_t, 32> TRXBASE_TEXT = {
     0,  1,  2,  4,  20, 21, 22, 23,  //
@@ -80,8 +80,8 @@ constexpr std::array<std::int32_t, 48> TRXHALDEN_TEXT = {
     0,  0,  0,
 };
 
-// Hosts may ask for more than TRXLUMEN_TEXT holds and are answered from TRXMID_TEXT, which follows
-// it: docs/compatibility.md. So the two are one sequence.
+// An index past the end of TRXLUMEN_TEXT reads TRXMID_TEXT, which follows it
+// (docs/compatibility.md). So the two are one sequence.
 constexpr std::size_t kLumenEntries = 24;
 constexpr std::size_t kMidEntries = 20;
 constexpr std::array<std::int32_t, kLumenEntries + kMidEntries> kLumenThenMid = {
@@ -97,7 +97,7 @@ constexpr std::array<std::int32_t, kLumenEntries + kMidEntries> kLumenThenMid = 
 constexpr std::span<const std::int32_t> TRXLUMEN_TEXT = kLumenThenMid;
 constexpr std::span<const std::int32_t> TRXMID_TEXT = TRXLUMEN_TEXT.subspan<kLumenEntries>();
 
-// One number a channel; 0 refuses the channel.
+// One number for each channel; 0 refuses the channel.
 using LimitPerChannel = std::array<std::uint32_t, 5>;
 
 bool IsBelow(const LimitPerChannel &limits, std::int32_t channel, std::uint32_t number) {
@@ -122,16 +122,16 @@ constexpr std::array<TextTable, 4> kTextTables = {{
      {9, 9, 9, 9, 10}},
 }};
 
-// --- Choices and what they send ------------------------------------------------------------------
+// --- Choices and their routing values ------------------------------------------------------------
 
 constexpr LimitPerChannel kListedChoices = {8, 8, 7, 1, 0};
 constexpr LimitPerChannel kSettableChoices = {8, 8, 7, 0, 0};
 
 constexpr std::int64_t kConvTableWidth = 8;
 
-// The channel counted from 1 in the high byte, the mixer's code for the signal in the low byte. The
-// tables of the sister models end with one entry more; nothing reads them, as the routing of those
-// models is set with raw values only.
+// The high byte is the channel, from 1; the low byte is the mixer's code for the signal. The tables
+// of the sister models have one more entry. Nothing reads them: the routing of those models is set
+// with raw values only.
 constexpr std::array<std::uint16_t, 24> _convTable_LUMEN = {
     0x0103, 0x0100, 0x0106, 0x0107, 0x0108, 0x0109, 0x010D, 0x010A,  //
     0x0203, 0x0200, 0x0206, 0x0207, 0x0208, 0x0209, 0x020D, 0x020A,  //
@@ -140,8 +140,7 @@ constexpr std::array<std::uint16_t, 24> _convTable_LUMEN = {
 [[maybe_unused]] constexpr const auto &_convTable_MORROW = _convTable_LUMEN;
 constexpr auto _convTable_SELVA = std::span(_convTable_LUMEN).first<23>();
 
-// Nothing for a place that the table does not have, such as one of a stored index that is no
-// choice.
+// Nothing for an index past the end, for example when the stored index is no choice.
 const std::uint16_t *RoutingValue(std::int32_t channel, std::int64_t index) {
   const std::int64_t position = channel * kConvTableWidth + index;
   if (position < 0 || position >= std::ssize(_convTable_SELVA)) return nullptr;
@@ -170,14 +169,14 @@ std::uint16_t RawRoutingValue(std::int32_t channel, std::int32_t group, std::uin
 
 // --- The input selectors -------------------------------------------------------------------------
 
-// Reads the input selectors of each unit until one stands where the chosen signal does not come
-// from. A selector that could not be read counts as standing at 0.
+// Reads the input selectors of each unit until one is in a position that does not deliver the
+// chosen signal. A selector that could not be read counts as being in position 0.
 template <typename Accepts>
 bool AnySelectorRefuses(const ConnectedUnits &units, std::uint16_t length, std::int32_t channel,
                         Accepts accepts) {
   bool isRefused = false;
   VisitUnits(units, [&](DeviceHandle unit) {
-    std::array<std::uint8_t, 6> selectors = {};  // one more than is ever asked for
+    std::array<std::uint8_t, 6> selectors = {};  // one more than is ever read
     GetInputSelectorInfo(unit, selectors.data(), length);
     isRefused = !accepts(selectors[static_cast<std::size_t>(channel) + 1]);
     return isRefused ? Visit::kStop : Visit::kNext;
@@ -202,8 +201,7 @@ StatusCode WarnAboutRawValue(const ConnectedUnits &units, std::int32_t channel,
   return isRefused ? ORV_SUCCESS_WITH_WARNING : ORV_SUCCESS;
 }
 
-// TRX-VOLT has selectors for its first two channels, and nothing vouches for them while no unit is
-// connected.
+// TRX-VOLT has selectors for its first two channels. Without a unit they are unknown.
 StatusCode WarnAboutRawValueOnVolt(const ConnectedUnits &units, std::int32_t channel) {
   if (units.Count() == 0) return ORV_SUCCESS_WITH_WARNING;
   const bool isRefused = AnySelectorRefuses(
@@ -211,7 +209,7 @@ StatusCode WarnAboutRawValueOnVolt(const ConnectedUnits &units, std::int32_t cha
   return isRefused ? ORV_SUCCESS_WITH_WARNING : ORV_SUCCESS;
 }
 
-// --- What is stored ------------------------------------------------------------------------------
+// --- Stored choices ------------------------------------------------------------------------------
 
 constexpr std::array<const char *, 5> kKeys = {"Output0", "Output1", "Output2", "Output3",
                                                "Output4"};
@@ -219,7 +217,7 @@ constexpr std::array<const char *, 5> kKeys = {"Output0", "Output1", "Output2", 
 struct StoredChoice {
   ProductSet models;
   std::int32_t channels;
-  std::array<std::int32_t, 6> defaults;  // one a channel
+  std::array<std::int32_t, 6> defaults;  // one for each channel
 };
 
 constexpr std::array<StoredChoice, 3> kStoredChoices = {{
@@ -242,8 +240,8 @@ LastPosted inputAudioInfo;
 
 }  // namespace
 
-// A routing change reaches even a receiver that the platform has suspended: what a channel carries
-// must not be shown wrong.
+// A routing change is delivered even to a receiver that the platform has suspended, so that no
+// window shows an outdated routing.
 constinit ChangeKind<ChannelIndexCallback> orv::inputAudioChange = {
     " InputAudio Change", Delivery::kImmediately, inputAudioInfo};
 
@@ -290,7 +288,7 @@ StatusCode ORV_GetCurrentUSBInputAudioIndex(ProductId productId, int32_t channel
   const StoredChoice *const stored = RowOf(kStoredChoices, productId);
   if (stored == nullptr || channel < 0 || channel >= stored->channels) return ORV_BAD_ARGUMENT;
   const auto place = static_cast<std::size_t>(channel);
-  if (place >= kKeys.size()) {  // a channel that is answered but never stored
+  if (place >= kKeys.size()) {  // a channel that can be read but is never stored
     *index = 0;
     return ORV_SUCCESS;
   }

@@ -1,4 +1,4 @@
-// The warning that a host shows when an input routing was carried out but may not be heard.
+// The warning that a host shows when an input routing was sent but may have no effect.
 #include <array>
 #include <string>
 
@@ -40,8 +40,8 @@ const Warned *RowFor(ProductId productId, std::int32_t channel) {
 constexpr const char *kWithoutUnit = "WARNING1";
 constexpr std::uint32_t kPortWithOwnWarning = 1;
 
-// The port of the first unit; 0 when it cannot be read. A unit of a model without warnings by port
-// is opened all the same, but not asked: docs/compatibility.md.
+// The port of the first unit; 0 when it cannot be read. For a model whose warning does not depend
+// on the port, the unit is opened but not asked: docs/compatibility.md.
 std::uint32_t PortOfFirstUnit(const ConnectedUnits &units, const Warned &row) {
   std::uint32_t port = 0;
   VisitFirstUnit(units, [&](DeviceHandle unit) {
@@ -62,7 +62,7 @@ const char *ChooseKey(const ConnectedUnits &units, const Warned &row) {
 
 constexpr std::int32_t kSystemLanguage = 99;
 
-// By language number.
+// Indexed by language number.
 constexpr std::array<const char *, 12> kLanguageFolders = {
     "English", "Japanese", "French", "German", "Italian", "Dutch",
     "Spanish", "ru",       "pt",     "zh_CN",  "zh_TW",   "ko"};
@@ -77,7 +77,7 @@ std::string BundlePath() {
                         : "/System/Library/Frameworks/TRX-SELVASetup.framework");
 }
 
-// Without a unit the text comes in the system's language, whichever is named:
+// Without a unit the text is in the system's language, whichever is named:
 // docs/compatibility.md.
 ORVStringRef WarningText(const std::string &bundlePath, const std::string &key,
                          std::int32_t language) {

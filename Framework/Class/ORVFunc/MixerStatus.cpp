@@ -1,6 +1,5 @@
-// What the mixers say of themselves. Read from the units each time; no file and no announcement is
-// involved. None of these looks at the status of a request: what the buffer holds afterwards
-// decides.
+// Status queries. Each call reads from the units and uses no file and no announcement. The status
+// of a request is ignored: the contents of the buffer decide.
 #include <array>
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
@@ -15,7 +14,7 @@ namespace {
 constexpr ProductSet kCertifiedModels = {ORV_PRODUCT_TRX_HALDEN, ORV_PRODUCT_TRX_LUMEN,
                                          ORV_PRODUCT_TRX_MORROW, ORV_PRODUCT_TRX_SELVA};
 
-// TRX-HALDEN is answered, but not asked: its level is always 0, docs/compatibility.md.
+// TRX-HALDEN is accepted but not asked: its level is always 0, docs/compatibility.md.
 constexpr ProductSet kModelsAskedForCertifyLevel = {ORV_PRODUCT_TRX_LUMEN, ORV_PRODUCT_TRX_MORROW,
                                                     ORV_PRODUCT_TRX_SELVA};
 
@@ -30,7 +29,7 @@ std::uint32_t MostSignificantFirst(const std::array<std::uint8_t, 4> &bytes) {
 struct SelectorQuery {
   ProductSet models;
   std::int32_t channels;
-  std::uint16_t length;  // of the reply that is asked for
+  std::uint16_t length;  // of the requested reply
 };
 
 constexpr std::array<SelectorQuery, 3> kSelectorQueries = {{
@@ -85,7 +84,7 @@ StatusCode ORV_GetMixerInputSelectorStatus(ProductId productId, uint32_t channel
   if (query == nullptr) return ORV_BAD_ARGUMENT;
   StatusCode status = ORV_SUCCESS;
   VisitUnits(ConnectedUnits(productId), [&](DeviceHandle unit) {
-    std::array<std::uint8_t, 6> reply = {};  // one more than is ever asked for
+    std::array<std::uint8_t, 6> reply = {};  // one more than is ever read
     GetInputSelectorInfo(unit, reply.data(), query->length);
     *selector = reply[channel + 1];
     if (*selector >= kSelectorPositions) status = ORV_BAD_ARGUMENT;
@@ -99,7 +98,7 @@ StatusCode ORV_GetMixerSeratoActiveStatus(ProductId productId, uint32_t *active)
   StatusCode status = ORV_SUCCESS;
   VisitUnits(ConnectedUnits(productId), [&](DeviceHandle unit) {
     std::array<std::uint8_t, 2> reply = {0xFF, 0xFF};
-    // TRX-VOLT knows no Serato: it is refused once a unit opens, docs/compatibility.md.
+    // TRX-VOLT has no Serato status: it is refused once a unit opens, docs/compatibility.md.
     if (!kVoltOnly.Contains(productId)) GetSeratoActiveInfo(unit, reply.data(), reply.size());
     if (reply[0] >= kSeratoStates) {
       status = ORV_BAD_ARGUMENT;

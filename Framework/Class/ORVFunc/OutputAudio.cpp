@@ -1,5 +1,5 @@
-// USB output audio: which mixer channel each of the channels that the computer plays is assigned
-// to. docs/compatibility.md has the reasons for bounds that differ between functions.
+// USB output audio: which mixer channel each playback channel of the computer is assigned to.
+// docs/compatibility.md has the reasons for bounds that differ between functions.
 #include <array>
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
@@ -21,8 +21,8 @@ constexpr std::uint32_t kChoicesWithText = 4;
 
 constexpr std::array<const char *, 4> OutputAudioText = {"CH1", "CH2", "AUX", nullptr};
 
-// Places in OutputAudioText, a row a channel. Hosts may ask for one index more than a row holds,
-// which reads on into the next row: hence the fourth.
+// Indexes into OutputAudioText, one row for each channel. Hosts may use one index more than a row
+// holds, which reads the next row: hence the fourth row.
 constexpr std::array<std::int32_t, 12> TRXSELVA_OUT_TEXT = {
     0, 1, 2,  //
     0, 1, 2,  //
@@ -30,8 +30,7 @@ constexpr std::array<std::int32_t, 12> TRXSELVA_OUT_TEXT = {
     0, 0, 0,
 };
 
-// The channel counted from 1 in the high byte, the mixer's code for the destination in the low
-// byte.
+// The high byte is the channel, from 1; the low byte is the mixer's code for the destination.
 constexpr std::array<std::uint16_t, 9> _convTableOut_SELVA = {
     0x0100, 0x0101, 0x0104,  //
     0x0200, 0x0201, 0x0204,  //
@@ -41,20 +40,20 @@ constexpr std::array<std::uint16_t, 9> _convTableOut_SELVA = {
 constexpr std::array<const char *, kChannelsTakenBySetters> kKeys = {"Input0", "Input1", "Input2",
                                                                      "Input3", "Input4"};
 
-// Nothing for a place that the table does not have.
+// Nothing for an index past the end.
 const std::uint16_t *RequestValue(std::int32_t channel, std::int64_t index) {
   const std::int64_t position = channel * std::int64_t{kChoices} + index;
   if (position < 0 || position >= std::ssize(_convTableOut_SELVA)) return nullptr;
   return &_convTableOut_SELVA[static_cast<std::size_t>(position)];
 }
 
-// Channels beyond the table are taken by the setters and send 0.
+// The setters accept channels beyond the table and send 0 for them.
 ConnectedUnits Apply(ProductId productId, std::int32_t channel, std::uint32_t index) {
   const std::uint16_t *const value = RequestValue(channel, index);
   return ApplyToEveryUnit(productId, SetMixerInputSetting, value != nullptr ? *value : 0);
 }
 
-// The answer does not matter: docs/compatibility.md.
+// The reply is ignored: docs/compatibility.md.
 void ReadBack(const ConnectedUnits &units) {
   VisitUnits(units, [](DeviceHandle unit) {
     std::array<std::uint8_t, 4> selectors = {};
@@ -71,7 +70,7 @@ LastPosted outputAudioInfo;
 
 }  // namespace
 
-// Delivered as a change of the input routing is.
+// Delivered like a change of the input routing.
 constinit ChangeKind<ChannelIndexCallback> orv::outputAudioChange = {
     " OutputAudio Change", Delivery::kImmediately, outputAudioInfo};
 
@@ -102,7 +101,7 @@ StatusCode ORV_SetUSBOutputAudio(ProductId productId, int32_t channel, uint32_t 
   return ORV_SUCCESS;
 }
 
-// A temporary routing, announced but not made the user's choice: nothing is stored.
+// A temporary routing: it is announced but not stored, so the user's choice stays.
 StatusCode ORV_SetUSBOutputAudioDefault(ProductId productId, int32_t channel) {
   if (!IsTakenBySetters(productId, channel)) return ORV_BAD_ARGUMENT;
   const uint32_t defaultIndex = channel < kChannels ? static_cast<uint32_t>(channel) : 0;

@@ -10,10 +10,10 @@ namespace {
 struct Model {
   ProductId productId;
   const char *matchText;
-  const char *displayName;  // null: known by name, served by no function
+  const char *displayName;  // null: known by name, refused by every function
 };
 
-// In the order in which a name is tested.
+// In the order in which names are tested.
 constexpr std::array<Model, 9> kModels = {{
     {ORV_PRODUCT_TRX_ARDEN, "TRX-ARDEN", "TRX-Arden"},
     {ORV_PRODUCT_TRX_VOLT, "TRX-VOLT", "TRX-VOLT"},

@@ -1,4 +1,4 @@
-// The mixer models: which there are, what they are called, which function serves which.
+// The mixer models, their names, and the functions that serve them.
 #pragma once
 
 #include <cstdint>
@@ -8,10 +8,10 @@
 
 namespace orv {
 
-/// ProductIds lie below this number, and so do the places in tables by ProductId.
+/// ProductIds are below this number: the size of tables indexed by ProductId.
 inline constexpr ProductId kProductIdLimit = 12;
 
-/// A set of models, one bit a ProductId.
+/// A set of models, one bit for each ProductId.
 class ProductSet {
  public:
   constexpr ProductSet(std::initializer_list<ProductId> products) {
@@ -33,8 +33,8 @@ inline constexpr ProductSet kVoltOnly = {ORV_PRODUCT_TRX_VOLT};
 inline constexpr ProductSet kSelvaOnly = {ORV_PRODUCT_TRX_SELVA};
 inline constexpr ProductSet kNoModel = {};
 
-/// The name of a served model as it stands in file names, paths and notification names; null for
-/// any other ProductId.
+/// The name of a served model as used in file names, paths and notification names; null for any
+/// other ProductId.
 const char *ModelDisplayName(ProductId productId) noexcept;
 
 }  // namespace orv

@@ -1,5 +1,4 @@
-// A setting without channels, and what every one of them can do. Settings.cpp describes them, a row
-// each.
+// A setting without channels, and its operations. Settings.cpp has one row for each setting.
 #pragma once
 
 #include <cstdint>
@@ -17,33 +16,33 @@ struct Setting {
   ProductSet models;
   const char *key;  // in the settings file of each model
   std::int32_t defaultIndex;
-  std::span<const char *const> texts;  // one a choice
+  std::span<const char *const> texts;  // one for each choice
   WriteRequest request;
-  std::span<const std::uint8_t> codes;  // what the mixer calls the choices; empty: their indexes
+  std::span<const std::uint8_t> codes;  // the mixer's codes for the choices; empty: their indexes
   std::uint32_t choicesSentAgain;       // a stored index beyond these is not sent again
   ChangeKind<IndexCallback> change;
 };
 
-/// Those whose changes the observer class of macOS has an operation for.
+/// The kinds for which the observer class of macOS has an operation.
 extern Setting boostLevel;
 extern Setting midiChannel;
 extern Setting midiKeyMode;
 
-// Each checks the result pointer first, then the model, then the index, and does nothing when one
-// of them is refused. Any thread.
+// Each checks the result pointer first, then the model, then the index, and does nothing when a
+// check fails. Any thread.
 
 StatusCode GetCount(const Setting &setting, ProductId productId, std::uint32_t *count) noexcept;
 
 StatusCode GetText(const Setting &setting, ProductId productId, std::uint32_t index,
                    ORVStringRef *text) noexcept;
 
-/// Sends a choice to every connected unit, records it and announces it, in this order.
+/// Sends a choice to every connected unit, stores it and announces it, in this order.
 StatusCode Set(Setting &setting, ProductId productId, std::uint32_t index) noexcept;
 
-/// The recorded index as it stands in the file, in range or not.
+/// The stored index as it is in the file, in range or not.
 StatusCode GetCurrent(const Setting &setting, ProductId productId, std::int32_t *index) noexcept;
 
-/// Sends the recorded choice to every connected unit, and neither records nor announces it.
+/// Sends the stored choice to every connected unit. Neither stores nor announces it.
 StatusCode SetCurrent(const Setting &setting, ProductId productId) noexcept;
 
 }  // namespace orv

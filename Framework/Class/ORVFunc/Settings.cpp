@@ -1,4 +1,4 @@
-// The settings without channels: a row each, and their functions, a line each.
+// The settings without channels: one row for each setting, and one line for each function.
 #include <array>
 
 #include "Setting.h"
@@ -13,7 +13,7 @@ LastPosted boostLevelInfo, midiChannelInfo, midiKeyModeInfo;
 
 constexpr std::array<const char *, 4> BoostLevelText = {"-5 dB", "-10 dB", "-15 dB", "-19 dB"};
 
-// The mixer counts from the quietest level, hosts from the loudest.
+// The mixer counts from the quietest level, hosts count from the loudest.
 constexpr std::array<std::uint8_t, 4> _convDbTable = {3, 2, 1, 0};
 
 }  // namespace
@@ -113,7 +113,7 @@ StatusCode ORV_UnregisterMidiChannelChangedCallback(ProductId productId,
   return Unregister(midiChannel.change, midiChannel.models, productId);
 }
 
-// --- MIDI key mode: offered by no model, so that every function refuses every call ---------------
+// --- MIDI key mode: no model has one, so every function refuses every call -----------------------
 
 namespace {
 

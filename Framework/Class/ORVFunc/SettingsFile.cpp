@@ -24,7 +24,7 @@ void MergeSettingValue(const char *modelDisplayName, const char *key, std::int32
     if (!path) return;
     auto settings = PropertyList::ReadFileToChange(*path);
     if (!settings) return;
-    // Where nothing is stored yet, the folder may be missing as well.
+    // Before anything is stored, the folder may be missing as well.
     if (settings->IsEmpty()) MakeFolder(path->substr(0, path->rfind('/')));
     settings->SetInteger(key, value);
     settings->WriteAtomically(*path);

@@ -1,12 +1,12 @@
-// The one question that the library asks about the operating system.
+// The version test that decides where the library is installed.
 #pragma once
 
 namespace orv {
 
-/// Whether the second component of the system's version is numerically greater than 10: then what
-/// is installed lies below /Library, else below /System/Library. The first component does not
-/// count, so 10.15 is above and 11.2 is not. False when the version is not known or has one
-/// component only. Any thread.
+/// Whether the second component of the system's version is numerically greater than 10. If so, the
+/// library is installed below /Library, else below /System/Library. The first component does not
+/// count: true for 10.15, false for 11.2. False when the version is unknown or has only one
+/// component. Any thread.
 bool SystemMinorVersionAbove10();
 
 }  // namespace orv

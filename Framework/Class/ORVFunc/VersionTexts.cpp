@@ -1,4 +1,4 @@
-// The version texts of what is installed: package, driver, setup application, this library.
+// The version texts of the installed package, driver, setup application and library.
 #include <optional>
 #include <string>
 #include <utility>
@@ -25,8 +25,8 @@ std::optional<PropertyList> ReadInstalled(const std::string &path) {
   return PropertyList::ReadFile(SystemPath(path));
 }
 
-// Later systems have the audio driver as a plug-in, or still as a kernel extension; earlier ones
-// only the latter.
+// Newer systems have the audio driver as a plug-in or as a kernel extension; older ones only as a
+// kernel extension.
 std::optional<PropertyList> ReadDriverInfo(const std::string &model, bool isLaterSystem) {
   const std::string extension = "/Extensions/" + model + " USBAudio.kext/Contents/Info.plist";
   if (!isLaterSystem) return ReadInstalled("/System/Library" + extension);
@@ -52,7 +52,7 @@ StatusCode ORV_GetPkgVersionText(ProductId productId, ORVStringRef *text) {
   });
 }
 
-// The system's version is looked at even for a model that is then refused: docs/compatibility.md.
+// The system's version is read even for a model that is then refused: docs/compatibility.md.
 StatusCode ORV_GetDriverVersionText(ProductId productId, ORVStringRef *text) {
   if (text == nullptr) return ORV_BAD_ARGUMENT;
   return UnlessOutOfMemory<StatusCode>(ORV_BAD_ARGUMENT, [&]() -> StatusCode {
