@@ -1,4 +1,4 @@
-// What counts as an integer in an entry of a property list, the same on every platform. Any thread.
+// How an entry of a property list is read as an integer, the same on every platform. Any thread.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@ std::int32_t LowBits(std::uint64_t number);
 /// A real without its fraction; nothing when that is too large.
 std::optional<std::int32_t> IntegerOfReal(double real);
 
-/// The integer that a text spells; nothing when it spells anything else besides.
+/// The integer that a text spells; nothing when the text has anything else in it.
 std::optional<std::int32_t> IntegerOfText(std::string_view text);
 
 }  // namespace orv

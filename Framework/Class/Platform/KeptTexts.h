@@ -1,4 +1,4 @@
-// The texts that were made while the process ran and handed to hosts.
+// The texts that were made at run time and given to hosts.
 #pragma once
 
 #include <atomic>
@@ -10,11 +10,11 @@
 
 namespace orv {
 
-/// A set of texts that only grows, so that what was handed out stays, and so that a reader needs no
-/// lock. Any thread.
+/// A set of texts that only grows, so that the texts stay valid and readers need no lock. Any
+/// thread.
 ///
-/// @tparam PlatformText  what the platform hands out, made from characters that outlive it;
-///                       Reference() is the text for the host.
+/// @tparam PlatformText  the platform's text, made from characters that outlive it; Reference() is
+///                       the text for the host.
 template <typename PlatformText>
 class KeptTexts {
  public:

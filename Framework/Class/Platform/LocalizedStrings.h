@@ -1,5 +1,5 @@
-// The library's texts in the languages of its users. They lie in the library's bundle, one folder a
-// language. Any thread.
+// The library's translated texts, in the library's bundle with one folder for each language. Any
+// thread.
 #pragma once
 
 #include <string>
@@ -9,8 +9,8 @@
 namespace orv {
 
 /// The text for a key in the language of the user's system, or in English where the bundle has no
-/// such language. Null when the bundle is missing; when the key is, null or the key itself, as the
-/// platform has it.
+/// such language. Null when the bundle is missing. When the key is missing, null or the key itself,
+/// depending on the platform.
 ORVStringRef LocalizedString(const std::string &bundlePath, const char *key);
 
 /// The text for a key in one language, given by the name of its folder. Null when the folder or the

@@ -1,4 +1,4 @@
-// What a change notification is made of.
+// The parts of a change notification.
 #pragma once
 
 #include <array>

@@ -10,8 +10,8 @@
 
 namespace orv {
 
-/// Whether a receiver that the platform has suspended gets a notification at once or when it goes
-/// on. A platform that suspends no receivers treats both alike.
+/// Whether a receiver that the platform has suspended gets a notification at once or when it
+/// continues. Where the platform suspends no receivers, both are the same.
 enum class Delivery { kPlain, kImmediately };
 
 /// Posts a notification. Without a notification service nothing happens. Any thread. On Linux, what

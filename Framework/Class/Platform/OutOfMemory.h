@@ -1,12 +1,12 @@
-// Memory may run out in any call, and no exception may pass the C interface: the operations that
-// allocate run inside one of these. Any thread.
+// Memory may run out in any call, and no exception may leave the C interface: operations that
+// allocate run inside one of these functions. Any thread.
 #pragma once
 
 #include <new>
 
 namespace orv {
 
-/// Runs an action that has a result; when memory runs out on the way, the result is another.
+/// Runs an action that has a result; gives the other result when memory runs out.
 template <typename Result, typename Action>
 Result UnlessOutOfMemory(Result otherwise, Action action) noexcept {
   try {
@@ -16,7 +16,7 @@ Result UnlessOutOfMemory(Result otherwise, Action action) noexcept {
   }
 }
 
-/// Runs an action; when memory runs out on the way, the rest of it is left undone.
+/// Runs an action; when memory runs out, the rest of it is not done.
 template <typename Action>
 void WhileMemoryLasts(Action action) noexcept {
   try {

@@ -1,12 +1,11 @@
-// Where fixed paths of the system lead to.
+// Maps fixed paths to installed files.
 #pragma once
 
 #include <string>
 
 namespace orv {
 
-/// The path at which a file of the installation is really found, for the absolute path under which
-/// it is known. Any thread.
+/// The real path of an installed file, for the absolute path by which it is known. Any thread.
 std::string SystemPath(const std::string &path);
 
 }  // namespace orv

@@ -32,7 +32,7 @@
 
 namespace {
 
-// What is read of a notification of a kind.
+// The keys that are read from a notification of a kind.
 using Keys = std::span<const char *const>;
 constexpr std::array kKeysWithChannel = {orv::kProductIdKey, orv::kChannelKey, orv::kIndexKey};
 constexpr std::array kKeysWithoutChannel = {orv::kProductIdKey, orv::kIndexKey};
@@ -74,8 +74,8 @@ void Receive(const orv::ChangeKind<Callback> &kind, NSNotification *notification
 namespace orv {
 namespace {
 
-// The one observer of the process, made by the first registration and never released. Without
-// fields there is nothing to initialise.
+// The one observer of the process, made by the first registration and never released. It has no
+// fields, so there is nothing to initialise.
 ORVFunc *TheObserver() {
   static ORVFunc *observer = nil;
   if (observer == nil) observer = UnlessRaised<ORVFunc *>(nil, [] { return [ORVFunc alloc]; });

@@ -1,5 +1,5 @@
-// What every operation over Foundation needs: a pool of its own, and its strings as the library's.
-// For Objective-C++ only. Any thread.
+// What every call of Foundation needs: an autorelease pool, and conversion of strings. For
+// Objective-C++ only. Any thread.
 #pragma once
 
 #if defined(__has_feature)
@@ -16,9 +16,8 @@
 
 namespace orv {
 
-/// An autorelease pool as long as its scope: the host may have none, and one that it has may last
-/// as long as the host. Where there is no memory for it, what it would have taken goes to the
-/// host's.
+/// An autorelease pool for one scope: the host may have none, or one that is never drained. When
+/// there is no memory for it, the host's pool takes the objects.
 class AutoreleasePool {
  public:
   AutoreleasePool() noexcept {
@@ -36,8 +35,8 @@ class AutoreleasePool {
   NSAutoreleasePool *pool_ = nil;
 };
 
-/// Asks Foundation for something. What it raises ends here, and the result is another; a C++
-/// exception passes.
+/// Calls Foundation for a result. An Objective-C exception ends here and gives the other result; a
+/// C++ exception passes.
 template <typename Result, typename Action>
 Result UnlessRaised(Result otherwise, Action action) {
   const AutoreleasePool pool;
@@ -48,7 +47,7 @@ Result UnlessRaised(Result otherwise, Action action) {
   }
 }
 
-/// Tells Foundation to do something. What it raises ends here.
+/// Calls Foundation without a result. An Objective-C exception ends here.
 template <typename Action>
 void WhileNothingIsRaised(Action action) {
   const AutoreleasePool pool;
@@ -59,7 +58,7 @@ void WhileNothingIsRaised(Action action) {
   }
 }
 
-/// A text as a string object, which belongs to the pool; nil when the text is not UTF-8.
+/// A text as a string object that belongs to the pool; nil when the text is not UTF-8.
 inline NSString *StringOf(std::string_view text) {
   return [[[NSString alloc] initWithBytes:text.data()
                                    length:text.size()

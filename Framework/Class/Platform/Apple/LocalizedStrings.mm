@@ -24,7 +24,7 @@ ORVStringRef LocalizedString(const std::string &bundlePath, const char *key) {
   }));
 }
 
-// A language's file is a property list like any other.
+// The file of a language is a property list.
 ORVStringRef StringInLanguage(const std::string &bundlePath, const char *languageFolder,
                               const char *key) {
   const auto resources = UnlessRaised<std::optional<std::string>>(std::nullopt, [&] {

@@ -16,8 +16,8 @@ NSDictionary *DictionaryOf(const UserInfo &userInfo) {
 
 }  // namespace
 
-// The two forms are two messages: the plain one leaves to the receiver what it does while it is
-// suspended.
+// The two forms of delivery are two messages. With the plain one, a suspended receiver decides when
+// it gets the notification.
 void PostNotification(const std::string &name, const UserInfo &userInfo,
                       Delivery delivery) noexcept {
   WhileNothingIsRaised([&] {

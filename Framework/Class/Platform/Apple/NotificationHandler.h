@@ -4,7 +4,7 @@
 
 namespace orv {
 
-/// What an observation calls: an operation of an object, with the notification object.
+/// The operation of an object that an observation calls with the notification object.
 struct NotificationHandler {
   id observer;
   SEL operation;

@@ -34,7 +34,7 @@ std::optional<std::int32_t> IntegerOfEntry(id entry) {
 
 }  // namespace
 
-// A list without a dictionary, for want of memory, is empty, takes nothing and is not written.
+// A list that got no memory for its dictionary is empty, ignores new entries and is not written.
 PropertyList::PropertyList() : root_(UnlessRaised<id>(nil, [] { return NewDictionary(); })) {}
 
 PropertyList::PropertyList(void *root) : root_(root) {}
@@ -55,7 +55,7 @@ std::optional<PropertyList> PropertyList::ReadFile(const std::string &path) {
   return PropertyList(root);
 }
 
-// Foundation does not say why it has read nothing. When it raises, it is not the file's fault.
+// Foundation does not say why it could not read a file. An exception is not the file's fault.
 std::optional<PropertyList> PropertyList::ReadFileToChange(const std::string &path) {
   void *const root = UnlessRaised<id>(nil, [&]() -> id {
     NSDictionary *const read = DictionaryInFile(path);

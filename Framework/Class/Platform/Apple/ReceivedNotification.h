@@ -10,12 +10,11 @@
 
 namespace orv {
 
-/// Adds the integers that a notification object carries under these keys to a dictionary; whatever
-/// else it carries is passed over. Returns whether nothing but numbers stands under the keys.
+/// Adds the integers that a notification object has for these keys to a dictionary and ignores
+/// everything else. Returns whether all values for the keys are numbers.
 bool ReadUserInfo(id notification, std::span<const char *const> keys, UserInfo &userInfo);
 
-/// The same as a dictionary of its own; nothing when anything but a number stands under a key, or
-/// when memory runs out.
+/// The same in a new dictionary; nothing when a value is not a number or memory runs out.
 std::optional<UserInfo> ReceivedUserInfo(id notification,
                                          std::span<const char *const> keys) noexcept;
 

@@ -2,7 +2,7 @@
 
 namespace orv {
 
-// What is installed lies where it is known to lie.
+// Installed files are at their known paths.
 std::string SystemPath(const std::string &path) { return path; }
 
 }  // namespace orv

@@ -4,8 +4,8 @@
 
 namespace orv {
 
-/// A literal as a text that can be handed to a host; null stays null. The string object is made
-/// when the literal is first asked for, and stays; null when there is no memory for it. Any thread.
+/// A literal as a text for the host; null stays null. The string object is made at the first call
+/// for a literal and then kept; null when there is no memory for it. Any thread.
 ORVStringRef TextOfLiteral(const char *literal) noexcept;
 
 }  // namespace orv

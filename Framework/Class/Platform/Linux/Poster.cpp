@@ -1,6 +1,5 @@
-// Posting: each thread that posts has a connection of its own, because a connection belongs to one
-// thread and the library takes no lock. It is made by the thread's first post and closed when the
-// thread ends.
+// Each thread that posts has its own connection, because a connection belongs to one thread and the
+// library takes no lock. The thread's first post makes it; the end of the thread closes it.
 #include <cerrno>
 
 #include "NotificationCentre.h"
@@ -17,8 +16,8 @@ class Poster {
   Poster &operator=(const Poster &) = delete;
   ~Poster();
 
-  // A connection may have died with its bus since the last post; then a second attempt finds the
-  // new bus.
+  // The bus and its connection may have ended since the last post. A second attempt then finds
+  // the new bus.
   void Post(const std::string &name, const UserInfo &userInfo) {
     const bool isFresh = bus_ == nullptr;
     if (!Attempt(name, userInfo) && !isFresh) Attempt(name, userInfo);
@@ -44,11 +43,10 @@ class Poster {
            sd_bus_is_ready(bus_.get()) > 0;
   }
 
-  // Waits until all that was sent has left the process, but no longer than the bus may take to
-  // answer; what is left then goes out with the next post, which does not wait again for a bus that
-  // hangs. Takes in what the bus has to say meanwhile; to one who only posts it says next to
-  // nothing, so when all leaves at once, as it does as a rule, nobody asks it. Returns a negative
-  // errno value when the connection broke.
+  // Waits until everything has left the process, but no longer than the bus may take to answer. The
+  // rest then leaves with the next post, which does not wait again for a bus that hangs. While it
+  // waits, it also reads what the bus sends. Usually everything leaves at once and nothing is read.
+  // Returns a negative errno value when the connection broke.
   int Flush() {
     const std::uint64_t deadline = MonotonicNow() + patience_;
     while (!IsOut()) {
@@ -72,14 +70,14 @@ class Poster {
 
 thread_local Poster poster;
 
-// A thread that ends may still post, from what the host does at exit, when its connection is gone.
+// The host may post at exit, when the thread's connection has already been closed.
 thread_local bool isPosterGone = false;
 
 Poster::~Poster() { isPosterGone = true; }
 
 }  // namespace
 
-// The bus suspends no receiver, so both forms of delivery are the same to it.
+// The bus does not suspend receivers, so both forms of delivery are the same.
 void PostNotification(const std::string &name, const UserInfo &userInfo,
                       Delivery /*delivery*/) noexcept {
   WhileMemoryLasts([&] {

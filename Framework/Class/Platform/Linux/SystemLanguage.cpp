@@ -15,8 +15,7 @@ struct Language {
   const char *folder;
 };
 
-// A language with its country stands before the language alone where the country makes a
-// difference.
+// A language with a country comes before the language alone if the country makes a difference.
 constexpr std::array<Language, 14> kLanguages = {{
     {"zh_TW", "zh_TW"},
     {"zh_HK", "zh_TW"},
@@ -34,7 +33,7 @@ constexpr std::array<Language, 14> kLanguages = {{
     {"ko", "ko"},
 }};
 
-// "pt_BR.UTF-8@euro" is pt_BR, and where that is unknown, pt.
+// "pt_BR.UTF-8@euro" is pt_BR or, if that is unknown, pt.
 const char *FolderFor(std::string_view locale) {
   locale = locale.substr(0, locale.find_first_of(".@"));
   const std::string_view languageOnly = locale.substr(0, locale.find('_'));
@@ -49,7 +48,7 @@ std::string_view Variable(const char *name) {
   return value != nullptr ? value : std::string_view();
 }
 
-// What asks for the texts as they are in the program.
+// The locales that ask for untranslated texts.
 bool IsUntranslated(std::string_view locale) { return locale == "C" || locale == "POSIX"; }
 
 std::string_view LocaleOfMessages() {

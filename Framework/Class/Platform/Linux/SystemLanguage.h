@@ -1,4 +1,4 @@
-// Which of the bundle's languages the user reads.
+// The user's preferred languages among those of the bundle.
 #pragma once
 
 #include <vector>

@@ -14,8 +14,8 @@ struct UpperCase {
   std::string_view upperCase;
 };
 
-// The characters beyond ASCII whose upper case has ASCII letters in it. No other can become part of
-// an ASCII text, so the rest of Unicode needs no table.
+// The characters outside ASCII whose upper-case form contains ASCII letters. No others can become
+// part of an ASCII text, so the rest of Unicode needs no table.
 constexpr std::array<UpperCase, 17> kBeyondAscii = {{
     {"\u00DF", "SS"},       // sharp s
     {"\u0131", "I"},        // dotless i
@@ -36,7 +36,7 @@ constexpr std::array<UpperCase, 17> kBeyondAscii = {{
     {"\uFB06", "ST"},       //
 }};
 
-// Goes through the upper-case form of a text, byte by byte, without making a copy of it.
+// Reads the upper-case form of a text byte by byte, without a copy.
 class UpperCaseReader {
  public:
   explicit UpperCaseReader(std::string_view text) : text_(text) {}
@@ -78,7 +78,7 @@ bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 
 unsigned char ByteOf(std::string_view text) { return static_cast<unsigned char>(text.front()); }
 
-// Takes the run of digits at the front off the text and gives it without its leading zeros.
+// Removes the run of digits at the front of the text and returns it without leading zeros.
 std::string_view TakeNumber(std::string_view &text) {
   std::size_t end = 0;
   while (end < text.size() && IsDigit(text[end])) ++end;
@@ -88,7 +88,7 @@ std::string_view TakeNumber(std::string_view &text) {
   return number;
 }
 
-// A text is its characters.
+// On Linux a text is its characters.
 class CharactersAsText {
  public:
   explicit CharactersAsText(const std::string &characters) : characters_(characters.c_str()) {}

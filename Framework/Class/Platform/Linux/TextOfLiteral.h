@@ -4,8 +4,8 @@
 
 namespace orv {
 
-/// A literal as a text that can be handed to a host; null stays null. Here a text is what a literal
-/// is already. Any thread.
+/// A literal as a text for the host; null stays null. On Linux a literal already is a text. Any
+/// thread.
 inline constexpr ORVStringRef TextOfLiteral(const char *literal) noexcept { return literal; }
 
 }  // namespace orv

@@ -2,9 +2,9 @@
 
 namespace orv {
 
-/// What one exported call keeps of its look at the bus: nothing. The registry promises no order
-/// that would hold for the length of a call, and hosts are used to each opening looking afresh: a
-/// unit that goes away leaves its position to the next one.
+/// Empty: on macOS an exported call keeps nothing from its look at the bus. The registry promises
+/// no order that is stable during a call, and hosts rely on a new look for each opening: when a
+/// unit goes away, the next one takes its position.
 struct BusLook {};
 
 }  // namespace orv

@@ -1,11 +1,11 @@
-// The results of platform calls: IOKit's own, with IOKit's own names for them.
+// The results of platform calls: those of IOKit.
 #pragma once
 
 #include <IOKit/IOReturn.h>
 
 namespace orv {
 
-/// What a platform operation answers; 0 is success.
+/// The result of a platform operation; 0 is success.
 using PlatformStatus = IOReturn;
 
 }  // namespace orv

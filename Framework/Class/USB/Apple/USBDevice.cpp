@@ -12,11 +12,11 @@
 namespace orv {
 namespace {
 
-// Spelled out: the constant for it names another class in builds for newer systems only.
+// Spelled out: in builds for newer systems, IOKit's constant names another class.
 constexpr const char *kDeviceClass = "IOUSBDevice";
 
-// The port through which the registry is asked. Version 12 of the system renamed the call: builds
-// for older ones do not have the new name, builds for newer ones are warned of the old.
+// The port for calls to the registry. macOS 12 renamed the call: builds for older systems do not
+// have the new name, and builds for newer ones warn about the old name.
 kern_return_t GetMasterPort(mach_port_t *port) {
 #if __MAC_OS_X_VERSION_MIN_REQUIRED >= 120000
   return IOMainPort(MACH_PORT_NULL, port);
@@ -27,7 +27,8 @@ kern_return_t GetMasterPort(mach_port_t *port) {
 
 // --- Counting ----------------------------------------------------------------------------------
 
-// The dictionary keeps the number by a reference of its own. Ours is left: a few bytes a count.
+// The dictionary holds its own reference to the number. Ours is not released: a few bytes for each
+// count.
 void Demand(CFMutableDictionaryRef matching, CFStringRef key, SInt32 value) {
   CFDictionarySetValue(matching, key,
                        CFNumberCreate(kCFAllocatorDefault, kCFNumberSInt32Type, &value));
@@ -59,7 +60,7 @@ struct UsbIds {
   UInt16 product = 0;
 };
 
-// Null when the device has none to give. The device itself has served then, either way.
+// Null when the device has none. Either way the device itself is not needed any more.
 IOCFPlugInInterface **CreatePlugIn(io_service_t device, PlatformStatus *status) {
   const CFUUIDRef type = kIOUSBDeviceUserClientTypeID;
   const CFUUIDRef plugInInterface = kIOCFPlugInInterfaceID;
@@ -70,7 +71,7 @@ IOCFPlugInInterface **CreatePlugIn(io_service_t device, PlatformStatus *status) 
   return *status == kIOReturnSuccess ? plugIn : nullptr;
 }
 
-// Null when the plug-in has none to give: that alone is looked at, whatever else it answers.
+// Null when the plug-in has none. Only the pointer decides; the status is ignored.
 DeviceHandle ExchangeForDevice(IOCFPlugInInterface **plugIn) {
   LPVOID device = nullptr;
   (*plugIn)->QueryInterface(plugIn, CFUUIDGetUUIDBytes(kIOUSBDeviceInterfaceID), &device);
@@ -78,7 +79,7 @@ DeviceHandle ExchangeForDevice(IOCFPlugInInterface **plugIn) {
   return static_cast<DeviceHandle>(device);
 }
 
-// Class and subclass are not looked at, but a device that cannot even name them is not asked on.
+// The values of class and subclass are ignored, but a device that cannot report them is skipped.
 PlatformStatus ReadIds(DeviceHandle device, UsbIds *ids) {
   UInt8 deviceClass = 0;
   UInt8 subclass = 0;
@@ -93,7 +94,7 @@ bool IsMixer(const UsbIds &ids) {
   return ids.vendor == kMakerUsbVendorId && ids.product == MIXER_USB_PRODUCT_ID;
 }
 
-// Hands the chosen mixer out, unless the caller holds another one already.
+// Gives out the chosen mixer, unless the caller already holds another one.
 Walk Choose(Search *search, DeviceHandle mixer) {
   search->found = true;
   if (*search->handle == nullptr) {
@@ -105,8 +106,8 @@ Walk Choose(Search *search, DeviceHandle mixer) {
   return Walk::kEnd;
 }
 
-// Takes over the device. One without an interface is none of ours. It must not cost the caller a
-// mixer found before it, so its status is that of its plug-in, which was made.
+// Takes ownership of the device. One without an interface is not a mixer. It must not cost the
+// caller a mixer found earlier, so its status is that of its plug-in, which was made.
 Walk Examine(Search *search, io_service_t service) {
   IOCFPlugInInterface **const plugIn = CreatePlugIn(service, &search->status);
   if (plugIn == nullptr) return Walk::kOn;
@@ -119,13 +120,13 @@ Walk Examine(Search *search, io_service_t service) {
     if (search->n == 0 && Choose(search, device) == Walk::kEnd) return Walk::kEnd;
     --search->n;
   }
-  // Behind the chosen mixer interfaces stay alive: what Release answers would stand in the place of
-  // what the device has said.
+  // After the chosen mixer, interfaces are not released: the result of Release would replace the
+  // device's status.
   if (!search->found) search->status = static_cast<PlatformStatus>((*device)->Release(device));
   return Walk::kOn;
 }
 
-// To the end, also behind the chosen mixer: what the last device says is what the caller is told.
+// To the end, also after the chosen mixer: the caller gets the status of the last device.
 PlatformStatus WalkAll(io_iterator_t devices, DeviceHandle *handle, std::uint32_t n) {
   Search search = {.handle = handle, .n = n};
   while (const io_service_t device = IOIteratorNext(devices)) {
@@ -134,7 +135,7 @@ PlatformStatus WalkAll(io_iterator_t devices, DeviceHandle *handle, std::uint32_
   return search.status;
 }
 
-// Leaves the iterator null when there is none; the status may be success nevertheless.
+// The iterator stays null when there is none, even if the status is success.
 PlatformStatus FindDevices(mach_port_t *masterPort, io_iterator_t *devices) {
   const PlatformStatus status = GetMasterPort(masterPort);
   if (status != kIOReturnSuccess) return status;
@@ -145,7 +146,7 @@ PlatformStatus FindDevices(mach_port_t *masterPort, io_iterator_t *devices) {
 
 }  // namespace
 
-// A location that cannot be told stays 0.
+// An unknown location stays 0.
 UnitPlace PlaceOf(DeviceHandle unit) noexcept {
   UInt32 location = 0;
   if ((*unit)->GetLocationID(unit, &location) != kIOReturnSuccess) location = 0;
@@ -153,8 +154,8 @@ UnitPlace PlaceOf(DeviceHandle unit) noexcept {
 }
 
 std::int32_t CheckUSBAudio(ProductId /*productId*/, BusLook * /*look*/) noexcept {
-  // The port stays with the process, as one name that is counted. A failure does not matter: the
-  // null port stands for the same.
+  // The port is kept: it is one counted name for the process. A failure is ignored: the null port
+  // means the same.
   mach_port_t masterPort = MACH_PORT_NULL;
   GetMasterPort(&masterPort);
   CFMutableDictionaryRef matching = IOServiceMatching(kDeviceClass);
@@ -169,7 +170,7 @@ std::int32_t CheckUSBAudio(ProductId /*productId*/, BusLook * /*look*/) noexcept
   return count;
 }
 
-// The device is never opened for exclusive use: requests on endpoint 0 need no more than its
+// The device is never opened for exclusive use: requests on endpoint 0 need only the device
 // interface, and the audio driver and other processes keep theirs.
 PlatformStatus openUSB(DeviceHandle *handle, std::uint32_t n, const BusLook & /*look*/) noexcept {
   mach_port_t masterPort = MACH_PORT_NULL;
@@ -194,7 +195,7 @@ PlatformStatus open_pipes(DeviceHandle *handle, std::uint32_t n, const BusLook &
   return status;
 }
 
-// The device was not opened, so closing it fails and harms nothing.
+// The device was not opened, so closing it fails without harm.
 void closeUSB(DeviceHandle *handle) noexcept {
   DeviceHandle device = *handle;
   if (device == nullptr) return;
