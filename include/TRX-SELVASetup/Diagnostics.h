@@ -3,25 +3,7 @@
  * mixer, and where the settings are kept.
  *
  * The functions of TRX-SELVASetup.h answer ORV_SUCCESS whatever the mixers made of it. An observer
- * learns the rest:
- *
- *     #include <stdio.h>
- *     #include <TRX-SELVASetup/Diagnostics.h>
- *
- *     static void count_requests(const ORVRequestReport *report, void *context) {
- *       int *counts = context;
- *       counts[report->outcome == ORV_OUTCOME_DONE ? 0 : 1]++;
- *     }
- *
- *     int main(void) {
- *       int counts[2] = {0, 0};
- *       ORVStringRef path = NULL;
- *       ORV_ObserveRequests(count_requests, counts);
- *       ORV_SetBoostLevelIndex(ORV_PRODUCT_TRX_SELVA, 1);
- *       ORV_ObserveRequests(NULL, NULL);
- *       printf("%d took it, %d did not\n", counts[0], counts[1]);
- *       return ORV_GetSettingsFilePath(ORV_PRODUCT_TRX_SELVA, &path) == ORV_SUCCESS ? 0 : 1;
- *     }
+ * learns the rest. docs/host-writers.md shows a program that uses both.
  */
 #ifndef TRX_SELVASETUP_DIAGNOSTICS_H
 #define TRX_SELVASETUP_DIAGNOSTICS_H

@@ -10,7 +10,8 @@
  *   thread, takes no lock, keeps no mixer open between calls and caches nothing. On Linux it keeps
  *   connections to the session bus: one for each thread that has set something, one that receives.
  * - A call waits up to 5 seconds for each request that a mixer does not answer. On Linux it also
- *   waits, once and up to 5 seconds, for a session bus that does not answer.
+ *   waits, once and up to 5 seconds, for a session bus that does not answer. A signal does not end
+ *   a request: after the first one, the signals of the thread wait until the request has ended.
  * - The result is a StatusCode. Arguments are checked first, result pointers before all others.
  *   When a check fails, the call returns ORV_BAD_ARGUMENT and has done nothing, unless its
  *   description says otherwise.
