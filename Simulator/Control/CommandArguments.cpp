@@ -29,7 +29,7 @@ CommandArguments::CommandArguments(std::string_view line) {
 std::string CommandArguments::Peek() const { return Left() == 0 ? std::string() : words_[next_]; }
 
 std::string CommandArguments::Word() {
-  if (Left() == 0) throw CommandError("something is missing; usage: " + usage_);
+  if (Left() == 0) throw CommandError("an argument is missing; usage: " + usage_);
   return words_[next_++];
 }
 
@@ -50,7 +50,7 @@ int CommandArguments::Unit() {
 
 void CommandArguments::End() const {
   if (Left() != 0) {
-    throw CommandError(Quoted(Peek()) + " is too much; usage: " + usage_);
+    throw CommandError(Quoted(Peek()) + " is one argument too many; usage: " + usage_);
   }
 }
 

@@ -9,13 +9,13 @@
 
 namespace trxsim {
 
-/// A command that cannot be understood, in words for the user.
+/// A command that cannot be understood; `what()` is a message for the user.
 class CommandError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// The words of one command, taken off from the front.
+/// The words of one command, taken one after the other.
 class CommandArguments {
  public:
   /// Splits `line` at blanks. `usage` is quoted in the messages about missing or extra words.
@@ -48,7 +48,7 @@ class CommandArguments {
   std::string usage_;
 };
 
-/// `word` fit for a message: printable characters only, and not long.
+/// `word` in quotes, shortened, with `?` in the place of characters that cannot be printed.
 std::string Quoted(std::string_view word);
 
 /// A whole word as a number in `base` (0: decimal, or hexadecimal after 0x); nothing unless all of

@@ -119,9 +119,8 @@ std::function<void(MixerState &)> ReadCertify(CommandArguments &arguments) {
 constexpr std::array<Setting, 7> kSettings{{
     {"selector", "set N selector CHANNEL VALUE", "input selector of a channel, channels from 0",
      ReadSelector},
-    {"channels", "set N channels COUNT", "how many channels the mixer has (4 at first)",
-     ReadChannels},
-    {"reply-leading-byte", "set N reply-leading-byte VALUE", "the byte before the selectors",
+    {"channels", "set N channels COUNT", "how many selectors the mixer reports", ReadChannels},
+    {"reply-leading-byte", "set N reply-leading-byte VALUE", "the byte in front of the selectors",
      ReadLeadingByte},
     {"serato", "set N serato A [B]", "the two Serato bytes (B: 0)", ReadSerato},
     {"port", "set N port A B", "the two port state bytes", ReadPort},
@@ -275,16 +274,18 @@ constexpr std::array<Command, 11> kCommands{{
     {"units", "units", "list all units: number, kind and ids, bus/device address, faults",
      RunUnits},
     {"plug", "plug [KIND]", "plug in a new unit and print its number (kinds below)", RunPlug},
-    {"unplug", "unplug N", "take unit N off the bus", RunUnplug},
-    {"replug", "replug N", "plug unit N in again, under a new device number", RunReplug},
+    {"unplug", "unplug N", "pull the cable of unit N", RunUnplug},
+    {"replug", "replug N", "plug unit N in again; it gets a new device number", RunReplug},
     {"set", "set N SETTING VALUE...", "change what mixer N reports (settings below)", RunSet},
-    {"get", "get N", "all that unit N reports, and the value last written to each setting", RunGet},
-    {"fault", "fault N KIND [ARG] [REQUEST]", "make requests or opening fail (kinds below)",
+    {"get", "get N", "show all that unit N reports and the value last written by each request",
+     RunGet},
+    {"fault", "fault N FAULT [REQUEST]", "make requests, or opening the unit, fail (faults below)",
      RunFault},
-    {"clear", "clear N", "take all faults off unit N", RunClear},
-    {"log", "log [clear]", "all requests so far; with clear: forget them", RunLog},
-    {"environment", "environment", "the variables that a further process needs", RunEnvironment},
-    {"help", "help", "this text", RunHelp},
+    {"clear", "clear N", "remove all faults of unit N", RunClear},
+    {"log", "log [clear]", "print all requests so far; with clear, forget them", RunLog},
+    {"environment", "environment", "print the variables that a further program needs",
+     RunEnvironment},
+    {"help", "help", "print this text", RunHelp},
 }};
 
 std::string HelpLine(std::string_view usage, std::string_view help) {
@@ -332,16 +333,16 @@ std::vector<std::string> CommandHelp() {
                            "another USB device with these hexadecimal ids; the "
                            "mixers' maker is " +
                                MakerIdText()));
-  lines.push_back("Faults of requests, of every one or of the REQUEST named:");
+  lines.push_back("Faults of requests, of all or only of the REQUEST that is named:");
   lines.push_back(HelpLine("fault N stall [REQUEST]", "the request is refused"));
-  lines.push_back(HelpLine("fault N short K [REQUEST]", "only K bytes of the reply come"));
+  lines.push_back(HelpLine("fault N short K [REQUEST]", "only K bytes of the reply arrive"));
   lines.push_back(HelpLine("fault N no-reply [REQUEST]", "the request runs into its time-out"));
   lines.push_back(HelpLine("fault N vanish [REQUEST]", "the unit is unplugged during the request"));
   lines.push_back("Faults of opening:");
   lines.push_back(HelpLine("fault N refuse", "nobody can open the unit"));
+  lines.push_back(HelpLine("fault N deny", "only root can open the unit, as without a udev rule"));
   lines.push_back(
-      HelpLine("fault N deny", "no permission, as without a udev rule; root still may"));
-  lines.push_back(HelpLine("fault N hold", "busy (EBUSY), except for CAP_SYS_ADMIN"));
+      HelpLine("fault N hold", "the unit is busy, except for a process with CAP_SYS_ADMIN"));
   lines.push_back("Requests: " + RequestWords());
   return lines;
 }

@@ -21,14 +21,14 @@ struct CommandReply {
 /// The answer to the command "help": all commands with their arguments.
 std::vector<std::string> CommandHelp();
 
-/// Understands control commands and carries them out on a desk. Takes any bytes as a command. Safe
-/// for any number of threads.
+/// Executes control commands on a desk. Any bytes are accepted as a command. Safe for any number of
+/// threads.
 class CommandInterpreter {
  public:
   /// `environment` is what the command "environment" answers, one NAME=VALUE each.
   CommandInterpreter(Desk &desk, std::vector<std::string> environment);
 
-  /// Carries out one command line, given without its end of line.
+  /// Executes one command line, given without its end of line.
   CommandReply Execute(std::string_view line);
 
  private:

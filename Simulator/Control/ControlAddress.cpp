@@ -22,7 +22,7 @@ bool Exists(const std::string &path) {
 }  // namespace
 
 ControlPlace DefaultControlPlace() {
-  // The base directory rules of desktop Linux have relative paths ignored.
+  // By the rules of XDG a relative path counts as none.
   const char *runtimeFolder = Variable("XDG_RUNTIME_DIR");
   if (runtimeFolder != nullptr && *runtimeFolder == '/') {
     return {runtimeFolder, std::string(runtimeFolder) + "/trx-mixer-sim.sock", false};

@@ -50,7 +50,7 @@ void ControlClient::Send(const std::string &line) {
     const ssize_t count =
         ::send(socket_.Get(), line.data() + sent, line.size() - sent, MSG_NOSIGNAL);
     if (count < 0 && errno == EINTR) continue;
-    if (count <= 0) throw SimulatorUnreachable("the simulator at " + path_ + " went away");
+    if (count <= 0) throw SimulatorUnreachable("the simulator at " + path_ + " has ended");
     sent += static_cast<std::size_t>(count);
   }
 }
@@ -66,7 +66,7 @@ std::string ControlClient::ReceiveLine() {
     char buffer[4096];
     const ssize_t count = recv(socket_.Get(), buffer, sizeof buffer, 0);
     if (count < 0 && errno == EINTR) continue;
-    if (count <= 0) throw SimulatorUnreachable("the simulator at " + path_ + " went away");
+    if (count <= 0) throw SimulatorUnreachable("the simulator at " + path_ + " has ended");
     received_.append(buffer, static_cast<std::size_t>(count));
   }
 }

@@ -8,7 +8,7 @@
 
 namespace trxsim {
 
-/// Nobody answers at a control socket, or the simulator went away.
+/// No simulator answers at a control socket, or it ended.
 class SimulatorUnreachable : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

@@ -14,10 +14,10 @@ namespace trxsim {
 
 namespace {
 
-// Far above any command; whoever sends more is not talking this protocol.
+// Far above any command: a client that sends more does not speak this protocol.
 constexpr std::size_t kLongestLine = 4096;
 
-// Keeps one runaway client from using up the descriptors of the simulator; further clients wait.
+// So that a client in error cannot use up the simulator's descriptors; further clients wait.
 constexpr std::size_t kMostConnections = 100;
 
 bool MustWait() { return errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR; }
@@ -43,7 +43,7 @@ void ControlServer::Serve() {
     const int listener = connections_.size() < kMostConnections ? listener_.Get() : -1;
     std::vector<pollfd> polled{{stopRead_.Get(), POLLIN, 0}, {listener, POLLIN, 0}};
     for (const Connection &connection : connections_) {
-      // A client that does not read its replies is not listened to either.
+      // No command is read from a client that does not read its replies.
       const short events = connection.output.empty() ? POLLIN : POLLOUT;
       polled.push_back({connection.socket.Get(), events, 0});
     }

@@ -30,15 +30,15 @@ std::string FolderOf(const std::string &path) {
 void RemoveDeadSocket(const std::string &path) {
   struct stat status {};
   if (lstat(path.c_str(), &status) != 0) return;
-  if (!S_ISSOCK(status.st_mode)) throw ControlSocketError(path + " is there and is not a socket");
+  if (!S_ISSOCK(status.st_mode)) throw ControlSocketError(path + " exists and is not a socket");
   if (ConnectUnixSocket(path) || errno != ECONNREFUSED) {
     throw ControlSocketError("another simulator listens at " + path);
   }
   unlink(path.c_str());
 }
 
-// A simulator holds the lock for some microseconds. In a shared folder any user can hold it for
-// ever; whoever waits longer than this waits for no simulator and goes on without.
+// A simulator holds the lock for some microseconds. In a shared folder any user can hold it for as
+// long as they like; after a second the holder cannot be a simulator, and no lock is needed.
 void WaitForLock(const Descriptor &folder) {
   constexpr std::chrono::milliseconds kPause(10);
   constexpr int kTries = 100;
@@ -48,8 +48,8 @@ void WaitForLock(const Descriptor &folder) {
   }
 }
 
-// Two simulators that start at once must not take the same file for a dead one; the lock on the
-// folder orders them and leaves nothing behind.
+// Of two simulators that start at once, the second must not remove the socket of the first. The
+// lock on the folder orders them and leaves no file behind.
 Descriptor Claim(const std::string &path) {
   const Descriptor folder(open(FolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (!folder) Fail(path);
@@ -60,8 +60,7 @@ Descriptor Claim(const std::string &path) {
   return listener;
 }
 
-// Makes `folder` for this user alone. Under /tmp anybody may have made it, so an existing one is
-// looked at.
+// Makes `folder` for this user alone. Under /tmp another user may have made it before.
 void MakeOwnFolder(const std::string &folder) {
   if (mkdir(folder.c_str(), 0700) == 0 || IsOwnFolder(folder)) return;
   throw ControlSocketError(folder + " is not a folder of this user alone");

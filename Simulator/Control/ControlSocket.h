@@ -7,20 +7,21 @@
 
 namespace trxsim {
 
-/// A control socket that cannot be made, in words for the user.
+/// A control socket that cannot be made; `what()` is a message for the user.
 class ControlSocketError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// The listening end of a control socket. At its end the socket file, and a folder made for it, go
-/// away. A file that a dead simulator left behind is taken over; one of a live simulator never.
+/// The listening end of a control socket. The destructor removes the socket file and a folder that
+/// was made for it. A socket file of a simulator that has ended is replaced, one of a running
+/// simulator never.
 class ControlSocket {
  public:
-  /// At `path`. Throws `ControlSocketError`, also when a live simulator listens there.
+  /// At `path`. Throws `ControlSocketError`, also when a simulator listens there.
   static ControlSocket At(const std::string &path);
 
-  /// At the default place; when a live simulator has that, in a private folder of its own.
+  /// At the default place; when a simulator listens there, in a new private folder.
   static ControlSocket AtDefaultPlace();
 
   ~ControlSocket();
@@ -30,18 +31,18 @@ class ControlSocket {
   /// Its path.
   const std::string &Path() const { return path_; }
 
-  /// True when it is neither at a place that was asked for nor at the default one.
+  /// True when it is neither at a given path nor at the default place.
   bool IsPrivate() const { return isPrivate_; }
 
-  /// The listening socket for a server, a descriptor of its own. This one stays open as well: until
-  /// the file is gone, nobody may take it for a dead simulator's.
+  /// A new descriptor of the listening socket, for a server. The first one stays open until the
+  /// file is removed, so that no other simulator takes the file for a dead one.
   Descriptor Listener() const;
 
  private:
   ControlSocket(std::string path, std::string ownFolder, bool isPrivate);
 
   std::string path_;
-  std::string ownFolder_;  // empty: the folder was there before
+  std::string ownFolder_;  // empty: the folder was not made here
   bool isPrivate_;
   Descriptor listener_;
 };

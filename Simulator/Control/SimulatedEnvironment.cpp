@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The address sanitizer wants to be loaded first, which it need not be for these libraries.
+// The address sanitizer refuses to be loaded after another library; these two do it no harm.
 constexpr const char *kSanitizerOptions = "verify_asan_link_order=0";
 
 std::string PreloadList() { return GuardPath() + ':' + kPreload; }

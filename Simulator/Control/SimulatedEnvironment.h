@@ -16,11 +16,12 @@ std::string GuardPath();
 /// "NAME=VALUE" that tells a process the control socket of its simulator.
 std::string ControlEntry(const std::string &socket);
 
-/// What a process needs to find mixers that only it is to see.
+/// The variables with which a process finds the mixers of a testbed.
 Environment SimulatedEnvironment(const std::string &testbed, const std::string &socket);
 
-/// Throws `SimulatorNotTrusted` unless `answer`, what the simulator at `socket` says that a process
-/// needs, has only the variables above, each with a value that cannot bring in foreign code.
+/// Throws `SimulatorNotTrusted` unless `answer`, the environment that the simulator at `socket`
+/// gives, has only the variables above, with values that make a program load or read nothing of
+/// others.
 void RequireExpectedEnvironment(const Environment &answer, const std::string &socket);
 
 }  // namespace trxsim

@@ -8,7 +8,7 @@
 
 namespace trxsim {
 
-/// Owns one file descriptor and closes it at its end.
+/// Owns one file descriptor and closes it.
 class Descriptor {
  public:
   explicit Descriptor(int number = -1) : number_(number) {}
@@ -29,7 +29,7 @@ class Descriptor {
   int number_;
 };
 
-/// A stream socket connected to `path`; none, with errno set, when nobody answers there.
+/// A stream socket connected to `path`; none, with errno set, on failure.
 Descriptor ConnectUnixSocket(const std::string &path);
 
 /// The user who made the other end of a connected stream socket listen; nobody, with errno set,

@@ -8,7 +8,7 @@
 
 namespace trxsim {
 
-/// Help texts with a usage line of our own, since CLI11 does not know what follows its options.
+/// Help texts with a usage line of our own: CLI11 does not know which arguments follow the options.
 class UsageFormatter : public CLI::Formatter {
  public:
   explicit UsageFormatter(std::string usage) : usage_(std::move(usage)) {}

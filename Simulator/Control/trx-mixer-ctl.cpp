@@ -24,13 +24,13 @@ enum ExitCode { kDone = 0, kRefused = 1, kUsage = 2, kUnreachable = 3, kNoExec =
 
 constexpr const char *kExamples =
     "Examples:\n"
-    "  trx-mixer-ctl units                       what is on the desk\n"
+    "  trx-mixer-ctl units                       list all units\n"
     "  trx-mixer-ctl set 1 selector 0 6          turn the first selector of mixer 1\n"
-    "  trx-mixer-ctl fault 1 no-reply selectors  mixer 1 no longer answers that request\n"
+    "  trx-mixer-ctl fault 1 no-reply selectors  let mixer 1 not answer that request\n"
     "  trx-mixer-ctl unplug 2                    pull the cable of unit 2\n"
-    "  trx-mixer-ctl log                         what crossed the wire\n"
-    "  trx-mixer-ctl help                        every command of the simulator\n"
-    "  trx-mixer-ctl run -- bash                 a shell in which the mixers are plugged in\n"
+    "  trx-mixer-ctl log                         print all requests\n"
+    "  trx-mixer-ctl help                        list all commands\n"
+    "  trx-mixer-ctl run -- bash                 open a shell that sees the mixers\n"
     "\n"
     "Exit codes: 0 done, 1 refused by the simulator, 2 usage, 3 no simulator of this user;\n"
     "run: that of the program, 126 or 127 if it cannot be started.\n";
@@ -67,7 +67,8 @@ int Talk(const std::string &given, std::vector<std::string> words) {
     if (!words.empty() && words[0] == "--") words.erase(words.begin());
   }
   if (words.empty()) {
-    std::fprintf(stderr, "trx-mixer-ctl: run what? For example: trx-mixer-ctl run -- bash\n");
+    std::fprintf(stderr,
+                 "trx-mixer-ctl: no program to run; for example: trx-mixer-ctl run -- bash\n");
     return kUsage;
   }
   const std::string socket = given.empty() ? trxsim::ClientControlSocket() : given;

@@ -13,17 +13,17 @@ struct ControlRequest {
   std::uint16_t index = 0;       ///< wIndex
   std::uint16_t length = 0;      ///< wLength
 
-  /// True when the data stage, if any, runs from the device to the host.
+  /// True when the data stage, if any, goes from the device to the host.
   bool IsRead() const { return (requestType & 0x80) != 0; }
 };
 
-/// How one control transfer ended, seen from the host.
+/// How one control transfer ended for the host.
 enum class Outcome {
-  kDone,       ///< Carried out; for a read, `TransferResult::data` holds what came back.
+  kDone,       ///< Succeeded; for a read, `TransferResult::data` is the reply.
   kStalled,    ///< The device refused the request.
-  kNoReply,    ///< The device keeps silent until the host's time-out.
-  kUnplugged,  ///< The device went away during the request.
-  kGone,       ///< The device was gone before the request began; nothing crossed the wire.
+  kNoReply,    ///< The device does not answer before the host's time-out.
+  kUnplugged,  ///< The device was unplugged during the request.
+  kGone,       ///< The device was unplugged before the request; nothing was sent.
 };
 
 /// The end of one control transfer.

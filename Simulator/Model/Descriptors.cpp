@@ -32,8 +32,8 @@ std::uint8_t NumberOf(const UsbIdentity &identity, TextNumber text) {
   return TextOf(identity, text).empty() ? std::uint8_t{kNoText} : std::uint8_t{text};
 }
 
-// The control interface says that interfaces 1 and 2 belong to it; without this header the kernel's
-// driver does not take any of them.
+// Says that interfaces 1 and 2 belong to the control interface. Without it the kernel's driver
+// takes none of them.
 std::vector<std::uint8_t> AudioHeader() {
   return {10, kClassSpecific, kHeader, 0x00, 0x01, 10, 0, 2, 1, 2};
 }

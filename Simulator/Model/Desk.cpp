@@ -43,14 +43,14 @@ int Desk::Plug(const UnitKind &kind) {
 void Desk::Unplug(int number) {
   const std::lock_guard lock(mutex_);
   Unit &unit = Find(number);
-  if (!unit.address) throw DeskError(UnitText(number) + " is not plugged in; `replug` does that");
+  if (!unit.address) throw DeskError(UnitText(number) + " is not plugged in; `replug` plugs it in");
   Disconnect(number, unit);
 }
 
 void Desk::Replug(int number) {
   const std::lock_guard lock(mutex_);
   Unit &unit = Find(number);
-  if (unit.address) throw DeskError(UnitText(number) + " is plugged in; `unplug` it first");
+  if (unit.address) throw DeskError(UnitText(number) + " is already plugged in");
   Connect(number, unit);
 }
 
@@ -98,7 +98,7 @@ void Desk::ClearFaults(int number) {
 
 TransferResult Desk::Transfer(int number, const ControlRequest &request) {
   const std::lock_guard lock(mutex_);
-  // A unit that a front end could not plug in after all may have been seen by a host already.
+  // A host may already have seen a unit that the front end then failed to plug in.
   const auto found = units_.find(number);
   if (found == units_.end() || !found->second.address) return {Outcome::kGone, {}};
   Unit &unit = found->second;

@@ -17,13 +17,13 @@
 
 namespace trxsim {
 
-/// Something that the desk refuses, in words for the user.
+/// The desk cannot do something; `what()` is a message for the user.
 class DeskError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// One unit as the desk knows it.
+/// One unit of the desk.
 struct Unit {
   UsbIdentity identity;
   std::optional<Mixer> mixer;         ///< Empty for another device, which stalls every request.
@@ -41,14 +41,13 @@ class Desk {
   /// Plugs in a new unit and returns its number.
   int Plug(const UnitKind &kind = kMixerModels.front());
 
-  /// Takes a plugged unit off the bus.
+  /// Unplugs a unit.
   void Unplug(int number);
 
   /// Plugs a unit in again; it gets a new device number.
   void Replug(int number);
 
-  /// Notes that unit `number` went away by itself; nothing happens when it is not at `address` any
-  /// more.
+  /// Notes that unit `number` was unplugged by the system. Does nothing unless it is at `address`.
   void Lost(int number, const BusAddress &address);
 
   /// A copy of all units, by number.
@@ -66,10 +65,10 @@ class Desk {
   /// Sets the fault of opening a unit.
   void SetFault(int number, OpenFault fault);
 
-  /// Takes all faults off a unit.
+  /// Removes all faults of a unit.
   void ClearFaults(int number);
 
-  /// Carries out one request of a host: the fault, else the unit's own answer, and the log line.
+  /// Handles one request of a host: applies a fault, else lets the unit answer, and logs it.
   TransferResult Transfer(int number, const ControlRequest &request);
 
   /// A copy of the wire log.

@@ -10,42 +10,41 @@
 
 namespace trxsim {
 
-/// What goes wrong with requests.
+/// How requests fail.
 enum class RequestFaultKind {
   kStall,    ///< The request is refused.
-  kShort,    ///< A read brings only the first bytes of its reply.
-  kNoReply,  ///< The request takes the host's whole time-out and fails.
-  kVanish,   ///< The unit is unplugged in the middle of the request.
+  kShort,    ///< A read returns only the first bytes of its reply.
+  kNoReply,  ///< The request fails after the host's time-out.
+  kVanish,   ///< The unit is unplugged during the request.
 };
 
 /// One request fault with its argument.
 struct RequestFault {
   RequestFaultKind kind = RequestFaultKind::kStall;
-  std::uint16_t bytes = 0;  ///< `Short` only: the bytes that still come.
+  std::uint16_t bytes = 0;  ///< `kShort` only: how many bytes arrive.
 };
 
-/// What goes wrong when a host opens the unit.
+/// How opening a unit fails.
 enum class OpenFault {
   kNone,
   kRefuse,  ///< Nobody can open it.
-  kDeny,    ///< Its permission bits are all off, as without a udev rule; root may still open it.
+  kDeny,    ///< Only root can open it, as without a udev rule.
   kHold,    ///< The kernel answers EBUSY, except to a process with CAP_SYS_ADMIN.
 };
 
 /// The faults of one unit.
 class Faults {
  public:
-  /// Sets a fault for one request, or for every request. The fault of one request goes before that
-  /// of every request.
+  /// Sets a fault for one request, or for all. A fault of one request overrides one of all.
   void Set(std::optional<RequestId> request, RequestFault fault);
 
   /// Sets the fault of opening.
   void Set(OpenFault fault) { open_ = fault; }
 
-  /// Everything works again.
+  /// Removes all faults.
   void Clear();
 
-  /// The fault that a request meets, or nothing. `request` is empty for one outside the table.
+  /// The fault that applies to a request, if any. `request` is empty for one outside the table.
   std::optional<RequestFault> FaultOf(std::optional<RequestId> request) const;
 
   /// The fault of opening.

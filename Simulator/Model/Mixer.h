@@ -11,18 +11,18 @@
 
 namespace trxsim {
 
-/// What a mixer reports about itself; may be changed at any time.
+/// What a mixer reports.
 struct MixerState {
-  std::uint8_t leadingByte = 0;                     ///< Before the selectors in their reply.
-  std::vector<std::uint8_t> selectors{0, 0, 0, 0};  ///< One position a mixer channel.
+  std::uint8_t leadingByte = 0;                     ///< In front of the selectors in their reply.
+  std::vector<std::uint8_t> selectors{0, 0, 0, 0};  ///< One position for each.
   std::array<std::uint8_t, 2> serato{0, 0};         ///< First byte: 1 while Serato is active.
-  std::array<std::uint8_t, 2> port{0, 0};           ///< Port state, as it goes over the wire.
-  std::uint16_t firmware = 0x0100;                  ///< Least significant byte first on the wire.
-  std::uint32_t certify = 1;                        ///< Most significant byte first on the wire.
+  std::array<std::uint8_t, 2> port{0, 0};           ///< As it is sent.
+  std::uint16_t firmware = 0x0100;                  ///< Sent least significant byte first.
+  std::uint32_t certify = 1;                        ///< Sent most significant byte first.
 };
 
-/// One mixer without its cable: answers the ten vendor requests, stalls on everything else, and
-/// keeps the last value written to each setting. Not safe for several threads at once.
+/// One mixer: answers the ten vendor requests, stalls on everything else, and keeps the last value
+/// that each request wrote. One thread at a time.
 class Mixer {
  public:
   /// Answers one request. A reply is never longer than the host asked for.

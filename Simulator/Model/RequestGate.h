@@ -9,20 +9,20 @@ namespace trxsim {
 
 class Desk;
 
-/// The way from the hosts of a front end to the desk, which may not be there yet or any more. Safe
-/// for any number of threads.
+/// Passes the requests of hosts from a front end to the desk, while there is one. Safe for any
+/// number of threads.
 class RequestGate {
  public:
-  /// From now on, what hosts do reaches `desk`.
+  /// Requests reach `desk` from now on.
   void Open(Desk &desk);
 
-  /// Nothing reaches a desk any more. When this returns, what was under way has ended.
+  /// No more requests reach a desk. Waits for those under way.
   void Close();
 
-  /// Carries out one request of a host; while the gate is closed, it ends as after an unplug.
+  /// Handles one request of a host; while the gate is closed, it ends as after an unplug.
   TransferResult Transfer(int number, const ControlRequest &request);
 
-  /// Tells the desk that unit `number` is gone from `address` without having been asked to.
+  /// Tells the desk that the system unplugged unit `number` from `address`.
   void Lost(int number, const BusAddress &address);
 
  private:

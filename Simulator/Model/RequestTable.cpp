@@ -12,7 +12,7 @@ constexpr std::uint8_t kVendorWrite = 0x40;
 constexpr std::uint8_t kRead = 0;
 constexpr std::uint8_t kWrite = 3;
 
-// Reads and writes share numbers with different meanings, and the mixer input is 0x8016.
+// One wIndex can be two requests: 0x8002 reads the input selectors and writes the mixer output.
 constexpr auto kRequests = std::to_array<RequestEntry>({
     {kVendorRead, kRead, 0x8001, "firmware", "firmware version"},
     {kVendorRead, kRead, 0x8002, "selectors", "input selectors"},

@@ -41,11 +41,11 @@ std::span<const RequestEntry> RequestTable();
 /// The row of `id`.
 const RequestEntry &EntryOf(RequestId id);
 
-/// The row that a setup packet names, or nothing. Exact: a read must carry wValue 0, a write must
-/// have no data stage.
+/// The request of a setup packet, if it is one of the table. A read must have wValue 0, a write no
+/// data stage.
 std::optional<RequestId> RequestFor(const ControlRequest &request);
 
-/// The request with this word as its name, or nothing.
+/// The request that `word` names, if any.
 std::optional<RequestId> RequestNamed(std::string_view word);
 
 }  // namespace trxsim

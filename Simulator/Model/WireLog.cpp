@@ -8,7 +8,7 @@ namespace trxsim {
 
 namespace {
 
-// Wide enough for the five bytes of the longest usual reply, so that the names line up.
+// Wide enough for the longest usual reply, five bytes, so that the names are in one column.
 constexpr std::size_t kResultWidth = 22;
 
 std::string BytesText(const std::vector<std::uint8_t> &data) {

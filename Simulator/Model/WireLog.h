@@ -8,17 +8,17 @@
 
 namespace trxsim {
 
-/// One line of the wire log, without its end of line. Fields are parted by two or more blanks and
-/// stand in columns; README.md describes them.
+/// One line of the wire log, without its end of line. At least two blanks separate the fields;
+/// README.md describes them.
 std::string WireLogLine(int unit, const ControlRequest &request, const TransferResult &result);
 
-/// Everything that crossed the wire, in its order. Holds neither times nor counters, so that two
-/// runs that do the same give the same lines. Not safe for several threads at once.
+/// All requests in their order. Has no times and no counters, so that two runs that do the same
+/// give the same lines. One thread at a time.
 class WireLog {
  public:
   using Sink = std::function<void(const std::string &line)>;
 
-  /// Each line goes to `sink` too, if there is one, as soon as it is written.
+  /// Each line is also passed to `sink`, if there is one, at once.
   explicit WireLog(Sink sink = {}) : sink_(std::move(sink)) {}
 
   /// Adds the line of one request.
@@ -27,7 +27,7 @@ class WireLog {
   /// All lines since the start or the last `Clear`.
   const std::vector<std::string> &Lines() const { return lines_; }
 
-  /// Forgets all lines; what went to the sink stays there.
+  /// Forgets all lines.
   void Clear() { lines_.clear(); }
 
  private:

@@ -6,12 +6,12 @@
 
 namespace trxsim {
 
-/// A terminal in exclusive mode. As long as it exists, the kernel answers every open of its path
-/// with EBUSY, except to a process with CAP_SYS_ADMIN: the only device that an ordinary user can
-/// make busy for everybody.
+/// A terminal in exclusive mode. While it exists, the kernel answers every open of its path with
+/// EBUSY, except for a process with CAP_SYS_ADMIN. No other device can be made busy for everybody
+/// by an ordinary user.
 class HeldTerminal {
  public:
-  /// Throws `DeskError` when the system has no terminals to give.
+  /// Throws `DeskError` when the system has no free terminal.
   HeldTerminal();
 
   /// Its path, such as "/dev/pts/4".

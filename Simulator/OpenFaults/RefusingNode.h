@@ -4,8 +4,7 @@
 
 namespace trxsim {
 
-/// Makes a file that nobody can open, whatever the privileges: ENXIO. Throws `DeskError` when the
-/// system has no means for it.
+/// Makes a file that nobody can open, not even root: ENXIO. Throws `DeskError` on failure.
 void MakeRefusingNode(const std::filesystem::path &path);
 
 }  // namespace trxsim

@@ -49,7 +49,7 @@ int WaitFor(pid_t child) {
   while (!HasEnded(child, status)) {
     siginfo_t info{};
     const int signal = sigwaitinfo(&signals, &info);
-    // What is typed at the terminal goes to the whole foreground group, the command included.
+    // A signal from the terminal reaches the whole foreground group, the command included.
     const bool isForUsAlone = info.si_code <= 0;
     if (signal > 0 && signal != SIGCHLD && isForUsAlone) kill(child, signal);
   }

@@ -1,5 +1,5 @@
-// trx-mixer-sim: runs a command on a desk with software mixers, which its children see, or the
-// whole machine.
+// trx-mixer-sim: runs a command with software mixers plugged in, for the command and the programs
+// that it starts, or for the whole machine.
 
 #include <cstdio>
 #include <cstdlib>
@@ -31,7 +31,7 @@ namespace {
 
 enum ExitCode { kUsage = 2, kSimulatorFailed = 125 };
 
-// A socket path must fit in 107 bytes, and that of a mixer takes some 50 below this folder.
+// A socket path has at most 107 bytes, and a mixer needs about 50 of them below this folder.
 constexpr std::size_t kLongestTemporaryFolder = 50;
 
 constexpr const char *kExamples =
@@ -39,14 +39,14 @@ constexpr const char *kExamples =
     "  trx-mixer-sim -- trxctl status                one mixer, one command\n"
     "  trx-mixer-sim --units 2 -- bash               a shell with two mixers plugged in\n"
     "  trx-mixer-sim --units TRX-SELVA,TRX-VOLT -- bash  a mixer of each model\n"
-    "  trx-mixer-sim --wire-log wire.txt -- ./tests  all requests go to a file too\n"
+    "  trx-mixer-sim --wire-log wire.txt -- ./tests  write all requests to a file\n"
     "  sudo trx-mixer-sim --usbip --units 2          two mixers for every program, until Ctrl-C\n"
     "\n"
     "While the command runs, from another terminal or from the command itself:\n"
-    "  trx-mixer-ctl units                           what is on the desk\n"
+    "  trx-mixer-ctl units                           list all units\n"
     "  trx-mixer-ctl set 1 selector 0 6              turn a selector\n"
-    "  trx-mixer-ctl run -- bash                     a second shell on the same desk\n"
-    "  trx-mixer-ctl help                            faults, unplugging and all the rest\n"
+    "  trx-mixer-ctl run -- bash                     a second shell with the same mixers\n"
+    "  trx-mixer-ctl help                            list all commands\n"
     "\n"
     "Exit codes: that of the command, 128 + N when signal N ended it; 2 usage, 125 the mixers\n"
     "could not be set up, 126 the command cannot be run, 127 there is no such command.\n";
@@ -59,8 +59,8 @@ struct Options {
   std::vector<std::string> command;
 };
 
-/// The dynamic linker only warns of a library that it cannot preload, and the command would see
-/// the machine's own bus.
+/// The dynamic linker only warns when it cannot preload a library, and the command would see the
+/// real bus of the machine.
 void RequirePreloadable(const std::string &library, const char *package) {
   void *handle = dlopen(library.c_str(), RTLD_LAZY | RTLD_LOCAL);
   if (handle == nullptr) {
@@ -81,7 +81,7 @@ trxsim::ControlSocket OpenControl(const std::string &path) {
   return path.empty() ? trxsim::ControlSocket::AtDefaultPlace() : trxsim::ControlSocket::At(path);
 }
 
-/// Sockets below a long temporary folder could not be bound.
+/// Sockets below a long temporary folder cannot be bound.
 void KeepTemporaryFolderShort() {
   const char *folder = std::getenv("TMPDIR");
   if (folder != nullptr && std::string(folder).size() > kLongestTemporaryFolder) {
@@ -89,7 +89,7 @@ void KeepTemporaryFolderShort() {
   }
 }
 
-/// Sends the requests of hosts to the desk for as long as it exists.
+/// Connects the hosts of a front end to the desk while it exists.
 class Wiring {
  public:
   Wiring(trxsim::RequestGate &requests, trxsim::Desk &desk) : requests_(requests) {
@@ -103,7 +103,7 @@ class Wiring {
   trxsim::RequestGate &requests_;
 };
 
-/// Without a command: until the user has had enough.
+/// Without a command: until a signal asks for the end.
 int KeepPluggedIn(std::size_t units) {
   std::printf("trx-mixer-sim: units plugged in: %zu; Ctrl-C unplugs them\n", units);
   std::fflush(stdout);
@@ -111,7 +111,7 @@ int KeepPluggedIn(std::size_t units) {
   return 0;
 }
 
-/// Plugs the mixers in and runs the command. `additions` is what its environment needs.
+/// Plugs the units in and runs the command with `additions` in its environment.
 template <typename FrontEnd>
 int Simulate(const Options &options, const trxsim::ControlSocket &control, FrontEnd &frontEnd,
              const trxsim::Environment &additions) {
@@ -124,7 +124,7 @@ int Simulate(const Options &options, const trxsim::ControlSocket &control, Front
   return trxsim::RunCommand(options.command, trxsim::EnvironmentWith(additions));
 }
 
-/// On a bus that only the command and its children see.
+/// For the command and the programs that it starts.
 int SimulateForCommand(const Options &options, const trxsim::ControlSocket &control) {
   RequirePreloadable(trxsim::GuardPath(), "trx-mixer-sim");
   RequirePreloadable(trxsim::kPreload, "the package libumockdev0");
@@ -135,7 +135,7 @@ int SimulateForCommand(const Options &options, const trxsim::ControlSocket &cont
   return Simulate(options, control, frontEnd, additions);
 }
 
-/// On the buses of the running kernel.
+/// For every program, through the running kernel.
 int SimulateForMachine(const Options &options, const trxsim::ControlSocket &control) {
   trxsim::UsbipFrontEnd frontEnd;
   return Simulate(options, control, frontEnd, {trxsim::ControlEntry(control.Path())});
@@ -144,8 +144,10 @@ int SimulateForMachine(const Options &options, const trxsim::ControlSocket &cont
 int Simulate(const Options &options) {
   const trxsim::ControlSocket control = OpenControl(options.control);
   if (control.IsPrivate()) {
-    std::fprintf(stderr, "trx-mixer-sim: the usual control socket is taken; this one is %s\n",
-                 control.Path().c_str());
+    std::fprintf(
+        stderr,
+        "trx-mixer-sim: another simulator has the usual control socket; this one listens at %s\n",
+        control.Path().c_str());
   }
   return options.usbip ? SimulateForMachine(options, control)
                        : SimulateForCommand(options, control);
@@ -171,8 +173,8 @@ std::string UnitsError(const std::string &units) {
 
 int Run(int argc, char **argv) {
   CLI::App app(
-      "Run a command, and its children, with software mixers plugged in: no hardware, no "
-      "privileges. With --usbip, every program on the machine sees them; that needs root.",
+      "Run a command with software mixers plugged in. It needs neither hardware nor privileges. "
+      "With --usbip, every program on the machine sees the mixers; that needs root.",
       "trx-mixer-sim");
   app.formatter(
       std::make_shared<trxsim::UsageFormatter>("trx-mixer-sim [OPTIONS] -- COMMAND [ARGUMENT...]"));
@@ -187,7 +189,7 @@ int Run(int argc, char **argv) {
   app.add_flag("--usbip", options.usbip,
                "plug the mixers into the running kernel; needs root and the kernel module "
                "vhci-hcd, but no command");
-  app.add_option("--wire-log", options.wireLog, "file that gets a line for each request")
+  app.add_option("--wire-log", options.wireLog, "write a line for each request to this file")
       ->type_name("FILE");
   app.add_option("--control", options.control, "socket to listen at for trx-mixer-ctl")
       ->type_name("SOCKET");

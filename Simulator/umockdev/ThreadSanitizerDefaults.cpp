@@ -1,5 +1,5 @@
-// Only in a build with the thread sanitizer: it cannot see how libraries that were built without it
-// keep their threads apart, and takes their every step for a race. Our own code stays under watch.
+// Only for the thread sanitizer. It does not see how libraries that were built without it
+// synchronise their threads, and reports races in them. Our own code is still checked.
 
 extern "C" const char *__tsan_default_suppressions();
 

@@ -7,14 +7,14 @@
 
 namespace trxsim {
 
-/// Tells programs that listen to udev which devices come and go, as udev's daemon does once it has
-/// set up a device. One thread at a time.
+/// Sends udev's events to programs that listen for devices, as udev's daemon does once it has set
+/// up a device. One thread at a time.
 class UdevEvents {
  public:
   /// Reaches the programs whose testbed lies under `root`.
   explicit UdevEvents(std::filesystem::path root);
 
-  /// Sends "add" or "remove" for `device`. Who has stopped listening is passed over.
+  /// Sends "add" or "remove" for `device` to all programs that still listen.
   void Send(const std::string &action, const UsbDevice &device);
 
  private:

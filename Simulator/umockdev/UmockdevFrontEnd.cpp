@@ -34,8 +34,8 @@ void Fail(UMockdevIoctlClient &client, int error) {
   umockdev_ioctl_client_complete(&client, -1, error);
 }
 
-// A client that is killed while its request is under way makes libumockdev complain about the
-// connection that it then drops. That is nothing to worry the user with.
+// libumockdev warns when it drops the connection of a client that was killed during a request. That
+// is of no interest to the user.
 void LogUnlessDroppedClient(const gchar *domain, GLogLevelFlags level, const gchar *message,
                             gpointer) {
   if (std::string_view(message).find("Destroying IoctlClient") != std::string_view::npos) return;
@@ -44,7 +44,7 @@ void LogUnlessDroppedClient(const gchar *domain, GLogLevelFlags level, const gch
 
 }  // namespace
 
-/// A request that its unit leaves without a reply. Belongs to its timer.
+/// A request that its unit does not answer. Owned by its timer.
 struct UmockdevFrontEnd::Pending {
   UmockdevFrontEnd *owner;
   std::unique_ptr<UMockdevIoctlClient, ObjectRelease> client;
@@ -71,7 +71,7 @@ UmockdevFrontEnd::~UmockdevFrontEnd() {
     for (const auto &[number, device] : plugged_) numbers.push_back(number);
   }
   for (const int number : numbers) EndPending(number);
-  // The thread of the testbed ends with it; only then may the rest go.
+  // The thread of the testbed, which uses the rest, ends here.
   testbed_.reset();
 }
 
@@ -186,7 +186,7 @@ void UmockdevFrontEnd::WaitInVain(UMockdevIoctlClient &client, int number, unsig
     Fail(client, ENODEV);
     return;
   }
-  // To usbfs, no time-out means for ever.
+  // In usbfs, a time-out of 0 means to wait without limit.
   GSource *timer = g_timeout_source_new(milliseconds == 0 ? G_MAXUINT : milliseconds);
   auto *pending = new Pending{this,
                               std::unique_ptr<UMockdevIoctlClient, ObjectRelease>(
@@ -225,8 +225,7 @@ void UmockdevFrontEnd::EndPending(int number) {
 }
 
 void UmockdevFrontEnd::Attach(const std::string &node) {
-  // A node once listened for stays so: a host that is just opening it while the unit is unplugged
-  // must not find half a testbed.
+  // The handler stays attached after an unplug: a host may just be opening the node.
   if (!attached_.insert(node).second) return;
   GError *error = nullptr;
   if (umockdev_testbed_attach_ioctl(testbed_.get(), node.c_str(), handler_.get(), &error) ==
@@ -241,7 +240,7 @@ void UmockdevFrontEnd::Attach(const std::string &node) {
 int UmockdevFrontEnd::NextDeviceNumber() {
   const std::lock_guard lock(mutex_);
   for (int tried = 0; tried < kLastDeviceNumber; ++tried) {
-    // After the last one comes 2 again, as in the kernel: 1 is the root hub.
+    // 2 follows the last number, as in the kernel: 1 is the root hub.
     lastDeviceNumber_ = lastDeviceNumber_ == kLastDeviceNumber ? 2 : lastDeviceNumber_ + 1;
     const UsbDevice candidate{"", {1, lastDeviceNumber_}, {}};
     if (!unitOfNode_.contains(candidate.NodePath())) return lastDeviceNumber_;

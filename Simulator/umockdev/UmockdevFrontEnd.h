@@ -16,9 +16,8 @@
 
 namespace trxsim {
 
-/// Shows units to the processes that run with libumockdev-preload: a USB tree of their own under
-/// /sys and /dev, in which USBDEVFS_CONTROL reaches the desk. Requests of hosts come in on the
-/// thread of the testbed.
+/// Shows units to processes that run with libumockdev-preload. They see a USB tree of their own
+/// under /sys and /dev, in which USBDEVFS_CONTROL reaches the desk, on the thread of the testbed.
 class UmockdevFrontEnd : public FrontEnd {
  public:
   /// Makes an empty bus in a new testbed.
@@ -27,7 +26,7 @@ class UmockdevFrontEnd : public FrontEnd {
   UmockdevFrontEnd(const UmockdevFrontEnd &) = delete;
   UmockdevFrontEnd &operator=(const UmockdevFrontEnd &) = delete;
 
-  /// Where the requests of hosts come out.
+  /// Passes the requests of hosts on.
   RequestGate &Requests() { return requests_; }
 
   /// The folder that holds the tree.
@@ -53,12 +52,12 @@ class UmockdevFrontEnd : public FrontEnd {
   void Attach(const std::string &node);
   int NextDeviceNumber();
 
-  // Made before the testbed, whose thread uses it.
+  // Before the testbed, whose thread uses it.
   RequestGate requests_;
   std::mutex mutex_;                       // guards the next three
   std::map<int, UsbDevice> plugged_;       // by unit
   std::map<std::string, int> unitOfNode_;  // plugged units only
-  std::set<Pending *> pending_;            // requests that get no reply
+  std::set<Pending *> pending_;            // requests without a reply
 
   std::unique_ptr<UMockdevTestbed, ObjectRelease> testbed_;
   std::unique_ptr<UMockdevIoctlBase, ObjectRelease> handler_;

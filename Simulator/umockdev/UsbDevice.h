@@ -17,7 +17,7 @@ struct UsbInterface {
   std::vector<Attribute> attributes;
 };
 
-/// One device on the bus, with everything that the kernel shows of it.
+/// One device on the bus, with all that the kernel shows of it.
 struct UsbDevice {
   std::string name;  ///< Kernel name: "1-2" is bus 1, port 2; "usb1" is the root hub.
   BusAddress address;
@@ -41,7 +41,7 @@ struct UsbDevice {
   /// Its interfaces, in order.
   std::vector<UsbInterface> Interfaces() const;
 
-  /// Its descriptors as the device sends them: what its node and "descriptors" read as.
+  /// Its descriptors as it sends them; its node and its file "descriptors" contain them.
   std::string Descriptors() const;
 };
 

@@ -46,7 +46,7 @@ void MakeNode(const fs::path &node, const std::string &contents, fs::perms permi
   fs::permissions(node, permissions);
 }
 
-// As a udev rule for the mixer leaves it: everybody at the desk may open it.
+// As with the udev rule for the mixers: every user may open it.
 constexpr fs::perms kOpenToAll = static_cast<fs::perms>(0666);
 
 }  // namespace
@@ -92,7 +92,7 @@ void UsbTree::Remove(const UsbDevice &device) {
 
 void UsbTree::SetNode(const UsbDevice &device, OpenFault fault) {
   const fs::path node = Inside(device.NodePath());
-  // Put in place by renaming, so that a host finds the one or the other and never nothing.
+  // Renamed into place, so that a host always finds one of the two.
   fs::path fresh = node;
   fresh += ".new";
   std::map<std::string, HeldTerminal> held;

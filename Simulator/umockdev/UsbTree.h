@@ -9,23 +9,22 @@
 
 namespace trxsim {
 
-/// The USB part of /sys and /dev in a folder, laid out as the kernel does. One thread at a time.
+/// The USB part of /sys and /dev, laid out in a folder as by the kernel. One thread at a time.
 class UsbTree {
  public:
-  /// Lays out bus 1 under `root`, with nothing but its root hub.
+  /// Lays out bus 1 under `root`, with only its root hub.
   explicit UsbTree(std::filesystem::path root);
 
-  /// Makes all files of `device` but does not list it on the bus yet.
+  /// Makes all files of `device`, but does not list it on the bus.
   void Build(const UsbDevice &device, OpenFault fault);
 
-  /// Lists `device` on the bus: whoever walks the bus sees it whole or not at all.
+  /// Lists `device` on the bus. A program that walks the bus sees all of it or nothing.
   void List(const UsbDevice &device);
 
   /// Takes `device` off the bus, then removes its files.
   void Remove(const UsbDevice &device);
 
-  /// Puts a node in place of the present one that opens as `fault` says. Throws `DeskError` when
-  /// the system has no means for it.
+  /// Replaces the node by one that opens as `fault` says. Throws `DeskError` on failure.
   void SetNode(const UsbDevice &device, OpenFault fault);
 
  private:

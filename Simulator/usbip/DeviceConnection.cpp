@@ -25,13 +25,13 @@ void DeviceConnection::Pull() {
 
 void DeviceConnection::Serve() {
   const std::string reason = ServeToTheEnd();
-  // The kernel is to see the end of a connection that is not served any more.
+  // So that the kernel sees the end of the connection.
   shutdown(socket_.Get(), SHUT_RDWR);
   if (!isPulled_ && !reason.empty()) broken_(reason);
   isFinished_ = true;
 }
 
-// Why the kernel's half ended it; empty when this half did.
+// What the kernel did that ended the connection; empty when this side ended it.
 std::string DeviceConnection::ServeToTheEnd() {
   std::array<std::uint8_t, 4096> buffer;
   while (!session_.IsOver()) {

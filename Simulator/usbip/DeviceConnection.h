@@ -10,24 +10,24 @@
 
 namespace trxsim {
 
-/// The cable between one plugged unit and the kernel: serves a session over a stream socket, on a
-/// thread of its own, so that a request that waits for the desk holds up no other unit.
+/// Connects one plugged unit to the kernel: serves a session over a stream socket on a thread of
+/// its own, so that a request that waits for the desk does not delay other units.
 class DeviceConnection {
  public:
-  /// Told, on the connection's thread, what the kernel did that ended it.
+  /// Called on the connection's thread when the kernel ended the connection, with what it did.
   using Broken = std::function<void(const std::string &reason)>;
 
   DeviceConnection(Descriptor socket, DeviceSession session, Broken broken);
 
-  /// Pulls the cable and waits for the thread; not to be used on that thread.
+  /// Pulls the cable and waits for the thread. Must not run on that thread.
   ~DeviceConnection();
   DeviceConnection(const DeviceConnection &) = delete;
   DeviceConnection &operator=(const DeviceConnection &) = delete;
 
-  /// Ends the connection from any thread, without waiting; requests under way get no answer.
+  /// Ends the connection, from any thread, without waiting. Requests under way get no answer.
   void Pull();
 
-  /// True once nothing is served any more.
+  /// True once the thread has ended its work.
   bool IsFinished() const { return isFinished_; }
 
  private:

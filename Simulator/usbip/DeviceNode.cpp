@@ -20,7 +20,7 @@ namespace {
 
 constexpr fs::perms kForEverybody = static_cast<fs::perms>(0666);
 
-/// A new folder that goes away with everything in it.
+/// A new folder, removed with all that is in it.
 class PassingFolder {
  public:
   PassingFolder() {
@@ -69,7 +69,7 @@ void DeviceNode::Deny() {
   fs::permissions(path_, fs::perms::none);
 }
 
-// What is laid over the node stays there without its name.
+// The mount keeps the file after its name is removed.
 void DeviceNode::Refuse() {
   const PassingFolder folder;
   MakeRefusingNode(folder.Path() / "node");
@@ -78,7 +78,7 @@ void DeviceNode::Refuse() {
 
 void DeviceNode::Hold() {
   held_.emplace();
-  // The terminal is this user's; that it is held is to be the only thing in the way.
+  // The terminal belongs to this user; only its being held must keep others out.
   fs::permissions(held_->Path(), kForEverybody);
   Cover(held_->Path());
 }
@@ -87,17 +87,17 @@ void DeviceNode::Restore() {
   if (std::exchange(isCovered_, false)) umount2(path_.c_str(), MNT_DETACH);
   held_.reset();
   if (!usual_) return;
-  // The kernel may have taken the node away already.
+  // The kernel may already have removed the node.
   std::error_code error;
   fs::permissions(path_, *std::exchange(usual_, std::nullopt), error);
 }
 
-// The kernel opens every device that is there, so another file is laid over its node. With the node
-// that goes away by itself, even when this process is killed.
+// The kernel lets every present device be opened, so another file is mounted over the node. The
+// mount ends with the node, even when this process is killed.
 void DeviceNode::Cover(const fs::path &file) {
   if (mount(file.c_str(), path_.c_str(), nullptr, MS_BIND, nullptr) != 0) {
     held_.reset();
-    throw DeskError("cannot lay a file over " + path_.string() + ": " + std::strerror(errno));
+    throw DeskError("cannot mount a file over " + path_.string() + ": " + std::strerror(errno));
   }
   isCovered_ = true;
 }

@@ -9,8 +9,8 @@
 
 namespace trxsim {
 
-/// The kernel's device node of a plugged unit, and what happens when a host opens it. At its end
-/// the node is again as the system made it. One thread at a time.
+/// The kernel's device node of a plugged unit and the faults of opening it. The destructor leaves
+/// the node as the system made it. One thread at a time.
 class DeviceNode {
  public:
   explicit DeviceNode(std::filesystem::path path) : path_(std::move(path)) {}
@@ -18,7 +18,7 @@ class DeviceNode {
   DeviceNode(const DeviceNode &) = delete;
   DeviceNode &operator=(const DeviceNode &) = delete;
 
-  /// Makes opening the node fail, or work again. Throws `DeskError` when that cannot be.
+  /// Makes opening the node fail, or work again. Throws `DeskError` on failure.
   void Set(OpenFault fault);
 
  private:
@@ -29,7 +29,7 @@ class DeviceNode {
   void Cover(const std::filesystem::path &file);
 
   std::filesystem::path path_;
-  std::optional<std::filesystem::perms> usual_;  // nothing while they are in force
+  std::optional<std::filesystem::perms> usual_;  // of the system, while others are set
   bool isCovered_ = false;
   std::optional<HeldTerminal> held_;
 };

@@ -14,22 +14,22 @@
 
 namespace trxsim {
 
-/// The device's half of a USB/IP conversation about one plugged unit: bytes of the kernel in, bytes
-/// for the kernel out. Does no input or output. One thread at a time.
+/// The device's half of a USB/IP conversation about one plugged unit. Takes the kernel's bytes and
+/// returns the replies; does no input or output. One thread at a time.
 class DeviceSession {
  public:
-  /// Carries out a request that is not a standard one.
+  /// Handles a request that is not a standard one.
   using Transfer = std::function<TransferResult(const ControlRequest &request)>;
 
   DeviceSession(UsbIdentity identity, Transfer transfer);
 
-  /// Takes bytes of the kernel, in pieces of any length, and answers with those to send back.
+  /// Takes bytes of the kernel, in pieces of any length, and returns the bytes to send back.
   std::vector<std::uint8_t> Receive(std::span<const std::uint8_t> bytes);
 
   /// True once nothing more is answered: the unit was unplugged, or there was an error.
   bool IsOver() const { return isUnplugged_ || !error_.empty(); }
 
-  /// What the kernel sent wrong; empty when it did not.
+  /// What was wrong with the bytes of the kernel; empty when nothing was.
   const std::string &Error() const { return error_; }
 
   /// True between the first and the last byte of a frame.
@@ -45,7 +45,8 @@ class DeviceSession {
   Transfer transfer_;
   std::vector<std::uint8_t> received_;  // the beginning of a frame
   std::vector<std::uint8_t> replies_;
-  std::set<std::uint32_t> unanswered_;  // requests that get no reply until they are taken back
+  std::set<std::uint32_t>
+      unanswered_;  // requests without a reply, until the kernel takes them back
   bool isUnplugged_ = false;
   std::string error_;
 };

@@ -10,10 +10,10 @@ namespace {
 constexpr std::size_t kHeaderLength = 48;
 constexpr std::uint32_t kLastEndpoint = 15;
 
-// A control request cannot have a longer data stage, and no unit has any other endpoint.
+// The longest data stage of a control request; the units have only endpoint 0.
 constexpr std::uint32_t kLongestData = 0xFFFF;
 
-// Both stand for a request that is not isochronous: the protocol says the second, Linux the first.
+// Both mean a request that is not isochronous: the protocol uses the second, Linux the first.
 constexpr std::uint32_t kNoPackets = 0;
 constexpr std::uint32_t kNoPacketsEither = 0xFFFF'FFFF;
 
@@ -21,7 +21,7 @@ enum Command : std::uint32_t { kSubmit = 1, kUnlink, kSubmitReply, kUnlinkReply 
 
 enum Way : std::uint32_t { kOut, kIn };
 
-// Where the fields stand in a header. Numbers have their most significant byte first.
+// Places of the fields in a header. Numbers are sent most significant byte first.
 enum Place : std::size_t {
   kCommandPlace = 0,
   kSequencePlace = 4,
@@ -41,7 +41,7 @@ std::uint32_t NumberAt(Header header, Place place) {
   return number;
 }
 
-// The eight bytes of a setup packet are as on the wire, least significant byte first.
+// The eight bytes of a setup packet are as on USB, least significant byte first.
 ControlRequest SetupOf(Header header) {
   const auto packet = header.subspan(kSetupPlace, 8);
   const auto wordAt = [packet](std::size_t place) {
@@ -59,7 +59,7 @@ std::string CommandError(std::uint32_t command) {
   return text;
 }
 
-// Why a submitted request cannot be; empty when it can.
+// What is wrong with a submitted request; empty when nothing is.
 std::string SubmitError(Header header) {
   const std::uint32_t length = NumberAt(header, kLengthPlace);
   const std::uint32_t packets = NumberAt(header, kPacketsPlace);
@@ -94,7 +94,7 @@ SubmitFrame SubmitOf(Header header) {
   return frame;
 }
 
-// The frame with this header, which is known to be sound; nothing as long as its data is not whole.
+// The frame with this valid header; nothing until its data is complete.
 std::optional<Frame> FrameOf(Header header, std::span<const std::uint8_t> rest,
                              std::size_t &dataLength) {
   if (NumberAt(header, kCommandPlace) == kUnlink) {
@@ -113,8 +113,8 @@ void Put(std::vector<std::uint8_t> &bytes, Place place, std::uint32_t number) {
   }
 }
 
-// Both replies have their status where a request to take back has the number of its victim. The
-// remaining fields mean nothing in a reply and are 0, as the kernel's own device side leaves them.
+// In a reply the status is at the place of the victim's number. The other fields have no meaning
+// and are 0, as in the replies of the kernel's own device side.
 std::vector<std::uint8_t> ReplyHeader(Command command, std::uint32_t sequence,
                                       std::int32_t status) {
   std::vector<std::uint8_t> bytes(kHeaderLength, 0);

@@ -11,17 +11,17 @@
 
 namespace trxsim {
 
-/// The kernel hands over a request for the device.
+/// The kernel submits a request to the device.
 struct SubmitFrame {
-  std::uint32_t sequence = 0;  ///< The kernel's number for it, to be repeated in the reply.
+  std::uint32_t sequence = 0;  ///< The kernel's number for it, repeated in the reply.
   std::uint32_t endpoint = 0;
-  bool isRead = false;             ///< The data stage, if any, runs from the device to the kernel.
+  bool isRead = false;             ///< The data stage, if any, goes from the device to the kernel.
   std::uint32_t length = 0;        ///< Of the data stage.
-  ControlRequest setup;            ///< Means something at endpoint 0 only.
+  ControlRequest setup;            ///< Only for endpoint 0.
   std::vector<std::uint8_t> data;  ///< The data stage of a write.
 };
 
-/// The kernel takes back a request that it handed over before.
+/// The kernel takes back a request that it has submitted.
 struct UnlinkFrame {
   std::uint32_t sequence = 0;
   std::uint32_t victim = 0;  ///< The sequence number of the request that is taken back.
@@ -29,14 +29,14 @@ struct UnlinkFrame {
 
 using Frame = std::variant<SubmitFrame, UnlinkFrame>;
 
-/// The frames at the front of some bytes.
+/// The frames at the beginning of some bytes.
 struct DecodedFrames {
   std::vector<Frame> frames;
-  std::size_t used = 0;  ///< How many bytes they take; what follows is the beginning of a frame.
-  std::string error;     ///< Why what follows can never become a frame; empty when it can.
+  std::size_t used = 0;  ///< The length of the frames; the rest is the beginning of another one.
+  std::string error;     ///< Why the rest is no frame; empty when it can become one.
 };
 
-/// Takes apart what a kernel sends to a device, as USB/IP defines it. Accepts any bytes.
+/// Decodes what a kernel sends to a device over USB/IP. Accepts any bytes.
 DecodedFrames DecodeFrames(std::span<const std::uint8_t> bytes);
 
 /// The reply to a submitted request: `status` is 0 or a negative error number, `length` what was
@@ -45,7 +45,7 @@ std::vector<std::uint8_t> EncodeSubmitReply(std::uint32_t sequence, std::int32_t
                                             std::uint32_t length,
                                             std::span<const std::uint8_t> data);
 
-/// The reply to a request that was taken back: `status` is 0 when it had been answered before.
+/// The reply to a request that was taken back: `status` is 0 when it was already answered.
 std::vector<std::uint8_t> EncodeUnlinkReply(std::uint32_t sequence, std::int32_t status);
 
 }  // namespace trxsim

@@ -4,8 +4,7 @@
 
 namespace trxsim {
 
-/// Has modprobe load a module of the kernel, without a word when it cannot. True when modprobe says
-/// that the module is there.
+/// Loads a kernel module with modprobe, without a message on failure. True when it is loaded.
 bool LoadKernelModule(const std::string &name);
 
 }  // namespace trxsim

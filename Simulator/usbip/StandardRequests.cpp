@@ -25,7 +25,7 @@ TransferResult DoneIf(bool possible) { return possible ? Done() : Stalled(); }
 
 }  // namespace
 
-/// One standard request and who answers it.
+/// One standard request and the function that answers it.
 struct StandardRequests::Row {
   std::uint8_t requestType;
   std::uint8_t request;
@@ -104,7 +104,7 @@ TransferResult StandardRequests::SetAlternateSetting(const ControlRequest &reque
   return DoneIf(HasInterface(request.index) && request.value == 0);
 }
 
-// The kernel keeps the address of a USB/IP device to itself; one that does not is answered as well.
+// The kernel does not send the address to a USB/IP device. Should one do so, it is accepted.
 TransferResult StandardRequests::SetAddress(const ControlRequest &) { return Done(); }
 
 bool StandardRequests::HasInterface(std::uint16_t number) const {

@@ -7,14 +7,14 @@
 
 namespace trxsim {
 
-/// True for a request that every USB device has to know, which is how a kernel gets to know it.
+/// True for a request that every USB device has to know, with which a kernel identifies it.
 bool IsStandard(const ControlRequest &request);
 
-/// What a unit answers to the standard requests of a kernel: descriptors, configuration, status.
-/// Stalls on what the unit does not have. One thread at a time.
+/// Answers the standard requests of a kernel: descriptors, configuration, status. Stalls on what
+/// the unit does not have. One thread at a time.
 class StandardRequests {
  public:
-  /// For a unit that was just plugged in.
+  /// For a unit that has just been plugged in.
   explicit StandardRequests(UsbIdentity identity) : identity_(std::move(identity)) {}
 
   /// Answers one standard request. A reply is never longer than the kernel asked for.

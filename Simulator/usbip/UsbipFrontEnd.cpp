@@ -18,16 +18,16 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// A kernel takes some tenths of a second to get to know a device; a busy one in a virtual machine
-// may take many times that.
+// A kernel takes some tenths of a second to identify a device; in a busy virtual machine it may
+// take many times as long.
 constexpr std::chrono::seconds kKernelTakesAtMost(30);
 constexpr std::chrono::milliseconds kLookAgainAfter(2);
 
-// What a USB/IP server would say of where the device sits on its side; the kernel only repeats it.
+// A USB/IP server would give the device's place on its side; the kernel only repeats it.
 unsigned DeviceIdOf(int number) { return 1U << 16 | static_cast<unsigned>(number); }
 
 constexpr const char *kNotTakenUp =
-    "the kernel did not take the unit up; its log (`dmesg`) may say why";
+    "the kernel did not accept the unit; its log (`dmesg`) may say why";
 
 std::pair<Descriptor, Descriptor> MakeCable() {
   int ends[2];
@@ -42,7 +42,7 @@ std::pair<Descriptor, Descriptor> MakeCable() {
 UsbipFrontEnd::~UsbipFrontEnd() {
   std::vector<Plugged> units;
   while (!plugged_.empty()) units.push_back(Take(plugged_.begin()->first));
-  // The kernel takes its time for each, so all are pulled before the first is waited for.
+  // The kernel takes some time for each, so all are pulled before the first wait.
   for (Plugged &unit : units) Pull(unit);
   for (Plugged &unit : units) WaitUntilGone(unit);
 }
@@ -117,7 +117,7 @@ void UsbipFrontEnd::Pull(Plugged &unit) {
   unit.connection->Pull();
 }
 
-// The thread of the connection is not waited for: it may be the one that is here, or wait for the
+// Does not wait for the connection's thread: that may be this thread, or one that waits for the
 // desk, which is locked.
 void UsbipFrontEnd::WaitUntilGone(Plugged &unit) {
   const Clock::time_point end = Clock::now() + kKernelTakesAtMost;

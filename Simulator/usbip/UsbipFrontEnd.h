@@ -15,17 +15,17 @@
 
 namespace trxsim {
 
-/// Plugs units into the running kernel: every program on the machine sees them as USB devices.
-/// Requests of hosts come in on a thread of each unit.
+/// Plugs units into the running kernel: every program on the machine sees them as USB devices. Each
+/// unit has a thread that handles its requests.
 class UsbipFrontEnd : public FrontEnd {
  public:
-  /// Throws `DeskError` when this user or this kernel cannot have them.
+  /// Throws `DeskError` when this user or this kernel cannot attach devices.
   UsbipFrontEnd() = default;
   ~UsbipFrontEnd() override;
   UsbipFrontEnd(const UsbipFrontEnd &) = delete;
   UsbipFrontEnd &operator=(const UsbipFrontEnd &) = delete;
 
-  /// Where the requests of hosts come out.
+  /// Passes the requests of hosts on.
   RequestGate &Requests() { return requests_; }
 
   BusAddress Plug(int number, const UsbIdentity &identity, OpenFault fault) override;
@@ -34,10 +34,10 @@ class UsbipFrontEnd : public FrontEnd {
 
  private:
   struct Plugged {
-    int plugging = 0;  // which of all pluggings it is
+    int plugging = 0;  // counts all pluggings
     VhciPort port;
     std::unique_ptr<DeviceConnection> connection;
-    std::optional<BusAddress> address;  // nothing until the kernel shows the unit to hosts
+    std::optional<BusAddress> address;  // empty until the kernel shows the unit to hosts
     std::unique_ptr<DeviceNode> node;   // the same
     bool isBroken = false;
   };
@@ -54,7 +54,7 @@ class UsbipFrontEnd : public FrontEnd {
   RequestGate requests_;
   VhciController controller_;
   int pluggings_ = 0;
-  std::mutex mutex_;  // guards the next two; held by whoever changes them
+  std::mutex mutex_;  // guards the next two
   std::map<int, Plugged> plugged_;
   std::list<std::unique_ptr<DeviceConnection>> pulled_;  // until their threads have ended
 };

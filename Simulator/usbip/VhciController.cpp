@@ -24,11 +24,11 @@ constexpr const char *kPlatformFolder = "sys/devices/platform";
 constexpr const char *kFirstController = "sys/devices/platform/vhci_hcd.0";
 constexpr const char *kDeviceList = "sys/bus/usb/devices";
 
-// As the kernel numbers them.
+// Numbers of the kernel.
 constexpr int kFreePort = 4;
 constexpr int kHighSpeed = 3;
 
-// What the hub of high-speed devices says of itself; its companion for SuperSpeed says 5000.
+// The speed of a hub for high-speed devices; that of its companion for SuperSpeed is 5000.
 constexpr const char *kHighSpeedHub = "480";
 
 std::string TextOf(const fs::path &file) {
@@ -48,7 +48,7 @@ std::optional<int> NumberOf(const fs::path &file) {
   return std::ifstream(file) >> number ? std::optional(number) : std::nullopt;
 }
 
-// 0 or the error. Sysfs wants the whole text in one piece.
+// Returns 0 or the error. Sysfs needs the whole text in one write.
 int WriteText(const fs::path &file, const std::string &text) {
   const Descriptor descriptor(open(file.c_str(), O_WRONLY | O_CLOEXEC));
   if (!descriptor) return errno;
@@ -71,7 +71,7 @@ void RequireAttach(const fs::path &file) {
   }
   throw DeskError(
       "this kernel has no virtual USB host controller, and `modprobe vhci-hcd` brought none; in a "
-      "container, do that on the machine around it. Without --usbip no module is needed");
+      "container, run that on the host. Without --usbip no module is needed");
 }
 
 }  // namespace
@@ -112,7 +112,7 @@ VhciPort VhciController::Attach(int socket, unsigned deviceId) const {
     std::snprintf(text, sizeof text, "%d %d %u %d", port.number, socket, deviceId, kHighSpeed);
     const int error = WriteText(root_ / kFirstController / "attach", text);
     if (error == 0) return port;
-    // Somebody else may have taken it meanwhile.
+    // Another program may have taken it meanwhile.
     if (error != EBUSY) {
       throw DeskError("the kernel does not take a mixer at port " + std::to_string(port.number) +
                       ": " + std::strerror(error));
@@ -135,7 +135,7 @@ std::optional<BusAddress> VhciController::AddressAt(const VhciPort &port) const 
   return fs::exists(NodeOf(address)) ? std::optional(address) : std::nullopt;
 }
 
-// The node goes first, then the numbers, and the entry in the list of devices last.
+// The kernel removes the node first, then the numbers, and the entry in the list of devices last.
 bool VhciController::HasTracesOf(const BusAddress &address, const VhciPort &port) const {
   const fs::path device = FolderOf(port);
   return fs::exists(device) &&
@@ -153,7 +153,7 @@ fs::path VhciController::NodeOf(const BusAddress &address) const {
   return root_ / text;
 }
 
-// The first controller has the status files of all.
+// The first controller has the status files of all of them.
 std::optional<fs::path> VhciController::StatusFile(int controller) const {
   const std::string name = controller == 0 ? "status" : "status." + std::to_string(controller);
   const fs::path file = root_ / kFirstController / name;

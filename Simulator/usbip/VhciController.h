@@ -18,11 +18,11 @@ struct VhciPort {
   bool isFree = false;
 };
 
-/// The high-speed ports of one controller, in their order, from what its status file says. Lines
-/// that say something else are passed over.
+/// The high-speed ports of one controller, in their order, from the text of its status file. Other
+/// lines are ignored.
 std::vector<VhciPort> ParseVhciStatus(std::string_view text, int controller);
 
-/// The kernel's virtual host controllers (vhci-hcd), by way of sysfs. One thread at a time.
+/// The kernel's virtual host controllers (vhci-hcd), through sysfs. One thread at a time.
 class VhciController {
  public:
   /// Looks for everything below `root`, which is "/" for the running kernel. Throws `DeskError`,
@@ -32,18 +32,18 @@ class VhciController {
   /// All high-speed ports, in the order of the buses.
   std::vector<VhciPort> Ports() const;
 
-  /// Gives the kernel's end of a connection to the first free port, which becomes its device's.
-  /// Throws `DeskError` when there is none.
+  /// Attaches a device to the first free port; `socket` is the kernel's end of its connection.
+  /// Throws `DeskError` when there is no free port.
   VhciPort Attach(int socket, unsigned deviceId) const;
 
-  /// Takes the device off a port; does nothing when none is there.
+  /// Detaches the device at a port, if there is one.
   void Detach(const VhciPort &port) const;
 
-  /// Where the device at a port is found; nothing while the kernel does not show it to hosts.
+  /// The address of the device at a port; empty until the kernel shows it to hosts.
   std::optional<BusAddress> AddressAt(const VhciPort &port) const;
 
-  /// Whether anything is left of the device that was at `address`: the kernel takes one away piece
-  /// by piece, and hosts may still find it when it cannot be opened any more.
+  /// Whether anything is left of the device that was at `address`. The kernel removes a device in
+  /// steps, and hosts may still find one that can no longer be opened.
   bool HasTracesOf(const BusAddress &address, const VhciPort &port) const;
 
   /// The device node that belongs to an address.

@@ -146,7 +146,7 @@ TEST_F(Commands, HelpNamesEveryCommandSettingFaultAndRequest) {
                            "  set N certify VALUE",
                            "  set N reply-leading-byte VALUE",
                            "  get N",
-                           "  fault N KIND [ARG] [REQUEST]",
+                           "  fault N FAULT [REQUEST]",
                            "  clear N",
                            "  log [clear]",
                            "  environment",
@@ -167,13 +167,13 @@ TEST_F(Commands, BlanksDoNotMatter) { EXPECT_EQ(Ask("  units\t\r").size(), 1u); 
 TEST_F(Commands, RefusalsNameTheMistakeAndTheWayOut) {
   EXPECT_EQ(Refusal("unitz"), "there is no command \"unitz\"; `help` lists them");
   EXPECT_EQ(Refusal("unplug 7"), "there is no unit 7; `units` lists them");
-  EXPECT_EQ(Refusal("unplug"), "something is missing; usage: unplug N");
+  EXPECT_EQ(Refusal("unplug"), "an argument is missing; usage: unplug N");
   EXPECT_EQ(Refusal("unplug x"), "\"x\" is not a unit number; `units` lists them; usage: unplug N");
-  EXPECT_EQ(Refusal("units now"), "\"now\" is too much; usage: units");
+  EXPECT_EQ(Refusal("units now"), "\"now\" is one argument too many; usage: units");
   EXPECT_EQ(Refusal("plug TRX"),
             "\"TRX\" is neither a mixer model (TRX-SELVA, TRX-Arden, TRX-VOLT, TRX-HALDEN, "
             "TRX-LUMEN, TRX-MORROW) nor VENDOR:PRODUCT with four hexadecimal digits each");
-  EXPECT_EQ(Refusal("replug 1"), "unit 1 is plugged in; `unplug` it first");
+  EXPECT_EQ(Refusal("replug 1"), "unit 1 is already plugged in");
   EXPECT_EQ(Refusal("set 1 colour 3"), "a mixer has no setting \"colour\"; `help` lists them");
   EXPECT_EQ(Refusal("set 1 serato 256"),
             "\"256\" is not a number from 0 to 255; usage: set N serato A [B]");

@@ -169,7 +169,8 @@ TEST(SimulatorProgram, SecondOneTakesAPrivateSocketAndSaysSo) {
   Program second(Simulate({"--units", "2", "--", USB_CLIENT}), folder);
   const std::string own = second.Ask("variable TRX_MIXER_SIM_CONTROL");
   EXPECT_EQ(second.Errors(),
-            "trx-mixer-sim: the usual control socket is taken; this one is " + own + '\n');
+            "trx-mixer-sim: another simulator has the usual control socket; this one listens at " +
+                own + '\n');
   EXPECT_EQ(trxsim::ControlClient(own).Ask("units").size(), 2u);
   EXPECT_EQ(trxsim::ControlClient(folder / "trx-mixer-sim.sock").Ask("units").size(), 1u);
   EXPECT_EQ(second.Finish(), 0);
