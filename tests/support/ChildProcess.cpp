@@ -24,7 +24,7 @@ constexpr unsigned kLongestRunSeconds = 120;
 constexpr uid_t kNobody = 65534;
 constexpr uid_t kUnknownUser = 1'054'321;
 
-// A file without a name that both processes hold.
+// A file without a name, open in both processes.
 class SharedFile {
  public:
   SharedFile() : descriptor_(memfd_create("standard error", MFD_CLOEXEC)) {
@@ -47,13 +47,12 @@ class SharedFile {
   int descriptor_;
 };
 
-// Failed expectations, those of the test before the child included.
+// Failed expectations, including those of the test before the child was forked.
 int ReportsSoFar() {
   return testing::UnitTest::GetInstance()->current_test_info()->result()->total_part_count();
 }
 
-// A child ends without what programs do at their end, and that includes writing down which lines it
-// reached.
+// A child ends without exit handlers, so it writes no coverage.
 void WriteDownWhatWasReached() {
 #ifdef TRX_COUNTS_COVERAGE
   __gcov_dump();
@@ -101,7 +100,7 @@ void BecomeUserWithoutAccount() {
     ASSERT_EQ(setresuid(kUnknownUser, kUnknownUser, kUnknownUser), 0);
     return;
   }
-  // Without privilege, in a name space of users where this one has another number.
+  // Without privilege, in a user namespace where this user has another number.
   const std::string map = std::to_string(kUnknownUser) + " " + std::to_string(geteuid()) + " 1\n";
   ASSERT_EQ(unshare(CLONE_NEWUSER), 0) << "this system lets nobody but root change the user";
   std::ofstream file("/proc/self/uid_map");

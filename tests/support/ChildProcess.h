@@ -1,20 +1,19 @@
-// Runs a part of a test in a process of its own: one that may crash, give up its rights or change
-// its environment without harm to the other tests, and whose standard error can be read.
+// Runs a part of a test in a child process, which may crash, drop its rights or change its
+// environment without harm to other tests, and whose standard error can be read.
 #pragma once
 
 #include <functional>
 
 namespace trxtest {
 
-/// Runs a function in a forked child and expects that it comes back without a failed expectation,
-/// within two minutes and without a byte on standard error. What fails in the child is printed by
-/// it.
+/// Runs a function in a forked child. Expects that it returns within two minutes, without a failed
+/// expectation and without output on standard error. The child prints what fails in it.
 void ExpectQuietSuccess(const std::function<void()> &function);
 
-/// Makes this process, a child, one without any privilege. Nothing to do when it has none.
+/// Takes all privileges from this process, a child. Does nothing when it has none.
 void BecomeOrdinaryUser();
 
-/// Makes this process, a child, one of a user whom the system's list of accounts does not know.
+/// Gives this process, a child, a user that is not among the system's accounts.
 void BecomeUserWithoutAccount();
 
 }  // namespace trxtest

@@ -22,7 +22,7 @@ void WriteMap(const std::string &file, const std::string &text) {
   }
 }
 
-// A name space of users in which everybody keeps his number: the bus asks for it.
+// A user namespace in which all users keep their numbers: the bus asks for them.
 void BecomeRootOfOwnNameSpace() {
   const std::string user = std::to_string(geteuid());
   const std::string group = std::to_string(getegid());
@@ -32,7 +32,7 @@ void BecomeRootOfOwnNameSpace() {
   WriteMap("gid_map", group + " " + group + " 1");
 }
 
-// What a mount forbids beside writing may not be allowed again in a name space of one's own.
+// In a new namespace, other restrictions of a mount may not be lifted: keep them.
 unsigned long RestrictionsOf(const std::string &folder) {
   struct statvfs status = {};
   Check(statvfs(folder.c_str(), &status), "look at " + folder);

@@ -1,26 +1,26 @@
-// File systems of a test's own, as full or as closed as the test wants them.
+// Private mounts for a test: file systems that are full or read-only.
 #pragma once
 
 #include <string>
 
 namespace trxtest {
 
-/// Gives this process mounts of its own: what it mounts from now on, nobody else sees, and it goes
-/// with the process. Needs no privilege where the system lets users have name spaces; throws where
-/// it does not. There is no way back. The process must have one thread only.
+/// Gives this process private mounts: no other process sees what it mounts from now on, and the
+/// mounts end with it. Needs no privilege where the system allows user namespaces; throws where it
+/// does not. Cannot be undone. The process must have one thread only.
 void HaveOwnMounts();
 
-/// A mount for the length of its object, in a process that has mounts of its own. Throws when the
-/// system does not do its part.
+/// A mount that ends with its object, in a process with private mounts. Throws when the system
+/// refuses.
 class Mount {
  public:
   ~Mount();
   Mount(Mount &&) = delete;
 
-  /// A file system in memory in the place of a folder, such as one with the options "size=16k".
+  /// A file system in memory over a folder, for example with the options "size=16k".
   static Mount Memory(const std::string &folder, const std::string &options);
 
-  /// The folder as it is, but read-only, for root too.
+  /// The folder itself, but read-only, for root too.
   static Mount ReadOnly(const std::string &folder);
 
  private:

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kPatienceMilliseconds = 60'000;
 
-// The daemon prints its address once it can be reached.
+// The daemon prints its address when it is ready.
 void WaitForAddress(int descriptor) {
   pollfd answer = {descriptor, POLLIN, 0};
   char first = '\0';

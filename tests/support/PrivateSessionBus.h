@@ -1,4 +1,4 @@
-// A session bus of a test's own.
+// A private session bus for a test.
 #pragma once
 
 #include <string>
@@ -7,7 +7,7 @@
 
 namespace trxtest {
 
-/// Runs a bus daemon for the length of a test and makes it the session bus of this process.
+/// Runs a bus daemon until the object ends and makes it the session bus of this process.
 class PrivateSessionBus {
  public:
   PrivateSessionBus();

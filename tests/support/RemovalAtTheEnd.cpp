@@ -12,7 +12,7 @@
 namespace trxtest {
 namespace {
 
-// The watcher has only the reading end of a pipe: it comes to its end with the last writer.
+// The watcher has only the reading end of a pipe: it reads the end when the last writer is gone.
 [[noreturn]] void Watch(int readingEnd, const std::string &folder) {
   setsid();
   char never = '\0';
@@ -25,8 +25,8 @@ namespace {
 
 }  // namespace
 
-// Who kills a process with all its descendants must not find the watcher among them, so it is the
-// child of one that has ended.
+// The watcher must survive when a process is killed with all its descendants, so its parent is a
+// process that has already ended.
 void RemoveAtTheEnd(const std::string &folder) {
   std::array<int, 2> ends = {};
   if (pipe2(ends.data(), O_CLOEXEC) != 0) throw std::runtime_error("no pipe");

@@ -17,7 +17,7 @@ namespace {
 
 constexpr unsigned kLongestRunSeconds = 120;
 
-// Stops for system calls are told from signals by this bit.
+// This bit distinguishes stops at system calls from signals.
 constexpr int kSystemCallStop = SIGTRAP | 0x80;
 
 void Check(long result, const char *what) {
@@ -56,7 +56,7 @@ SteppedProcess::~SteppedProcess() {
   waitpid(id_, nullptr, 0);
 }
 
-// Returns whether the child stopped once more; false at its end.
+// Returns whether the child stopped again; false when it has ended.
 bool SteppedProcess::Continue(int request) {
   if (end_) return false;
   Check(ptrace(static_cast<__ptrace_request>(request), id_, nullptr, pendingSignal_), "go on");

@@ -1,5 +1,5 @@
-// Runs a part of a test in a process that stands still before each of its system calls, so that
-// something can go wrong at every moment that there is, one after another.
+// Runs a part of a test in a process that stops before each of its system calls, so that a test can
+// make something fail at each of these moments in turn.
 #pragma once
 
 #include <array>
@@ -17,28 +17,28 @@ struct SystemCall {
   std::array<std::uint64_t, 6> arguments = {};
 };
 
-/// A forked child of this process, held by its parent. Ends with this object. Functions throw when
-/// the system does not do its part. One thread at a time, the one that made it.
+/// A forked child of this process, traced by it. Ends with this object. Functions throw when the
+/// system refuses. Only the thread that made it may use it.
 class SteppedProcess {
  public:
-  /// Forks; the child stands still before `body` begins. It ends well when `body` returns without
-  /// a failed expectation, which it prints itself.
+  /// Forks; the child stops before `body` begins. It ends well when `body` returns without a
+  /// failed expectation, which it prints itself.
   explicit SteppedProcess(const std::function<void()> &body);
   ~SteppedProcess();
   SteppedProcess(const SteppedProcess &) = delete;
   SteppedProcess &operator=(const SteppedProcess &) = delete;
 
-  /// Lets the child make the system call that it stands before and go on to its next one. Nothing
-  /// when it has ended.
+  /// Lets the child make the system call before which it has stopped and continue to the next one.
+  /// Nothing when it has ended.
   std::optional<SystemCall> Step();
 
-  /// Goes on until the child stands before the `n`-th system call from here, counted from 1.
+  /// Continues until the child is before the `n`-th system call from here, counted from 1.
   std::optional<SystemCall> StepTo(int n);
 
-  /// Ends the child where it stands, as SIGKILL does: what it was about to do does not happen.
+  /// Kills the child where it has stopped: the pending system call does not happen.
   void Kill();
 
-  /// Lets the child run freely to its end. Returns whether it ended well.
+  /// Lets the child run to its end. Returns whether it ended well.
   bool RunToEnd();
 
   pid_t Id() const { return id_; }

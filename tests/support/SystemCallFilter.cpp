@@ -14,15 +14,15 @@
 namespace trxtest {
 namespace {
 
-// The bit of O_TMPFILE that no other flag has.
+// The bit that only O_TMPFILE has.
 constexpr std::uint32_t kUnnamedBit = O_TMPFILE & ~O_DIRECTORY;
 
 constexpr std::uint32_t kOffsetOfNumber = offsetof(seccomp_data, nr);
-// The third argument; its lower half stands first on the machines that this runs on.
+// The third argument; on these little-endian machines its lower half comes first.
 constexpr std::uint32_t kOffsetOfFlags = offsetof(seccomp_data, args) + 2 * sizeof(std::uint64_t);
 
-// Lets every call of this number fail that has one of these flags in its third argument; every one
-// when there are no flags.
+// Makes each call of this number fail that has one of these flags in its third argument; without
+// flags, each call.
 void Refuse(std::uint32_t number, std::uint32_t flags, int error) {
   const std::uint8_t skipFlags = flags != 0 ? 0 : 2;
   sock_filter program[] = {

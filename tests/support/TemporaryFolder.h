@@ -1,4 +1,4 @@
-// A folder for the length of one test.
+// A folder for one test.
 #pragma once
 
 #include <algorithm>
@@ -14,8 +14,8 @@
 
 namespace trxtest {
 
-/// Makes an empty folder and removes it with all that is in it at the end. Lies in memory where the
-/// system offers that: the library makes every write durable, which takes a disk its time.
+/// Makes an empty folder and removes it with its contents at the end. It is in memory if possible:
+/// the library makes every write durable, which is slow on a disk.
 class TemporaryFolder {
  public:
   TemporaryFolder() : TemporaryFolder(access("/dev/shm", W_OK | X_OK) == 0 ? "/dev/shm" : "/tmp") {}
@@ -36,7 +36,7 @@ class TemporaryFolder {
   /// The path of something in the folder.
   std::string operator/(const std::string &name) const { return path_ + "/" + name; }
 
-  /// The names of all that is in the folder, hidden files included, in alphabetical order.
+  /// The names in the folder, including hidden files, in alphabetical order.
   std::vector<std::string> Names() const {
     std::vector<std::string> names;
     for (const auto &entry : std::filesystem::directory_iterator(path_)) {
@@ -46,7 +46,7 @@ class TemporaryFolder {
     return names;
   }
 
-  /// How many files and folders are inside, at any depth.
+  /// The number of files and folders inside, at any depth.
   std::size_t Entries() const {
     const std::filesystem::recursive_directory_iterator all(path_);
     return static_cast<std::size_t>(std::distance(begin(all), end(all)));
@@ -56,14 +56,14 @@ class TemporaryFolder {
   std::string path_;
 };
 
-/// Makes a file of these bytes.
+/// Makes a file with these bytes.
 inline void WriteBytes(const std::string &path, const std::string &bytes) {
   std::ofstream file(path, std::ios::binary);
   file << bytes;
   if (!file.flush()) throw std::runtime_error("cannot write " + path);
 }
 
-/// The bytes of a file; none when there is no file.
+/// The bytes of a file; empty when there is no file.
 inline std::string ReadBytes(const std::string &path) {
   std::ifstream file(path, std::ios::binary);
   return std::string(std::istreambuf_iterator<char>(file), {});
