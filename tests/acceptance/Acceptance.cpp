@@ -23,7 +23,7 @@ constexpr const char *kBeforeEntries =
     "<plist version=\"1.0\">\n<dict>\n";
 constexpr const char *kBehindEntries = "</dict>\n</plist>\n";
 
-// Takes `text` off the front of `rest`, with the blanks that follow. False when it is not there.
+// Removes `text` and the blanks after it from the front of `rest`. False when it is not there.
 bool Take(std::string_view text, std::string_view &rest) {
   if (!rest.starts_with(text)) return false;
   rest.remove_prefix(text.size());
@@ -31,7 +31,7 @@ bool Take(std::string_view text, std::string_view &rest) {
   return true;
 }
 
-// Takes everything up to and with `end` off the front of `rest`, with the blanks that follow.
+// Removes everything up to and including `end`, and the blanks after it, from the front of `rest`.
 std::optional<std::string> TakeThrough(std::string_view end, std::string_view &rest) {
   const std::size_t found = rest.find(end);
   if (found == rest.npos) return std::nullopt;
@@ -39,7 +39,7 @@ std::optional<std::string> TakeThrough(std::string_view end, std::string_view &r
   return Take(taken, rest) ? std::optional(taken) : std::nullopt;
 }
 
-// Reads flat dictionaries, which is all that the suites put into settings files or expect there.
+// Reads flat dictionaries. The suites write and expect nothing else in settings files.
 std::optional<Settings> Parse(std::string_view text) {
   if (!Take("<?xml version=\"1.0\" encoding=\"UTF-8\"?>", text)) return std::nullopt;
   if (text.starts_with("<!DOCTYPE") && !TakeThrough(">", text)) return std::nullopt;

@@ -1,4 +1,4 @@
-// What every suite builds on.
+// What all suites share.
 #pragma once
 
 #include <chrono>
@@ -19,15 +19,15 @@
 
 namespace trxtest {
 
-/// The ProductIds to try a function with: all that could name something, and what lies behind.
+/// The ProductIds to try a function with: all that could name a model, and some beyond.
 inline constexpr ProductId kAllProducts[] = {0, 1, 2,  3,  4,  5,  6,          7,
                                              8, 9, 10, 11, 12, 13, 0x80000000, 0xFFFFFFFF};
 
-/// Entries of a settings file: the key, and its value as it stands in the file, such as
+/// Entries of a settings file: the key, and its value as written in the file, such as
 /// "<integer>3</integer>".
 using Settings = std::map<std::string, std::string>;
 
-/// A case on a rig of its own.
+/// A case with its own rig.
 class Acceptance : public testing::Test {
  protected:
   Rig &rig() { return *rig_; }
@@ -42,7 +42,7 @@ class Acceptance : public testing::Test {
   /// Puts a settings file with these entries, each "<key>K</key>" followed by its value.
   void PutSettings(const std::string &modelDisplayName, const std::string &entries);
 
-  /// All files and empty folders below the user's Library folder, relative to it, but for those
+  /// All files and empty folders below the user's Library folder, relative to it, except those
   /// that were there at the start. A folder ends with a slash; the empty Library folder itself is
   /// "./".
   std::vector<std::string> LibraryListing();
@@ -51,8 +51,8 @@ class Acceptance : public testing::Test {
   /// cases in which none of that happened before.
   void ExpectNothingHappened();
 
-  /// Plugs in a stranger that works, behind all that are plugged in. On a platform that opens units
-  /// by asking every device, one that fails in the last place would spoil the opening of all.
+  /// Plugs in a working stranger after all other units. A platform may ask every device to open a
+  /// unit: a last device that fails would make all openings fail.
   void PlugSomethingHealthyBehind() { rig().PlugStranger(Stranger::kUnrelated); }
 
   /// Runs the event loop until `isDone`, at most a minute. Returns whether it is done.

@@ -8,8 +8,8 @@
 
 namespace trxtest {
 
-/// One announced change: its name, and its dictionary in the order in which it was sent. Something
-/// that is not shaped like an announcement arrives with a name that says what it is.
+/// One announced change: its name, and its dictionary in the order in which it was sent. A signal
+/// that is not a well-formed announcement has a name that says what it is.
 struct Announcement {
   std::string name;
   std::vector<std::pair<std::string, std::int32_t>> entries;
@@ -17,7 +17,7 @@ struct Announcement {
   bool operator==(const Announcement &) const = default;
 };
 
-/// The way an announcement stands in the message of a failed expectation.
+/// How an announcement is printed when an expectation fails.
 inline void PrintTo(const Announcement &announcement, std::ostream *out) {
   *out << '"' << announcement.name << '"';
   for (const auto &[key, value] : announcement.entries) *out << ' ' << key << '=' << value;

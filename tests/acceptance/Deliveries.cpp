@@ -45,7 +45,7 @@ std::vector<Call> Deliveries::DeliverAll() {
     hasMark_ = true;
   }
   marks.clear();
-  // One poster's announcements stay in order, so each poster sets a mark behind its own.
+  // The announcements of one poster stay in order, so each poster sends a mark after its own.
   EXPECT_EQ(ORV_SetBoostLevelIndex(kMarkProduct, kMarkOfLibrary), 100);
   rig().Announce(BoostChange("TRX-MORROW", kMarkProduct, kMarkOfRig));
   EXPECT_TRUE(RunEventLoopUntil([] {

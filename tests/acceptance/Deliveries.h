@@ -1,4 +1,4 @@
-// What the callbacks of this process are told.
+// The callback calls in this process.
 #pragma once
 
 #include <cstdint>
@@ -19,18 +19,18 @@ struct Call {
   bool operator==(const Call &) const = default;
 };
 
-/// The way a call stands in the message of a failed expectation.
+/// How a call is printed when an expectation fails.
 inline void PrintTo(const Call &call, std::ostream *out) {
   *out << call.tag << '(';
   if (call.channel != -1) *out << call.channel << ", ";
   *out << call.index << ')';
 }
 
-/// A case that registers callbacks in its own process. The model TRX-MORROW is kept for telling
+/// A case that registers callbacks in its own process. It uses the model TRX-MORROW to find out
 /// when everything has arrived.
 class Deliveries : public Acceptance {
  protected:
-  /// @name Callbacks for registering, with the address of a text as their context. Each notes its
+  /// @name Callbacks for registering, with the address of a text as their context. Each records its
   /// letter and that text. @{
   static void IndexA(std::int32_t index, void *context);
   static void IndexB(std::int32_t index, void *context);
@@ -41,8 +41,8 @@ class Deliveries : public Acceptance {
   /// All calls so far.
   static std::vector<Call> &Calls() { return calls_; }
 
-  /// Runs the event loop until everything is delivered that this process and the rig had announced,
-  /// and returns the calls since the last time. Announces for TRX-MORROW itself.
+  /// Runs the event loop until everything that this process and the rig have announced is
+  /// delivered. Returns the calls since the last time. Makes announcements for TRX-MORROW.
   std::vector<Call> DeliverAll();
 
  private:

@@ -114,7 +114,7 @@ bool HostProcess::ReadMore(int milliseconds) {
   return true;
 }
 
-// Callbacks run between commands and in the middle of them: "! " marks their lines, "= " answers.
+// Callbacks run between and during commands: "! " marks their lines, "= " marks answers.
 void HostProcess::Sort(const std::string &line) {
   const std::string text = line.size() > 2 ? line.substr(2) : std::string();
   if (line.starts_with("= ")) {

@@ -1,4 +1,4 @@
-// Another process that uses the library, told what to do line by line.
+// Another process that uses the library and is controlled line by line.
 #pragma once
 
 #include <cstddef>
@@ -11,9 +11,9 @@
 namespace trxtest {
 
 /// A running acceptance-host (host/Commands.h lists its commands). It receives notifications in its
-/// event loop whenever it has no command to carry out. Ends with this object; the case fails when
-/// it ends with a result other than 0. Functions throw when the process is gone or keeps silent for
-/// two minutes. One thread at a time.
+/// event loop when it has no command to run. It ends with this object; the case fails when its exit
+/// code is not 0. Functions throw when the process has ended or does not answer for two minutes.
+/// One thread at a time.
 class HostProcess {
  public:
   /// Starts `program` in the environment of this process.
@@ -22,13 +22,13 @@ class HostProcess {
   HostProcess(const HostProcess &) = delete;
   HostProcess &operator=(const HostProcess &) = delete;
 
-  /// Has a command carried out and returns the answer.
+  /// Runs a command and returns the answer.
   std::string Ask(const std::string &command);
 
   /// Starts a command without waiting for its answer.
   void Begin(const std::string &command);
 
-  /// The answer to the command begun first of those not answered yet.
+  /// The answer to the oldest command that has no answer yet.
   std::string Answer();
 
   /// Waits until the callbacks of the process have run `count` times since the last call, but at

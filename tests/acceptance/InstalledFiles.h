@@ -1,4 +1,4 @@
-// What is installed on the desk's computer.
+// The installed files that the library reads.
 #pragma once
 
 #include <filesystem>
@@ -12,7 +12,7 @@
 
 namespace trxtest {
 
-/// Where the version of the system is known to stand.
+/// The file with the version of the system.
 inline constexpr const char *kSystemVersionFile =
     "/System/Library/CoreServices/SystemVersion.plist";
 
@@ -38,7 +38,7 @@ class InstalledFiles : public Acceptance {
     Install(kSystemVersionFile, "<key>ProductVersion</key><string>" + productVersion + "</string>");
   }
 
-  /// Makes a framework folder, whose files are installed, the links that platforms look through.
+  /// Adds the links of a framework to a folder whose files are installed.
   void LinkResources(const std::string &framework) {
     const std::string folder = rig().SystemRoot() + framework;
     std::filesystem::create_directory_symlink("A", folder + "/Versions/Current");

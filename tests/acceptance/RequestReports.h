@@ -1,4 +1,4 @@
-// What the library reports of its requests, as lines.
+// The library's reports about requests, as lines.
 #pragma once
 
 #include <cstdint>
@@ -31,7 +31,7 @@ class RequestReports : public Acceptance {
  protected:
   ~RequestReports() override { ORV_ObserveRequests(nullptr, nullptr); }
 
-  /// Plugs mixers in, so that reports are of units with a number.
+  /// Plugs in mixers, so that reports are about units with a number.
   void PlugMixers(int count) {
     for (int i = 0; i < count; ++i) {
       const int unit = rig().PlugMixer();
@@ -39,14 +39,14 @@ class RequestReports : public Acceptance {
     }
   }
 
-  /// Reports to this thread's observer from now on become lines.
+  /// From now on, reports to this thread's observer become lines.
   void Observe() { ORV_ObserveRequests(Note, this); }
 
   /// The reports since the last call, such as "unit 1 write 8003 0300 done"; one of no unit that is
   /// known begins with "nowhere".
   std::vector<std::string> TakeReports() { return std::exchange(reports_, {}); }
 
-  /// What is done in the observer, after the report has become a line.
+  /// Runs in the observer, after the report has become a line.
   void WhileReported(std::function<void()> action) { action_ = std::move(action); }
 
   static void Note(const ORVRequestReport *report, void *context) {

@@ -1,6 +1,6 @@
-// What a suite needs of the world around the library, whatever platform it runs on: a desk with
-// mixers, the wire, the settings files, the announcements, other processes. Suites know nothing
-// below this line; each platform has one implementation.
+// What a suite needs around the library on every platform: mixers to plug in, the requests that
+// they receive, settings files, announcements, other processes. Suites use nothing below this
+// interface; each platform has one implementation.
 #pragma once
 
 #include <chrono>
@@ -14,24 +14,24 @@
 
 namespace trxtest {
 
-/// USB devices that are no units, however close they come.
+/// USB devices that resemble units and are not.
 enum class Stranger {
   kOtherProductOfTheMaker,
   kOtherMakerWithTheSameProduct,
   kUnrelated,
 };
 
-/// What can be wrong with a unit.
+/// The faults of a unit.
 enum class UnitFault {
   kRefusesToOpen,
-  kHeldByAnotherProcess,  ///< Binds host processes that gave up `admin`.
-  kNotPermitted,          ///< Binds host processes that gave up `root`.
+  kHeldByAnotherProcess,  ///< For host processes that gave up `admin`.
+  kNotPermitted,          ///< For host processes that gave up `root`.
   kStalls,                ///< Every request is refused.
-  kStaysSilent,           ///< Every request runs into the host's time-out of five seconds.
-  kVanishes,              ///< The unit is unplugged in the middle of the next request.
+  kStaysSilent,           ///< Every request ends with the host's time-out of five seconds.
+  kVanishes,              ///< The unit is unplugged during the next request.
 };
 
-/// Where a unit is, as the platform calls it; 0 what it does not have.
+/// Where a unit is on this platform; numbers that the platform does not have are 0.
 struct UnitPlace {
   std::uint32_t bus = 0;
   std::uint32_t address = 0;
@@ -40,32 +40,32 @@ struct UnitPlace {
   bool operator==(const UnitPlace &) const = default;
 };
 
-/// How a process may fail to know where the notification service is.
+/// Why a process may not know where the notification service is.
 enum class LostService { kNothingSaid, kNonsenseSaid };
 
-/// The world around the library, empty at the start of every case: nothing plugged in, no settings
-/// files, nothing announced, the notification service running. Functions fail the case by throwing.
-/// One thread at a time.
+/// Everything around the library. At the start of every case no unit is plugged in, there are no
+/// settings files and no announcements, and the notification service is running. Functions fail the
+/// case by throwing. One thread at a time.
 class Rig {
  public:
   virtual ~Rig() = default;
 
-  /// @name Units. They have numbers from 1, mixers and strangers alike, in the order of their first
-  /// plugging in, and keep them. @{
+  /// @name Units. Mixers and strangers are numbered from 1 in the order in which they were first
+  /// plugged in, and keep their numbers. @{
 
-  /// Plugs a new mixer in, behind all that are plugged in, and returns its number.
+  /// Plugs in a new mixer after all others and returns its number.
   virtual int PlugMixer() = 0;
-  /// Plugs a new mixer in before all others in the order of the bus. The first place of the bus
+  /// Plugs in a new mixer before all others in the order of the bus. The first place of the bus
   /// must be free: replug the unit that has it.
   virtual int PlugMixerInFront() = 0;
   virtual int PlugStranger(Stranger kind) = 0;
   virtual void Unplug(int unit) = 0;
-  /// Plugs an unplugged unit in again, behind all others.
+  /// Plugs in an unplugged unit again, after all others.
   virtual void Replug(int unit) = 0;
   /// Where a plugged unit is.
   virtual UnitPlace PlaceOf(int unit) = 0;
 
-  /// Whether a unit that vanishes in a call leaves the others their places until the call ends.
+  /// Whether the other units keep their positions until the end of a call in which a unit vanishes.
   virtual bool PlacesHoldInACall() { return true; }
   /// @}
 
@@ -83,15 +83,15 @@ class Rig {
   virtual void SetCertifyLevel(int unit, std::uint32_t level) = 0;
   /// @}
 
-  /// @name Faults. They stay over unplugging and replugging. @{
+  /// @name Faults. A unit keeps them when it is unplugged and replugged. @{
 
   virtual void SetFault(int unit, UnitFault fault) = 0;
-  /// Replies to reads bring no more than their first `bytes` bytes.
+  /// Replies to reads are cut to their first `bytes` bytes.
   virtual void SetShortReplies(int unit, unsigned bytes) = 0;
   virtual void ClearFaults(int unit) = 0;
   /// @}
 
-  /// All requests that reached units since the start or the last clearing, in their order, such as
+  /// All requests that units received since the start or the last clearing, in order, such as
   /// "unit 1 OUT 40 03 wValue 0300 wIndex 8003 wLength 0 -> 0 bytes" or
   /// "unit 2 IN c0 00 wValue 0000 wIndex 8004 wLength 2 -> 2 bytes 01 00"; after the arrow also
   /// "stalled", "no reply", "unplugged".
@@ -108,14 +108,14 @@ class Rig {
   virtual std::string SystemRoot() = 0;
   /// @}
 
-  /// @name Announcements, as an observer sees them that has nothing of the library @{
+  /// @name Announcements, as seen by an observer that does not use the library @{
 
-  /// Waits until `count` announcements have arrived since the last call, but at most a minute;
-  /// then hands out all that have arrived, whether fewer or more.
+  /// Waits at most a minute until `count` announcements have arrived since the last call. Then
+  /// returns all that have arrived, whether fewer or more.
   virtual std::vector<Announcement> TakeAnnouncements(std::size_t count) = 0;
-  /// Announces as another program would. What is announced here stays in order.
+  /// Announces as another program would. These announcements stay in order.
   virtual void Announce(const Announcement &announcement) = 0;
-  /// Announces the same in every shape that resembles an announcement and is none. Returns how
+  /// Sends the same in every form that resembles an announcement and is not one. Returns how
   /// many.
   virtual int AnnounceMisshapen(const Announcement &announcement) = 0;
   /// @}
@@ -123,23 +123,23 @@ class Rig {
   /// @name The service that carries announcements @{
 
   virtual void StopNotificationService() = 0;
-  /// Starts it at the place where it was.
+  /// Starts it again at the same address.
   virtual void StartNotificationService() = 0;
-  /// It stays there but does nothing until thawed.
+  /// It keeps its connections and does nothing until thawed.
   virtual void FreezeNotificationService() = 0;
   virtual void ThawNotificationService() = 0;
-  /// Takes from this process, and from those started later, the knowledge where it is.
+  /// Hides its address from this process and from those started later.
   virtual void LoseNotificationService(LostService how) = 0;
   /// @}
 
-  /// Lets this thread's event loop deliver what has arrived, waiting at most `limit` for something.
+  /// Runs this thread's event loop: waits at most `limit` for notifications and delivers them.
   virtual void RunEventLoop(std::chrono::milliseconds limit) = 0;
 
-  /// Starts another process with the library, on the same desk.
+  /// Starts another process with the library and the same mixers.
   virtual std::unique_ptr<HostProcess> StartHost() = 0;
 };
 
-/// The rig that this program was built with.
+/// The rig of this program.
 std::unique_ptr<Rig> MakeRig();
 
 }  // namespace trxtest

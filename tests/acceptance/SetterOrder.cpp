@@ -11,8 +11,8 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Lines = std::vector<std::string>;
 
-// A frozen notification service holds a setter up for five seconds. What is there earlier was done
-// before the announcement.
+// A frozen notification service blocks a setter for five seconds. Whatever is visible in that time
+// was done before the announcement.
 constexpr std::chrono::seconds kSoonerThanFrozen{4};
 
 }  // namespace
@@ -45,9 +45,8 @@ void SetterOrder::ExpectStoredBeforeAnnounced(const Setter &set,
   EXPECT_EQ(rig().TakeAnnouncements(1).size(), 1U);
 }
 
-// While the notification service is frozen a setter does not get past its announcement. What it
-// does behind that then meets a unit that keeps it waiting, so that everything before can be looked
-// at.
+// While the notification service is frozen, a setter does not get past its announcement. After it,
+// the setter waits for a silent unit, so that everything before can be checked.
 void SetterOrder::ExpectSelectorsAskedLast(const Setter &set, const std::string &sent,
                                            const std::optional<Settings> &stored,
                                            const Announcement &announced) {

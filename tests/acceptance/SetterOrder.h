@@ -1,4 +1,4 @@
-// The order in which setters go about their work, for the families that share it.
+// The order of a setter's steps, for the settings that share it.
 #pragma once
 
 #include <functional>
@@ -9,22 +9,22 @@
 
 namespace trxtest {
 
-/// A case about setters. Each of these expectations plugs in the unit that it needs and wants a
-/// desk on which nothing has happened yet. The setter runs on a thread of its own, so that it can
-/// be looked at while it is held up.
+/// A case about setters. Each of these expectations plugs in the unit that it needs and must be the
+/// first step of the case. The setter runs on its own thread, so that its effects can be checked
+/// while it is blocked.
 class SetterOrder : public Acceptance {
  protected:
   using Setter = std::function<StatusCode()>;
 
-  /// Expects that the unit is told `sent` before anything is stored or announced.
+  /// Expects that the unit gets `sent` before anything is stored or announced.
   void ExpectUnitToldFirst(const Setter &set, const std::string &sent);
 
-  /// Expects that `stored` stands in a model's settings file before the change is announced.
+  /// Expects that `stored` is in a model's settings file before the change is announced.
   void ExpectStoredBeforeAnnounced(const Setter &set, const std::string &modelDisplayName,
                                    const Settings &stored);
 
-  /// Expects that a setter of TRX-SELVA sends `sent`, stores and announces, and asks for the
-  /// selectors only after all that. `stored` is nothing for a setter that stores nothing.
+  /// Expects that a setter of TRX-SELVA sends `sent`, stores and announces, and reads the
+  /// selectors only after that. `stored` is nothing for a setter that stores nothing.
   void ExpectSelectorsAskedLast(const Setter &set, const std::string &sent,
                                 const std::optional<Settings> &stored,
                                 const Announcement &announced);

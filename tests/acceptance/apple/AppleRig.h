@@ -11,8 +11,8 @@
 
 namespace trxtest {
 
-/// The rig over GNUstep and the double of IOKit: the mixers of a trx-mixer-registry under which the
-/// process runs, a user of its own, and a daemon that carries that user's notifications.
+/// The rig over GNUstep and the double of IOKit: the mixers of the trx-mixer-registry that started
+/// the process, a private user, and a daemon for that user's notifications.
 class AppleRig : public SimulatedUnits {
  public:
   AppleRig();
@@ -29,13 +29,13 @@ class AppleRig : public SimulatedUnits {
   void Announce(const Announcement &announcement) override;
   int AnnounceMisshapen(const Announcement &announcement) override;
 
-  /// @name The platform's own service is there as long as a user is: these throw. @{
+  /// @name The platform's service always exists for a user, so these throw. @{
   void StopNotificationService() override;
   void StartNotificationService() override;
   void LoseNotificationService(LostService how) override;
   /// @}
 
-  /// Posts of this process wait while it is frozen, but not longer than five seconds.
+  /// While it is frozen, posts of this process wait, but at most five seconds.
   void FreezeNotificationService() override;
   void ThawNotificationService() override;
 

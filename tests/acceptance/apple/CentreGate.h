@@ -1,11 +1,11 @@
-// Holds posts of this process up, so that a case can look at what a setter did before.
+// Blocks posts of this process, so that a case can check what a setter did before.
 #pragma once
 
 #include <chrono>
 
 namespace trxtest {
 
-/// While the gate is shut, whoever posts a notification waits in front of it, at most `patience`.
+/// While the gate is shut, posting a notification waits, at most for `patience`.
 void ShutCentreGate(std::chrono::seconds patience);
 void OpenCentreGate();
 

@@ -20,7 +20,7 @@ void PassGate() {
 
 }  // namespace
 
-// Changes places with the one operation in which all forms of posting end.
+// Replaces the one operation that all forms of posting call.
 @interface NSDistributedNotificationCenter (BehindGate)
 - (void)postBehindGate:(NSString *)name
                 object:(NSString *)object

@@ -13,7 +13,7 @@
 namespace trxtest {
 namespace {
 
-// What the platform waits for a synchronous request without a time-out of its own.
+// How long the platform waits for a synchronous request without a time-out.
 constexpr std::chrono::seconds kPatienceOfHosts{5};
 
 constexpr int kLastDeviceNumber = 127;

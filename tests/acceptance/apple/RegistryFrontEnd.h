@@ -18,7 +18,7 @@
 namespace trxtest {
 
 /// Shows the units of a desk to processes with the double of IOKit, in the order of their numbers
-/// on the bus. Serves any number of clients, each on a thread of its own.
+/// on the bus. Serves any number of clients, each on its own thread.
 class RegistryFrontEnd : public trxsim::FrontEnd {
  public:
   /// Serves at `path`. Throws when it cannot.
@@ -32,7 +32,7 @@ class RegistryFrontEnd : public trxsim::FrontEnd {
   void Unplug(int number) override;
   void SetOpenFault(int number, trxsim::OpenFault fault) override;
 
-  /// The way of the hosts' requests to the desk.
+  /// Passes the hosts' requests to the desk.
   trxsim::RequestGate &requests() { return requests_; }
 
  private:

@@ -1,5 +1,5 @@
-// What a process with the double of IOKit asks of the program that keeps the registry: one packet
-// each way over a SOCK_SEQPACKET socket, in the byte order of the machine.
+// The protocol between a process with the double of IOKit and the program that keeps the registry:
+// one packet each way over a SOCK_SEQPACKET socket, in the byte order of the machine.
 #pragma once
 
 #include <array>
@@ -10,7 +10,7 @@
 
 namespace trxtest {
 
-/// The variable that says where the registry's socket is.
+/// The environment variable with the path of the registry's socket.
 inline constexpr const char *kRegistryVariable = "TRX_ACCEPTANCE_REGISTRY";
 
 /// A request: for the list of devices, or for one transfer.
@@ -29,7 +29,7 @@ struct RegistryDevice {
   trxsim::OpenFault fault = trxsim::OpenFault::kNone;
 };
 
-/// The answer to a transfer. A silent device is answered for when the host's patience ends.
+/// The answer to a transfer. For a silent device, it comes when the host's time-out ends.
 struct RegistryAnswer {
   static constexpr std::size_t kMostBytes = 256;
 
@@ -38,7 +38,7 @@ struct RegistryAnswer {
   std::array<std::uint8_t, kMostBytes> bytes = {};
 };
 
-/// The list is never longer: a bus has 127 places.
+/// The list is never longer: a bus has at most 127 devices.
 inline constexpr std::size_t kMostDevices = 127;
 
 }  // namespace trxtest

@@ -12,10 +12,10 @@
 namespace trxtest {
 namespace {
 
-// The first place of the bus, as it would be called on a Mac.
+// The location id of the first place of the bus on a Mac.
 constexpr UInt32 kFirstLocation = 0x14000000;
 
-// One conversation a request: no connection is shared between threads, or with a forked child.
+// One connection for each request: none is shared between threads or with a forked child.
 template <typename Answer>
 std::size_t Ask(const std::string &path, const RegistryRequest &request, Answer *answer,
                 std::size_t size) {
@@ -30,7 +30,7 @@ std::size_t Ask(const std::string &path, const RegistryRequest &request, Answer 
   throw std::system_error(errno, std::generic_category(), path);
 }
 
-// What the platform says when it makes a plug-in for a device that it cannot have.
+// The platform's status for a plug-in of a device that it cannot open.
 IOReturn PlugInStatus(trxsim::OpenFault fault) {
   switch (fault) {
     case trxsim::OpenFault::kNone:

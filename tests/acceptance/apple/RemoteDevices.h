@@ -10,7 +10,7 @@ namespace trxtest {
 /// number of threads; throws when the program is gone.
 class RemoteDevices : public DeviceSource {
  public:
-  /// Asks at the socket `path`.
+  /// Uses the socket at `path`.
   explicit RemoteDevices(std::string path) : path_(std::move(path)) {}
 
   std::vector<UsbDevice> Devices() override;

@@ -4,10 +4,10 @@
 
 namespace trxtest {
 
-/// Lets this thread's run loop deliver what has arrived, waiting at most `limit` for something.
+/// Runs this thread's run loop: waits at most `limit` for notifications and delivers them.
 void TakeRunLoopTurn(std::chrono::milliseconds limit);
 
-/// Returns once the daemon has all that this process has posted: GNUstep hands it over in the
+/// Returns when the daemon has everything that this process has posted: GNUstep sends it in the
 /// background.
 void PassThroughDaemon();
 

@@ -12,7 +12,7 @@ void TakeRunLoopTurn(std::chrono::milliseconds limit) {
   [pool drain];
 }
 
-// Observing waits for the daemon's answer, and with it for all that went before.
+// Observing waits for the daemon's answer, and so for everything sent before.
 void PassThroughDaemon() {
   NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
   NSObject *const nobody = [[NSObject alloc] init];
