@@ -8,20 +8,17 @@
 #include <vector>
 
 #include "Command.h"
-#include "Complete.h"
+#include "Completion.h"
 #include "Diagnose.h"
-#include "Failure.h"
-#include "HelpFormat.h"
-#include "ModelsCommand.h"
-#include "Nearest.h"
+#include "Help.h"
+#include "InfoCommands.h"
+#include "Listing.h"
 #include "Reapply.h"
-#include "Setting.h"
 #include "SettingCommand.h"
-#include "Show.h"
 #include "Status.h"
-#include "Text.h"
-#include "Versions.h"
+#include "UserInput.h"
 #include "Watch.h"
+#include "Words.h"
 
 namespace trxctl {
 namespace {
@@ -66,30 +63,30 @@ class Program {
     app_.footer(std::string(kExamples) + '\n' + ExitCodeHelp());
     app_.require_subcommand(0, 1);
     app_.fallthrough();
-    for (const Setting &setting : Settings()) {
-      commands_.push_back(MakeSettingCommand(app_, setting));
+    for (const client::SettingKind &kind : client::SettingKinds()) {
+      commands_.push_back(MakeSettingCommand(app_, kind));
     }
     for (const auto make :
          {MakeStatus, MakeWatch, MakeReapply, MakeDiagnose, MakeVersions, MakeModels}) {
       commands_.push_back(make(app_));
     }
-    for (const Command &command : commands_) command.app->group(command.hidden ? "" : "Commands");
+    for (const Command &command : commands_) command.app->group(command.isHidden ? "" : "Commands");
   }
 
-  ExitCode Run(int argc, char **argv, const Terminal &terminal) {
+  ExitCode Run(int argc, char **argv, const Output &output) {
     // Before the parser, which would take options among the words for its own.
     if (argc > 1 && std::string_view(argv[1]) == kCompleteWord) {
-      Complete(app_, {argv + 2, argv + argc}, terminal);
+      Complete(app_, {argv + 2, argv + argc}, output);
       return ExitCode::kDone;
     }
     try {
       app_.parse(argc, argv);
     } catch (const CLI::CallForHelp &) {
-      terminal.Print(app_.help(), {{"help", app_.help()}});
+      output.Print(app_.help(), {{"help", app_.help()}});
       return ExitCode::kDone;
     } catch (const CLI::CallForVersion &) {
-      terminal.Print("trxctl " TRXCTL_VERSION "\n",
-                     {{"name", "trxctl"}, {"version", TRXCTL_VERSION}});
+      output.Print("trxctl " TRXCTL_VERSION "\n",
+                   {{"name", "trxctl"}, {"version", TRXCTL_VERSION}});
       return ExitCode::kDone;
     } catch (const CLI::ExtrasError &) {
       ThrowNotExpected(app_.remaining(true).front());
@@ -102,13 +99,13 @@ class Program {
     } catch (const CLI::ParseError &error) {
       throw Failure{ExitCode::kUsage, error.what(), UsageHint()};
     }
-    return RunChosen(terminal);
+    return RunChosen(output);
   }
 
  private:
-  ExitCode RunChosen(const Terminal &terminal) const {
-    const bool model_given = app_.count("--model") != 0;
-    const Session session{ModelNamed(model_), model_given, terminal};
+  ExitCode RunChosen(const Output &output) const {
+    const Session session{model_ ? ModelNamed(*model_) : client::DefaultModel(), model_.has_value(),
+                          output};
     const auto chosen = std::find_if(commands_.begin(), commands_.end(),
                                      [](const Command &command) { return command.app->parsed(); });
     if (chosen != commands_.end()) return chosen->run(session);
@@ -136,7 +133,7 @@ class Program {
   std::vector<std::string> CommandNames() const {
     std::vector<std::string> names;
     for (const Command &command : commands_) {
-      if (!command.hidden) names.push_back(command.app->get_name());
+      if (!command.isHidden) names.push_back(command.app->get_name());
     }
     return names;
   }
@@ -162,7 +159,7 @@ class Program {
   }
 
   CLI::App app_;
-  std::string model_{kDefaultModel};
+  std::optional<std::string> model_;
   std::vector<Command> commands_;
 };
 
@@ -179,14 +176,14 @@ int RunCommandLine(int argc, char **argv) noexcept {
   ReserveStandardStreams();
   // Writing to a pipe without a reader is then an error that can be told.
   std::signal(SIGPIPE, SIG_IGN);
-  const Terminal terminal(AsksForJson(argc, argv));
+  const Output output(AsksForJson(argc, argv));
   try {
-    return static_cast<int>(Program().Run(argc, argv, terminal));
+    return static_cast<int>(Program().Run(argc, argv, output));
   } catch (const Failure &failure) {
-    terminal.Print(failure);
+    output.Print(failure);
     return static_cast<int>(failure.code);
   } catch (const std::exception &error) {
-    terminal.Print(
+    output.Print(
         Failure{ExitCode::kFailed, error.what(), "this should not happen; please report it"});
     return static_cast<int>(ExitCode::kFailed);
   }

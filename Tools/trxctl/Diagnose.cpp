@@ -1,44 +1,206 @@
 #include "Diagnose.h"
 
-#include <algorithm>
+#include <array>
+#include <cstring>
 
-#include "CheckMixers.h"
-#include "CheckSystem.h"
+#include "PlatformWords.h"
+#include "Words.h"
+#include "client/Diagnosis.h"
 
 namespace trxctl {
 namespace {
 
-std::string AsText(const Terminal &terminal, const Check &check) {
-  if (check.ok()) return "ok       " + check.name + ": " + check.finding + '\n';
-  return terminal.Strong("problem  " + check.name) + ": " + check.finding +
-         "\n  hint: " + check.hint + '\n';
+using client::Check;
+using client::Finding;
+
+constexpr char kReloadRules[] = "sudo udevadm control --reload && sudo udevadm trigger";
+constexpr char kRule[] = "70-trx-selva.rules";
+
+/// The names of what is checked, in the order of client::CheckedPart; programs read them, too.
+constexpr std::array<std::string_view, 10> kPartNames{"USB",
+                                                      "maker",
+                                                      "mixer",
+                                                      "node",
+                                                      "access",
+                                                      "answer",
+                                                      "session bus",
+                                                      "Preferences folder",
+                                                      "settings files",
+                                                      "installation"};
+
+std::string_view NameOf(const Check &check) {
+  return kPartNames.at(static_cast<std::size_t>(check.part));
 }
 
-nlohmann::ordered_json AsJson(const Check &check) {
-  nlohmann::ordered_json json{
-      {"check", check.name}, {"ok", check.ok()}, {"message", check.finding}};
-  if (!check.ok()) {
-    json["kind"] = EntryOf(check.code).kind;
-    json["hint"] = check.hint;
+std::string ReasonOf(const Check &check) { return std::strerror(check.reason); }
+
+std::string MixerOf(const Check &check) { return Describe(check.mixers.front()); }
+
+std::string NodeOf(const Check &check) { return check.mixers.front().node; }
+
+std::string PathOf(const Check &check) { return Printable(check.path); }
+
+std::string MixersAsText(const Check &check) {
+  if (check.mixers.empty()) return "at least one is connected";
+  std::vector<std::string> described;
+  for (const client::Mixer &mixer : check.mixers) described.push_back(Describe(mixer));
+  return Joined(described);
+}
+
+std::string OthersAsText(const Check &check) {
+  if (check.names.empty()) return "no other product of the mixers' maker is connected";
+  return "another product of the mixers' maker is connected: " + Printable(Joined(check.names));
+}
+
+std::string FilesAsText(const Check &check) {
+  std::vector<std::string> found;
+  if (check.count > 0) found.push_back(Counted(check.count, "file") + " in good order");
+  if (check.otherCount > 0) {
+    found.push_back(Counted(check.otherCount, "file") + " without effect on any setting");
+  }
+  return found.empty() ? "none stored yet" : Joined(found);
+}
+
+/// What is said of a part that is in good order.
+std::string GoodAsText(const Check &check) {
+  switch (check.part) {
+    case client::CheckedPart::kUsb:
+      return Counted(check.count, "USB device") + " seen, hubs included";
+    case client::CheckedPart::kMaker:
+      return OthersAsText(check);
+    case client::CheckedPart::kMixer:
+      return MixersAsText(check);
+    case client::CheckedPart::kNode:
+      return NodeOf(check);
+    case client::CheckedPart::kAccess:
+      return MixerOf(check) + " may be opened";
+    case client::CheckedPart::kAnswer:
+      return "the mixers that may be opened answer a request";
+    case client::CheckedPart::kSessionBus:
+      return "reached";
+    case client::CheckedPart::kSettingsFolder:
+      return PathOf(check) + (check.otherCount != 0 ? "" : " (made with the first change)");
+    case client::CheckedPart::kSettingsFiles:
+      return FilesAsText(check);
+    case client::CheckedPart::kInstallation:
+      break;
+  }
+  return Printable("library " + check.names.front() + ", package " + check.names.back());
+}
+
+/// What a check came to, in words.
+struct Verdict {
+  ExitCode code;
+  std::string finding;
+  /// What to do; empty when all is well.
+  std::string hint = {};
+};
+
+Verdict VerdictOf(const Check &check) {
+  static const std::string kCountsAsNotStored = "its settings count as not stored; remove it";
+  switch (check.finding) {
+    case Finding::kGood:
+      break;
+    case Finding::kUsbHidden:
+      return {ExitCode::kFailed, check.path + " cannot be read: " + ReasonOf(check),
+              "run trxctl on the machine itself; a container needs its /sys and /dev/bus/usb"};
+    case Finding::kNoUsbDevice:
+      return {
+          ExitCode::kFailed, "the system shows no USB device at all, not even a hub",
+          "see that USB is switched on in the firmware; a virtual machine needs a USB controller"};
+    case Finding::kOnlyOtherProducts:
+      return {ExitCode::kNoMixer, OthersAsText(check),
+              "this product has no settings here; connect a mixer of the TRX-SELVA family"};
+    case Finding::kNoMixer:
+      return {ExitCode::kNoMixer, "no mixer is connected",
+              "connect a mixer by USB, switch it on, and try another cable or port"};
+    case Finding::kNodeMissing:
+      return {ExitCode::kNoAccess, NodeOf(check) + " of " + MixerOf(check) + " is not there",
+              "plug the mixer out and in again; a container needs /dev/bus/usb of the machine"};
+    case Finding::kNoRule:
+      return {ExitCode::kNoAccess,
+              MixerOf(check) + " may not be opened by this user; the udev rule " + kRule +
+                  " is not installed",
+              std::string("copy ") + kRule + " to /etc/udev/rules.d, then run: " + kReloadRules};
+    case Finding::kRuleWithoutEffect:
+      return {ExitCode::kNoAccess,
+              MixerOf(check) + " may not be opened by this user, although the udev rule " + kRule +
+                  " is installed in " + Joined(check.names),
+              std::string("run: ") + kReloadRules +
+                  "; the rule serves whoever sits at the machine, not a session from elsewhere"};
+    case Finding::kHeld:
+      return {ExitCode::kNoAccess, MixerOf(check) + " is held by another program",
+              "end the program that holds it; lsof " + NodeOf(check) + " names it"};
+    case Finding::kNotOpened:
+      return {ExitCode::kNoAccess,
+              MixerOf(check) + " may not be opened by this user: " + ReasonOf(check),
+              "plug the mixer out and in again"};
+    case Finding::kNoAnswer:
+      return {ExitCode::kFailed, "a mixer does not answer a request, or not as it should",
+              "switch the mixer off and on again, and connect it without a hub"};
+    case Finding::kNoSessionBus:
+      return {ExitCode::kFailed, "there is none, so programs do not learn of each other's changes",
+              "run trxctl in a desktop session, or everything together under dbus-run-session"};
+    case Finding::kNoHome:
+      return {ExitCode::kNotStored, "this user has no home folder to keep settings in",
+              std::string(kPlatformWords.withoutHome)};
+    case Finding::kFolderNotWritable:
+    case Finding::kNoFolder:
+      return {ExitCode::kNotStored,
+              "settings cannot be stored in " + PathOf(check) + ": " + Printable(check.obstacle) +
+                  ": " + ReasonOf(check),
+              check.finding == Finding::kNoFolder ? "remove what is in its place"
+                                                  : "make that folder writable for this user"};
+    case Finding::kFileIsNone:
+      return {ExitCode::kFailed, PathOf(check) + ": is no file", kCountsAsNotStored};
+    case Finding::kFileTooLarge:
+      return {ExitCode::kFailed, PathOf(check) + ": is too large for settings", kCountsAsNotStored};
+    case Finding::kFileUnreadable:
+      return {
+          ExitCode::kFailed,
+          PathOf(check) + ": cannot be read" + (check.reason == 0 ? "" : ": " + ReasonOf(check)),
+          kCountsAsNotStored + ", or make it readable for this user"};
+    case Finding::kFileIsNoList:
+      return {ExitCode::kFailed, PathOf(check) + ": is no property list with a dictionary in it",
+              kCountsAsNotStored};
+    case Finding::kNoLibraryVersion:
+    case Finding::kNoPackageVersion:
+      return {ExitCode::kFailed,
+              std::string("the files with the version of the ") +
+                  (check.finding == Finding::kNoLibraryVersion ? "library" : "package") +
+                  " are missing",
+              std::string(kPlatformWords.withoutVersionFiles)};
+  }
+  return {ExitCode::kDone, GoodAsText(check)};
+}
+
+std::string AsText(const Output &output, const Check &check, const Verdict &verdict) {
+  const std::string name(NameOf(check));
+  if (check.IsGood()) return "ok       " + name + ": " + verdict.finding + '\n';
+  return output.Strong("problem  " + name) + ": " + verdict.finding + "\n  hint: " + verdict.hint +
+         '\n';
+}
+
+Json AsJson(const Check &check, const Verdict &verdict) {
+  Json json{{"check", NameOf(check)}, {"ok", check.IsGood()}, {"message", verdict.finding}};
+  if (!check.IsGood()) {
+    json["kind"] = EntryOf(verdict.code).kind;
+    json["hint"] = verdict.hint;
   }
   return json;
 }
 
 ExitCode Run(const Session &session) {
-  std::vector<Check> checks = CheckMixers();
-  const std::vector<Check> system = CheckSystem(session);
-  checks.insert(checks.end(), system.begin(), system.end());
-
   std::string text;
-  nlohmann::ordered_json list = nlohmann::ordered_json::array();
-  for (const Check &check : checks) {
-    text += AsText(session.terminal, check);
-    list.push_back(AsJson(check));
+  Json list = Json::array();
+  ExitCode code = ExitCode::kDone;
+  for (const Check &check : client::Diagnose(session.Models())) {
+    const Verdict verdict = VerdictOf(check);
+    text += AsText(session.output, check, verdict);
+    list.push_back(AsJson(check, verdict));
+    if (code == ExitCode::kDone) code = verdict.code;
   }
-  const auto problem =
-      std::find_if(checks.begin(), checks.end(), [](const Check &check) { return !check.ok(); });
-  const ExitCode code = problem == checks.end() ? ExitCode::kDone : problem->code;
-  session.terminal.Print(
+  session.output.Print(
       text, {{"ok", code == ExitCode::kDone}, {"code", static_cast<int>(code)}, {"checks", list}});
   return code;
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace trxctl {
 
@@ -30,5 +32,16 @@ std::span<const ExitCodeEntry> ExitCodes();
 
 /// The entry of one exit code.
 const ExitCodeEntry &EntryOf(ExitCode code);
+
+/// Thrown when a command cannot be done: ends the program with a message for the user.
+struct Failure {
+  ExitCode code;
+  /// One line: what is wrong.
+  std::string message;
+  /// One line: what the user can do about it.
+  std::string hint;
+  /// What would have been accepted in place of what was given, where that is a list.
+  std::vector<std::string> choices = {};
+};
 
 }  // namespace trxctl

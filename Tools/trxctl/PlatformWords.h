@@ -7,13 +7,13 @@ namespace trxctl {
 /// What is said to the user in other words on each platform.
 struct PlatformWords {
   /// What to do when settings cannot be stored.
-  std::string_view not_stored;
+  std::string_view notStored;
   /// What to do when the user has no home folder.
-  std::string_view without_home;
+  std::string_view withoutHome;
   /// What to do when the files with the versions are missing.
-  std::string_view without_version_files;
+  std::string_view withoutVersionFiles;
   /// What follows "not installed" for the driver.
-  std::string_view no_driver;
+  std::string_view noDriver;
 };
 
 extern const PlatformWords kPlatformWords;

@@ -1,57 +1,50 @@
 #include "Reapply.h"
 
-#include "Knob.h"
-#include "Reach.h"
-#include "SettingList.h"
-#include "SettingSend.h"
-#include "Text.h"
+#include "Sending.h"
+#include "Words.h"
 
 namespace trxctl {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// What was sent and what was not, for both kinds of answer.
 struct Outcome {
-  std::string sent_text;
-  std::string not_sent_text;
+  std::string sentText;
+  std::string notSentText;
   Json sent = Json::array();
-  Json not_sent = Json::array();
+  Json notSent = Json::array();
   /// Whether something that the model takes could not be sent.
-  bool missed = false;
+  bool isMissing = false;
 };
 
-void SendKnob(Outcome &outcome, const Knob &knob) {
-  Json json = NameAsJson(knob);
-  json.update(ChoiceAsJson(knob, knob.Current()));
-  auto reason = ReasonAgainstAgain(knob);
-  if (!reason && !knob.SetAgain()) reason = "it was refused";
+void Send(Outcome &outcome, const client::Setting &setting) {
+  Json json = NameAsJson(setting);
+  json.update(ChoiceAsJson(setting, setting.Current()));
+  const auto reason = ReasonAgainstAgain(setting);
   if (!reason) {
+    client::SendAgain(setting);
     outcome.sent.push_back(std::move(json));
-    outcome.sent_text += "  " + knob.Title() + ": " + CurrentAsText(knob) + '\n';
+    outcome.sentText += "  " + TitleOf(setting) + ": " + CurrentAsText(setting) + '\n';
     return;
   }
   json["reason"] = *reason;
-  outcome.not_sent.push_back(std::move(json));
-  outcome.not_sent_text += "  " + knob.Title() + ": " + *reason + '\n';
-  outcome.missed = outcome.missed || knob.TakesChoices();
+  outcome.notSent.push_back(std::move(json));
+  outcome.notSentText += "  " + TitleOf(setting) + ": " + *reason + '\n';
+  outcome.isMissing = outcome.isMissing || setting.TakesChoices();
 }
 
 ExitCode Run(const Session &session) {
-  const Reach reach;
-  RequireReached(reach, "nothing was sent");
+  const client::Delivery reachable = client::Reachable();
+  RequireReachable(reachable, "nothing was sent");
   Outcome outcome;
-  for (const Setting &setting : Settings()) {
-    for (const Knob &knob : KnobsOf(setting, session.model)) SendKnob(outcome, knob);
-  }
+  for (const client::Setting &setting : client::SettingsOf(session.model)) Send(outcome, setting);
   const std::string model(session.model.name);
-  std::string text = session.terminal.Strong(model + " settings sent again") + '\n' +
-                     outcome.sent_text + ReachAsText(reach);
-  if (!outcome.not_sent_text.empty()) text += "Not sent:\n" + outcome.not_sent_text;
-  Json json{{"model", model}, {"sent", outcome.sent}, {"not_sent", outcome.not_sent}};
-  json.update(ReachAsJson(reach));
-  session.terminal.Print(text, json);
-  return outcome.missed ? ExitCode::kRefused : ExitCode::kDone;
+  std::string text = session.output.Strong(model + " settings sent again") + '\n' +
+                     outcome.sentText + DeliveryAsText(reachable);
+  if (!outcome.notSentText.empty()) text += "Not sent:\n" + outcome.notSentText;
+  Json json{{"model", model}, {"sent", outcome.sent}, {"not_sent", outcome.notSent}};
+  json.update(DeliveryAsJson(reachable));
+  session.output.Print(text, json);
+  return outcome.isMissing ? ExitCode::kRefused : ExitCode::kDone;
 }
 
 }  // namespace

@@ -2,99 +2,198 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
+#include <utility>
 
-#include "Failure.h"
-#include "InputLists.h"
-#include "Knob.h"
-#include "Language.h"
-#include "SettingList.h"
-#include "SettingRequest.h"
-#include "SettingSend.h"
-#include "Text.h"
+#include "Listing.h"
+#include "Sending.h"
+#include "UserInput.h"
+#include "Words.h"
+#include "client/InputLists.h"
+#include "client/Languages.h"
 
 namespace trxctl {
 namespace {
 
-bool IsOfferedByAny(const Setting &setting) {
-  return std::any_of(Models().begin(), Models().end(),
-                     [&setting](const Model &model) { return !KnobsOf(setting, model).empty(); });
+// The library shifts the group, plus 1, into four bits.
+constexpr int32_t kLowestGroup = -1;
+constexpr int32_t kHighestGroup = 14;
+
+/// What the command line of a setting asked for.
+struct Request {
+  /// The channel, where the setting has channels, and the words of the choice.
+  std::vector<std::string> words;
+  bool isAgain = false;
+  bool isDefault = false;
+  std::optional<std::string> rawSource;
+  int32_t rawGroup = kLowestGroup;
+  std::optional<std::string> language;
+
+  /// Takes the channel off the words: the number as the user gave it, if there is one.
+  std::optional<std::string> TakeChannel() {
+    if (words.empty()) return std::nullopt;
+    std::string channel = words.front();
+    words.erase(words.begin());
+    return channel;
+  }
+
+  std::string Choice() const { return Joined(words, " "); }
+
+  /// Throws Failure when the request asks for several things at once.
+  void RequireOneAction(bool isChannelGiven) const;
+};
+
+void Request::RequireOneAction(bool isChannelGiven) const {
+  std::vector<std::string> actions;
+  if (isAgain) actions.emplace_back("--again");
+  if (isDefault) actions.emplace_back("--default");
+  if (rawSource) actions.emplace_back("--raw");
+  if (!words.empty()) actions.push_back(Quoted(Choice()));
+  if (actions.size() > 1) {
+    throw Failure{ExitCode::kUsage, Joined(actions, " and ") + " do not go together",
+                  "leave out all but one of them"};
+  }
+  if (rawGroup != kLowestGroup && !rawSource) {
+    throw Failure{ExitCode::kUsage, "--group goes with --raw only", "add --raw SOURCE"};
+  }
+  if (!isChannelGiven && !actions.empty()) {
+    throw Failure{ExitCode::kUsage, actions.front() + " needs a channel",
+                  "name the channel first, such as 1"};
+  }
 }
 
-void RequireOffered(const Setting &setting, const Model &chosen) {
-  if (!KnobsOf(setting, chosen).empty()) return;
-  const std::string message = std::string(chosen.name) + " has no " + std::string(setting.title);
-  std::vector<std::string> others;
-  for (const Model &model : Models()) {
-    if (!KnobsOf(setting, model).empty()) others.emplace_back(model.name);
+CLI::Validator Group() {
+  return {[](const std::string &text) {
+            const auto group = NumberIn<int32_t>(text);
+            const bool isGood = group && *group >= kLowestGroup && *group <= kHighestGroup;
+            return isGood ? std::string()
+                          : Quoted(text) + " is no number from " + std::to_string(kLowestGroup) +
+                                " to " + std::to_string(kHighestGroup);
+          },
+          ""};
+}
+
+void AddOptions(CLI::App &app, const client::SettingKind &kind, Request &request) {
+  if (kind.hasChannels) {
+    app.add_option("CHANNEL CHOICE", request.words,
+                   "The channel, from 1; then a text from its list, the\n"
+                   "beginning of one, or its number");
+  } else {
+    app.add_option("CHOICE", request.words,
+                   "A text from the list, the beginning of one, or its number");
   }
+  app.add_flag("--again", request.isAgain, "Send the stored choice to the mixers once more");
+  if (kind.extras.setDefault != nullptr) {
+    app.add_flag("--default", request.isDefault,
+                 "Set the default for the time being; nothing is stored");
+  }
+  if (kind.extras.setRaw != nullptr) {
+    app.add_option("--raw", request.rawSource, "Send this raw source code; nothing is stored")
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast)
+        ->type_name("SOURCE");
+    app.add_option("--group", request.rawGroup, "The group that goes with --raw (default: -1)")
+        ->check(Group())
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast)
+        ->type_name("N");
+  }
+  if (kind.extras.warning != nullptr) {
+    app.add_option("--language", request.language, "The language of warnings, by name or number")
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast)
+        ->type_name("NAME");
+  }
+}
+
+/// The examples in the help, made from a setting that has choices.
+std::string Examples(const client::SettingKind &kind) {
+  const std::vector<const client::Model *> models = client::ModelsWith(kind);
+  const std::string name(kind.name);
+  if (models.empty()) return "  trxctl " + name + "   tells which models offer one\n";
+  const bool isDefaultModel =
+      std::find(models.begin(), models.end(), &client::DefaultModel()) != models.end();
+  const client::Model &model = isDefaultModel ? client::DefaultModel() : *models.front();
+  const client::Setting setting = client::SettingsOf(kind, model).back();
+
+  std::vector<std::pair<std::string, std::string>> lines;
+  if (kind.hasChannels) {
+    lines.emplace_back("trxctl " + name, "what is stored for each channel");
+  }
+  const auto add = [&](const std::string &words, const std::string &about) {
+    lines.emplace_back(CommandLineFor(setting, words), about);
+  };
+  add("", "what is stored, and the choices");
+  add(Quoted(setting.TextOf(1).value_or("")), "set it by its text");
+  add(std::to_string(kind.firstNumber + 1), "set it by its number");
+  add("--again", "send the stored choice again");
+  if (kind.extras.setDefault != nullptr) add("--default", "set the default for now");
+  if (kind.extras.setRaw != nullptr) add("--raw 10", "send a raw value");
+  std::size_t width = 0;
+  for (const auto &[line, about] : lines) width = std::max(width, line.size());
+  std::string text;
+  for (auto &[line, about] : lines) {
+    line.resize(width + 2, ' ');
+    text += "  " + line + about + '\n';
+  }
+  return text;
+}
+
+void RequireOffered(const client::SettingKind &kind, const client::Model &chosen) {
+  if (!client::SettingsOf(kind, chosen).empty()) return;
+  const std::string title(kind.title);
+  const std::string message = std::string(chosen.name) + " has no " + title;
+  const std::vector<std::string> others = NamesOf(client::ModelsWith(kind));
   if (others.empty()) {
-    throw Failure{ExitCode::kRefused, message, "no model offers a " + std::string(setting.title)};
+    throw Failure{ExitCode::kRefused, message, "no model offers a " + title};
   }
   throw Failure{ExitCode::kRefused, message,
                 "models that have one: " + Joined(others) + "; name one: trxctl " +
-                    std::string(setting.name) + " --model " + others.front(),
+                    std::string(kind.name) + " --model " + others.front(),
                 others};
 }
 
-/// The channel that the user named, counted from 0.
-int32_t ChannelNamed(const std::string &given, const Setting &setting, const Model &model,
-                     std::size_t count) {
-  std::vector<std::string> channels;
-  for (std::size_t channel = 1; channel <= count; ++channel) {
-    channels.push_back(std::to_string(channel));
+void RunOn(const Session &session, const client::Setting &setting, const Request &request) {
+  const int32_t language =
+      request.language ? LanguageNamed(*request.language) : client::kSystemLanguage;
+  if (request.isAgain) return SendAgain(session, setting);
+  if (request.isDefault) return SendDefault(session, setting);
+  if (request.rawSource) {
+    return SendRaw(session, setting, *request.rawSource, request.rawGroup, language);
   }
-  const auto found = std::find(channels.begin(), channels.end(), given);
-  if (found == channels.end()) {
-    throw Failure{ExitCode::kRefused,
-                  Quoted(given) + " is no channel of " + std::string(model.name) + ' ' +
-                      std::string(setting.title),
-                  "choose one of " + Joined(channels), channels};
-  }
-  return static_cast<int32_t>(found - channels.begin());
+  if (request.words.empty()) return ListChoices(session, setting);
+  SetChoice(session, setting, request.Choice(), language);
 }
 
-void RunOnKnob(const Session &session, const Knob &knob, const SettingRequest &request) {
-  const int32_t language = request.language ? LanguageNamed(*request.language) : kSystemLanguage;
-  if (request.again) return SendAgain(session, knob);
-  if (request.to_default) return SendDefault(session, knob);
-  if (request.raw_source) {
-    return SendRaw(session, knob, *request.raw_source, request.raw_group, language);
-  }
-  if (request.words.empty()) return ListChoices(session, knob);
-  SetChoice(session, knob, request.Choice(), language);
-}
-
-void Run(const Session &session, const Setting &setting, SettingRequest request) {
-  const Model &model = session.model;
-  RequireOffered(setting, model);
-  if (!setting.has_channels) {
+void Run(const Session &session, const client::SettingKind &kind, Request request) {
+  const client::Model &model = session.model;
+  RequireOffered(kind, model);
+  const std::vector<client::Setting> settings = client::SettingsOf(kind, model);
+  if (!kind.hasChannels) {
     request.RequireOneAction(true);
-    return RunOnKnob(session, Knob(setting, model), request);
+    return RunOn(session, settings.front(), request);
   }
   const auto channel = request.TakeChannel();
   request.RequireOneAction(channel.has_value());
-  const std::vector<Knob> knobs = KnobsOf(setting, model);
-  if (!channel) return ListChannels(session, knobs);
+  if (!channel) return ListChannels(session, settings);
   // Raw values reach channels, too, that have no list.
-  const std::size_t count =
-      request.raw_source ? static_cast<std::size_t>(CountRawInputChannels(model.id)) : knobs.size();
-  RunOnKnob(session, Knob(setting, model, ChannelNamed(*channel, setting, model, count)), request);
+  const std::size_t count = request.rawSource
+                                ? static_cast<std::size_t>(client::CountRawInputChannels(model.id))
+                                : settings.size();
+  RunOn(session, {&kind, &model, ChannelNamed(*channel, kind, model, count)}, request);
 }
 
 }  // namespace
 
-Command MakeSettingCommand(CLI::App &program, const Setting &setting) {
-  CLI::App *app = program.add_subcommand(std::string(setting.name),
-                                         "Show or set " + std::string(setting.about));
-  app->footer("Examples:\n" + std::string(setting.examples) + std::string(kSharedOptionsHelp));
-  const auto request = std::make_shared<SettingRequest>();
-  AddSettingOptions(*app, setting, *request);
+Command MakeSettingCommand(CLI::App &program, const client::SettingKind &kind) {
+  CLI::App *app =
+      program.add_subcommand(std::string(kind.name), "Show or set " + std::string(kind.about));
+  app->footer("Examples:\n" + Examples(kind) + kSharedOptionsHelp);
+  const auto request = std::make_shared<Request>();
+  AddOptions(*app, kind, *request);
   return {app,
-          [&setting, request](const Session &session) {
-            Run(session, setting, *request);
+          [&kind, request](const Session &session) {
+            Run(session, kind, *request);
             return ExitCode::kDone;
           },
-          !IsOfferedByAny(setting)};
+          client::ModelsWith(kind).empty()};
 }
 
 }  // namespace trxctl

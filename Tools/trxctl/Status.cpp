@@ -2,43 +2,18 @@
 
 #include <array>
 #include <cstdio>
-#include <optional>
 
-#include "Reach.h"
-#include "Text.h"
+#include "Sending.h"
+#include "Words.h"
+#include "client/MixerStatus.h"
 
 namespace trxctl {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 constexpr std::size_t kColumn = 20;
 
-/// What the mixers of a model report, as far as it can be read.
-struct Reported {
-  ProductId model;
-  /// The channels whose selector position is reported; the library accepts one more for most
-  /// models, for which the mixers report none.
-  uint32_t selectors;
-  bool certify;
-  bool firmware;
-  bool serato;
-};
-
-constexpr std::array<Reported, 6> kReported{{
-    {ORV_PRODUCT_TRX_ARDEN, 4, false, false, true},
-    {ORV_PRODUCT_TRX_VOLT, 2, false, false, false},
-    {ORV_PRODUCT_TRX_HALDEN, 4, true, false, true},
-    {ORV_PRODUCT_TRX_LUMEN, 4, true, false, true},
-    {ORV_PRODUCT_TRX_MORROW, 4, true, false, true},
-    {ORV_PRODUCT_TRX_SELVA, 4, true, true, true},
-}};
-
-const Reported &ReportedBy(const Model &model) {
-  std::size_t place = 0;
-  while (kReported.at(place).model != model.id) ++place;
-  return kReported.at(place);
-}
+constexpr char kNotTold[] = "not told by this model";
+constexpr char kNoAnswer[] = "no answer";
 
 std::string Row(std::string title, const std::string &value) {
   title.resize(kColumn, ' ');
@@ -51,78 +26,72 @@ struct Answer {
   Json json;
 };
 
-void AddCertifyLevel(Answer &answer, const Session &session, const Reported &reported) {
-  uint32_t level = 0;
+std::string FirmwareAsText(uint32_t version) {
+  std::array<char, 16> digits{};
+  std::snprintf(digits.data(), digits.size(), "0x%04x", version);
+  return std::to_string(version) + " (" + digits.data() + ")";
+}
+
+void AddCertifyLevel(Answer &answer, const client::MixerStatus &status, bool isTold) {
   answer.json["certify_level"] = nullptr;
-  if (reported.certify) {
-    ORV_GetMixerCertifyLevel(session.model.id, &level);
-    answer.json["certify_level"] = level;
-  }
-  answer.text +=
-      Row("certify level", reported.certify ? std::to_string(level) : "not told by this model");
+  if (status.certifyLevel) answer.json["certify_level"] = *status.certifyLevel;
+  answer.text += Row("certify level", !isTold               ? kNotTold
+                                      : status.certifyLevel ? std::to_string(*status.certifyLevel)
+                                                            : kNoAnswer);
 }
 
-void AddFirmware(Answer &answer, const Session &session, const Reported &reported) {
-  uint32_t version = 0;
+void AddFirmware(Answer &answer, const client::MixerStatus &status, bool isTold) {
   answer.json["firmware"] = nullptr;
-  std::string text = "not told by this model";
-  if (reported.firmware) {
-    ORV_GetFirmwareVersionIndex(session.model.id, &version);
-    std::array<char, 16> digits{};
-    std::snprintf(digits.data(), digits.size(), "0x%04x", version);
-    // The library answers 0 as well when the mixer does not.
-    text = version == 0 ? "no answer" : std::to_string(version) + " (" + digits.data() + ")";
-    if (version != 0) answer.json["firmware"] = version;
-  }
-  answer.text += Row("firmware", text);
+  if (status.firmware) answer.json["firmware"] = *status.firmware;
+  answer.text += Row("firmware", !isTold           ? kNotTold
+                                 : status.firmware ? FirmwareAsText(*status.firmware)
+                                                   : kNoAnswer);
 }
 
-void AddSelectors(Answer &answer, const Session &session, const Reported &reported) {
-  constexpr uint32_t kUntouched = 0xFFFFFFFF;
+void AddSelectors(Answer &answer, const client::MixerStatus &status) {
   answer.json["input_selectors"] = Json::array();
-  for (uint32_t channel = 0; channel < reported.selectors; ++channel) {
-    uint32_t position = kUntouched;
-    const bool good =
-        ORV_GetMixerInputSelectorStatus(session.model.id, channel, &position) == ORV_SUCCESS;
-    Json entry{{"channel", channel + 1}, {"position", nullptr}};
-    std::string text = "no answer";
-    if (position != kUntouched) text = std::to_string(position) + (good ? "" : " (no position)");
-    if (position != kUntouched && good) entry["position"] = position;
+  std::size_t channel = 0;
+  for (const auto &selector : status.selectors) {
+    ++channel;
+    Json entry{{"channel", channel}, {"position", nullptr}};
+    std::string text = kNoAnswer;
+    if (selector) {
+      text = std::to_string(selector->position) + (selector->isValid ? "" : " (no position)");
+      if (selector->isValid) entry["position"] = selector->position;
+    }
     answer.json["input_selectors"].push_back(std::move(entry));
-    answer.text += Row("input selector " + std::to_string(channel + 1), text);
+    answer.text += Row("input selector " + std::to_string(channel), text);
   }
 }
 
-void AddSerato(Answer &answer, const Session &session, const Reported &reported) {
+void AddSerato(Answer &answer, const client::MixerStatus &status, bool isTold) {
   answer.json["serato"] = nullptr;
-  std::string text = "not told by this model";
-  if (reported.serato) {
-    uint32_t active = 0;
-    const bool told = ORV_GetMixerSeratoActiveStatus(session.model.id, &active) == ORV_SUCCESS;
-    text = !told ? "no answer" : active != 0 ? "active" : "not active";
-    if (told) answer.json["serato"] = active != 0;
-  }
-  answer.text += Row("Serato", text);
+  if (status.serato) answer.json["serato"] = *status.serato;
+  answer.text += Row("Serato", !isTold          ? kNotTold
+                               : !status.serato ? kNoAnswer
+                               : *status.serato ? "active"
+                                                : "not active");
 }
 
 ExitCode Run(const Session &session) {
-  const Reach reach;
-  RequireReached(reach, "there is no status to read");
-  const Reported &reported = ReportedBy(session.model);
-  Answer answer{session.terminal.Strong(std::string(session.model.name) + " mixer status") + '\n',
+  const client::Delivery reachable = client::Reachable();
+  RequireReachable(reachable, "there is no status to read");
+  const client::StatusKinds &kinds = client::StatusKindsOf(session.model);
+  const client::MixerStatus status = client::AskStatus(session.model);
+  Answer answer{session.output.Strong(std::string(session.model.name) + " mixer status") + '\n',
                 {{"model", session.model.name}}};
-  AddCertifyLevel(answer, session, reported);
-  AddFirmware(answer, session, reported);
-  AddSelectors(answer, session, reported);
-  AddSerato(answer, session, reported);
-  if (reach.accessible > 1) {
-    const std::string mixers = Counted(reach.accessible, "mixer");
-    answer.text += reported.firmware ? "The firmware is that of the first of " + mixers +
-                                           ", the rest is that of the last.\n"
-                                     : "This is what the last of " + mixers + " reports.\n";
+  AddCertifyLevel(answer, status, kinds.certifyLevel);
+  AddFirmware(answer, status, kinds.firmware);
+  AddSelectors(answer, status);
+  AddSerato(answer, status, kinds.serato);
+  if (reachable.Taken() > 1) {
+    const std::string mixers = Counted(reachable.Taken(), "mixer");
+    answer.text += kinds.firmware ? "The firmware is that of the first of " + mixers +
+                                        ", the rest is that of the last.\n"
+                                  : "This is what the last of " + mixers + " reports.\n";
   }
-  answer.json["mixers"] = ReachAsJson(reach)["mixers"];
-  session.terminal.Print(answer.text, answer.json);
+  answer.json["mixers"] = DeliveryAsJson(reachable)["mixers"];
+  session.output.Print(answer.text, answer.json);
   return ExitCode::kDone;
 }
 
@@ -139,12 +108,12 @@ Command MakeStatus(CLI::App &program) {
   return {app, Run};
 }
 
-std::vector<std::string> StatusOf(const Model &model) {
-  const Reported &reported = ReportedBy(model);
+std::vector<std::string> StatusOf(const client::Model &model) {
+  const client::StatusKinds &kinds = client::StatusKindsOf(model);
   std::vector<std::string> names{"input_selectors"};
-  if (reported.certify) names.emplace_back("certify_level");
-  if (reported.firmware) names.emplace_back("firmware");
-  if (reported.serato) names.emplace_back("serato");
+  if (kinds.certifyLevel) names.emplace_back("certify_level");
+  if (kinds.firmware) names.emplace_back("firmware");
+  if (kinds.serato) names.emplace_back("serato");
   return names;
 }
 

@@ -8,6 +8,6 @@ namespace trxctl {
 Command MakeStatus(CLI::App &program);
 
 /// What `status` can tell of a model, by the names of its JSON members.
-std::vector<std::string> StatusOf(const Model &model);
+std::vector<std::string> StatusOf(const client::Model &model);
 
 }  // namespace trxctl

@@ -1,22 +1,21 @@
 #include "Watch.h"
 
 #include <chrono>
+#include <cstdlib>
 #include <deque>
 #include <memory>
 #include <optional>
 
-#include "Announcements.h"
-#include "Failure.h"
-#include "Knob.h"
-#include "SessionBus.h"
-#include "Setting.h"
-#include "SettingList.h"
-#include "Text.h"
+#include "UserInput.h"
+#include "WatchLoop.h"
+#include "Words.h"
+#include "client/SessionBus.h"
+#include "client/Settings.h"
 
 namespace trxctl {
 namespace {
 
-using Clock = Announcements::Clock;
+using Clock = WatchLoop::Clock;
 
 /// What the command line asked for.
 struct Request {
@@ -28,26 +27,25 @@ struct Request {
 
 /// One announced change.
 struct Change {
-  const Model *model;
-  const Setting *setting;
-  int32_t channel;
+  client::Setting setting;
   int32_t index;
 };
 
 /// Puts the changes of one setting of one model into the queue, to be printed once delivery is
 /// over.
-class Subscription : public Listener {
+class Subscription : public client::Listener {
  public:
-  Subscription(const Model &model, const Setting &setting, std::deque<Change> &queue)
-      : model_(model), setting_(setting), queue_(queue) {}
+  Subscription(const client::Model &model, const client::SettingKind &kind,
+               std::deque<Change> &queue)
+      : model_(model), kind_(kind), queue_(queue) {}
 
   void Changed(int32_t channel, int32_t index) noexcept override {
-    queue_.push_back({&model_, &setting_, channel, index});
+    queue_.push_back({{&kind_, &model_, channel}, index});
   }
 
  private:
-  const Model &model_;
-  const Setting &setting_;
+  const client::Model &model_;
+  const client::SettingKind &kind_;
   std::deque<Change> &queue_;
 };
 
@@ -59,31 +57,29 @@ std::optional<Clock::time_point> Deadline(double seconds) {
          std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds));
 }
 
-void PrintChange(const Terminal &terminal, const Change &change) {
-  const Knob knob(*change.setting, *change.model, change.channel);
-  nlohmann::ordered_json json{{"event", "change"}};
-  json.update(HeadingAsJson(knob));
-  json.update(ChoiceAsJson(knob, change.index));
-  terminal.Print(std::string(change.model->name) + ' ' + knob.Title() + ": " +
-                     knob.TextOf(change.index).value_or("choice " + std::to_string(change.index)) +
-                     '\n',
-                 json);
+void PrintChange(const Output &output, const Change &change) {
+  const client::Setting &setting = change.setting;
+  Json json{{"event", "change"}};
+  json.update(HeadingAsJson(setting));
+  json.update(ChoiceAsJson(setting, change.index));
+  output.Print(std::string(setting.model->name) + ' ' + TitleOf(setting) + ": " +
+                   setting.TextOf(change.index).value_or("choice " + std::to_string(change.index)) +
+                   '\n',
+               json);
 }
 
 /// Waits for announcements and prints them, until it has seen enough or is told to end.
 class Watcher {
  public:
   Watcher(const Session &session, const Request &request)
-      : terminal_(session.terminal), request_(request), deadline_(Deadline(request.seconds)) {
-    for (const Model &model : Models()) {
-      if (session.model_given ? model.id == session.model.id : model.served) Subscribe(model);
-    }
+      : output_(session.output), request_(request), deadline_(Deadline(request.seconds)) {
+    for (const client::Model *model : session.Models()) Subscribe(*model);
   }
 
   void Run() {
     PrintStart();
     while (!SeenEnough()) {
-      switch (announcements_->Wait(deadline_)) {
+      switch (loop_->Wait(deadline_)) {
         case Waited::kForDelivery:
           PrintDelivered();
           break;
@@ -98,23 +94,23 @@ class Watcher {
   }
 
  private:
-  void Subscribe(const Model &model) {
+  void Subscribe(const client::Model &model) {
     models_.emplace_back(model.name);
-    for (const Setting &setting : Settings()) {
-      Subscription &subscription = subscriptions_.emplace_back(model, setting, queue_);
+    for (const client::SettingKind &kind : client::SettingKinds()) {
+      Subscription &subscription = subscriptions_.emplace_back(model, kind, queue_);
       // A model that does not have this setting is refused here, and then has no changes of it
       // either.
-      setting.functions.listen(model.id, &subscription);
+      kind.functions.listen(model.id, &subscription);
     }
   }
 
   void PrintStart() const {
-    const std::optional<bool> bus = HasSessionBus();
-    nlohmann::ordered_json json{{"event", "watching"}, {"models", models_}};
+    const std::optional<bool> bus = client::HasSessionBus();
+    Json json{{"event", "watching"}, {"models", models_}};
     if (bus) json["session_bus"] = *bus;
-    terminal_.Print("Watching " + Joined(models_) + "; end with Ctrl-C.\n", json);
+    output_.Print("Watching " + Joined(models_) + "; end with Ctrl-C.\n", json);
     if (bus && !*bus) {
-      terminal_.Note(
+      output_.Note(
           "There is no session bus, so no change can be seen yet; waiting for one.\n"
           "hint: run trxctl in a desktop session, or everything together under dbus-run-session");
     }
@@ -124,7 +120,7 @@ class Watcher {
 
   void PrintDelivered() {
     for (; !queue_.empty() && !SeenEnough(); queue_.pop_front(), ++printed_) {
-      PrintChange(terminal_, queue_.front());
+      PrintChange(output_, queue_.front());
     }
   }
 
@@ -140,23 +136,33 @@ class Watcher {
                   "end with --count when only the first changes are wanted"};
   }
 
-  const Terminal &terminal_;
+  const Output &output_;
   const Request request_;
   const std::optional<Clock::time_point> deadline_;
-  const std::unique_ptr<Announcements> announcements_ = Announcements::Make();
+  const std::unique_ptr<WatchLoop> loop_ = WatchLoop::Make();
   std::vector<std::string> models_;
   std::deque<Change> queue_;
   std::deque<Subscription> subscriptions_;
   std::int64_t printed_ = 0;
 };
 
-/// Refuses all but numbers above 0, in words for people.
-template <typename Number>
-CLI::Validator Positive(const std::string &noun) {
-  return {[noun](const std::string &text) {
-            Number number{};
-            const bool positive = CLI::detail::lexical_cast(text, number) && number > 0;
-            return positive ? std::string() : Quoted(text) + " is no " + noun + " above 0";
+std::string RefusedUnless(bool isGood, const std::string &text, const std::string &noun) {
+  return isGood ? "" : Quoted(text) + " is no " + noun + " above 0";
+}
+
+CLI::Validator PositiveCount() {
+  return {[](const std::string &text) {
+            const auto count = NumberIn<std::int64_t>(text);
+            return RefusedUnless(count && *count > 0, text, "whole number");
+          },
+          ""};
+}
+
+CLI::Validator PositiveTime() {
+  return {[](const std::string &text) {
+            char *end = nullptr;
+            const double seconds = std::strtod(text.c_str(), &end);
+            return RefusedUnless(*end == '\0' && seconds > 0, text, "number");
           },
           ""};
 }
@@ -177,11 +183,11 @@ Command MakeWatch(CLI::App &program) {
       kSharedOptionsHelp);
   const auto request = std::make_shared<Request>();
   app->add_option("--count", request->count, "End after this many changes")
-      ->check(Positive<std::int64_t>("whole number"))
+      ->check(PositiveCount())
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast)
       ->type_name("N");
   app->add_option("--timeout", request->seconds, "End after this time, with exit code 5")
-      ->check(Positive<double>("number"))
+      ->check(PositiveTime())
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast)
       ->type_name("SECONDS");
   return {app, [request](const Session &session) {

@@ -1,8 +1,8 @@
 // Which choice the user's words name, in lists that no setting of today has.
 #include <gtest/gtest.h>
 
-#include "Choice.h"
-#include "Failure.h"
+#include "ExitCode.h"
+#include "UserInput.h"
 
 namespace trxctl {
 namespace {

@@ -5,9 +5,9 @@
 
 #include <gtest/gtest.h>
 
-#include "UdevRule.h"
+#include "client/Linux/UdevRule.h"
 
-namespace trxctl {
+namespace client {
 namespace {
 
 namespace fs = std::filesystem;
@@ -33,4 +33,4 @@ TEST(UdevRule, IsLookedForWhereUdevReadsRules) {
 }
 
 }  // namespace
-}  // namespace trxctl
+}  // namespace client

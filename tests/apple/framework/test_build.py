@@ -46,7 +46,7 @@ class Build(unittest.TestCase):
         sources = [entry["file"].removeprefix(f"{SOURCE}/") for entry in entries]
         self.assertIn("Framework/Class/USB/Apple/USBDevice.cpp", sources)
         self.assertIn("Framework/Class/Platform/Apple/NotificationCentre.mm", sources)
-        self.assertIn("Tools/trxctl/Apple/Announcements.mm", sources)
+        self.assertIn("Tools/client/Apple/StoredSettings.mm", sources)
         self.assertEqual([one for one in sources if "/Linux/" in one], [])
         self.assertEqual({one.split("/")[0] for one in sources}, {"Framework", "Tools"})
 

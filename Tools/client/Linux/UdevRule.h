@@ -1,0 +1,19 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace client {
+
+/// The file with the rule that lets the user at the desk open mixers.
+inline constexpr std::string_view kUdevRule = "70-trx-selva.rules";
+
+/// The folders that udev reads rules from.
+std::span<const std::string_view> UdevRuleFolders();
+
+/// Those of the folders in which the rule is installed.
+std::vector<std::string> FoldersWithRule(std::span<const std::string_view> folders);
+
+}  // namespace client

@@ -1,8 +1,0 @@
-#include "SessionBus.h"
-
-namespace trxctl {
-
-// The system's own centre carries announcements, and it is always there.
-std::optional<bool> HasSessionBus() { return std::nullopt; }
-
-}  // namespace trxctl
