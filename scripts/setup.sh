@@ -15,6 +15,7 @@ bench_packages=(
 
 test_packages=(
   "${bench_packages[@]}"
+  ccache
   libgtest-dev libgmock-dev
   clang libclang-rt-dev dbus-bin doxygen locales binutils util-linux procps
   libglib2.0-bin mandoc zsh fish libgnustep-base-dev gnustep-base-runtime gobjc
@@ -50,6 +51,13 @@ install_missing() {
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
     apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
+
+# What was compiled before is taken from ccache, where it is installed. Without the second line it keeps nothing of what uses
+# precompiled headers.
+if command -v ccache >/dev/null; then
+  export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache CMAKE_OBJCXX_COMPILER_LAUNCHER=ccache
+  export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS-pch_defines,time_macros}
+fi
 
 # Configures a preset, with or without the tests (ON or OFF), and builds it.
 build_preset() {
