@@ -19,7 +19,7 @@ test_packages=(
   libgtest-dev libgmock-dev
   clang libclang-rt-dev dbus-bin doxygen locales binutils util-linux procps
   libglib2.0-bin mandoc zsh fish libgnustep-base-dev gnustep-base-runtime gobjc
-  libudev-dev qt6-base-dev qemu-system-x86
+  e2fsprogs mount libudev-dev qt6-base-dev qemu-system-x86
   busybox-static cpio zstd lz4 abigail-tools mmdebstrap debian-archive-keyring uidmap lintian
 )
 

@@ -1,8 +1,12 @@
 #include "Mounts.h"
 
 #include <cerrno>
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
+#include <stdexcept>
 #include <system_error>
+#include <utility>
 
 #include <sched.h>
 #include <sys/mount.h>
@@ -11,6 +15,8 @@
 
 namespace trxtest {
 namespace {
+
+namespace fs = std::filesystem;
 
 void Check(int result, const std::string &what) {
   if (result != 0) throw std::system_error(errno, std::generic_category(), what);
@@ -39,6 +45,22 @@ unsigned long RestrictionsOf(const std::string &folder) {
   return status.f_flag & (ST_NOSUID | ST_NODEV | ST_NOEXEC);
 }
 
+// A folder in memory for what a mount needs beside its place.
+std::string MakeStore() {
+  std::string store = "/dev/shm/trx-mount-XXXXXX";
+  if (mkdtemp(store.data()) == nullptr) {
+    throw std::system_error(errno, std::generic_category(), "make a folder in memory");
+  }
+  return store;
+}
+
+// On the system as it is, whatever software mixers put in its place.
+void Run(const std::string &command) {
+  if (std::system(("env -u LD_PRELOAD " + command).c_str()) != 0) {
+    throw std::runtime_error("failed: " + command);
+  }
+}
+
 }  // namespace
 
 void HaveOwnMounts() {
@@ -51,6 +73,27 @@ Mount Mount::Memory(const std::string &folder, const std::string &options) {
   return Mount(folder);
 }
 
+Mount Mount::NewDisk(const std::string &folder) {
+  Mount mount(folder, MakeStore());
+  const std::string disk = mount.store_ + "/disk";
+  std::ofstream(disk).close();
+  fs::resize_file(disk, std::uintmax_t{16} << 20);
+  Run("mkfs.ext4 -q '" + disk + "'");
+  Run("mount -o loop '" + disk + "' '" + folder + "'");
+  fs::remove(folder + "/lost+found");
+  return mount;
+}
+
+Mount Mount::Overlay(const std::string &folder) {
+  Mount overlay(folder, MakeStore());
+  fs::create_directory(overlay.store_ + "/upper");
+  fs::create_directory(overlay.store_ + "/work");
+  const std::string options = "lowerdir=" + folder + ",upperdir=" + overlay.store_ +
+                              "/upper,workdir=" + overlay.store_ + "/work";
+  Check(mount("overlay", folder.c_str(), "overlay", 0, options.c_str()), "mount on " + folder);
+  return overlay;
+}
+
 Mount Mount::ReadOnly(const std::string &folder) {
   const unsigned long restrictions = RestrictionsOf(folder);
   Check(mount(folder.c_str(), folder.c_str(), nullptr, MS_BIND, nullptr), "mount on " + folder);
@@ -60,6 +103,13 @@ Mount Mount::ReadOnly(const std::string &folder) {
   return Mount(folder);
 }
 
-Mount::~Mount() { umount2(folder_.c_str(), MNT_DETACH); }
+Mount::Mount(Mount &&other) noexcept
+    : folder_(std::exchange(other.folder_, "")), store_(std::exchange(other.store_, "")) {}
+
+Mount::~Mount() {
+  if (!folder_.empty()) umount2(folder_.c_str(), MNT_DETACH);
+  std::error_code ignored;
+  if (!store_.empty()) fs::remove_all(store_, ignored);
+}
 
 }  // namespace trxtest

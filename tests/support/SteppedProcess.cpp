@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <cstddef>
 #include <cstdio>
 #include <system_error>
 
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
 #include <sys/ptrace.h>
+#include <sys/user.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -23,6 +25,23 @@ constexpr int kSystemCallStop = SIGTRAP | 0x80;
 void Check(long result, const char *what) {
   if (result < 0) throw std::system_error(errno, std::generic_category(), what);
 }
+
+// The registers that hold the number of the pending system call, and its result.
+#ifdef __x86_64__
+constexpr std::size_t kNumberOfCall = offsetof(user, regs.orig_rax);
+constexpr std::size_t kResultOfCall = offsetof(user, regs.rax);
+
+void SetRegister(pid_t process, std::size_t which, long value) {
+  Check(ptrace(PTRACE_POKEUSER, process, which, value), "set a register");
+}
+#else
+constexpr std::size_t kNumberOfCall = 0;
+constexpr std::size_t kResultOfCall = 0;
+
+void SetRegister(pid_t /*process*/, std::size_t /*which*/, long /*value*/) {
+  throw std::system_error(ENOSYS, std::generic_category(), "set a register of this processor");
+}
+#endif
 
 [[noreturn]] void BeChild(const std::function<void()> &body) {
   prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -92,6 +111,12 @@ std::optional<SystemCall> SteppedProcess::StepTo(int n) {
     if (!call) break;
   }
   return call;
+}
+
+void SteppedProcess::Fail(int error) {
+  SetRegister(id_, kNumberOfCall, -1);
+  if (!Continue(PTRACE_SYSCALL)) throw std::system_error(ECHILD, std::generic_category(), "fail");
+  SetRegister(id_, kResultOfCall, -error);
 }
 
 void SteppedProcess::Kill() {

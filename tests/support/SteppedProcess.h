@@ -35,6 +35,10 @@ class SteppedProcess {
   /// Continues until the child is before the `n`-th system call from here, counted from 1.
   std::optional<SystemCall> StepTo(int n);
 
+  /// Makes the system call before which the child has stopped fail with this errno value. The call
+  /// is not made; the next step continues after it.
+  void Fail(int error);
+
   /// Kills the child where it has stopped: the pending system call does not happen.
   void Kill();
 

@@ -47,4 +47,12 @@ void GiveUpUnnamedFiles() { Refuse(SYS_openat, kUnnamedBit, EOPNOTSUPP); }
 
 void GiveUpNamingFilesLater() { Refuse(SYS_linkat, 0, ENOENT); }
 
+void GiveUpExchange() { Refuse(SYS_renameat2, 0, EINVAL); }
+
+void FailToOpen(int flags, int error) {
+  Refuse(SYS_openat, static_cast<std::uint32_t>(flags), error);
+}
+
+void FailToRead(int error) { Refuse(SYS_pread64, 0, error); }
+
 }  // namespace trxtest

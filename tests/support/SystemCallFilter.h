@@ -10,4 +10,15 @@ void GiveUpUnnamedFiles();
 /// missing.
 void GiveUpNamingFilesLater();
 
+/// From now on no two files can be exchanged in one step, and a file that is renamed replaces
+/// another without asking.
+void GiveUpExchange();
+
+/// From now on opening a file fails with this errno value when one of the flags is asked for;
+/// whatever the flags, when there are none.
+void FailToOpen(int flags, int error);
+
+/// From now on reading at a place in a file (pread) fails with this errno value.
+void FailToRead(int error);
+
 }  // namespace trxtest
