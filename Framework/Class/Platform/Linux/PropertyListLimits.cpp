@@ -31,23 +31,27 @@ std::size_t TagLength(std::string_view text) {
   return text.npos;
 }
 
-// Takes what stands behind "<!" or "<?" off the front. Returns false when it must not be there. A
-// document type with declarations of its own is refused: no property list has one, and it is where
-// entities that grow without bound are declared.
-bool SkipDeclaration(std::string_view &text) {
+Extent ExtentIf(bool hasEnd) { return hasEnd ? Extent::kWithinLimits : Extent::kNoList; }
+
+// Takes what stands behind "<!" or "<?" off the front. A document type with declarations of its own
+// is refused: no program writes one into a property list, and it is where entities that grow
+// without bound are declared.
+Extent SkipDeclaration(std::string_view &text) {
   if (text.starts_with("!--")) {
     text.remove_prefix(3);
-    return SkipPast("-->", text);
+    return ExtentIf(SkipPast("-->", text));
   }
-  if (text.starts_with("![CDATA[")) return SkipPast("]]>", text);
+  if (text.starts_with("![CDATA[")) return ExtentIf(SkipPast("]]>", text));
   const std::size_t length = TagLength(text);
-  if (length == text.npos) return false;
+  if (length == text.npos) return Extent::kNoList;
   const std::string_view content = text.substr(0, length);
   text.remove_prefix(length + 1);
   if (content.starts_with('?')) {
-    return content.ends_with('?');  // the parser would go on to the next "?>"
+    // The parser would go on to the next "?>".
+    return content.ends_with('?') ? Extent::kWithinLimits : Extent::kBeyondLimits;
   }
-  return content.starts_with("!DOCTYPE") && content.find('[') == content.npos;
+  if (!content.starts_with("!DOCTYPE")) return Extent::kNoList;
+  return content.find('[') == content.npos ? Extent::kWithinLimits : Extent::kBeyondLimits;
 }
 
 // What nearly every property list in XML begins with.
@@ -59,25 +63,26 @@ constexpr std::string_view kUsualHead =
 
 // Looks only at tags, as the parser sees them. Every getter goes through this: what is usual is
 // recognised at once, and the many plain tags are told from the few declarations by one look.
-bool XmlWithinLimits(std::string_view text) {
+Extent ExtentOfXml(std::string_view text) {
   int depth = 0;
   if (text.starts_with(kUsualHead)) text.remove_prefix(kUsualHead.size());
   for (std::size_t tag = text.find('<'); tag != text.npos; tag = text.find('<')) {
     text.remove_prefix(tag + 1);
     if (text.starts_with('!') || text.starts_with('?')) {
-      if (!SkipDeclaration(text)) return false;
+      const Extent extent = SkipDeclaration(text);
+      if (extent != Extent::kWithinLimits) return extent;
       continue;
     }
     const std::size_t length = TagLength(text);
-    if (length == text.npos) return false;
+    if (length == text.npos) return Extent::kNoList;
     if (text.front() == '/') {
       --depth;
     } else if (!text.substr(0, length).ends_with('/') && ++depth > kDeepestNesting) {
-      return false;
+      return Extent::kBeyondLimits;
     }
     text.remove_prefix(length + 1);
   }
-  return true;
+  return Extent::kWithinLimits;
 }
 
 // --- Binary --------------------------------------------------------------------------------------
@@ -97,7 +102,7 @@ class BinaryTree {
         root_(Number(trailer_ + 16, 8)),
         offsetTable_(Number(trailer_ + 24, 8)) {}
 
-  bool WithinLimits() { return Visit(root_, 0); }
+  Extent Look() { return Visit(root_, 0); }
 
  private:
   static constexpr std::uint8_t kCount = 0x10;  // an integer of 1, 2, 4 or 8 bytes
@@ -134,29 +139,31 @@ class BinaryTree {
   }
 
   // A leaf is copied for each reference to it, so each reference counts.
-  bool TakeLeaf(std::uint64_t bytes) {
-    if (bytes > kLargestPropertyList - leafBytes_) return false;
+  Extent TakeLeaf(std::uint64_t bytes) {
+    if (bytes > contents_.size()) return Extent::kNoList;
     leafBytes_ += bytes;
-    return true;
+    return leafBytes_ > kLargestPropertyList ? Extent::kBeyondLimits : Extent::kWithinLimits;
   }
 
-  bool Visit(std::uint64_t object, int depth) {
-    if (depth > kDeepestNesting || ++visited_ > kMostObjects) return false;
-    if (object >= objectCount_) return true;
+  Extent Visit(std::uint64_t object, int depth) {
+    if (depth > kDeepestNesting || ++visited_ > kMostObjects) return Extent::kBeyondLimits;
+    if (object >= objectCount_) return Extent::kWithinLimits;
     std::uint64_t position = Number(offsetTable_ + object * offsetSize_, offsetSize_);
     const std::uint8_t marker = Byte(position++);
     const std::uint8_t kind = marker & 0xF0;
     if (kind == kData || kind == kAsciiText || kind == kUnicodeText) {
       return TakeLeaf(CountAt(position, marker));
     }
-    if (kind != kArray && kind != kSet && kind != kDictionary) return true;
+    if (kind != kArray && kind != kSet && kind != kDictionary) return Extent::kWithinLimits;
     std::uint64_t members = CountAt(position, marker);
-    if (members > kMostObjects) return false;
+    if (members > contents_.size()) return Extent::kNoList;
+    if (members > kMostObjects) return Extent::kBeyondLimits;
     if (kind == kDictionary) members *= 2;  // keys, then values
     for (std::uint64_t i = 0; i < members; ++i) {
-      if (!Visit(Number(position + i * referenceSize_, referenceSize_), depth + 1)) return false;
+      const Extent extent = Visit(Number(position + i * referenceSize_, referenceSize_), depth + 1);
+      if (extent != Extent::kWithinLimits) return extent;
     }
-    return true;
+    return Extent::kWithinLimits;
   }
 
   std::string_view contents_;
@@ -172,11 +179,11 @@ class BinaryTree {
 
 }  // namespace
 
-bool WithinLimits(std::string_view contents) {
-  if (contents.size() > kLargestPropertyList) return false;
-  if (!contents.starts_with(kBinaryMagic)) return XmlWithinLimits(contents);
-  return contents.size() >= kBinaryMagic.size() + kTrailerSize &&
-         BinaryTree(contents).WithinLimits();
+Extent ExtentOf(std::string_view contents) {
+  if (contents.size() > kLargestPropertyList) return Extent::kBeyondLimits;
+  if (!contents.starts_with(kBinaryMagic)) return ExtentOfXml(contents);
+  if (contents.size() < kBinaryMagic.size() + kTrailerSize) return Extent::kNoList;
+  return BinaryTree(contents).Look();
 }
 
 }  // namespace orv
