@@ -7,7 +7,10 @@ pkg_check_modules(LIBSYSTEMD REQUIRED IMPORTED_TARGET libsystemd)
 add_library(framework OBJECT
   Class/ORVFunc/Linux/Observe.cpp
   Class/Platform/Linux/EventLoop.cpp
+  Class/Platform/Linux/FileReading.cpp
   Class/Platform/Linux/FileReplacement.cpp
+  Class/Platform/Linux/FileRights.cpp
+  Class/Platform/Linux/FolderCreation.cpp
   Class/Platform/Linux/Folders.cpp
   Class/Platform/Linux/LocalizedStrings.cpp
   Class/Platform/Linux/NotificationCentre.cpp
@@ -19,6 +22,7 @@ add_library(framework OBJECT
   Class/Platform/Linux/SystemLanguage.cpp
   Class/Platform/Linux/SystemPath.cpp
   Class/Platform/Linux/Text.cpp
+  Class/Platform/Linux/XmlEncoding.cpp
   Class/USB/Linux/BusWalk.cpp
   Class/USB/Linux/DeviceRequest.cpp
   Class/USB/Linux/PlatformStatus.cpp

@@ -181,6 +181,10 @@ StoredList CheckSet(const Setting &setting, const std::string &before,
   Promise(Set(setting) == ORV_SUCCESS, "a setter succeeds whatever the file holds");
   Promise(Files().Count() == kModels.size(), "a setter leaves no litter");
   const std::string after = Files().BytesOf(setting.productId);
+  if (IsTooMuch(before)) {
+    Promise(after == before, "a setter leaves what is more than can be read");
+    return nullptr;
+  }
   if (after == before && listBefore && !HasXmlForm(listBefore)) return ListIn(before);
 
   StoredList list = XmlListIn(after);

@@ -1,11 +1,13 @@
 #include "StoredList.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cmath>
 #include <cstdlib>
 #include <map>
 
 #include "PropertyListLimits.h"
+#include "XmlEncoding.h"
 
 namespace trxfuzz {
 namespace {
@@ -188,10 +190,17 @@ std::optional<std::int32_t> WholePart(double real) {
 
 }  // namespace
 
+bool IsTooMuch(const std::string &bytes) {
+  if (bytes.size() > orv::kLargestPropertyList) return true;
+  const auto text = orv::InUtf8(bytes);
+  return text && orv::ExtentOf(*text) == orv::Extent::kBeyondLimits;
+}
+
 StoredList ListIn(const std::string &bytes) {
-  if (!orv::WithinLimits(bytes)) return nullptr;
+  const auto text = orv::InUtf8(bytes);
+  if (!text || !orv::WithinLimits(*text)) return nullptr;
   plist_t root = nullptr;
-  plist_from_memory(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &root);
+  plist_from_memory(text->data(), static_cast<std::uint32_t>(text->size()), &root);
   return DictionaryOf(root);
 }
 
@@ -219,7 +228,10 @@ std::optional<std::int32_t> StoredInteger(const StoredList &list, const char *ke
 }
 
 bool HasXmlForm(const StoredList &list) {
-  return orv::WithinLimits(InXml(RawXmlOf(list)) + std::string(kRoomForOneMoreEntry, ' '));
+  const std::string xml = InXml(RawXmlOf(list));
+  // A carriage return takes five characters.
+  const auto returns = static_cast<std::size_t>(std::count(xml.begin(), xml.end(), '\r'));
+  return orv::WithinLimits(xml + std::string(kRoomForOneMoreEntry + 4 * returns, ' '));
 }
 
 std::optional<std::string> Difference(const StoredList &before, const StoredList &after,

@@ -20,6 +20,9 @@ using StoredList = std::unique_ptr<void, FreeList>;
 /// The dictionary that the library is to see in these bytes.
 StoredList ListIn(const std::string &bytes);
 
+/// Whether these bytes may be a property list, but one that is too large or too deep to be read.
+bool IsTooMuch(const std::string &bytes);
+
 /// The dictionary in these bytes, provided that they are an XML property list.
 StoredList XmlListIn(const std::string &bytes);
 

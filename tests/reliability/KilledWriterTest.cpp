@@ -29,8 +29,8 @@ const Settings kNext = {{"MaxLevel", "<integer>2</integer>"}, {"Other", "<string
 const Lines kNothingElse = {"Preferences/com.orvikaudio.TRX-SELVAautosetup.plist"};
 // Folders that are still empty.
 const Lines kBeforeTheFile = {"./", "Preferences/"};
-constexpr const char *kLeftReady = "Preferences/.com.orvikaudio.TRX-SELVAautosetup.plist.new";
-const std::string kLeftUnderItsOwnName = "Preferences/.com.orvikaudio.TRX-SELVAautosetup.plist.";
+const std::string kLeftBeside = "Preferences/.com.orvikaudio.TRX-SELVAautosetup.plist.";
+const std::string kLeftAnnounced = kLeftBeside + "new.";
 
 std::string selva = "selva";
 
@@ -88,6 +88,13 @@ class KilledWriter : public Deliveries {
                 "<key>MaxLevel</key><integer>3</integer><key>Other</key><string>kept</string>");
   }
 
+  static void ExpectAllToBegin(const std::string &beginning, const Lines &names) {
+    EXPECT_FALSE(names.empty()) << "the case does not show what it is for";
+    for (const std::string &name : names) {
+      EXPECT_EQ(name.substr(0, beginning.size()), beginning);
+    }
+  }
+
   void ExpectNextWriteLeavesOnlyTheFile() {
     SetTwo();
     EXPECT_EQ(SettingsOf("TRX-SELVA"), kNext);
@@ -110,8 +117,7 @@ TEST_F(KilledWriter, LeavesTheOldFileOrTheNewOneAndNothingAfterTheNextWrite) {
   EXPECT_GT(tally.moments, kFewestMoments);
   EXPECT_GT(tally.oldFiles, 0);
   EXPECT_GT(tally.newFiles, 0);
-  EXPECT_EQ(tally.leftBehind, Lines{kLeftReady})
-      << "of all moments there is one that leaves a file";
+  ExpectAllToBegin(kLeftAnnounced, tally.leftBehind);
   ExpectRegistrationsHold();
 }
 
@@ -144,10 +150,27 @@ TEST_F(KilledWriter, WhereFilesNeedANameLeavesNothingAfterTheNextWriteEither) {
   EXPECT_GT(tally.moments, kFewestMoments);
   EXPECT_GT(tally.oldFiles, 0);
   EXPECT_GT(tally.newFiles, 0);
-  EXPECT_FALSE(tally.leftBehind.empty()) << "the case does not show what it is for";
-  for (const std::string &name : tally.leftBehind) {
-    EXPECT_EQ(name.substr(0, kLeftUnderItsOwnName.size()), kLeftUnderItsOwnName);
+  ExpectAllToBegin(kLeftBeside, tally.leftBehind);
+}
+
+// Another program sets another value while the one that is killed stands still.
+TEST_F(KilledWriter, TakesNothingOfAnotherWithIt) {
+  int moments = 0;
+  for (bool isAtWork = true; isAtWork && !HasFailure();) {
+    PutOldFile();
+    SteppedProcess child(SetOne);
+    isAtWork = child.StepTo(++moments).has_value();
+    SteppedProcess another([] { EXPECT_EQ(ORV_SetUSBOutputAudio(11, 1, 2), 100); });
+    EXPECT_TRUE(another.RunToEnd());
+    // As far as it would have come on its own, and no further.
+    if (isAtWork && child.StepTo(kFewestMoments)) child.Kill();
+    SetTwo();
+    Settings expected = kNext;
+    expected["Input1"] = "<integer>2</integer>";
+    EXPECT_EQ(SettingsOf("TRX-SELVA"), expected) << "moment " << moments;
+    EXPECT_EQ(LibraryListing(), kNothingElse);
   }
+  EXPECT_GT(moments, kFewestMoments);
 }
 
 }  // namespace

@@ -1,9 +1,14 @@
-// Replacing a file while others replace it too, and beside what killed writers have left: on file
-// systems that have files without a name, and on those that have not.
+// Changing a file while others change it too, beside what killed writers have left, and when the
+// system fails: on file systems with everything that the library can use, and on lesser ones.
+#include <algorithm>
+#include <array>
+#include <cerrno>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/file.h>
@@ -24,221 +29,534 @@ namespace {
 
 using testing::AnyOf;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using trxtest::BecomeOrdinaryUser;
 using trxtest::ExpectQuietSuccess;
+using trxtest::FailToOpen;
+using trxtest::FailToRead;
+using trxtest::GiveUpExchange;
 using trxtest::GiveUpNamingFilesLater;
 using trxtest::GiveUpUnnamedFiles;
 using trxtest::ReadBytes;
 using trxtest::SteppedProcess;
+using trxtest::SystemCall;
 using trxtest::TemporaryFolder;
 using trxtest::WriteBytes;
 
-// The three kinds of system that there are, each for a process that can be given up.
-const std::vector<std::function<void()>> kSystems = {[] {}, GiveUpUnnamedFiles,
-                                                     GiveUpNamingFilesLater};
+constexpr std::size_t kPlenty = 1'000'000;
 
-constexpr uid_t kSomeUser = 54'321;
-constexpr gid_t kSomeGroup = 54'322;
+// What a system may lack. Each is for a process that can be given up.
+struct System {
+  const char *description;
+  std::function<void()> giveUp;
+  bool canExchange = true;
+};
 
-struct stat StatusOf(const std::string &path) {
-  struct stat status = {};
-  EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
-  return status;
+const std::vector<System> kSystems = {
+    {"everything", [] {}},
+    {"no files without a name", GiveUpUnnamedFiles},
+    {"no names for them later", GiveUpNamingFilesLater},
+    {"no exchange", GiveUpExchange, false},
+    {"neither",
+     [] {
+       GiveUpUnnamedFiles();
+       GiveUpExchange();
+     },
+     false},
+};
+
+// Adds a letter to what is in the file unless it is there. Returns whether it worked.
+bool Add(const std::string &path, const std::string &letter) {
+  return ChangeFileContents(path, kPlenty, [&](const std::optional<std::string> &old) {
+    const std::string contents = old.value_or("");
+    return contents.find(letter) == contents.npos ? contents + letter : contents;
+  });
 }
+
+bool IsOfGivingUp(const SystemCall &call) { return static_cast<long>(call.number) == SYS_prctl; }
 
 class FileReplacement : public testing::Test {
  protected:
-  void ExpectReplaced() const {
-    EXPECT_TRUE(ReplaceFile(path_, "new"));
-    EXPECT_EQ(ReadBytes(path_), "new");
+  // A writer that adds a letter, on a system like this, and ends well if that works.
+  std::function<void()> Adding(const std::string &letter, const System &system) const {
+    return [=, this] {
+      system.giveUp();
+      if (!Add(path_, letter)) _exit(1);
+    };
   }
 
-  // The clock of a file system goes in steps of some milliseconds.
-  void WriteLaterThan(const std::string &other, const std::string &contents) const {
-    const timespec before = StatusOf(other).st_ctim;
-    timespec now = before;
-    while (now.tv_sec == before.tv_sec && now.tv_nsec == before.tv_nsec) {
-      WriteBytes(path_, contents);
-      now = StatusOf(path_).st_ctim;
+  void LetAnotherAdd(const std::string &letter, const System &system) const {
+    EXPECT_TRUE(SteppedProcess(Adding(letter, system)).RunToEnd());
+  }
+
+  // As an editor does that knows nothing of the library.
+  void Edit(const std::string &contents) const {
+    WriteBytes(folder_ / "edited", contents);
+    ASSERT_EQ(rename((folder_ / "edited").c_str(), path_.c_str()), 0);
+  }
+
+  // Stops a writer that adds an "a" before its first, its second, ... its last system call, on each
+  // system, and calls `then` with it.
+  void AtEveryMoment(const std::function<void(SteppedProcess &, const System &)> &then) const {
+    for (const System &system : kSystems) {
+      int moment = 1;
+      for (bool isAtWork = true; isAtWork && !HasFailure(); ++moment) {
+        SCOPED_TRACE(std::string(system.description) + ", moment " + std::to_string(moment));
+        Edit("old");
+        SteppedProcess writer(Adding("a", system));
+        const auto call = writer.StepTo(moment);
+        isAtWork = call.has_value();
+        if (isAtWork && !IsOfGivingUp(*call)) then(writer, system);
+        std::remove(path_.c_str());
+      }
+      EXPECT_GT(moment, 20);
     }
   }
+
+  // As above; then lets somebody do something, lets the writer go on by one more, two more, ...
+  // system calls, and kills it.
+  void AtEveryTwoMoments(const std::vector<System> &systems,
+                         const std::function<void(const System &)> &between,
+                         const std::function<void(const System &)> &then) const {
+    for (const System &system : systems) {
+      bool isAtWork = true;
+      for (int first = 1; isAtWork && !HasFailure(); ++first) {
+        bool goesOn = true;
+        for (int more = 1; goesOn && !HasFailure(); ++more) {
+          SCOPED_TRACE(std::string(system.description) + ", moments " + std::to_string(first) +
+                       " and " + std::to_string(more) + " more");
+          Edit("old");
+          SteppedProcess writer(Adding("a", system));
+          isAtWork = writer.StepTo(first).has_value();
+          if (!isAtWork) break;
+          between(system);
+          goesOn = writer.StepTo(more).has_value();
+          if (goesOn) {
+            writer.Kill();
+            then(system);
+          }
+          std::remove(path_.c_str());
+        }
+      }
+    }
+  }
+
+  void ExpectNothingBeside() const { EXPECT_THAT(folder_.Names(), ElementsAre("settings")); }
 
   const TemporaryFolder folder_;
   const std::string path_ = folder_ / "settings";
 };
 
 TEST_F(FileReplacement, WorksOnEverySystem) {
-  for (const auto &giveUp : kSystems) {
+  for (const System &system : kSystems) {
+    SCOPED_TRACE(system.description);
     WriteBytes(path_, "old");
     ExpectQuietSuccess([&] {
-      giveUp();
-      ExpectReplaced();
+      system.giveUp();
+      EXPECT_TRUE(Add(path_, "a"));
+      EXPECT_EQ(ReadBytes(path_), "olda");
       ASSERT_EQ(unlink(path_.c_str()), 0);
-      ExpectReplaced();
+      EXPECT_TRUE(Add(path_, "b"));
+      EXPECT_EQ(ReadBytes(path_), "b");
     });
-    EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
+    ExpectNothingBeside();
   }
 }
 
-// Lets processes replace the file `settings` in a folder, each so many times, all at once.
-void ExpectManyAtOnceAreWell(const TemporaryFolder &folder, int times) {
+TEST_F(FileReplacement, LeavesTheFileWhenItShallStay) {
+  WriteBytes(path_, "old");
+  EXPECT_FALSE(ChangeFileContents(path_, kPlenty, [](const auto &) { return std::nullopt; }));
+  EXPECT_EQ(ReadBytes(path_), "old");
+  ExpectNothingBeside();
+}
+
+TEST_F(FileReplacement, LeavesAFileThatIsTooLarge) {
+  WriteBytes(path_, "four");
+  EXPECT_FALSE(ChangeFileContents(path_, 3, [](const auto &) { return "new"; }));
+  EXPECT_EQ(ReadBytes(path_), "four");
+  EXPECT_TRUE(ChangeFileContents(path_, 4, [](const auto &) { return "new"; }));
+  EXPECT_EQ(ReadBytes(path_), "new");
+}
+
+// --- Many writers --------------------------------------------------------------------------------
+
+// Lets processes change a file all at once.
+void AllAtOnce(int processes, const std::function<bool(int)> &body) {
+  std::vector<pid_t> writers;
+  for (int i = 0; i < processes; ++i) {
+    writers.push_back(fork());
+    if (writers.back() == 0) _exit(body(i) ? 0 : 1);
+  }
+  for (const pid_t writer : writers) {
+    int status = 0;
+    ASSERT_EQ(waitpid(writer, &status, 0), writer);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "a change was not made";
+  }
+}
+
+std::string Letter(int i) { return std::string(1, static_cast<char>('a' + i)); }
+
+// A letter with a number: five characters, which the file has once for each writer.
+std::string Numbered(const std::string &letter, int number) {
+  const std::string digits = std::to_string(number);
+  return letter + std::string(4 - digits.size(), '0') + digits;
+}
+
+// Sets the number of a letter. Returns whether it is in the file then.
+bool SetNumber(const std::string &path, const std::string &letter, int number) {
+  const std::string entry = Numbered(letter, number);
+  const bool isSet = ChangeFileContents(path, kPlenty, [&](const auto &old) {
+    std::string contents = old.value_or("");
+    const std::size_t before = contents.find(letter);
+    if (before != contents.npos) contents.erase(before, entry.size());
+    return contents + entry;
+  });
+  return isSet && ReadBytes(path).find(entry) != std::string::npos;
+}
+
+void ExpectNothingLost(const TemporaryFolder &folder, int times) {
   constexpr int kProcesses = 6;
   const std::string path = folder / "settings";
-  for (const auto &giveUp : kSystems) {
-    std::vector<pid_t> writers;
-    for (int i = 0; i < kProcesses; ++i) {
-      writers.push_back(fork());
-      if (writers.back() != 0) continue;
-      giveUp();
-      const std::string contents(1000, static_cast<char>('a' + i));
+  for (const System &system : kSystems) {
+    SCOPED_TRACE(system.description);
+    std::remove(path.c_str());
+    AllAtOnce(kProcesses, [&](int i) {
+      system.giveUp();
       bool isWell = true;
-      for (int n = 0; n < times; ++n) isWell = ReplaceFile(path, contents) && isWell;
-      _exit(isWell ? 0 : 1);
-    }
-    for (const pid_t writer : writers) {
-      int status = 0;
-      ASSERT_EQ(waitpid(writer, &status, 0), writer);
-      EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "a file was not replaced";
-    }
+      for (int n = 1; n <= times; ++n) isWell = SetNumber(path, Letter(i), n) && isWell;
+      return isWell;
+    });
     const std::string contents = ReadBytes(path);
-    EXPECT_EQ(contents, std::string(1000, contents.at(0)));
+    EXPECT_EQ(contents.size(), 5U * kProcesses);
+    for (int i = 0; i < kProcesses; ++i) {
+      EXPECT_THAT(contents, HasSubstr(Numbered(Letter(i), times)));
+    }
     EXPECT_THAT(folder.Names(), ElementsAre("settings"));
   }
 }
 
-TEST_F(FileReplacement, ByManyProcessesAtOnceWorksForEachAndLeavesNothing) {
-  ExpectManyAtOnceAreWell(folder_, 150);
-}
+TEST_F(FileReplacement, ByManyProcessesAtOnceLosesNothing) { ExpectNothingLost(folder_, 150); }
 
 // What the build folder lies on is usually a disk, which other tests spare.
-TEST_F(FileReplacement, ByManyProcessesAtOnceWorksOnADiskToo) {
-  const TemporaryFolder onDisk(BUILD_FOLDER);
-  ExpectManyAtOnceAreWell(onDisk, 15);
+TEST_F(FileReplacement, ByManyProcessesAtOnceLosesNothingOnADisk) {
+  ExpectNothingLost(TemporaryFolder(BUILD_FOLDER), 10);
 }
 
-TEST_F(FileReplacement, TakesAwayWhatADeadWriterHadReady) {
-  WriteBytes(path_, "old");
-  WriteBytes(folder_ / ".settings.new", "the dead writer's");
-  ExpectReplaced();
-  EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
+TEST_F(FileReplacement, TheFirstTimeByTwoAtOnceLosesNothing) {
+  constexpr int kRounds = 60;
+  for (const System &system : kSystems) {
+    SCOPED_TRACE(system.description);
+    for (int round = 0; round < kRounds && !HasFailure(); ++round) {
+      AllAtOnce(2, [&](int i) {
+        system.giveUp();
+        return Add(path_, Letter(i));
+      });
+      EXPECT_THAT(ReadBytes(path_), AnyOf("ab", "ba"));
+      ExpectNothingBeside();
+      ASSERT_EQ(unlink(path_.c_str()), 0);
+    }
+  }
 }
 
-TEST_F(FileReplacement, DoesNotBringBackWhatADeadWriterHadReadyBeforeAReset) {
-  WriteBytes(folder_ / ".settings.new", "the dead writer's");
-  SteppedProcess writer([this] { ExpectReplaced(); });
-  while (writer.Step()) EXPECT_NE(ReadBytes(path_), "the dead writer's");
-  EXPECT_TRUE(writer.RunToEnd());
-  EXPECT_EQ(ReadBytes(path_), "new");
-  EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
-}
+// --- A writer that stands still, or is killed ----------------------------------------------------
 
-TEST_F(FileReplacement, DoesNotBringBackWhatADeadWriterHadReadyEvenWhenKilledItself) {
-  for (int moment = 1;; ++moment) {
-    ASSERT_LT(moment, 1000) << "the writer never ends";
-    WriteBytes(folder_ / ".settings.new", "the dead writer's");
-    WriteLaterThan(folder_ / ".settings.new", "old");
-    SteppedProcess writer([this] { ExpectReplaced(); });
-    const bool isRunning = writer.StepTo(moment).has_value();
-    EXPECT_THAT(ReadBytes(path_), AnyOf("old", "new")) << "moment " << moment;
-    if (!isRunning) break;
+TEST_F(FileReplacement, KilledAtAnyMomentLeavesTheOldFileOrTheNewOne) {
+  AtEveryMoment([this](SteppedProcess &writer, const System &system) {
     writer.Kill();
-  }
-  EXPECT_EQ(ReadBytes(path_), "new");
-  EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
+    const std::string found = ReadBytes(path_);
+    EXPECT_THAT(found, AnyOf("old", "olda"));
+    LetAnotherAdd("b", system);
+    EXPECT_EQ(ReadBytes(path_), found + "b");
+    ExpectNothingBeside();
+  });
 }
 
-TEST_F(FileReplacement, KeepsTheOldFileWhenTheNewOneGetsNoNameBesideWhatADeadWriterHadReady) {
-  WriteBytes(folder_ / ".settings.new", "the dead writer's");
-  WriteLaterThan(folder_ / ".settings.new", "old");
-  SteppedProcess writer([this] { ReplaceFile(path_, "new"); });
-  int linked = 0;
-  while (const auto call = writer.Step()) {
-    if (call->number == SYS_linkat && ++linked == 2) break;
-  }
-  ASSERT_EQ(linked, 2) << "the case does not show what it is for";
-  writer.Kill();
-  EXPECT_EQ(ReadBytes(path_), "old");
-  EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
+TEST_F(FileReplacement, KilledAtAnyMomentDoesNotBringBackWhatIsRemovedAfterwards) {
+  AtEveryMoment([this](SteppedProcess &writer, const System &system) {
+    writer.Kill();
+    ASSERT_EQ(unlink(path_.c_str()), 0);
+    LetAnotherAdd("b", system);
+    EXPECT_EQ(ReadBytes(path_), "b");
+    LetAnotherAdd("c", system);
+    EXPECT_EQ(ReadBytes(path_), "bc");
+    ExpectNothingBeside();
+  });
 }
 
-TEST_F(FileReplacement, DoesTheLastStepOfAWriterThatIsOnlySlower) {
-  WriteBytes(path_, "old");
-  WriteBytes(folder_ / ".settings.new", "the slower writer's");
-  ExpectReplaced();
-  // The slower one finds that its file is gone, and that is as if it had been first.
-  EXPECT_EQ(rename((folder_ / ".settings.new").c_str(), path_.c_str()), -1);
-  EXPECT_EQ(errno, ENOENT);
-  EXPECT_EQ(ReadBytes(path_), "new");
+TEST_F(FileReplacement, KilledAtAnyMomentDoesNotUndoAnEditAfterwards) {
+  AtEveryMoment([this](SteppedProcess &writer, const System &system) {
+    writer.Kill();
+    Edit("edited");
+    LetAnotherAdd("b", system);
+    EXPECT_EQ(ReadBytes(path_), "editedb");
+    ExpectNothingBeside();
+  });
 }
 
-TEST_F(FileReplacement, WhereFilesNeedANameRemovesThoseOfDeadWritersAndNoOthers) {
-  const std::string living = folder_ / ".settings.Living";
+TEST_F(FileReplacement, SlowerThanAnotherAtAnyMomentLosesNothing) {
+  AtEveryMoment([this](SteppedProcess &writer, const System &system) {
+    LetAnotherAdd("b", system);
+    EXPECT_TRUE(writer.RunToEnd());
+    EXPECT_THAT(ReadBytes(path_), AnyOf("oldab", "oldba"));
+    ExpectNothingBeside();
+  });
+}
+
+TEST_F(FileReplacement, SlowerThanAnotherAndThenKilledLosesNothingOfTheOthers) {
+  AtEveryTwoMoments(
+      {kSystems[0], kSystems[4]}, [this](const System &system) { LetAnotherAdd("b", system); },
+      [this](const System &system) {
+        LetAnotherAdd("c", system);
+        EXPECT_THAT(ReadBytes(path_), AnyOf("oldbc", "oldabc", "oldbac"));
+        ExpectNothingBeside();
+      });
+}
+
+TEST_F(FileReplacement, SlowerThanAnEditorLosesNothingOfTheEdit) {
+  AtEveryMoment([this](SteppedProcess &writer, const System &system) {
+    if (!system.canExchange) return;
+    Edit("edited");
+    EXPECT_TRUE(writer.RunToEnd());
+    EXPECT_THAT(ReadBytes(path_), AnyOf("edited", "editeda"));
+    ExpectNothingBeside();
+  });
+}
+
+TEST_F(FileReplacement, SlowerThanAnEditorAndThenKilledLosesNothingOfTheEdit) {
+  AtEveryTwoMoments(
+      {kSystems[0], kSystems[1]}, [this](const System &) { Edit("edited"); },
+      [this](const System &system) {
+        LetAnotherAdd("c", system);
+        EXPECT_THAT(ReadBytes(path_), AnyOf("editedc", "editedac"));
+        ExpectNothingBeside();
+      });
+}
+
+TEST_F(FileReplacement, SlowerThanAChangeInPlaceLosesNothingOfIt) {
+  AtEveryMoment([this](SteppedProcess &writer, const System &system) {
+    if (!system.canExchange) return;
+    WriteBytes(path_, "edited");
+    EXPECT_TRUE(writer.RunToEnd());
+    EXPECT_THAT(ReadBytes(path_), AnyOf("edited", "editeda"));
+    ExpectNothingBeside();
+  });
+}
+
+TEST_F(FileReplacement, SlowerThanTheRemovalDoesNotBringTheFileBack) {
+  AtEveryMoment([this](SteppedProcess &writer, const System &system) {
+    if (!system.canExchange) return;
+    ASSERT_EQ(unlink(path_.c_str()), 0);
+    EXPECT_TRUE(writer.RunToEnd());
+    EXPECT_THAT(ReadBytes(path_), AnyOf("", "a"));
+  });
+}
+
+TEST_F(FileReplacement, RemovesWhatKilledWritersLeftAndNothingElse) {
+  const std::string living = folder_ / ".settings.tmp.77";
   WriteBytes(path_, "old");
   WriteBytes(living, "half of it");
-  WriteBytes(folder_ / ".settings.a1B2c3", "half of it");
+  WriteBytes(folder_ / ".settings.tmp.78", "half of it");
+  WriteBytes(folder_ / ".settings.new.12-34.56-78.9a", "all of it");
+  WriteBytes(folder_ / ".settings.old.12-34.56-78.9b", "all of it");
   WriteBytes(folder_ / ".settings.new", "somebody else's");
-  WriteBytes(folder_ / ".settings.backup1", "somebody else's");
-  WriteBytes(folder_ / ".other.a1B2c3", "somebody else's");
+  WriteBytes(folder_ / ".settings.new.txt", "somebody else's");
+  WriteBytes(folder_ / ".settings.backup", "somebody else's");
+  WriteBytes(folder_ / ".other.tmp.78", "somebody else's");
   const File heldByLivingWriter(open(living.c_str(), O_WRONLY | O_CLOEXEC));
   ASSERT_EQ(flock(heldByLivingWriter.Descriptor(), LOCK_EX), 0);
-  ExpectQuietSuccess([this] {
-    GiveUpUnnamedFiles();
-    ExpectReplaced();
-  });
-  EXPECT_THAT(folder_.Names(), ElementsAre(".other.a1B2c3", ".settings.Living", ".settings.backup1",
-                                           ".settings.new", "settings"));
+  EXPECT_TRUE(Add(path_, "a"));
+  EXPECT_EQ(ReadBytes(path_), "olda");
+  EXPECT_THAT(folder_.Names(), ElementsAre(".other.tmp.78", ".settings.backup", ".settings.new",
+                                           ".settings.new.txt", ".settings.tmp.77", "settings"));
   EXPECT_EQ(ReadBytes(living), "half of it");
+}
+
+// --- A system that fails -------------------------------------------------------------------------
+
+TEST_F(FileReplacement, LeavesAFileThatCannotBeReadAtTheMoment) {
+  WriteBytes(path_, "old");
+  for (const int error : {EIO, ESTALE, ETIMEDOUT, ENOTCONN, ENXIO, ENFILE, EMFILE, ENOMEM,
+                          EWOULDBLOCK, ENOTDIR, ELOOP, ENODEV}) {
+    SCOPED_TRACE(error);
+    ExpectQuietSuccess([&] {
+      // No other file is opened with this flag.
+      FailToOpen(O_NOCTTY, error);
+      EXPECT_FALSE(Add(path_, "a"));
+    });
+    EXPECT_EQ(ReadBytes(path_), "old");
+    ExpectNothingBeside();
+  }
+}
+
+TEST_F(FileReplacement, LeavesAFileThatBreaksOffWhileItIsRead) {
+  WriteBytes(path_, "old");
+  for (const int error : {EIO, ESTALE, ETIMEDOUT}) {
+    SCOPED_TRACE(error);
+    ExpectQuietSuccess([&] {
+      FailToRead(error);
+      EXPECT_FALSE(Add(path_, "a"));
+    });
+    EXPECT_EQ(ReadBytes(path_), "old");
+    ExpectNothingBeside();
+  }
+}
+
+TEST_F(FileReplacement, WithAnySystemCallFailingOnceLosesNothing) {
+  for (const int error : {EIO, EINTR, ENOMEM, EMFILE, ENOSPC}) {
+    AtEveryMoment([&](SteppedProcess &writer, const System &system) {
+      SCOPED_TRACE(error);
+      writer.Fail(error);
+      writer.RunToEnd();
+      const std::string found = ReadBytes(path_);
+      EXPECT_THAT(found, AnyOf("old", "olda"));
+      LetAnotherAdd("b", system);
+      EXPECT_EQ(ReadBytes(path_), found + "b");
+      ExpectNothingBeside();
+    });
+  }
+}
+
+TEST_F(FileReplacement, InterruptedWhileReadingOrWritingGoesOn) {
+  constexpr std::array kNumbers = {SYS_pread64, SYS_write, SYS_fsync};
+  for (const long number : kNumbers) {
+    SCOPED_TRACE(number);
+    WriteBytes(path_, "old");
+    SteppedProcess writer(Adding("a", kSystems.front()));
+    std::optional<SystemCall> call = writer.Step();
+    while (call && static_cast<long>(call->number) != number) call = writer.Step();
+    ASSERT_TRUE(call);
+    writer.Fail(EINTR);
+    EXPECT_TRUE(writer.RunToEnd());
+    EXPECT_EQ(ReadBytes(path_), "olda");
+  }
+}
+
+// What a power cut must not undo: the contents before they get a name, and the name before the
+// setter comes back.
+TEST_F(FileReplacement, IsDurableBeforeItShowsAndBeforeItIsSaidToBeDone) {
+  for (const System &system : kSystems) {
+    SCOPED_TRACE(system.description);
+    WriteBytes(path_, "old");
+    SteppedProcess writer(Adding("a", system));
+    std::vector<std::string> order;
+    std::optional<std::uint64_t> file;
+    const auto then = [&](const std::string &step) {
+      // Where a file gets no name later, there is a second one.
+      if (order.empty() || order.back() != step) order.push_back(step);
+    };
+    while (const auto call = writer.Step()) {
+      switch (static_cast<long>(call->number)) {
+        case SYS_write:
+          file = file.value_or(call->arguments[0]);
+          break;
+        case SYS_fsync:
+          then(call->arguments[0] == file ? "file" : "folder");
+          break;
+        case SYS_renameat2:
+          then("exchange");
+          break;
+        default:
+          break;
+      }
+    }
+    EXPECT_THAT(order, ElementsAre("file", "exchange", "folder"));
+  }
+}
+
+// --- Links ---------------------------------------------------------------------------------------
+
+constexpr uid_t kSomeUser = 54'321;
+constexpr gid_t kSomeGroup = 54'322;
+
+struct stat StatusOf(const std::string &path) {
+  struct stat status = {};
+  EXPECT_EQ(lstat(path.c_str(), &status), 0) << path;
+  return status;
 }
 
 TEST_F(FileReplacement, ReplacesWhatALinkLeadsToAndKeepsTheLink) {
   ASSERT_EQ(mkdir((folder_ / "elsewhere").c_str(), 0700), 0);
   WriteBytes(folder_ / "elsewhere/file", "old");
   ASSERT_EQ(symlink("elsewhere/file", path_.c_str()), 0);
-  ExpectReplaced();
-  EXPECT_EQ(ReadBytes(folder_ / "elsewhere/file"), "new");
+  EXPECT_TRUE(Add(path_, "a"));
+  EXPECT_EQ(ReadBytes(folder_ / "elsewhere/file"), "olda");
   EXPECT_THAT(folder_.Names(), ElementsAre("elsewhere", "settings"));
   EXPECT_EQ(folder_.Entries(), 3U);
 }
 
-TEST_F(FileReplacement, ALinkThatLeadsNowhereIsReplacedItself) {
-  ASSERT_EQ(symlink("nowhere", path_.c_str()), 0);
-  ExpectReplaced();
-  EXPECT_THAT(folder_.Names(), ElementsAre("settings"));
+TEST_F(FileReplacement, ALinkThatLeadsToNoFileIsReplacedItself) {
+  ASSERT_EQ(mkfifo((folder_ / "pipe").c_str(), 0600), 0);
+  for (const char *const target : {"nowhere", "settings", ".", "pipe", "/dev/null"}) {
+    SCOPED_TRACE(target);
+    std::remove(path_.c_str());
+    ASSERT_EQ(symlink(target, path_.c_str()), 0);
+    EXPECT_TRUE(Add(path_, "a"));
+    EXPECT_TRUE(S_ISREG(StatusOf(path_).st_mode));
+    EXPECT_EQ(ReadBytes(path_), "a");
+    EXPECT_THAT(folder_.Names(), ElementsAre("pipe", "settings"));
+  }
+  EXPECT_TRUE(S_ISFIFO(StatusOf(folder_ / "pipe").st_mode));
+  EXPECT_TRUE(S_ISCHR(StatusOf("/dev/null").st_mode));
 }
 
-TEST_F(FileReplacement, KeepsOwnerGroupAndPermissions) {
-  const bool isRoot = geteuid() == 0;
-  const uid_t user = isRoot ? kSomeUser : geteuid();
-  const gid_t group = isRoot ? kSomeGroup : getegid();
-  for (const auto &giveUp : kSystems) {
-    WriteBytes(path_, "old");
-    ASSERT_EQ(chown(path_.c_str(), user, group), 0);
-    ASSERT_EQ(chmod(path_.c_str(), 0660), 0);
-    ExpectQuietSuccess([&] {
-      giveUp();
-      ExpectReplaced();
+TEST_F(FileReplacement, ALinkOfAnotherUsersToAFileOfOnesOwnIsNotFollowed) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can lay a link for another user";
+  WriteBytes(folder_ / "root's", "old");
+  ASSERT_EQ(symlink("root's", path_.c_str()), 0);
+  ASSERT_EQ(lchown(path_.c_str(), kSomeUser, kSomeGroup), 0);
+  EXPECT_FALSE(Add(path_, "a"));
+  EXPECT_EQ(ReadBytes(folder_ / "root's"), "old");
+  ASSERT_EQ(chown((folder_ / "root's").c_str(), kSomeUser, kSomeGroup), 0);
+  EXPECT_TRUE(Add(path_, "a"));
+  EXPECT_EQ(ReadBytes(folder_ / "root's"), "olda");
+  EXPECT_EQ(StatusOf(folder_ / "root's").st_uid, kSomeUser);
+}
+
+// --- What may not be read ------------------------------------------------------------------------
+
+TEST_F(FileReplacement, KeepsAFileThatItMayNotReadBesideTheNewOne) {
+  ASSERT_EQ(chmod(folder_.Path().c_str(), 0777), 0);
+  for (const char *const old : {"first", "second", "third"}) {
+    std::remove(path_.c_str());
+    WriteBytes(path_, old);
+    ASSERT_EQ(chmod(path_.c_str(), 0), 0);
+    ExpectQuietSuccess([this] {
+      BecomeOrdinaryUser();
+      EXPECT_TRUE(Add(path_, "a"));
+      EXPECT_EQ(ReadBytes(path_), "a");
+      EXPECT_EQ(StatusOf(path_).st_mode & 07777, 0600U);
     });
-    const struct stat status = StatusOf(path_);
-    EXPECT_EQ(status.st_uid, user);
-    EXPECT_EQ(status.st_gid, group);
-    EXPECT_EQ(status.st_mode & 07777, 0660U);
-    ASSERT_EQ(unlink(path_.c_str()), 0);
+  }
+  EXPECT_THAT(folder_.Names(), ElementsAre("settings", "settings.unreadable",
+                                           "settings.unreadable-2", "settings.unreadable-3"));
+  const std::array<std::pair<const char *, const char *>, 3> kKept = {
+      {{"settings.unreadable", "first"},
+       {"settings.unreadable-2", "second"},
+       {"settings.unreadable-3", "third"}}};
+  for (const auto &[name, contents] : kKept) {
+    ASSERT_EQ(chmod((folder_ / name).c_str(), 0600), 0);
+    EXPECT_EQ(ReadBytes(folder_ / name), contents);
   }
 }
 
-// Only root can bring about the first half of it: a file of a group that the writer is not in.
-TEST_F(FileReplacement, LeavesNothingToAnotherGroupThanTheOldFiles) {
-  const bool isRoot = geteuid() == 0;
-  WriteBytes(path_, "old");
-  const gid_t group = isRoot ? kSomeGroup : getegid();
-  ASSERT_EQ(chown(path_.c_str(), geteuid(), group), 0);
-  ASSERT_EQ(chmod(path_.c_str(), 0664), 0);
+TEST_F(FileReplacement, KeepsItWhereFilesCannotBeExchangedToo) {
   ASSERT_EQ(chmod(folder_.Path().c_str(), 0777), 0);
+  WriteBytes(path_, "old");
+  ASSERT_EQ(chmod(path_.c_str(), 0), 0);
   ExpectQuietSuccess([this] {
     BecomeOrdinaryUser();
-    ExpectReplaced();
+    GiveUpExchange();
+    EXPECT_TRUE(Add(path_, "a"));
+    EXPECT_EQ(ReadBytes(path_), "a");
   });
-  EXPECT_EQ(StatusOf(path_).st_mode & 07777, isRoot ? 0604U : 0664U);
+  EXPECT_THAT(folder_.Names(), ElementsAre("settings", "settings.unreadable"));
+}
+
+TEST_F(FileReplacement, LeavesAFolderInThePlace) {
+  ASSERT_EQ(mkdir(path_.c_str(), 0700), 0);
+  EXPECT_FALSE(Add(path_, "a"));
+  EXPECT_TRUE(S_ISDIR(StatusOf(path_).st_mode));
+  ExpectNothingBeside();
 }
 
 }  // namespace

@@ -10,19 +10,20 @@
 #include <unistd.h>
 
 #include "ChildProcess.h"
+#include "Environment.h"
 #include "Folders.h"
-#include "TemporaryFolder.h"
+#include "PrivilegedProbe.h"
 
 namespace orv {
 namespace {
 
+using testing::EndsWith;
 using testing::Optional;
 using testing::StrEq;
 using trxtest::BecomeUserWithoutAccount;
 using trxtest::ExpectQuietSuccess;
-using trxtest::ReadBytes;
-using trxtest::TemporaryFolder;
-using trxtest::WriteBytes;
+using trxtest::OutputOf;
+using trxtest::PrivilegedProbe;
 
 // The environment is the process's: each test changes it in a child.
 TEST(LibraryFolder, LiesInTheConfigurationFolderOfTheEnvironment) {
@@ -79,6 +80,23 @@ TEST(LibraryFolder, IsLookedUpAfreshEachTime) {
   });
 }
 
+// Who starts such a program must not say where it writes with rights that are not theirs.
+TEST(LibraryFolder, LiesInTheHomeOfWhoseRightsTheProcessHasWhateverTheEnvironmentSays) {
+  const Environment environment = {{"HOME", "/foreign"}, {"XDG_CONFIG_HOME", "/foreign/config"}};
+  EXPECT_THAT(OutputOf(PRIVILEGE_PROBE), EndsWith(" /foreign/config/orvikaudio"));
+  const PrivilegedProbe probe;
+  if (!probe.IsPrivileged() && geteuid() != 0) {
+    GTEST_SKIP() << "this account cannot give a program other rights";
+  }
+  ASSERT_TRUE(probe.IsPrivileged());
+  struct stat program = {};
+  ASSERT_EQ(stat(probe.Path().c_str(), &program), 0);
+  const passwd *const account = getpwuid(program.st_uid);
+  ASSERT_NE(account, nullptr);
+  EXPECT_THAT(OutputOf(probe.Path()),
+              EndsWith(std::string(" ") + account->pw_dir + "/.config/orvikaudio"));
+}
+
 TEST(LibraryFolder, IsNoneForAUserWithoutHomeAndAccount) {
   ExpectQuietSuccess([] {
     BecomeUserWithoutAccount();
@@ -86,43 +104,6 @@ TEST(LibraryFolder, IsNoneForAUserWithoutHomeAndAccount) {
     unsetenv("HOME");
     EXPECT_EQ(LibraryFolder(), std::nullopt);
   });
-}
-
-mode_t ModeOf(const std::string &path) {
-  struct stat status = {};
-  EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
-  EXPECT_TRUE(S_ISDIR(status.st_mode)) << path;
-  return status.st_mode & 07777;
-}
-
-TEST(MakeFolder, MakesEveryMissingLevelForItsOwnerAlone) {
-  const TemporaryFolder folder;
-  const mode_t before = umask(0);
-  MakeFolder(folder / "one/two/three");
-  umask(before);
-  EXPECT_EQ(ModeOf(folder / "one"), 0700U);
-  EXPECT_EQ(ModeOf(folder / "one/two"), 0700U);
-  EXPECT_EQ(ModeOf(folder / "one/two/three"), 0700U);
-}
-
-TEST(MakeFolder, LeavesLevelsThatAreThereAsTheyAre) {
-  const TemporaryFolder folder;
-  ASSERT_EQ(mkdir((folder / "one").c_str(), 0700), 0);
-  ASSERT_EQ(chmod((folder / "one").c_str(), 0755), 0);
-  WriteBytes(folder / "one/file", "kept");
-  MakeFolder(folder / "one/two");
-  EXPECT_EQ(ModeOf(folder / "one"), 0755U);
-  EXPECT_EQ(ModeOf(folder / "one/two"), 0700U);
-  EXPECT_EQ(ReadBytes(folder / "one/file"), "kept");
-  MakeFolder(folder / "one/two");
-  EXPECT_EQ(ModeOf(folder / "one/two"), 0700U);
-}
-
-TEST(MakeFolder, LeavesAFileInAFoldersPlaceAsItIs) {
-  const TemporaryFolder folder;
-  WriteBytes(folder / "one", "a file");
-  ExpectQuietSuccess([&] { MakeFolder(folder / "one/two"); });
-  EXPECT_EQ(ReadBytes(folder / "one"), "a file");
 }
 
 }  // namespace

@@ -21,10 +21,8 @@ std::vector<std::string> AfterSettingMaxLevel(const std::string &contents) {
   const TemporaryFolder folder;
   const std::string path = folder / "settings.plist";
   WriteBytes(path, contents);
-  auto list = PropertyList::ReadFile(path);
-  if (!list) return {"not read"};
-  list->SetInteger("MaxLevel", 1);
-  if (!list->WriteAtomically(path)) return {"not written"};
+  if (!PropertyList::ReadFile(path)) return {"not read"};
+  if (!SetMaxLevel(path, 1)) return {"not written"};
   return ShownEntries(path);
 }
 

@@ -5,6 +5,8 @@
 #include <memory>
 #include <stdexcept>
 
+#include "PropertyList.h"
+
 namespace orv {
 namespace {
 
@@ -37,6 +39,11 @@ std::string XmlList(const std::string &entries) {
          "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
          "<plist version=\"1.0\">\n<dict>\n" +
          entries + "\n</dict>\n</plist>\n";
+}
+
+bool SetMaxLevel(const std::string &path, std::int32_t value) {
+  return PropertyList::ChangeFile(path,
+                                  [&](PropertyList &list) { list.SetInteger("MaxLevel", value); });
 }
 
 std::string BigEndian(std::uint64_t number, unsigned size) {

@@ -11,6 +11,9 @@ namespace orv {
 /// An XML property list with these entries, each a <key> and its value, in its root dictionary.
 std::string XmlList(const std::string &entries);
 
+/// Sets "MaxLevel" in the list in a file, as the library sets any value. Returns whether it did.
+bool SetMaxLevel(const std::string &path, std::int32_t value);
+
 /// The bytes of a number, most significant first.
 std::string BigEndian(std::uint64_t number, unsigned size);
 

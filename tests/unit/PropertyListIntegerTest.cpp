@@ -137,18 +137,17 @@ TEST(PropertyListInteger, OfAKeyThatIsNotThereIsMissing) {
 }
 
 TEST(PropertyListInteger, SetIsReadBackAndWrittenAsASignedInteger) {
-  PropertyList list;
-  list.SetInteger("a", kLowest);
-  list.SetInteger("b", -1);
-  list.SetInteger("c", 0);
-  list.SetInteger("d", kHighest);
-  EXPECT_THAT(list.IntegerForKey("a"), Optional(kLowest));
-  EXPECT_THAT(list.IntegerForKey("b"), Optional(-1));
-  EXPECT_THAT(list.IntegerForKey("c"), Optional(0));
-  EXPECT_THAT(list.IntegerForKey("d"), Optional(kHighest));
-
   const TemporaryFolder folder;
-  ASSERT_TRUE(list.WriteAtomically(folder / "list.plist"));
+  ASSERT_TRUE(PropertyList::ChangeFile(folder / "list.plist", [](PropertyList &list) {
+    list.SetInteger("a", kLowest);
+    list.SetInteger("b", -1);
+    list.SetInteger("c", 0);
+    list.SetInteger("d", kHighest);
+    EXPECT_THAT(list.IntegerForKey("a"), Optional(kLowest));
+    EXPECT_THAT(list.IntegerForKey("b"), Optional(-1));
+    EXPECT_THAT(list.IntegerForKey("c"), Optional(0));
+    EXPECT_THAT(list.IntegerForKey("d"), Optional(kHighest));
+  }));
   EXPECT_THAT(ShownEntries(folder / "list.plist"),
               ElementsAre("a: integer -2147483648", "b: integer -1", "c: integer 0",
                           "d: integer 2147483647"));

@@ -76,11 +76,10 @@ class PropertyListReading : public testing::Test {
 
   // Reads the file, changes it and writes it again, as the library does to any file it can read.
   void ReadAndMerge() const {
-    auto list = PropertyList::ReadFile(path_);
+    const auto list = PropertyList::ReadFile(path_);
     if (!list) return;
     list->IntegerForKey("MaxLevel");
-    list->SetInteger("MaxLevel", 1);
-    list->WriteAtomically(folder_ / "merged.plist");
+    SetMaxLevel(path_, 1);
   }
 
   const TemporaryFolder folder_;

@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "PropertyList.h"
+#include "PropertyListFile.h"
 #include "TemporaryFolder.h"
 
 namespace orv {
@@ -23,7 +24,7 @@ void AppendNumber(std::string &bytes, std::uint64_t number, unsigned size) {
 }
 
 // A binary list of these objects, the first of which is the root; references take one byte.
-std::string BinaryList(const std::vector<std::string> &objects) {
+std::string ListOf(const std::vector<std::string> &objects) {
   std::string bytes = "bplist00";
   std::vector<std::uint64_t> offsets;
   for (const std::string &object : objects) {
@@ -64,22 +65,20 @@ TEST_F(PropertyListRewriting, ALeafSharedByManyReferencesCountsOnceForEach) {
       "a";
   const std::string fourTimes = "\xA4\x03\x03\x03\x03";
   const std::string fiveTimes = "\xA5\x03\x03\x03\x03\x03";
-  Write(BinaryList({root, key, fourTimes, Data(1'000'000, 'x')}));
+  Write(ListOf({root, key, fourTimes, Data(1'000'000, 'x')}));
   EXPECT_TRUE(Read().has_value());
-  Write(BinaryList({root, key, fiveTimes, Data(1'000'000, 'x')}));
+  Write(ListOf({root, key, fiveTimes, Data(1'000'000, 'x')}));
   EXPECT_FALSE(Read().has_value());
 }
 
 TEST_F(PropertyListRewriting, WhatWouldBeTooLargeToReadAgainDoesNotReplaceWhatCanBeRead) {
-  const std::string before = BinaryList({"\xD1\x01\x02",
-                                         "\x51"
-                                         "a",
-                                         Data(3'500'000, 'x')});
+  const std::string before = ListOf({"\xD1\x01\x02",
+                                     "\x51"
+                                     "a",
+                                     Data(3'500'000, 'x')});
   Write(before);
-  auto list = Read();
-  ASSERT_TRUE(list.has_value());
-  list->SetInteger("MaxLevel", 1);
-  EXPECT_FALSE(list->WriteAtomically(path_));
+  ASSERT_TRUE(Read().has_value());
+  EXPECT_FALSE(SetMaxLevel(path_, 1));
   EXPECT_EQ(ReadBytes(path_), before);
   EXPECT_EQ(folder_.Names(), std::vector<std::string>{"list.plist"});
 }
@@ -94,33 +93,42 @@ TEST_F(PropertyListRewriting, WhatWouldBeTooDeepToReadAgainDoesNotReplaceWhatCan
     objects.push_back('\xA1' + std::string(1, static_cast<char>(objects.size() + 1)));
   }
   objects.emplace_back("\x51x");
-  const std::string before = BinaryList(objects);
+  const std::string before = ListOf(objects);
   Write(before);
-  auto list = Read();
-  ASSERT_TRUE(list.has_value());
-  list->SetInteger("MaxLevel", 1);
-  EXPECT_FALSE(list->WriteAtomically(path_));
+  ASSERT_TRUE(Read().has_value());
+  EXPECT_FALSE(SetMaxLevel(path_, 1));
   EXPECT_EQ(ReadBytes(path_), before);
 }
 
 TEST_F(PropertyListRewriting, ACharacterThatXmlCannotHoldIsReplaced) {
-  Write(BinaryList({"\xD1\x01\x02",
-                    "\x51"
-                    "a",
-                    "\x54x\x01\ty"}));
-  const auto list = Read();
-  ASSERT_TRUE(list.has_value());
-  ASSERT_TRUE(list->WriteAtomically(path_));
+  Write(ListOf({"\xD1\x01\x02",
+                "\x51"
+                "a",
+                "\x54x\x01\ty"}));
+  ASSERT_TRUE(SetMaxLevel(path_, 1));
   EXPECT_NE(ReadBytes(path_).find("<string>x\uFFFD\ty</string>"), std::string::npos);
+}
+
+// As it stands, every reader of XML but this library's would take it for a line feed.
+TEST_F(PropertyListRewriting, ACarriageReturnIsWrittenAsWhatReadersOfXmlTakeItFor) {
+  for (const std::string before :
+       {"<string>one\rtwo\r\nthree</string>", "<string>one&#13;two&#13;\nthree</string>",
+        "<string>one&#xD;two&#xd;\nthree</string>"}) {
+    Write(XmlList("<key>a\rb</key>" + before));
+    ASSERT_TRUE(SetMaxLevel(path_, 1));
+    EXPECT_NE(ReadBytes(path_).find("<string>one&#13;two&#13;\nthree</string>"), std::string::npos);
+    EXPECT_NE(ReadBytes(path_).find("<key>a&#13;b</key>"), std::string::npos);
+    ASSERT_TRUE(SetMaxLevel(path_, 2));
+    EXPECT_NE(ReadBytes(path_).find("<string>one&#13;two&#13;\nthree</string>"), std::string::npos);
+    EXPECT_EQ(Read()->TextForKey("a\rb"), "one\rtwo\r\nthree");
+  }
 }
 
 TEST_F(PropertyListRewriting, ALinkInTheFilesPlaceStaysAndItsFileIsReplaced) {
   const std::string file = folder_ / "elsewhere.plist";
   WriteBytes(file, "not a list");
   ASSERT_EQ(symlink("elsewhere.plist", path_.c_str()), 0);
-  PropertyList list;
-  list.SetInteger("MaxLevel", 2);
-  ASSERT_TRUE(list.WriteAtomically(path_));
+  ASSERT_TRUE(SetMaxLevel(path_, 2));
   struct stat status = {};
   ASSERT_EQ(lstat(path_.c_str(), &status), 0);
   EXPECT_TRUE(S_ISLNK(status.st_mode));

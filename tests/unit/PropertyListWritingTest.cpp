@@ -23,6 +23,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Optional;
 using trxtest::BecomeOrdinaryUser;
 using trxtest::ExpectQuietSuccess;
 using trxtest::ReadBytes;
@@ -31,12 +32,6 @@ using trxtest::WriteBytes;
 
 constexpr const char *kOldContents =
     "<plist><dict><key>MaxLevel</key><integer>3</integer></dict></plist>";
-
-PropertyList ListWithMaxLevel(std::int32_t value) {
-  PropertyList list;
-  list.SetInteger("MaxLevel", value);
-  return list;
-}
 
 struct stat StatusOf(const std::string &path) {
   struct stat status = {};
@@ -51,7 +46,7 @@ class PropertyListWriting : public testing::Test {
 };
 
 TEST_F(PropertyListWriting, MakesAnXmlListAndNothingElse) {
-  ASSERT_TRUE(ListWithMaxLevel(1).WriteAtomically(path_));
+  ASSERT_TRUE(SetMaxLevel(path_, 1));
   EXPECT_EQ(ReadBytes(path_),
             "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
             "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
@@ -66,7 +61,7 @@ TEST_F(PropertyListWriting, MakesAnXmlListAndNothingElse) {
 }
 
 TEST_F(PropertyListWriting, AnEmptyDictionaryIsAPropertyListToo) {
-  ASSERT_TRUE(PropertyList().WriteAtomically(path_));
+  ASSERT_TRUE(PropertyList::ChangeFile(path_, [](PropertyList &) {}));
   EXPECT_TRUE(PropertyList::ReadFile(path_).has_value());
 }
 
@@ -74,7 +69,7 @@ TEST_F(PropertyListWriting, ReplacesTheFileInsteadOfChangingIt) {
   WriteBytes(path_, kOldContents);
   ASSERT_EQ(link(path_.c_str(), (folder_ / "other name").c_str()), 0);
   const ino_t before = StatusOf(path_).st_ino;
-  ASSERT_TRUE(ListWithMaxLevel(1).WriteAtomically(path_));
+  ASSERT_TRUE(SetMaxLevel(path_, 1));
   EXPECT_NE(StatusOf(path_).st_ino, before);
   EXPECT_EQ(StatusOf(path_).st_nlink, 1U);
   EXPECT_EQ(ReadBytes(folder_ / "other name"), kOldContents);
@@ -82,7 +77,7 @@ TEST_F(PropertyListWriting, ReplacesTheFileInsteadOfChangingIt) {
 
 TEST_F(PropertyListWriting, ANewFileIsItsOwnersAlone) {
   const mode_t before = umask(0);
-  ASSERT_TRUE(ListWithMaxLevel(1).WriteAtomically(path_));
+  ASSERT_TRUE(SetMaxLevel(path_, 1));
   umask(before);
   EXPECT_EQ(StatusOf(path_).st_mode & 07777, 0600U);
 }
@@ -92,31 +87,29 @@ TEST_F(PropertyListWriting, AnOldFileKeepsItsPermissions) {
   for (const mode_t mode : {0644U, 0664U, 0600U, 0640U}) {
     WriteBytes(path_, kOldContents);
     ASSERT_EQ(chmod(path_.c_str(), mode), 0);
-    ASSERT_TRUE(ListWithMaxLevel(1).WriteAtomically(path_));
+    ASSERT_TRUE(SetMaxLevel(path_, 1));
     EXPECT_EQ(StatusOf(path_).st_mode & 07777, mode);
   }
   umask(before);
 }
 
-TEST_F(PropertyListWriting, AMissingFolderFails) {
-  ExpectQuietSuccess([this] {
-    EXPECT_FALSE(ListWithMaxLevel(1).WriteAtomically(folder_ / "nowhere/settings.plist"));
-  });
-  EXPECT_THAT(folder_.Names(), IsEmpty());
+TEST_F(PropertyListWriting, AMissingFolderIsMade) {
+  ASSERT_TRUE(SetMaxLevel(folder_ / "one/two/settings.plist", 1));
+  EXPECT_EQ(StatusOf(folder_ / "one").st_mode & 07777, 0700U);
+  EXPECT_THAT(PropertyList::ReadFile(folder_ / "one/two/settings.plist")->IntegerForKey("MaxLevel"),
+              Optional(1));
 }
 
 TEST_F(PropertyListWriting, AFileInThePlaceOfTheFolderFails) {
   WriteBytes(folder_ / "file", "a file");
-  ExpectQuietSuccess([this] {
-    EXPECT_FALSE(ListWithMaxLevel(1).WriteAtomically(folder_ / "file/settings.plist"));
-  });
+  ExpectQuietSuccess([this] { EXPECT_FALSE(SetMaxLevel(folder_ / "file/settings.plist", 1)); });
   EXPECT_EQ(ReadBytes(folder_ / "file"), "a file");
 }
 
 TEST_F(PropertyListWriting, AFolderInThePlaceOfTheFileFailsAndStays) {
   ASSERT_EQ(mkdir(path_.c_str(), 0700), 0);
   WriteBytes(path_ + "/inside", "kept");
-  ExpectQuietSuccess([this] { EXPECT_FALSE(ListWithMaxLevel(1).WriteAtomically(path_)); });
+  ExpectQuietSuccess([this] { EXPECT_FALSE(SetMaxLevel(path_, 1)); });
   EXPECT_THAT(folder_.Names(), ElementsAre("settings.plist"));
   EXPECT_EQ(ReadBytes(path_ + "/inside"), "kept");
 }
@@ -135,7 +128,7 @@ TEST_F(PropertyListWriting, AFullDiskLeavesTheOldFileWhole) {
     const ino_t before = StatusOf(path_).st_ino;
     ExpectQuietSuccess([&] {
       LimitFileSize(room);
-      EXPECT_FALSE(ListWithMaxLevel(1).WriteAtomically(path_));
+      EXPECT_FALSE(SetMaxLevel(path_, 1));
     });
     EXPECT_EQ(StatusOf(path_).st_ino, before);
     EXPECT_EQ(ReadBytes(path_), kOldContents);
@@ -146,7 +139,7 @@ TEST_F(PropertyListWriting, AFullDiskLeavesTheOldFileWhole) {
 TEST_F(PropertyListWriting, AFullDiskLeavesNothingWhereNothingWas) {
   ExpectQuietSuccess([this] {
     LimitFileSize(100);
-    EXPECT_FALSE(ListWithMaxLevel(1).WriteAtomically(path_));
+    EXPECT_FALSE(SetMaxLevel(path_, 1));
   });
   EXPECT_THAT(folder_.Names(), IsEmpty());
 }
@@ -156,7 +149,7 @@ TEST_F(PropertyListWriting, WithoutDescriptorsTheOldFileStaysWhole) {
   ExpectQuietSuccess([this] {
     const rlimit none = {0, 0};
     ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
-    EXPECT_FALSE(ListWithMaxLevel(1).WriteAtomically(path_));
+    EXPECT_FALSE(SetMaxLevel(path_, 1));
     EXPECT_FALSE(PropertyList::ReadFile(path_).has_value());
   });
   EXPECT_EQ(ReadBytes(path_), kOldContents);
@@ -168,7 +161,7 @@ TEST_F(PropertyListWriting, AFolderThatMayOnlyBeReadLeavesTheOldFileWhole) {
   ASSERT_EQ(chmod(folder_.Path().c_str(), 0555), 0);
   ExpectQuietSuccess([this] {
     BecomeOrdinaryUser();
-    EXPECT_FALSE(ListWithMaxLevel(1).WriteAtomically(path_));
+    EXPECT_FALSE(SetMaxLevel(path_, 1));
   });
   EXPECT_EQ(ReadBytes(path_), kOldContents);
   EXPECT_THAT(folder_.Names(), ElementsAre("settings.plist"));
@@ -197,12 +190,12 @@ TEST_F(PropertyListWriting, ReadersInAnotherProcessNeverSeeATornFile) {
   constexpr int kFewestWrites = 2000;
   constexpr int kMostWrites = 200'000;
   constexpr int kFewestReads = 500;
-  PropertyList list;
   const auto write = [&](std::int32_t value) {
-    list.SetInteger("First", value);
-    for (int i = 0; i < 100; ++i) list.SetInteger(("Between" + std::to_string(i)).c_str(), value);
-    list.SetInteger("Last", value);
-    return list.WriteAtomically(path_);
+    return PropertyList::ChangeFile(path_, [&](PropertyList &list) {
+      list.SetInteger("First", value);
+      for (int i = 0; i < 100; ++i) list.SetInteger(("Between" + std::to_string(i)).c_str(), value);
+      list.SetInteger("Last", value);
+    });
   };
   ASSERT_TRUE(write(0));
 

@@ -150,6 +150,50 @@ TEST_F(SettingsFile, ThatIsNoDictionaryIsReplacedByTheNewEntry) {
   }
 }
 
+// What is more than can be read may be a list all the same: it is not thrown away.
+TEST_F(SettingsFile, ThatIsMoreThanCanBeReadIsLeftAsItIs) {
+  std::string deep;
+  for (int i = 0; i < 200; ++i) deep += "<array>";
+  for (int i = 0; i < 200; ++i) deep += "</array>";
+  const std::string entry = "<key>MaxLevel</key><integer>2</integer>";
+  for (const std::string &contents :
+       {XmlList(entry + "<key>a</key><string>" + std::string(5'000'000, 'x') + "</string>"),
+        XmlList(entry + "<key>a</key>" + deep),
+        "<!DOCTYPE plist [<!ENTITY a \"b\">]><plist><dict>" + entry + "</dict></plist>"}) {
+    LeaveFile(contents);
+    EXPECT_EQ(Value("MaxLevel", 3), 3);
+    MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
+    EXPECT_EQ(ReadBytes(path_), contents);
+    EXPECT_EQ(Value("MaxLevel", 3), 3);
+  }
+}
+
+std::string InUtf16(const std::string &ascii, bool isBigEndian) {
+  std::string bytes;
+  for (const char character : ascii) {
+    if (isBigEndian) bytes += '\0';
+    bytes += character;
+    if (!isBigEndian) bytes += '\0';
+  }
+  return bytes;
+}
+
+TEST_F(SettingsFile, InAnotherEncodingIsReadAndKept) {
+  const std::string list =
+      "<plist version=\"1.0\"><dict><key>Foreign</key><string>kept</string>"
+      "<key>MaxLevel</key><integer>2</integer></dict></plist>";
+  const std::string head = "<?xml version=\"1.0\" encoding=\"UTF-16\"?>";
+  for (const std::string &contents :
+       {"\xEF\xBB\xBF" + list, "\xFE\xFF" + InUtf16(head + list, true),
+        "\xFF\xFE" + InUtf16(head + list, false), InUtf16(head + list, true),
+        InUtf16(head + list, false)}) {
+    LeaveFile(contents);
+    EXPECT_EQ(Value("MaxLevel", 3), 2);
+    MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
+    EXPECT_THAT(ShownEntries(path_), ElementsAre("Foreign: text 'kept'", "MaxLevel: integer 1"));
+  }
+}
+
 TEST_F(SettingsFile, OfOneModelIsNotThatOfAnother) {
   MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
   MergeSettingValue("TRX-VOLT", "MaxLevel", 2);

@@ -22,12 +22,7 @@ void MergeSettingValue(const char *modelDisplayName, const char *key, std::int32
   WhileMemoryLasts([&] {
     const auto path = SettingsFilePath(modelDisplayName);
     if (!path) return;
-    auto settings = PropertyList::ReadFileToChange(*path);
-    if (!settings) return;
-    // Before anything is stored, the folder may be missing as well.
-    if (settings->IsEmpty()) MakeFolder(path->substr(0, path->rfind('/')));
-    settings->SetInteger(key, value);
-    settings->WriteAtomically(*path);
+    PropertyList::ChangeFile(*path, [&](PropertyList &list) { list.SetInteger(key, value); });
   });
 }
 

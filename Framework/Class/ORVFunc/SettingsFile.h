@@ -1,6 +1,6 @@
-// The settings file: one property list a user and model, shared by every process of the user.
-// Whoever writes last wins; a reader sees the file before a write or after it, never in between.
-// Any thread.
+// The settings file: one property list a user and model, shared by every process of the user. Of
+// two that set the same value, whoever writes last wins; a reader sees the file before a write or
+// after it, never in between. Any thread.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,8 @@ std::optional<std::string> SettingsFilePath(const char *modelDisplayName);
 std::optional<PropertyList> ReadSettingsFile(const char *modelDisplayName);
 
 /// Records one value in a model's settings file. All other entries stay, the library's own and
-/// those of other programs. A file that cannot be written stays as it was, and nobody is told.
+/// those of other programs; on Linux also those that another program writes at the same time. A
+/// file that cannot be written stays as it was, without any report.
 void MergeSettingValue(const char *modelDisplayName, const char *key, std::int32_t value) noexcept;
 
 /// What every getter of a current value does: the default is the result unless the file has an

@@ -10,8 +10,4 @@ namespace orv {
 /// nothing when the user has none.
 std::optional<std::string> LibraryFolder();
 
-/// Makes a folder and those above it, as far as they are missing and the platform leaves that to
-/// its programs.
-void MakeFolder(const std::string &path);
-
 }  // namespace orv

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -20,14 +21,17 @@ class PropertyList {
   /// missing, cannot be read, or is no property list with a dictionary at its root.
   static std::optional<PropertyList> ReadFile(const std::string &path);
 
-  /// The dictionary to change and write back: that in the file, or an empty one where ReadFile
-  /// gives nothing. Nothing when the file may well be in order and only this process cannot read it
-  /// now, for want of descriptors or memory, where the platform tells: it must not be replaced
-  /// then.
-  static std::optional<PropertyList> ReadFileToChange(const std::string &path);
-
-  /// Whether there is no entry.
-  bool IsEmpty() const;
+  /// Changes the dictionary in a file: reads it, or makes an empty one where ReadFile gives
+  /// nothing, lets `change` change it, and writes it as an XML property list in place of the file,
+  /// in one step: a reader sees the old file or the new one, and a failure leaves the old one.
+  /// Returns whether it was written.
+  ///
+  /// On Linux nothing is lost that other programs write at the same time: when the file has changed
+  /// since it was read, `change` is called again with what is there now. A file is left alone that
+  /// cannot be read at the moment or is more than can be read; one that this process may not read
+  /// is kept beside the new one. See FileReplacement.h. Elsewhere whoever writes last wins.
+  static bool ChangeFile(const std::string &path,
+                         const std::function<void(PropertyList &)> &change);
 
   /// The integer reading of an entry: an integer's low 32 bits, 0 or 1 for a boolean, a real
   /// without its fraction, a text that spells an integer and nothing else. Nothing when the entry
@@ -40,10 +44,6 @@ class PropertyList {
 
   /// Sets an entry to an integer, in place of what the key held before.
   void SetInteger(const char *key, std::int32_t value);
-
-  /// Writes the dictionary as an XML property list in place of the file, in one step: a reader sees
-  /// the old file or the new one, and a failure leaves the old one. Returns whether it was written.
-  bool WriteAtomically(const std::string &path) const;
 
  private:
   explicit PropertyList(void *root);

@@ -50,7 +50,7 @@ class RaisedWhileReading : public testing::Test {
 TEST_F(RaisedWhileReading, ThereIsNothingToRead) { EXPECT_FALSE(PropertyList::ReadFile(path_)); }
 
 TEST_F(RaisedWhileReading, ThereIsNothingToChange) {
-  EXPECT_FALSE(PropertyList::ReadFileToChange(path_));
+  EXPECT_FALSE(PropertyList::ChangeFile(path_, [](PropertyList &) {}));
 }
 
 TEST_F(RaisedWhileReading, ASettingDoesNotReplaceTheFile) {

@@ -12,7 +12,4 @@ std::optional<std::string> LibraryFolder() {
   });
 }
 
-// The platform makes the users' folders itself. If one is missing, files cannot be written.
-void MakeFolder(const std::string & /*path*/) {}
-
 }  // namespace orv

@@ -56,17 +56,18 @@ std::optional<PropertyList> PropertyList::ReadFile(const std::string &path) {
 }
 
 // Foundation does not say why it could not read a file. An exception is not the file's fault.
-std::optional<PropertyList> PropertyList::ReadFileToChange(const std::string &path) {
+bool PropertyList::ChangeFile(const std::string &path,
+                              const std::function<void(PropertyList &)> &change) {
   void *const root = UnlessRaised<id>(nil, [&]() -> id {
     NSDictionary *const read = DictionaryInFile(path);
     return read != nil ? [read mutableCopy] : NewDictionary();
   });
-  if (root == nullptr) return std::nullopt;
-  return PropertyList(root);
-}
-
-bool PropertyList::IsEmpty() const {
-  return UnlessRaised(false, [&] { return [DictionaryIn(root_) count] == 0; });
+  if (root == nullptr) return false;
+  PropertyList list(root);
+  change(list);
+  return UnlessRaised(false, [&] {
+    return [DictionaryIn(list.root_) writeToFile:StringOf(path) atomically:YES] != NO;
+  });
 }
 
 std::optional<std::int32_t> PropertyList::IntegerForKey(const char *key) const {
@@ -85,11 +86,6 @@ std::optional<std::string> PropertyList::TextForKey(const char *key) const {
 void PropertyList::SetInteger(const char *key, std::int32_t value) {
   WhileNothingIsRaised(
       [&] { [DictionaryIn(root_) setObject:[NSNumber numberWithInt:value] forKey:StringOf(key)]; });
-}
-
-bool PropertyList::WriteAtomically(const std::string &path) const {
-  return UnlessRaised(
-      false, [&] { return [DictionaryIn(root_) writeToFile:StringOf(path) atomically:YES] != NO; });
 }
 
 }  // namespace orv

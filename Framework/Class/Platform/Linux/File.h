@@ -1,6 +1,8 @@
 // Open files. Any thread.
 #pragma once
 
+#include <utility>
+
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -20,8 +22,11 @@ inline int AwayFromStandardStreams(int descriptor) noexcept {
 class File {
  public:
   explicit File(int descriptor) : descriptor_(AwayFromStandardStreams(descriptor)) {}
-  File(const File &) = delete;
-  File &operator=(const File &) = delete;
+  File(File &&other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+  File &operator=(File &&other) noexcept {
+    std::swap(descriptor_, other.descriptor_);
+    return *this;
+  }
   ~File() {
     if (descriptor_ >= 0) close(descriptor_);
   }

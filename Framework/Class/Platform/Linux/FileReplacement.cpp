@@ -1,20 +1,42 @@
-// A writer may be killed at any moment, and what it has begun must not lie about for ever. So the
-// new file has no name while it is written: it goes when its writer goes. Complete and durable, it
-// gets a name for the moment before it takes the old file's place. That name is the same for all
-// writers: who finds it taken first does the other's last step, be that one dead or only slower.
-// Only what has been overtaken since, by another file or by the removal of all, is thrown away.
+// How several programs change one file at once and lose nothing, without a lock.
 //
-// Not every file system has files without a name. There the new file has a name of its own from the
-// beginning, and a lock that lasts as long as its writer; nobody waits for it. Who writes next
-// removes what is not locked.
+// A writer reads the file, writes a new one that has no name yet, and makes it durable. Then it
+//   1. announces: gives the new file a name of its own beside the old one,
+//   2. takes away the names that other writers have announced: they begin anew,
+//   3. compares: what is in the file's place must still be what it has read, else it begins anew,
+//   4. exchanges the two files in one step of the system, which fails if its own name was taken
+//      away meanwhile,
+//   5. looks at what came out under the announced name, and removes it.
+// Of two writers, the one that announces later takes away the other's name before it compares, or
+// sees what the other has put in place. So between 3 and 4 of a writer that succeeds there is no
+// other such writer, however slow it is, and nobody ever waits for one that stands still or is
+// dead. That is why this is no lock: one would have to be waited for, or broken.
+//
+// Programs that know nothing of all this, such as an editor, may replace the file between 3 and 4.
+// Their file is what comes out in 5. It is put back, and the writer begins anew.
+//
+// A writer can be killed at any moment. Before 1 its file has no name and goes with it. Later its
+// name stays, and says which file the new one is and which one it is to replace: by that the next
+// writer can tell what it finds, and does 5 in its place. What a killed writer has put in the place
+// of an editor's file is gone with that.
+//
+// Where file systems do not have all this: without files that have no name, the new file has one
+// from the beginning and a lock that lasts as long as its writer, by which others see whether it is
+// still at work. Where files cannot be exchanged, 4 is a rename, and only an editor's change
+// between 3 and 4 can be lost.
 #include "FileReplacement.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
-#include <optional>
+#include <string_view>
+#include <thread>
+#include <vector>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -23,40 +45,289 @@
 #include <unistd.h>
 
 #include "File.h"
+#include "FileReading.h"
+#include "FileRights.h"
+#include "FolderCreation.h"
 
 namespace orv {
 namespace {
 
 constexpr mode_t kOwnerOnly = 0600;
-constexpr mode_t kAllRights = 0777;
-constexpr mode_t kAllButTheGroups = 0707;
 
-// Each failed attempt is another writer's success.
-constexpr int kMostAttempts = 100;
+// Each attempt after the first means that another program has changed the file meanwhile.
+constexpr int kMostAttempts = 2000;
 
-// --- What is replaced ----------------------------------------------------------------------------
+enum class Result { kReplaced, kOvertaken, kFailed };
 
-struct OldFile {
-  std::string path;
-  std::optional<struct stat> status;  // nothing when there is no file
+// --- Where the file is ---------------------------------------------------------------------------
 
-  std::string Folder() const { return path.substr(0, path.rfind('/')); }
-  std::string Name() const { return path.substr(path.rfind('/') + 1); }
-  /// A name beside the file, hidden from listings.
-  std::string Beside(const char *ending) const { return Folder() + "/." + Name() + ending; }
+// Makes the folder where it is missing.
+int OpenFolder(const std::string &path) {
+  constexpr int kFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+  const int folder = open(path.c_str(), kFlags);
+  if (folder >= 0 || errno != ENOENT) return folder;
+  MakeFolder(path);
+  return open(path.c_str(), kFlags);
+}
+
+// A file's place: its folder, open, so that everything is done in the same one.
+struct Place {
+  explicit Place(const std::string &path)
+      : folder(OpenFolder(path.substr(0, path.rfind('/')))),
+        name(path.substr(path.rfind('/') + 1)) {}
+
+  int Folder() const { return folder.Descriptor(); }
+  /// What the names of all that writers lay beside the file begin with.
+  std::string Beside() const { return "." + name + "."; }
+
+  File folder;
+  std::string name;
 };
+
+// What was found there and is to be replaced.
+using OldFile = FileReading;
+
+bool HasPlace(const OldFile &old) { return old.outcome != ReadOutcome::kMissing; }
 
 struct FreeText {
   void operator()(char *text) const { std::free(text); }
 };
 
-OldFile FileAt(const std::string &path) {
-  struct stat status = {};
-  if (lstat(path.c_str(), &status) != 0) return {path, std::nullopt};
-  if (!S_ISLNK(status.st_mode)) return {path, status};
+// A user may lay a link to a file of the same user, and root a link to anything. Who follows other
+// links changes files for whoever laid them.
+bool MayFollow(const struct stat &link, const struct stat &file) {
+  return link.st_uid == file.st_uid || link.st_uid == geteuid() || link.st_uid == 0;
+}
+
+ReadOutcome OutcomeBehindLink(int error) {
+  if (error == ENOENT || error == ENOTDIR || error == ELOOP) return ReadOutcome::kLink;
+  return error == EACCES ? ReadOutcome::kForbidden : ReadOutcome::kNotNow;
+}
+
+// Opens the file in a place, or the one that a link there leads to; the place is then that one's.
+OldFile FindOldFile(const std::string &path, std::size_t most, Place &place) {
+  OldFile old = ReadFile(place.Folder(), place.name, most, O_NOFOLLOW);
+  if (old.outcome != ReadOutcome::kLink) return old;
   const std::unique_ptr<char, FreeText> behind(realpath(path.c_str(), nullptr));
-  if (!behind || stat(behind.get(), &status) != 0) return {path, std::nullopt};
-  return {std::string(behind.get()), status};
+  if (!behind) {
+    old.outcome = OutcomeBehindLink(errno);
+    return old;
+  }
+  Place placeBehind(behind.get());
+  OldFile file = ReadFile(placeBehind.Folder(), placeBehind.name, most, O_NOFOLLOW);
+  const bool isFile = file.outcome == ReadOutcome::kNotNow || S_ISREG(file.status.st_mode);
+  if (!isFile) return old;
+  if (!MayFollow(old.status, file.status)) file.outcome = ReadOutcome::kNotNow;
+  place = std::move(placeBehind);
+  return file;
+}
+
+// --- Which file is which -------------------------------------------------------------------------
+
+// By inode number and time of the last write. A file that is open keeps its number for itself.
+std::string TagOf(const struct stat &status) {
+  std::array<char, 40> text;
+  std::snprintf(text.data(), text.size(), "%llx-%llx%08lx",
+                static_cast<unsigned long long>(status.st_ino),
+                static_cast<unsigned long long>(status.st_mtim.tv_sec),
+                static_cast<unsigned long>(status.st_mtim.tv_nsec));
+  return text.data();
+}
+
+// No file's.
+constexpr const char *kNoTag = "0-0";
+
+std::string TagAt(const Place &place, const std::string &name) {
+  struct stat status = {};
+  const bool isThere = fstatat(place.Folder(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
+  return isThere ? TagOf(status) : kNoTag;
+}
+
+bool IsSame(const timespec &one, const timespec &other) {
+  return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
+}
+
+// Whether what was read is still there, and as it was.
+bool IsStillThere(const Place &place, const OldFile &old) {
+  struct stat now = {};
+  if (fstatat(place.Folder(), place.name.c_str(), &now, AT_SYMLINK_NOFOLLOW) != 0) {
+    return !HasPlace(old) && errno == ENOENT;
+  }
+  return HasPlace(old) && now.st_ino == old.status.st_ino && now.st_dev == old.status.st_dev &&
+         now.st_size == old.status.st_size && IsSame(now.st_mtim, old.status.st_mtim) &&
+         IsSame(now.st_ctim, old.status.st_ctim);
+}
+
+// --- What lies beside the file -------------------------------------------------------------------
+
+// A file that is being written, on file systems where it needs a name for that.
+constexpr std::string_view kUnfinished = "tmp.";
+// A new file that is announced; after the exchange, the one that was in place before.
+constexpr std::string_view kAnnounced = "new.";
+// The same, after another writer took the announced name away.
+constexpr std::string_view kTaken = "old.";
+
+std::uint64_t NumberThatIsNew() {
+  return static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
+}
+
+std::string InHexadecimal(std::uint64_t number) {
+  std::array<char, 17> text;
+  std::snprintf(text.data(), text.size(), "%llx", static_cast<unsigned long long>(number));
+  return text.data();
+}
+
+// What an announced name says: which file is the new one, and which it is to replace. The number
+// makes the name one that never comes again.
+struct Announcement {
+  std::string newTag;
+  std::string oldTag;
+  std::string number;
+
+  std::string Name(const Place &place, std::string_view kind) const {
+    return place.Beside().append(kind) + newTag + "." + oldTag + "." + number;
+  }
+};
+
+// Nothing when it is somebody else's name that only begins like one.
+std::optional<Announcement> AnnouncementIn(std::string_view text) {
+  if (text.find_first_not_of("0123456789abcdef-.") != text.npos) return std::nullopt;
+  const std::size_t first = text.find('.');
+  const std::size_t second = text.rfind('.');
+  if (first == text.npos || first == second) return std::nullopt;
+  return Announcement{std::string(text.substr(0, first)),
+                      std::string(text.substr(first + 1, second - first - 1)),
+                      std::string(text.substr(second + 1))};
+}
+
+enum class Found { kNothing, kNewFile, kOldFile, kForeignFile };
+
+// Looks at what is under a name that nobody exchanges any more, and removes it. What is neither the
+// new file nor the one that it was to replace was put there by a program that knows nothing of
+// announcements: it goes back in place, unless the new file is there no longer either.
+Found Settle(const Place &place, const Announcement &announcement, const std::string &name) {
+  const std::string tag = TagAt(place, name);
+  if (tag == kNoTag) return Found::kNothing;
+  const bool isForeign = tag != announcement.newTag && tag != announcement.oldTag;
+  if (isForeign && TagAt(place, place.name) == announcement.newTag) {
+    renameat(place.Folder(), name.c_str(), place.Folder(), place.name.c_str());
+  } else {
+    unlinkat(place.Folder(), name.c_str(), 0);
+  }
+  if (isForeign) return Found::kForeignFile;
+  return tag == announcement.newTag ? Found::kNewFile : Found::kOldFile;
+}
+
+// False when another writer has taken the file for left behind, between its making and this. On a
+// system without locks nobody can, and nothing is removed.
+bool ShowLife(int descriptor) {
+  if (flock(descriptor, LOCK_EX | LOCK_NB) != 0) return errno != EWOULDBLOCK;
+  struct stat status = {};
+  return fstat(descriptor, &status) != 0 || status.st_nlink > 0;
+}
+
+void RemoveUnlessAlive(const Place &place, const std::string &name) {
+  const File file(
+      openat(place.Folder(), name.c_str(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  if (file.IsOpen() && flock(file.Descriptor(), LOCK_EX | LOCK_NB) == 0) {
+    unlinkat(place.Folder(), name.c_str(), 0);
+  }
+}
+
+// Under the name that it takes, a file can no longer be exchanged by who announced it.
+void TakeAway(const Place &place, const Announcement &announcement) {
+  const std::string announced = announcement.Name(place, kAnnounced);
+  const std::string taken = announcement.Name(place, kTaken);
+  if (renameat(place.Folder(), announced.c_str(), place.Folder(), taken.c_str()) == 0) {
+    Settle(place, announcement, taken);
+  }
+}
+
+std::vector<std::string> NamesIn(int folder) {
+  std::vector<std::string> names;
+  alignas(dirent64) std::array<char, 32768> entries;
+  lseek(folder, 0, SEEK_SET);
+  for (;;) {
+    const ssize_t size = getdents64(folder, entries.data(), entries.size());
+    if (size <= 0) return names;
+    for (ssize_t at = 0; at < size;) {
+      const auto *entry = reinterpret_cast<const dirent64 *>(entries.data() + at);
+      names.emplace_back(entry->d_name);
+      at += entry->d_reclen;
+    }
+  }
+}
+
+// Of writers that are killed, and of those that are at work: they will begin anew.
+void TakeAwayAllBut(const std::string &own, const Place &place) {
+  const std::string beside = place.Beside();
+  for (const std::string &name : NamesIn(place.Folder())) {
+    if (!name.starts_with(beside) || name == own) continue;
+    const std::string_view rest = std::string_view(name).substr(beside.size());
+    const std::string_view kind = rest.substr(0, kAnnounced.size());
+    if (kind == kUnfinished) RemoveUnlessAlive(place, name);
+    if (kind != kAnnounced && kind != kTaken) continue;
+    const auto announcement = AnnouncementIn(rest.substr(kind.size()));
+    if (!announcement) continue;
+    if (kind == kAnnounced) {
+      TakeAway(place, *announcement);
+    } else {
+      Settle(place, *announcement, name);
+    }
+  }
+}
+
+// --- Taking the old file's place -----------------------------------------------------------------
+
+// What a system says that cannot do something at all. Also when it means something else, what comes
+// instead is refused at once and leaves nothing.
+bool SaysUnsupported(int error) {
+  constexpr std::array kErrors = {EOPNOTSUPP, EISDIR, EINVAL, ENOSYS, ENOENT, EPERM, EACCES};
+  return std::find(kErrors.begin(), kErrors.end(), error) != kErrors.end();
+}
+
+bool Rename(const Place &place, const std::string &from, const std::string &to,
+            unsigned flags = 0) {
+  return renameat2(place.Folder(), from.c_str(), place.Folder(), to.c_str(), flags) == 0;
+}
+
+// Nobody can say that what cannot be read is not worth keeping.
+bool KeepUnreadable(const Place &place) {
+  std::string name = place.name + kUnreadableEnding;
+  for (int number = 2;; ++number) {
+    if (Rename(place, place.name, name, RENAME_NOREPLACE)) return true;
+    const bool isFree = TagAt(place, name) == kNoTag;
+    if (isFree) return SaysUnsupported(errno) && Rename(place, place.name, name);
+    name = place.name + kUnreadableEnding + "-" + std::to_string(number);
+  }
+}
+
+Result Exchange(const Place &place, const OldFile &old, const Announcement &announcement) {
+  const std::string announced = announcement.Name(place, kAnnounced);
+  TakeAwayAllBut(announced, place);
+  if (!IsStillThere(place, old)) {
+    unlinkat(place.Folder(), announced.c_str(), 0);
+    return Result::kOvertaken;
+  }
+  const bool isUnreadable = old.outcome == ReadOutcome::kForbidden;
+  if (isUnreadable && !KeepUnreadable(place)) {
+    unlinkat(place.Folder(), announced.c_str(), 0);
+    return Result::kFailed;
+  }
+  const bool isExchange = HasPlace(old) && !isUnreadable;
+  if (Rename(place, announced, place.name, isExchange ? RENAME_EXCHANGE : RENAME_NOREPLACE)) {
+    if (!isExchange) return Result::kReplaced;
+    // Who has already done this in our place has not said what came out.
+    const Found found = Settle(place, announcement, announced);
+    return found == Found::kOldFile ? Result::kReplaced : Result::kOvertaken;
+  }
+  const bool isGone = errno == ENOENT || errno == EEXIST;
+  if (!isGone && SaysUnsupported(errno) && Rename(place, announced, place.name)) {
+    return Result::kReplaced;
+  }
+  const bool isOvertaken = isGone || errno == ENOENT;
+  unlinkat(place.Folder(), announced.c_str(), 0);
+  return isOvertaken ? Result::kOvertaken : Result::kFailed;
 }
 
 // --- The new file --------------------------------------------------------------------------------
@@ -71,160 +342,113 @@ bool WriteAll(int descriptor, std::string_view contents) {
   return true;
 }
 
-// Returns whether the file has the old one's group afterwards. Only root can give a file away; a
-// user can give it to groups of his.
-bool TakeOwnerAndGroup(int descriptor, const struct stat &old) {
-  struct stat status = {};
-  if (fstat(descriptor, &status) != 0) return false;
-  if (status.st_uid == old.st_uid && status.st_gid == old.st_gid) return true;
-  return fchown(descriptor, old.st_uid, old.st_gid) == 0 || status.st_gid == old.st_gid ||
-         fchown(descriptor, status.st_uid, old.st_gid) == 0;
-}
-
-// What the old file's group was allowed, another group is not. Until owner and group are known, the
-// new file is its writer's alone.
-void TakeRights(int descriptor, const struct stat &old) {
-  const bool hasGroup = TakeOwnerAndGroup(descriptor, old);
-  fchmod(descriptor, old.st_mode & (hasGroup ? kAllRights : kAllButTheGroups));
-}
-
-bool Fill(int descriptor, const OldFile &old, std::string_view contents) {
-  if (old.status) TakeRights(descriptor, *old.status);
+// Until owner and group are known, the new file is its writer's alone.
+bool Fill(int descriptor, const Place &place, const OldFile &old, std::string_view contents) {
+  if (old.outcome == ReadOutcome::kRead) {
+    TakeRights(descriptor, old.file.Descriptor(), old.status);
+  } else if (!GiveToOwnerOfFolder(descriptor, place.Folder())) {
+    return false;
+  }
   return WriteAll(descriptor, contents) && TEMP_FAILURE_RETRY(fsync(descriptor)) == 0;
 }
 
-// What a power cut must not undo is not only the contents but also the new name.
-void MakeDurable(const std::string &folder) {
-  const File file(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (file.IsOpen()) fsync(file.Descriptor());
-}
-
-// --- Without a name ------------------------------------------------------------------------------
-
-// Whether this is how a system says that it has no files without a name, or cannot name them later.
-// Also when it means something else, what comes instead is refused at once and leaves nothing.
-bool SaysUnsupported(int error) {
-  constexpr std::array kErrors = {EOPNOTSUPP, EISDIR, EINVAL, ENOSYS, ENOENT, EPERM, EACCES};
-  return std::find(kErrors.begin(), kErrors.end(), error) != kErrors.end();
+std::optional<Announcement> Announce(int descriptor, const OldFile &old) {
+  struct stat status = {};
+  if (fstat(descriptor, &status) != 0) return std::nullopt;
+  return Announcement{TagOf(status), HasPlace(old) ? TagOf(old.status) : kNoTag,
+                      InHexadecimal(NumberThatIsNew())};
 }
 
 // Returns 0 or an errno value.
-int GiveName(int descriptor, const std::string &name) {
+int GiveName(int descriptor, const Place &place, const std::string &name) {
   const std::string unnamed = "/proc/self/fd/" + std::to_string(descriptor);
-  return linkat(AT_FDCWD, unnamed.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0 ? 0
-                                                                                           : errno;
+  return linkat(AT_FDCWD, unnamed.c_str(), place.Folder(), name.c_str(), AT_SYMLINK_FOLLOW) == 0
+             ? 0
+             : errno;
 }
 
-// When the file that stood ready is gone, another writer has moved it.
-bool MoveInPlace(const std::string &ready, const std::string &path) {
-  if (rename(ready.c_str(), path.c_str()) == 0 || errno == ENOENT) return true;
-  unlink(ready.c_str());
-  return false;
-}
-
-bool IsEarlier(const timespec &one, const timespec &other) {
-  return one.tv_sec != other.tv_sec ? one.tv_sec < other.tv_sec : one.tv_nsec < other.tv_nsec;
-}
-
-// Whether what stands ready is older than what it would replace, or would bring back what has been
-// removed: its writer died, and the world went on. The settings are looked at first, so that what
-// another writer makes ready meanwhile counts as the newer.
-bool IsOvertaken(const std::string &ready, const std::string &path) {
-  struct stat now = {};
-  struct stat then = {};
-  if (stat(path.c_str(), &now) != 0) return errno == ENOENT;
-  return lstat(ready.c_str(), &then) == 0 && IsEarlier(then.st_ctim, now.st_ctim);
-}
-
-// Clears the way for one's own. Returns whether that can have worked.
-bool FinishForOther(const std::string &ready, const std::string &path) {
-  if (!IsOvertaken(ready, path)) return MoveInPlace(ready, path);
-  return unlink(ready.c_str()) == 0 || errno == ENOENT;
-}
-
-// Where there was nothing, one step does. What a dead writer had ready for the file that is gone,
-// goes as well.
-bool IsFirst(int descriptor, const OldFile &old, const std::string &ready) {
-  if (old.status) return false;
-  unlink(ready.c_str());
-  return GiveName(descriptor, old.path) == 0;
-}
-
-// Returns whether the file was replaced; nothing when it cannot be done in this way.
-std::optional<bool> ReplaceByUnnamedFile(const OldFile &old, std::string_view contents) {
-  const File file(open(old.Folder().c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, kOwnerOnly));
-  if (!file.IsOpen()) return SaysUnsupported(errno) ? std::nullopt : std::optional(false);
-  if (!Fill(file.Descriptor(), old, contents)) return false;
-  const std::string ready = old.Beside(".new");
-  if (IsFirst(file.Descriptor(), old, ready)) return true;
-  for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
-    const int error = GiveName(file.Descriptor(), ready);
-    if (error != 0 && error != EEXIST) {
-      return SaysUnsupported(error) ? std::nullopt : std::optional(false);
-    }
-    if (error == 0) return MoveInPlace(ready, old.path);
-    if (!FinishForOther(ready, old.path)) return false;
-  }
-  return false;
-}
-
-// --- With a name ---------------------------------------------------------------------------------
-
-constexpr std::string_view kPlaceholder = "XXXXXX";
-
-// False when another writer has taken the file for left behind, between its making and this. On a
-// system without locks nobody can, and nothing is removed.
-bool ShowLife(int descriptor) {
-  if (flock(descriptor, LOCK_EX | LOCK_NB) != 0) return errno != EWOULDBLOCK;
-  struct stat status = {};
-  return fstat(descriptor, &status) != 0 || status.st_nlink > 0;
-}
-
-void RemoveUnlessAlive(const std::string &path) {
-  const File file(open(path.c_str(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-  if (file.IsOpen() && flock(file.Descriptor(), LOCK_EX | LOCK_NB) == 0) unlink(path.c_str());
-}
-
-struct CloseFolder {
-  void operator()(DIR *folder) const { closedir(folder); }
-};
-
-void RemoveWhatIsLeftBehind(const OldFile &old) {
-  const std::unique_ptr<DIR, CloseFolder> folder(opendir(old.Folder().c_str()));
-  if (!folder) return;
-  const std::string beginning = "." + old.Name() + ".";
-  while (const dirent *entry = readdir(folder.get())) {
-    const std::string_view name = entry->d_name;
-    if (name.starts_with(beginning) && name.size() == beginning.size() + kPlaceholder.size()) {
-      RemoveUnlessAlive(old.Folder() + "/" + entry->d_name);
-    }
+// Returns nothing when it cannot be done in this way.
+std::optional<Result> ReplaceByUnnamedFile(const Place &place, const OldFile &old,
+                                           std::string_view contents) {
+  const File file(openat(place.Folder(), ".", O_TMPFILE | O_WRONLY | O_CLOEXEC, kOwnerOnly));
+  if (!file.IsOpen()) return SaysUnsupported(errno) ? std::nullopt : std::optional(Result::kFailed);
+  if (!Fill(file.Descriptor(), place, old, contents)) return Result::kFailed;
+  const auto announcement = Announce(file.Descriptor(), old);
+  if (!announcement) return Result::kFailed;
+  // Where there was nothing, one step does: giving a name fails when it is taken.
+  const std::string name = HasPlace(old) ? announcement->Name(place, kAnnounced) : place.name;
+  if (!HasPlace(old)) TakeAwayAllBut("", place);
+  switch (const int error = GiveName(file.Descriptor(), place, name)) {
+    case 0:
+      return HasPlace(old) ? Exchange(place, old, *announcement) : Result::kReplaced;
+    case EEXIST:
+      return Result::kOvertaken;
+    default:
+      return SaysUnsupported(error) ? std::nullopt : std::optional(Result::kFailed);
   }
 }
 
-bool ReplaceByNamedFile(const OldFile &old, std::string_view contents) {
-  RemoveWhatIsLeftBehind(old);
-  for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
-    std::string temporary = old.Beside(".").append(kPlaceholder);
-    const File file(mkostemp(temporary.data(), O_CLOEXEC));
-    if (file.IsOpen() && !ShowLife(file.Descriptor())) continue;
-    if (file.IsOpen() && Fill(file.Descriptor(), old, contents) &&
-        rename(temporary.c_str(), old.path.c_str()) == 0) {
-      return true;
+Result ReplaceByNamedFile(const Place &place, const OldFile &old, std::string_view contents) {
+  const std::string name = place.Beside().append(kUnfinished) + InHexadecimal(NumberThatIsNew());
+  const File file(
+      openat(place.Folder(), name.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, kOwnerOnly));
+  if (!file.IsOpen()) return errno == EEXIST ? Result::kOvertaken : Result::kFailed;
+  if (!ShowLife(file.Descriptor())) return Result::kOvertaken;
+  if (Fill(file.Descriptor(), place, old, contents)) {
+    const auto announcement = Announce(file.Descriptor(), old);
+    if (announcement && Rename(place, name, announcement->Name(place, kAnnounced))) {
+      return Exchange(place, old, *announcement);
     }
-    unlink(temporary.c_str());
-    return false;
   }
-  return false;
+  unlinkat(place.Folder(), name.c_str(), 0);
+  return Result::kFailed;
+}
+
+// --- A change ------------------------------------------------------------------------------------
+
+bool MayBeReplaced(const OldFile &old) {
+  switch (old.outcome) {
+    case ReadOutcome::kTooLarge:
+    case ReadOutcome::kNotNow:
+      return false;
+    default:
+      return !S_ISDIR(old.status.st_mode);
+  }
+}
+
+std::optional<std::string> Changed(const OldFile &old, const ContentsChange &change) {
+  if (!MayBeReplaced(old)) return std::nullopt;
+  return old.outcome == ReadOutcome::kRead ? change(old.contents) : change(std::nullopt);
+}
+
+Result TryToChange(const std::string &path, std::size_t most, const ContentsChange &change) {
+  Place place(path);
+  if (!place.folder.IsOpen()) return Result::kFailed;
+  const OldFile old = FindOldFile(path, most, place);
+  const std::optional<std::string> contents = Changed(old, change);
+  if (!contents) return Result::kFailed;
+  std::optional<Result> result = ReplaceByUnnamedFile(place, old, *contents);
+  if (!result) result = ReplaceByNamedFile(place, old, *contents);
+  // What a power cut must not undo is not only the contents but also the new name.
+  if (*result == Result::kReplaced) fsync(place.Folder());
+  return *result;
+}
+
+// Not all at the same moment, so that they do not take away each other's names for ever.
+void LetOthersFinish(int attempt) {
+  const auto longest = static_cast<std::uint64_t>(50 * std::min(attempt, 40));
+  std::this_thread::sleep_for(std::chrono::microseconds(NumberThatIsNew() % longest));
 }
 
 }  // namespace
 
-bool ReplaceFile(const std::string &path, std::string_view contents) {
-  const OldFile old = FileAt(path);
-  std::optional<bool> isReplaced = ReplaceByUnnamedFile(old, contents);
-  if (!isReplaced) isReplaced = ReplaceByNamedFile(old, contents);
-  if (*isReplaced) MakeDurable(old.Folder());
-  return *isReplaced;
+bool ChangeFileContents(const std::string &path, std::size_t most, const ContentsChange &change) {
+  for (int attempt = 1; attempt <= kMostAttempts; ++attempt) {
+    const Result result = TryToChange(path, most, change);
+    if (result != Result::kOvertaken) return result == Result::kReplaced;
+    LetOthersFinish(attempt);
+  }
+  return false;
 }
 
 }  // namespace orv

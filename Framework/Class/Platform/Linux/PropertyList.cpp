@@ -1,8 +1,6 @@
 #include "PropertyList.h"
 
 #include <algorithm>
-#include <array>
-#include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
@@ -12,13 +10,12 @@
 #include <fcntl.h>
 #include <locale.h>
 #include <plist/plist.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
-#include "File.h"
+#include "FileReading.h"
 #include "FileReplacement.h"
 #include "IntegerReading.h"
 #include "PropertyListLimits.h"
+#include "XmlEncoding.h"
 
 namespace orv {
 namespace {
@@ -47,40 +44,27 @@ using Text = std::unique_ptr<char, FreeText>;
 
 // --- Reading -------------------------------------------------------------------------------------
 
-// What has no end that can be looked for, such as a pipe in the file's place, is refused: it would
-// keep the caller waiting.
-std::optional<std::string> ReadContents(const std::string &path) {
-  const File file(
-      static_cast<int>(TEMP_FAILURE_RETRY(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))));
-  const off_t end = file.IsOpen() ? lseek(file.Descriptor(), 0, SEEK_END) : -1;
-  if (end < 0 || static_cast<std::uint64_t>(end) > kLargestPropertyList) return std::nullopt;
-  std::string contents(static_cast<std::size_t>(end), '\0');
-  std::size_t size = 0;
-  while (size < contents.size()) {
-    const ssize_t part = pread(file.Descriptor(), contents.data() + size, contents.size() - size,
-                               static_cast<off_t>(size));
-    if (part < 0 && errno == EINTR) continue;
-    if (part < 0) return std::nullopt;
-    if (part == 0) break;
-    size += static_cast<std::size_t>(part);
-  }
-  contents.resize(size);
-  return contents;
+// What the contents of a file come to.
+struct Parsed {
+  plist_t root = nullptr;  // when it is a dictionary
+  bool isTooMuch = false;  // it may be one, but is more than can be read
+};
+
+bool IsDictionary(plist_t root) {
+  return root != nullptr && plist_get_node_type(root) == PLIST_DICT;
 }
 
-// Whether a file may well be there and whole when opening it has failed so. The last one says that
-// another process holds a lease on it, as file servers do, and has been asked to give it back.
-bool SaysNotNow(int error) {
-  constexpr std::array kErrors = {EMFILE, ENFILE, ENOMEM, EWOULDBLOCK};
-  return std::find(kErrors.begin(), kErrors.end(), error) != kErrors.end();
-}
-
-plist_t Parse(const std::string &contents) {
-  if (!WithinLimits(contents)) return nullptr;
+Parsed Parse(std::string contents) {
+  const auto text = InUtf8(std::move(contents));
+  if (!text) return {};
+  const Extent extent = ExtentOf(*text);
+  if (extent != Extent::kWithinLimits) return {nullptr, extent == Extent::kBeyondLimits};
   const NumbersAsInC locale;
   plist_t root = nullptr;
-  plist_from_memory(contents.data(), static_cast<std::uint32_t>(contents.size()), &root);
-  return root;
+  plist_from_memory(text->data(), static_cast<std::uint32_t>(text->size()), &root);
+  if (IsDictionary(root)) return {root};
+  plist_free(root);
+  return {};
 }
 
 std::string_view TextOf(plist_t entry) {
@@ -91,13 +75,13 @@ std::string_view TextOf(plist_t entry) {
 
 // --- Writing -------------------------------------------------------------------------------------
 
-// XML has no way to write these characters, not even in a roundabout way; a binary list may hold
-// them.
-bool IsForbiddenInXml(char character) {
-  return static_cast<unsigned char>(character) < 0x20 && character != '\t' && character != '\n' &&
-         character != '\r';
+// XML has no way to write most control characters, not even in a roundabout way; a binary list may
+// hold them. A carriage return has one: as it stands, those who read XML turn it into a line feed.
+bool IsSpecialInXml(char character) {
+  return static_cast<unsigned char>(character) < 0x20 && character != '\t' && character != '\n';
 }
 
+constexpr const char *kCarriageReturn = "&#13;";
 constexpr const char *kReplacementCharacter = "\uFFFD";
 
 std::string AsXml(plist_t root) {
@@ -109,11 +93,11 @@ std::string AsXml(plist_t root) {
   std::string_view rest(written, written != nullptr ? length : 0);
   std::string xml;
   for (;;) {
-    const auto forbidden = std::find_if(rest.begin(), rest.end(), IsForbiddenInXml);
-    xml.append(rest.begin(), forbidden);
-    if (forbidden == rest.end()) return xml;
-    xml += kReplacementCharacter;
-    rest.remove_prefix(static_cast<std::size_t>(forbidden - rest.begin()) + 1);
+    const auto special = std::find_if(rest.begin(), rest.end(), IsSpecialInXml);
+    xml.append(rest.begin(), special);
+    if (special == rest.end()) return xml;
+    xml += *special == '\r' ? kCarriageReturn : kReplacementCharacter;
+    rest.remove_prefix(static_cast<std::size_t>(special - rest.begin()) + 1);
   }
 }
 
@@ -134,21 +118,28 @@ PropertyList &PropertyList::operator=(PropertyList &&other) noexcept {
 PropertyList::~PropertyList() { plist_free(root_); }
 
 std::optional<PropertyList> PropertyList::ReadFile(const std::string &path) {
-  const auto contents = ReadContents(path);
-  if (!contents) return std::nullopt;
-  PropertyList list(Parse(*contents));
-  if (list.root_ == nullptr || plist_get_node_type(list.root_) != PLIST_DICT) return std::nullopt;
-  return list;
+  FileReading reading = orv::ReadFile(AT_FDCWD, path, kLargestPropertyList);
+  if (reading.outcome != ReadOutcome::kRead) return std::nullopt;
+  const Parsed parsed = Parse(std::move(reading.contents));
+  if (parsed.root == nullptr) return std::nullopt;
+  return PropertyList(parsed.root);
 }
 
-std::optional<PropertyList> PropertyList::ReadFileToChange(const std::string &path) {
-  errno = 0;
-  if (auto list = ReadFile(path)) return list;
-  if (SaysNotNow(errno)) return std::nullopt;
-  return PropertyList();
+bool PropertyList::ChangeFile(const std::string &path,
+                              const std::function<void(PropertyList &)> &change) {
+  return ChangeFileContents(
+      path, kLargestPropertyList,
+      [&](const std::optional<std::string> &old) -> std::optional<std::string> {
+        const Parsed parsed = old ? Parse(*old) : Parsed();
+        if (parsed.isTooMuch) return std::nullopt;
+        PropertyList list = parsed.root != nullptr ? PropertyList(parsed.root) : PropertyList();
+        change(list);
+        std::string xml = AsXml(list.root_);
+        // What would not be read again must not take the place of what can be read.
+        if (xml.empty() || !WithinLimits(xml)) return std::nullopt;
+        return xml;
+      });
 }
-
-bool PropertyList::IsEmpty() const { return plist_dict_get_size(root_) == 0; }
 
 std::optional<std::int32_t> PropertyList::IntegerForKey(const char *key) const {
   plist_t entry = plist_dict_get_item(root_, key);
@@ -183,13 +174,6 @@ std::optional<std::string> PropertyList::TextForKey(const char *key) const {
 
 void PropertyList::SetInteger(const char *key, std::int32_t value) {
   plist_dict_set_item(root_, key, plist_new_uint(static_cast<std::uint64_t>(std::int64_t{value})));
-}
-
-bool PropertyList::WriteAtomically(const std::string &path) const {
-  const std::string xml = AsXml(root_);
-  // What would be refused when it is read again must not take the place of what can be read.
-  if (xml.empty() || !WithinLimits(xml)) return false;
-  return ReplaceFile(path, xml);
 }
 
 }  // namespace orv

@@ -1,0 +1,100 @@
+#include "FileRights.h"
+
+#include <array>
+#include <cerrno>
+#include <string>
+#include <string_view>
+
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace orv {
+namespace {
+
+constexpr mode_t kAllRights = 0777;
+constexpr mode_t kRightsOfOwner = 0700;
+constexpr mode_t kRightsOfGroup = 0070;
+
+constexpr const char *kAccessList = "system.posix_acl_access";
+constexpr std::string_view kAttributesOfUsers = "user.";
+// The largest that a list of names or a value can be.
+constexpr std::size_t kLargestAttribute = std::size_t{64} << 10;
+
+// Returns whether the file has the old one's group afterwards. Only root can give a file away; a
+// user can give it to groups of his.
+bool TakeOwnerAndGroup(int descriptor, const struct stat &old) {
+  struct stat status = {};
+  if (fstat(descriptor, &status) != 0) return false;
+  if (status.st_uid == old.st_uid && status.st_gid == old.st_gid) return true;
+  return fchown(descriptor, old.st_uid, old.st_gid) == 0 || status.st_gid == old.st_gid ||
+         fchown(descriptor, status.st_uid, old.st_gid) == 0;
+}
+
+bool CopyAttribute(int from, int to, const char *name) {
+  std::string value(kLargestAttribute, '\0');
+  const ssize_t size = fgetxattr(from, name, value.data(), value.size());
+  return size >= 0 && fsetxattr(to, name, value.data(), static_cast<std::size_t>(size), 0) == 0;
+}
+
+struct Attributes {
+  std::string names;  // each with a zero byte at its end
+  bool hasAccessList = false;
+};
+
+Attributes AttributesOf(int descriptor) {
+  // Nearly every file has none, or one that tells a security module what it is.
+  std::array<char, 256> few;
+  ssize_t size = flistxattr(descriptor, few.data(), few.size());
+  std::string names(few.data(), size > 0 ? static_cast<std::size_t>(size) : 0);
+  if (size < 0 && errno == ERANGE) {
+    names.resize(kLargestAttribute);
+    size = flistxattr(descriptor, names.data(), names.size());
+    names.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
+  }
+  const std::string inside = '\0' + names;
+  const bool hasAccessList = inside.find('\0' + std::string(kAccessList) + '\0') != inside.npos;
+  return {std::move(names), hasAccessList};
+}
+
+void CopyAttributesOfUsers(int from, int to, std::string_view names) {
+  while (!names.empty()) {
+    const std::string_view name = names.substr(0, names.find('\0'));
+    if (name.starts_with(kAttributesOfUsers)) CopyAttribute(from, to, name.data());
+    names.remove_prefix(name.size() + 1);
+  }
+}
+
+// The new file may have got a list from its folder. Such a list lets its people do no more than the
+// mode lets the group do.
+bool HasNoAccessList(int descriptor, mode_t rights) {
+  return (rights & kRightsOfGroup) == 0 || fremovexattr(descriptor, kAccessList) == 0 ||
+         errno == ENODATA || errno == EOPNOTSUPP;
+}
+
+// What is left when the old file's group cannot be kept: its members are among all others now.
+mode_t WithoutGroup(mode_t rights) { return rights & (0700 | (rights & kRightsOfGroup) >> 3); }
+
+}  // namespace
+
+void TakeRights(int newFile, int oldFile, const struct stat &old) {
+  const bool hasGroup = TakeOwnerAndGroup(newFile, old);
+  const Attributes attributes = AttributesOf(oldFile);
+  CopyAttributesOfUsers(oldFile, newFile, attributes.names);
+  mode_t rights = old.st_mode & kAllRights;
+  if (attributes.hasAccessList) {
+    if (!hasGroup || !CopyAttribute(oldFile, newFile, kAccessList)) rights &= kRightsOfOwner;
+  } else {
+    if (!hasGroup) rights = WithoutGroup(rights);
+    if (!HasNoAccessList(newFile, rights)) rights &= kRightsOfOwner;
+  }
+  fchmod(newFile, rights);
+}
+
+bool GiveToOwnerOfFolder(int made, int folder) {
+  if (geteuid() != 0) return true;
+  struct stat status = {};
+  if (fstat(folder, &status) != 0) return false;
+  return status.st_uid == 0 || fchown(made, status.st_uid, status.st_gid) == 0;
+}
+
+}  // namespace orv

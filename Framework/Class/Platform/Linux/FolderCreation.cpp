@@ -1,0 +1,35 @@
+#include "FolderCreation.h"
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "File.h"
+#include "FileRights.h"
+
+namespace orv {
+namespace {
+
+// The base directory rules of desktop Linux ask for folders that only their owner can enter.
+constexpr mode_t kOwnerOnly = 0700;
+
+constexpr int kFolder = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+
+}  // namespace
+
+void MakeFolder(const std::string &path) {
+  const std::size_t slash = path.rfind('/');
+  if (slash == path.npos) return;
+  const std::string parent = path.substr(0, slash == 0 ? 1 : slash);
+  const std::string name = path.substr(slash + 1);
+  if (access(parent.c_str(), F_OK) != 0 && errno == ENOENT && parent != "/") MakeFolder(parent);
+  const File above(open(parent.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+  if (!above.IsOpen() || mkdirat(above.Descriptor(), name.c_str(), kOwnerOnly) != 0) return;
+  const File made(openat(above.Descriptor(), name.c_str(), kFolder));
+  if (made.IsOpen() && GiveToOwnerOfFolder(made.Descriptor(), above.Descriptor())) return;
+  unlinkat(above.Descriptor(), name.c_str(), AT_REMOVEDIR);
+}
+
+}  // namespace orv

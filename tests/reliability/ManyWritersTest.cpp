@@ -1,0 +1,147 @@
+// Eight processes that each set another value of one model, all at once: every value is stored, on
+// every kind of file system that a home folder usually lies on.
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <Mounts.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "Aftermath.h"
+
+namespace trxtest {
+namespace {
+
+namespace fs = std::filesystem;
+
+// How often each of them sets its value; scripts/stress asks for more.
+int SetsOfEach(int usually) {
+  const char *const asked = std::getenv("TRX_SETS_OF_EACH_WRITER");
+  return asked != nullptr ? std::atoi(asked) : usually;
+}
+
+enum class Kind { kBoost, kInput, kOutput };
+
+struct Writer {
+  Kind kind;
+  std::int32_t channel;
+  std::uint32_t choices;
+  const char *key;
+  bool canBeAsked = true;
+};
+
+constexpr std::array<Writer, 8> kWriters = {{{Kind::kBoost, 0, 4, "MaxLevel"},
+                                             {Kind::kInput, 0, 8, "Output0"},
+                                             {Kind::kInput, 1, 8, "Output1"},
+                                             {Kind::kInput, 2, 7, "Output2"},
+                                             {Kind::kOutput, 0, 3, "Input0"},
+                                             {Kind::kOutput, 1, 3, "Input1"},
+                                             {Kind::kOutput, 2, 3, "Input2"},
+                                             {Kind::kOutput, 3, 3, "Input3", false}}};
+
+bool Set(const Writer &writer, std::uint32_t index) {
+  switch (writer.kind) {
+    case Kind::kBoost:
+      return ORV_SetBoostLevelIndex(11, index) == 100;
+    case Kind::kOutput:
+      return ORV_SetUSBOutputAudio(11, writer.channel, index) == 100;
+    case Kind::kInput:
+      break;
+  }
+  // With a warning for some of the choices.
+  const StatusCode status = ORV_SetUSBInputAudio(11, writer.channel, index);
+  return status == 100 || status == 101;
+}
+
+bool IsStored(const Writer &writer, std::uint32_t index) {
+  if (!writer.canBeAsked) return true;
+  std::int32_t stored = -77;
+  switch (writer.kind) {
+    case Kind::kBoost:
+      ORV_GetCurrentBoostLevelIndex(11, &stored);
+      break;
+    case Kind::kInput:
+      ORV_GetCurrentUSBInputAudioIndex(11, writer.channel, &stored);
+      break;
+    case Kind::kOutput:
+      ORV_GetCurrentUSBOutputAudioIndex(11, writer.channel, &stored);
+      break;
+  }
+  return stored == static_cast<std::int32_t>(index);
+}
+
+std::uint32_t IndexOf(const Writer &writer, int round) {
+  return static_cast<std::uint32_t>(round) % writer.choices;
+}
+
+// Returns how often a value was not stored, or was gone when the writer looked.
+int SetOverAndOver(const Writer &writer, int rounds) {
+  int lost = 0;
+  for (int round = 0; round < rounds; ++round) {
+    const std::uint32_t index = IndexOf(writer, round);
+    if (!Set(writer, index) || !IsStored(writer, index)) ++lost;
+  }
+  return lost;
+}
+
+class ManyWriters : public Aftermath {
+ protected:
+  // What is announced is not looked at here.
+  void SetUp() override { rig().StopNotificationService(); }
+
+  void ExpectNothingLost(int rounds) {
+    PutLevelThree();
+    std::vector<pid_t> writers;
+    for (const Writer &writer : kWriters) {
+      writers.push_back(fork());
+      if (writers.back() == 0) _exit(SetOverAndOver(writer, rounds) == 0 ? 0 : 1);
+    }
+    for (const pid_t writer : writers) {
+      int status = 0;
+      ASSERT_EQ(waitpid(writer, &status, 0), writer);
+      EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "a value was lost";
+    }
+    Settings expected = {{"Other", "<string>kept</string>"}};
+    for (const Writer &writer : kWriters) {
+      expected[writer.key] =
+          "<integer>" + std::to_string(IndexOf(writer, rounds - 1)) + "</integer>";
+    }
+    EXPECT_EQ(SettingsOf("TRX-SELVA"), expected);
+    EXPECT_EQ(LibraryListing(), kOnlyTheFile);
+  }
+
+  void MakeLibraryFolder() { fs::create_directories(rig().LibraryFolder()); }
+};
+
+TEST_F(ManyWriters, LoseNothing) { ExpectNothingLost(SetsOfEach(250)); }
+
+TEST_F(ManyWriters, LoseNothingInMemory) {
+  HaveOwnMounts();
+  MakeLibraryFolder();
+  const Mount memory = Mount::Memory(rig().LibraryFolder(), "size=1m");
+  ExpectNothingLost(SetsOfEach(250));
+}
+
+TEST_F(ManyWriters, LoseNothingOnADisk) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can mount a disk";
+  HaveOwnMounts();
+  MakeLibraryFolder();
+  const Mount disk = Mount::NewDisk(rig().LibraryFolder());
+  ExpectNothingLost(SetsOfEach(25));
+}
+
+TEST_F(ManyWriters, LoseNothingOnAnOverlay) {
+  HaveOwnMounts();
+  MakeLibraryFolder();
+  // The file lies below at first, as in a container's image.
+  PutLevelThree();
+  const Mount overlay = Mount::Overlay(rig().LibraryFolder());
+  ExpectNothingLost(SetsOfEach(250));
+}
+
+}  // namespace
+}  // namespace trxtest
