@@ -11,7 +11,7 @@ namespace {
 
 static_assert(std::endian::native == std::endian::little);
 
-// A text of the bus's marshalling: numbers little-endian, each value at a multiple of its size.
+// A message in the bus's encoding: numbers little-endian, each value at a multiple of its size.
 class Marshalled {
  public:
   void Align(std::size_t size) { bytes_.resize((bytes_.size() + size - 1) / size * size); }

@@ -1,4 +1,4 @@
-// The announcement of a boost level as those who do without the library would send it.
+// The announcement of a boost level as a program without the library would send it.
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@ sd_bus *OpenBus();
 /// The socket of such a connection.
 int BusSocket();
 
-/// The announcement as it travels, in whole.
+/// The complete message as it is sent.
 std::string MarshalledAnnouncement();
 
 }  // namespace trxbench

@@ -1,5 +1,5 @@
-// The announcement alone, and reading one that has many entries. No exported function does either
-// and nothing else, so this program is linked with the library's objects.
+// Only announcing, and only reading an announcement with many entries. No exported function does
+// just that, so this program is linked with the library's objects.
 #include <string>
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
@@ -23,7 +23,7 @@ void AnnounceWithSdBus() {
       "announce with sd-bus");
 }
 
-// A received announcement with so many entries that mean nothing to the library.
+// A received announcement with this many entries that the library ignores.
 sd_bus_message *NewAnnouncementWith(int entries) {
   sd_bus_message *message = nullptr;
   int result = sd_bus_message_new_signal(OpenBus(), &message, orv::kBusPath, orv::kBusInterface,

@@ -22,7 +22,7 @@ namespace {
 
 constexpr const char *kDevicesFolder = "/sys/bus/usb/devices";
 
-// What getdents64 fills the buffer with.
+// The entries with which getdents64 fills the buffer.
 struct Entry {
   std::uint64_t inode;
   std::int64_t offset;

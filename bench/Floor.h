@@ -1,6 +1,5 @@
-// The floor: the system calls that a call of the library cannot do without, and nothing else. No
-// text is interpreted, nothing is looked up, nothing is allocated; what a call would have to find
-// out is known beforehand.
+// The floor: only the system calls that a call of the library cannot do without. Nothing is parsed,
+// looked up or allocated; what a call would have to find out is known in advance.
 #pragma once
 
 #include <cstddef>
@@ -16,13 +15,13 @@ void BareWalk();
 /// node opened, one request, and closed.
 void BareSend();
 
-/// Reads the settings file into a buffer, which it gives.
+/// Reads the settings file into a buffer and returns it.
 std::span<const char> BareRead();
 
-/// Replaces the settings file by one of the same contents, durably.
+/// Replaces the settings file by one with the same contents, durably.
 void BareReplace();
 
-/// Hands a finished message to the session bus.
+/// Sends a finished message to the session bus.
 void BarePost();
 
 }  // namespace trxbench

@@ -1,4 +1,4 @@
-// Times each operation; Google Benchmark decides how often to do it.
+// Times each operation; Google Benchmark decides how often to run it.
 #include <cstdio>
 #include <exception>
 
@@ -9,7 +9,7 @@
 
 namespace {
 
-// So many announcements fit into the socket of the session bus many times over.
+// The socket of the session bus has room for many times this number of announcements.
 constexpr int kBatch = 32;
 
 void Time(benchmark::State &state, const trxbench::Operation &operation) {
@@ -17,8 +17,8 @@ void Time(benchmark::State &state, const trxbench::Operation &operation) {
   while (state.KeepRunning()) operation.run();
 }
 
-// The session bus works no faster than what posts to it: it is given time to deliver what was
-// posted, and none of that is counted.
+// The session bus is no faster than the posting process. It gets time to deliver the posts, and
+// that time is not counted.
 void TimeAnnouncements(benchmark::State &state, const trxbench::Operation &operation) {
   trxbench::Observer observer;
   operation.run();

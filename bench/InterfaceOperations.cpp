@@ -1,4 +1,4 @@
-// The exported functions, each beside its floor and what one would write instead.
+// The exported functions, each with its floor and with what one would write instead.
 #include <plist/plist.h>
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>

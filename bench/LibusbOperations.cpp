@@ -1,5 +1,5 @@
-// What one would write without the library: a request with libusb, from nothing to nothing, as a
-// program that keeps no state between calls has to.
+// What one would write without the library: a request with libusb, from start to end, for a program
+// that keeps no state between calls.
 #include <libusb.h>
 
 #include "Operation.h"

@@ -1,11 +1,11 @@
-// The other end of the announcements.
+// The receiver of the announcements.
 #pragma once
 
 #include <systemd/sd-bus.h>
 
 namespace trxbench {
 
-/// Observes the announcements of this process and of all others, on a connection of its own.
+/// Observes the announcements of all processes, on its own connection.
 class Observer {
  public:
   Observer();
@@ -13,8 +13,8 @@ class Observer {
   Observer &operator=(const Observer &) = delete;
   ~Observer();
 
-  /// Waits until this many more have arrived: then the bus has nothing left to do that would hold
-  /// up the next ones. Throws when they do not come.
+  /// Waits until this many more have arrived: then the bus is idle and does not delay the next
+  /// ones. Throws when they do not arrive.
   void WaitFor(int announcements);
 
  private:

@@ -1,4 +1,4 @@
-// What is measured: a name and something that can be done any number of times.
+// What is measured: a name, and an operation that can be repeated any number of times.
 #pragma once
 
 #include <stdexcept>
@@ -16,10 +16,10 @@ struct Operation {
   Leaves leaves = Leaves::kNothing;
 };
 
-/// The operations of this program; each program has a table of its own.
+/// The operations of this program; each program has its own table.
 const std::vector<Operation> &Operations();
 
-/// An operation that did not do what it is measured for must not become a figure.
+/// Fails when an operation did not do what it is measured for: it must not become a figure.
 inline void Require(bool done, const char *what) {
   if (!done) throw std::runtime_error(std::string("not done: ") + what);
 }

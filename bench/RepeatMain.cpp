@@ -1,5 +1,5 @@
-// Does one operation a number of times: for counters that look at a whole process. The difference
-// between two runs is what the operation costs, and what the process costs besides falls out.
+// Runs one operation a number of times, for counters that measure a whole process. The difference
+// between two runs is the cost of the operation without that of the process.
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>

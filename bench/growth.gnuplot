@@ -1,4 +1,4 @@
-# Draws what report.py hands over: the file "figures" with a block a panel, into the file "page".
+# Draws the file "figures" of report.py, one block for each panel, into the file "page".
 set terminal svg size 900,380 font "sans-serif,13" background "white"
 set output page
 set multiplot layout 1,2

@@ -27,7 +27,7 @@ MOST_CPU_OF_A_COMMAND = 15  # milliseconds
 DEVICES = (1, 2, 4, 8, 16, 32, 48, 64)
 UNITS = (1, 4, 8, 16, 32, 64)
 
-# Operation, what it is held against, the most that may be (or the least), what limits it.
+# Operation, what it is compared with, the upper (or lower) limit, what dominates the cost.
 RATIOS = (
     ("walk", "walk-floor", "≤ 1.25", "the kernel: it opens, reads and closes one file a device"),
     ("send-again", "send-again-floor", "≤ 1.25", "two walks; the rest is the parser of the stored level"),
@@ -98,7 +98,7 @@ class Table:
         for kind in ("calls", "instructions", "time"):
             ratio = costs[kind][ours] / costs[kind][theirs]
             figures = f" ({plain(costs[kind][ours])} : {plain(costs[kind][theirs])})" if kind == "calls" else ""
-            # A floor has next to no instructions of its own.
+            # A floor has almost no instructions of its own.
             is_empty = theirs.endswith("-floor") and kind == "instructions"
             cells.append("" if is_empty else f"{ratio:.2f}{figures}")
             if kind in promised(ours, theirs) and not holds(ratio, promise):
@@ -123,7 +123,7 @@ def costs_of_operations():
 def whole_commands(table):
     desk.plug(mixers=1, strangers=11)
     ours = processor_time(str(counts.PROGRAMS / "trxctl"), "boost", "1")
-    # Debian's pyusb belongs to Debian's Python, whichever other is found first.
+    # Debian's pyusb needs Debian's Python, even if another one is found first.
     theirs = processor_time("/usr/bin/python3", str(pathlib.Path(__file__).parent / "pyusb_host.py"), "1", VENDOR)
     promise = f"< {MOST_CPU_OF_A_COMMAND} ms"
     if ours >= MOST_CPU_OF_A_COMMAND:
@@ -139,7 +139,7 @@ def growth(label, sizes, set_up, operation):
     for size in sizes:
         set_up(size)
         calls.append(counts.system_calls(operation))
-        # Other programs only ever add to the time, and the sizes are not measured in turn.
+        # Other programs only add to the time, and the sizes are not measured in random order.
         time.append(times("interface", f"^{operation}$", repetitions=9, figure=min)[operation])
         print(f"{label} {size}: {calls[-1]:g} system calls", file=sys.stderr)
     steps = {(calls[i + 1] - calls[i]) / (sizes[i + 1] - sizes[i]) for i in range(len(sizes) - 1)}

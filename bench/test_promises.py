@@ -63,7 +63,7 @@ class Growth(Promise):
         for units in (4, 8, 16):
             desk.plug(mixers=units, strangers=16 - units)
             calls[units] = counts.system_calls("send-again")
-        # For each unit the floor has a walk and the request itself.
+        # For each unit, the floor has a walk and the request.
         floor = (counts.system_calls("send-again-floor") - counts.system_calls("get-floor")
                  - counts.system_calls("walk-floor"))
         self.assertLessEqual(self.assert_grows_evenly(calls), 1.25 * floor)

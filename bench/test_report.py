@@ -73,7 +73,7 @@ class Page(unittest.TestCase):
 
     def test_of_a_whole_run(self):
         if "LD_PRELOAD" in os.environ:
-            # Where nobody may mount, no figures are better than wrong ones.
+            # Without the right to mount, no figures are better than wrong ones.
             with self.assertRaises(SystemExit):
                 self.measured()
             self.assertIn("Old figures.", self.page.read_text())

@@ -1,12 +1,13 @@
 // announcement-observer: sees the notifications between the processes of a user, and posts
-// notifications of any shape. GNUstep wants the name of what is observed: it observes whatever a
-// library of this kind could announce, and all that it posts itself. Has nothing of the library.
-// Spoken to as acceptance-host is, in words parted by tabs:
+// notifications of any form. GNUstep needs the names to observe: it observes everything that the
+// library could announce, and its own posts. It does not use the library. It takes commands as
+// acceptance-host does, in words separated by tabs:
 //
-//   mark                     answers once everything has been seen that was sent before
+//   mark                     answers when it has seen everything that was sent before
 //   post NAME KEY=VALUE...   as another program would
 //   misshape NAME KEY=VALUE...
-//                            posts what resembles that notification and is none; answers how many
+//                            posts what resembles that notification and is not one; answers how
+//                            many
 //
 // What it sees it prints as "! NAME KEY=VALUE...".
 #include <algorithm>
@@ -35,7 +36,7 @@ constexpr NSTimeInterval kPatience = 10;
 
 NSString *StringOf(const std::string &text) { return [NSString stringWithUTF8String:text.c_str()]; }
 
-// A dictionary has no order; this is the one in which the library's keys are always told.
+// A dictionary has no order; the library's keys are always printed in this one.
 constexpr std::array<const char *, 3> kOrderOfKeys = {"ProductID", "Channel", "Index"};
 
 std::size_t PlaceOf(const std::string &key) {
@@ -101,7 +102,7 @@ std::size_t PlaceOf(const std::string &key) {
   std::cout << std::endl;
 }
 
-// The daemon hands on what it gets in the order in which it got it.
+// The daemon passes on notifications in the order in which it received them.
 - (BOOL)passThroughDaemon {
   markHasCome_ = NO;
   [[NSDistributedNotificationCenter defaultCenter] postNotificationName:mark_
@@ -139,7 +140,7 @@ NSDictionary *DictionaryOf(const Words &entries, ValueOf valueOf) {
 
 NSNumber *NumberOf(const std::string &text) { return [NSNumber numberWithInt:std::stoi(text)]; }
 
-// A dictionary whose values are no numbers.
+// A dictionary whose values are not numbers.
 int PostMisshapen(const std::string &name, const Words &entries) {
   NSArray *const posted = [NSArray
       arrayWithObjects:DictionaryOf(entries, [](const std::string &v) { return StringOf(v); }),

@@ -1,5 +1,5 @@
-// The rig over GNUstep and the double of IOKit. A case runs as a user of its own: Foundation learns
-// whose a process is while it is loaded, so the program starts itself once more for that.
+// The rig over GNUstep and the double of IOKit. Each case has its own user. Foundation reads the
+// user while it is loaded, so the program starts itself again for each case.
 #include "../simulated/CaseRunner.h"
 #include "PrivateUser.h"
 

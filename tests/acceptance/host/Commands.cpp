@@ -89,7 +89,7 @@ std::string Call(std::istream &words) {
   return kFunctions.at(name)(numbers);
 }
 
-// A context is handed back as long as the process lives.
+// A context must live as long as the process.
 std::string *KeepTag(const std::string &tag) {
   static std::list<std::string> tags;
   return &tags.emplace_back(tag);
@@ -175,7 +175,7 @@ void CarryOut(std::string &input) {
   for (std::size_t end = input.find('\n'); end != std::string::npos; end = input.find('\n')) {
     const std::string line = input.substr(0, end);
     input.erase(0, end + 1);
-    // What is told on the way has lines of its own.
+    // Reports made during the call have their own lines.
     const std::string answer = Answer(line);
     std::cout << "= " << answer << std::endl;
   }

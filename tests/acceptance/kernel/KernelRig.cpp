@@ -13,11 +13,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A bus hands out device numbers up to 127 and begins again with 2. No case plugs so often that it
-// gets from here to there.
+// A bus gives out device numbers up to 127 and then starts again at 2. No case plugs in so many
+// units that it gets from this number to 127.
 constexpr int kNumberThatIsHigh = 60;
 
-// The device number that was given last, by whichever case.
+// The device number that was given last, in any case.
 constexpr const char *kLastNumberFile = "/run/trx-last-device-number";
 
 // The driver of the virtual host controllers, and the first of them, which has the first bus.
@@ -29,8 +29,8 @@ void Write(const std::string &file, const std::string &text) {
   if (!(out << text).flush()) throw std::runtime_error("cannot write " + file);
 }
 
-// A case counts on it that what is plugged in later stands behind what is there. A controller that
-// is taken away and comes back counts from the beginning.
+// Cases rely on a unit that is plugged in later coming after the others. A controller that is
+// removed and added again starts to count from the beginning.
 void BeginDeviceNumbersAfreshIfHigh() {
   int last = 0;
   std::ifstream(kLastNumberFile) >> last;
@@ -54,8 +54,8 @@ int KernelRig::PlugMixer() {
   return unit;
 }
 
-// The first bus is filled up with strangers and its mixers are moved to the next one, whereupon a
-// place on the first bus is made free again.
+// Fills the first bus with strangers, moves its mixers to the next bus, and then frees a place on
+// the first one.
 int KernelRig::PlugMixerInFront() {
   const std::vector<int> present = PluggedInTheOrderOfTheBus();
   if (present.empty()) return PlugMixer();
@@ -99,8 +99,8 @@ void KernelRig::NoteArrival(int unit) {
   LetEverybodyIn(unit);
 }
 
-// As an installation's udev rule does for whoever sits at the machine. Without any permission the
-// node of a unit has a fault.
+// Does what an installation's udev rule does for the user at the machine. A node without any
+// permission has a fault.
 void KernelRig::LetEverybodyIn(int unit) {
   const fs::path node = "/dev/bus/usb/" + AddressOf(unit);
   if (fs::status(node).permissions() == fs::perms::none) return;

@@ -7,8 +7,8 @@
 
 namespace trxtest {
 
-/// The rig over the USB stack of the running kernel. It needs the machine for itself, which is a
-/// virtual one, with root's rights.
+/// The rig over the USB stack of the running kernel. It needs a (virtual) machine for itself and
+/// root's rights.
 class KernelRig : public SimulatorRig {
  public:
   explicit KernelRig(const std::string &folder);

@@ -1,5 +1,4 @@
-// What only a real USB stack shows: what it answers in the place where units go away, and whom it
-// lets in.
+// What only a real USB stack shows: its errors when units go away, and its permissions.
 #include <array>
 #include <cerrno>
 #include <chrono>
@@ -27,7 +26,7 @@ using Lines = std::vector<std::string>;
 
 constexpr const char *kDevices = "/sys/bus/usb/devices";
 
-// Ends with the descriptor closed.
+// Closes the descriptor at the end.
 class Node {
  public:
   explicit Node(const std::string &path) : descriptor_(open(path.c_str(), O_RDWR | O_CLOEXEC)) {}
@@ -35,7 +34,7 @@ class Node {
   Node(const Node &) = delete;
   Node &operator=(const Node &) = delete;
 
-  // The number of bytes that came, or minus the error. Reads the four bytes of the certify level.
+  // Reads the four bytes of the certify level. Returns the number of bytes, or minus the error.
   int Read(std::array<std::uint8_t, 4> &buffer, unsigned milliseconds) const {
     usbdevfs_ctrltransfer transfer = {0xC0, 0, 0, 0x8007, 4, milliseconds, buffer.data()};
     const int count = ioctl(descriptor_, USBDEVFS_CONTROL, &transfer);
@@ -83,7 +82,7 @@ std::string DriverOf(const fs::path &device, unsigned interface) {
   return fs::read_symlink(device / name / "driver", none).filename();
 }
 
-// The kernel's, from the files of the guest. It stays loaded for the cases that follow.
+// The kernel's own module, from the files of the guest. It stays loaded for later cases.
 void LoadAudioDriver() {
   std::ifstream names("/guest/audio-modules");
   int count = 0;
@@ -164,8 +163,8 @@ TEST_F(Kernel, ARequestOfAUnitThatIsPulledOutEndsWithShutdown) {
   EXPECT_EQ(node.Read(buffer, 60'000), -ENODEV);
 }
 
-// Whether the kernel has forgotten the first by the time that the library looks for the next is up
-// to the kernel, so that the next to be served may be the second or the third.
+// The kernel may or may not have removed the first when the library looks for the next, so the next
+// one served may be the second or the third.
 TEST_F(Kernel, WhenAUnitIsPulledOutInTheMiddleOfASetTheNextIsServed) {
   for (int i = 0; i < 3; ++i) rig().PlugMixer();
   rig().SetFault(1, UnitFault::kStaysSilent);

@@ -169,8 +169,8 @@ void BusObserver::Send(sd_bus_message *message) {
   Check(sd_bus_flush(bus_.get()), "flush");
 }
 
-// The bus serves its connections in turn. After two round trips every connection that had something
-// to say before has had its turn.
+// The bus serves its connections in turn. After two round trips, every connection that had sent
+// something before has been served.
 void BusObserver::PassThroughBus() {
   for (int trip = 0; trip < 2; ++trip) {
     Check(sd_bus_call_method(bus_.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus",

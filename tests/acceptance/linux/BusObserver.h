@@ -11,15 +11,15 @@
 
 namespace trxtest {
 
-/// Sees every signal on a bus, and posts signals of any shape. Has nothing of the library.
-/// Functions throw when the bus does not do its part. One thread at a time.
+/// Sees every signal on a bus, and posts signals of any form. Does not use the library. Functions
+/// throw when the bus fails. One thread at a time.
 class BusObserver {
  public:
-  /// Connects, and observes from now on.
+  /// Connects and observes from now on.
   explicit BusObserver(const std::string &address);
 
-  /// As `Rig::TakeAnnouncements`. Every announcement sent by a function that has returned is among
-  /// those handed out.
+  /// As `Rig::TakeAnnouncements`. The result has every announcement that was sent by a function
+  /// that has returned.
   std::vector<Announcement> Take(std::size_t count);
 
   /// As `Rig::Announce`.

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kPatienceMilliseconds = 60'000;
 
-// The installed configuration would look for services to activate and differs between systems.
+// The installed configuration would activate services, and it differs between systems.
 constexpr const char *kConfigurationBeforeAddress = R"(<!DOCTYPE busconfig PUBLIC
  "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
@@ -26,8 +26,8 @@ constexpr const char *kConfigurationBeforeAddress = R"(<!DOCTYPE busconfig PUBLI
   <type>session</type>
   <auth>EXTERNAL</auth>
   <listen>)";
-// Whoever connects while the bus is frozen is to have his time to say who he is, as on a usual
-// session bus, where that is minutes.
+// A client that connects while the bus is frozen must have enough time to authenticate. On a usual
+// session bus it has minutes.
 constexpr const char *kConfigurationBehindAddress = R"(</listen>
   <limit name="auth_timeout">240000</limit>
   <policy context="default">
@@ -43,8 +43,8 @@ constexpr const char *kConfigurationBehindAddress = R"(</listen>
   throw std::system_error(errno, std::generic_category(), what);
 }
 
-// Runs in the child between fork and exec. The bus must not outlive a test that crashes, and needs
-// none of what the simulator loads into programs.
+// Runs in the child between fork and exec. The bus must not outlive a test that crashes, and does
+// not need the library that the simulator loads into programs.
 [[noreturn]] void BecomeDaemon(pid_t parent, const char *configuration, int ready, int errors) {
   prctl(PR_SET_PDEATHSIG, SIGKILL);
   if (getppid() != parent) _exit(1);

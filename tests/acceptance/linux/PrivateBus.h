@@ -6,26 +6,26 @@
 
 namespace trxtest {
 
-/// A message bus of the test's own that can be stopped, frozen and started again at the same
-/// address. Functions throw when the system does not do its part. One thread at a time.
+/// A private message bus that can be stopped, frozen and started again at the same address.
+/// Functions throw when the system refuses. One thread at a time.
 class PrivateBus {
  public:
-  /// Puts its files into `folder`. Not running yet.
+  /// Puts its files into `folder`. Does not start it.
   explicit PrivateBus(std::string folder);
   ~PrivateBus();
   PrivateBus(const PrivateBus &) = delete;
   PrivateBus &operator=(const PrivateBus &) = delete;
 
-  /// Where it listens while it runs.
+  /// The address where it listens while it runs.
   std::string Address() const;
 
   /// Starts it and waits until it listens.
   void Start();
 
-  /// Ends it as a crash does: nothing is said to anybody.
+  /// Ends it as a crash does, without a word to its clients.
   void Stop();
 
-  /// Its connections stay, it reads and writes nothing.
+  /// Stops it from reading and writing; its connections stay.
   void Freeze();
   void Thaw();
 

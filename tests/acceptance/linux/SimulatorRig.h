@@ -11,9 +11,9 @@
 
 namespace trxtest {
 
-/// What the rigs of Linux share: the mixers of a trx-mixer-sim under which the process runs (see
-/// CaseRunner.h), and a session bus of its own. A rig adds what differs between the front ends of
-/// the simulator.
+/// What the rigs on Linux share: the mixers of the trx-mixer-sim that started the process (see
+/// CaseRunner.h), and a private session bus. A rig adds what differs between the front ends of the
+/// simulator.
 class SimulatorRig : public SimulatedUnits {
  public:
   /// `folder` is the private folder of the case.

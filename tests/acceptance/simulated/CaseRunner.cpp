@@ -29,11 +29,10 @@ constexpr const char *kSelf = "/proc/self/exe";
 // The private folder of a case; set once the process runs under the simulator.
 constexpr const char *kFolderVariable = "TRX_ACCEPTANCE_FOLDER";
 
-// Names the place for all private folders, such as one on a disk.
+// Names the folder for all private folders, for example one on a disk.
 constexpr const char *kPlaceVariable = "TRX_ACCEPTANCE_PLACE";
 
-// Words to put before the command line of a case under the simulator, such as those of a memory
-// checker.
+// Words to put before the command line of a case, for example those of a memory checker.
 constexpr const char *kWrapperVariable = "TRX_ACCEPTANCE_WRAPPER";
 
 bool Contains(const Words &words, std::string_view beginning) {
@@ -56,7 +55,7 @@ Words WithSelf(const Words &arguments) {
   return words;
 }
 
-// What a process prints.
+// The output of a process.
 std::string OutputOf(const Words &words) {
   std::array<int, 2> ends = {};
   if (pipe2(ends.data(), O_CLOEXEC) != 0) return {};
@@ -76,8 +75,8 @@ std::string OutputOf(const Words &words) {
   return output;
 }
 
-// The full names of the cases that the arguments select: suites stand at the margin with a dot at
-// the end, their cases below them with two blanks before, and a comment may follow.
+// The full names of the cases that the arguments select. A suite's line begins at the margin and
+// ends with a dot; its cases follow, indented by two blanks; a comment may follow a name.
 Words SelectedCases(const Words &arguments) {
   Words listing = WithSelf(arguments);
   listing.emplace_back("--gtest_list_tests");
@@ -95,8 +94,8 @@ Words SelectedCases(const Words &arguments) {
   return cases;
 }
 
-// Where the private folders lie: in the fastest place there is, as the library makes every file
-// durable before it goes on, unless another is named.
+// The folder for the private folders, unless another is named: in memory if possible, because the
+// library makes every file durable before it continues.
 std::string MakeFolderOfAll() {
   const char *chosen = std::getenv(kPlaceVariable);
   const Words places = chosen != nullptr ? Words{chosen} : Words{"/dev/shm", "/tmp"};
@@ -128,7 +127,7 @@ void SetVariable(const char *name, const std::string &value) { setenv(name, valu
   const char *wrapper = std::getenv(kWrapperVariable);
   std::istringstream wrapping(wrapper != nullptr ? wrapper : "");
   for (std::string word; wrapping >> word;) words.push_back(word);
-  // Under a wrapper, /proc/self/exe would be the wrapper.
+  // In a wrapper, /proc/self/exe would be the wrapper.
   words.push_back(std::filesystem::read_symlink(kSelf));
   words.insert(words.end(), arguments.begin(), arguments.end());
   Become(words);

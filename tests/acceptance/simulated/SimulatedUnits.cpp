@@ -47,8 +47,8 @@ const char *WordFor(UnitFault fault) {
   return "vanish";
 }
 
-// The simulator's log has columns parted by two or more blanks, and in the last one the simulator's
-// own name for the request.
+// The columns of the simulator's log are separated by two or more blanks; the last one is the
+// simulator's name for the request.
 std::string PlainLine(const std::string &line) {
   std::string plain;
   std::string_view rest = line;

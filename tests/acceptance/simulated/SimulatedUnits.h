@@ -9,15 +9,15 @@
 
 namespace trxtest {
 
-/// What all rigs share whose mixers are software: the part of a rig that plugs units, sets them and
-/// reads the wire, by way of the simulator's control socket.
+/// What all rigs with software mixers share: plugging units in and out, setting them and reading
+/// the wire log, through the simulator's control socket.
 class SimulatedUnits : public Rig {
  public:
-  /// Speaks to the simulator that listens at `control`.
+  /// Uses the simulator that listens at `control`.
   explicit SimulatedUnits(const std::string &control) : simulator_(control) {}
 
   int PlugMixer() override;
-  /// Goes once round the device numbers of the bus, so that the new mixer gets the lowest.
+  /// Uses up the device numbers of the bus, so that the new mixer gets the lowest.
   int PlugMixerInFront() override;
   int PlugStranger(Stranger kind) override;
   void Unplug(int unit) override;

@@ -1,6 +1,6 @@
-// The functions with every combination of arguments, in range and out of it, on an empty desk: what
-// is accepted, and what becomes of the result. The tables here say what is accepted; everything
-// that does not stand in them is refused. SettingTest.cpp has the settings without channels.
+// The functions with every combination of arguments, in and out of range, without mixers: what is
+// accepted, and what the result is. The tables here list what is accepted; everything else is
+// refused. SettingTest.cpp has the settings without channels.
 #include <limits>
 #include <map>
 #include <span>
@@ -23,7 +23,7 @@ constexpr std::uint32_t kIndexes[] = {
     0,  1,  2,  3,  4,  5,  6,   7,   8,       9,          10,         11,
     12, 13, 14, 15, 16, 17, 255, 256, 0x10000, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
 
-// The places that a function is tried with: one without a channel or an index has only the first.
+// The channels and indexes to try: a function without a channel or an index has only the first.
 struct Places {
   std::span<const std::int32_t> channels;
   std::span<const std::uint32_t> indexes;
@@ -33,8 +33,8 @@ constexpr std::uint32_t kNoIndex[] = {0};
 constexpr Places kChannelsAndIndexes = {kChannels, kIndexes};
 constexpr Places kChannelsOnly = {kChannels, kNoIndex};
 
-// How many indexes each channel of a model has, from index and channel 0 on. A function without a
-// channel has one row, a function without an index has rows of 1.
+// The number of indexes of each channel of a model, from channel and index 0. A function without a
+// channel has one row; a function without an index has rows of 1.
 using Accepted = std::map<ProductId, std::vector<std::uint32_t>>;
 
 bool Contains(const Accepted &accepted, ProductId product, std::int32_t channel = 0,
@@ -48,12 +48,12 @@ bool Contains(const Accepted &accepted, ProductId product, std::int32_t channel 
 const Accepted kAllSix = {{0, {1}}, {1, {1}}, {5, {1}}, {6, {1}}, {8, {1}}, {11, {1}}};
 const Accepted kSelva = {{11, {1}}};
 
-// A result before the call.
+// The value of a result variable before the call.
 constexpr std::int32_t kBefore = -1234567;
 constexpr std::uint32_t kBeforeUnsigned = 0xFEDC1234;
 ORVStringRef BeforeText() { return TextOf("untouched"); }
 
-// Compares many outcomes and tells of the first few that differ.
+// Compares many outcomes and reports the first few that differ.
 class Sweep {
  public:
   ~Sweep() { EXPECT_EQ(failures_, 0) << "of " << count_ << " calls, the first:\n" << told_.str(); }
@@ -92,7 +92,7 @@ class Arguments : public InstalledFiles {
     }
   }
 
-  // Functions (product, channel, result). `resultOf` says what an accepted call hands out.
+  // Functions (product, channel, result). `resultOf` gives the result of an accepted call.
   template <typename Channel, typename Result, typename ResultOf>
   static void SweepChannels(const char *name, StatusCode (*function)(ProductId, Channel, Result *),
                             const Accepted &accepted, Result before, ResultOf resultOf) {
@@ -111,7 +111,7 @@ class Arguments : public InstalledFiles {
     }
   }
 
-  // Functions that hand out a text.
+  // Functions that give a text.
   template <typename Call>
   static void SweepTexts(const char *name, const Accepted &accepted, const Places &places,
                          Call call) {
@@ -131,9 +131,9 @@ class Arguments : public InstalledFiles {
     }
   }
 
-  // Calls setters with everything that is refused, expects 102 and that nothing came of it, then
-  // with everything that is accepted. `statusOf` says what an accepted call answers. Returns how
-  // many were accepted.
+  // Calls setters with everything that is refused and expects 102 without any effect, then with
+  // everything that is accepted. `statusOf` gives the status of an accepted call. Returns how many
+  // were accepted.
   template <typename Call, typename StatusOf>
   std::size_t SweepSetter(const char *name, const Accepted &accepted, const Places &places,
                           Call call, StatusOf statusOf) {
@@ -288,7 +288,7 @@ TEST_F(Arguments, WarningTakes101AndThirteenLanguages) {
   constexpr std::int32_t kLanguages[] = {kLeast, -1, 0,  1,  2,  3,  4,   5,   6,   7,   8,    9,
                                          10,     11, 12, 13, 98, 99, 100, 101, 255, 256, kMost};
   constexpr StatusCode kStatuses[] = {kLeast, -1, 0, 99, 100, 101, 102, 103, 104, kMost};
-  // Nothing is installed, so that an accepted call hands out null.
+  // Nothing is installed, so an accepted call gives null.
   Sweep sweep;
   for (const ProductId product : kAllProducts) {
     for (const std::int32_t channel : kChannels) {
@@ -378,7 +378,7 @@ TEST_F(Arguments, VersionTextsTakeSelvaOrSixModelsWhenAllIsInstalled) {
     Install("/Applications/Orvik/" + model + "/" + model + " Setup.app/Contents/Info.plist",
             "<key>CFBundleVersion</key><string>1</string>");
   }
-  // All hold the same text, so that all hand out the same place.
+  // All contain the same text, so all calls give the same pointer.
   ORVStringRef one = nullptr;
   ASSERT_EQ(ORV_GetPkgVersionText(11, &one), 100);
   ASSERT_EQ(CharactersOf(one), "1");
@@ -398,7 +398,7 @@ void NeverCalledWithChannel(std::int32_t, std::int32_t, void *) {
   ADD_FAILURE() << "nothing was announced";
 }
 
-// Null callbacks and contexts are as good as any other.
+// Null callbacks and contexts are accepted.
 template <typename Callback>
 void SweepRegistration(const char *name, StatusCode (*put)(ProductId, Callback, void *),
                        StatusCode (*takeAway)(ProductId, Callback), Callback callback,

@@ -1,4 +1,4 @@
-// Callbacks: who is called, with what, how often, and what is ignored.
+// Callbacks: which are called, with which values, how often, and what is ignored.
 #include <climits>
 #include <thread>
 
@@ -106,7 +106,7 @@ TEST_F(Callbacks, EveryModelHasItsOwnNameForEveryKind) {
   }
 }
 
-// The boost level of TRX-MORROW tells here when all has arrived, and so under its own name too.
+// The boost level of TRX-MORROW marks here that everything has arrived.
 TEST_F(Callbacks, MorrowHasItsOwnNameForTheRoutingKinds) {
   ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(8, ChannelIndexA, &first), 100);
   ASSERT_EQ(ORV_RegisterOutputAudioChangedCallback(8, ChannelIndexB, &first), 100);

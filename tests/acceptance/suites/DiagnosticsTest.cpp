@@ -1,5 +1,4 @@
-// What a program that tells a person learns: what became of each request, and where the settings
-// are kept.
+// Diagnostics.h: the outcome of each request, and the path of the settings file.
 #include <filesystem>
 #include <thread>
 
@@ -13,7 +12,7 @@ using Lines = std::vector<std::string>;
 
 class Diagnostics : public RequestReports {};
 
-// --- What is reported ----------------------------------------------------------------------------
+// --- Reports -------------------------------------------------------------------------------------
 
 TEST_F(Diagnostics, ASettingIsReportedForEachUnitInTheOrderOfTheBus) {
   PlugMixers(3);
@@ -138,7 +137,7 @@ TEST_F(Diagnostics, AUnitWithFewerChannelsThanAreAskedForAnswersShortly) {
             (Lines{"unit 1 read 8002 0000 short reply", "unit 1 read 8002 0000 done"}));
 }
 
-// --- What observing changes ----------------------------------------------------------------------
+// --- Observing changes nothing else --------------------------------------------------------------
 
 TEST_F(Diagnostics, AnObserverChangesNoResultNoRequestAndNoOrder) {
   PlugMixers(3);
@@ -172,7 +171,7 @@ TEST_F(Diagnostics, TheObserverIsCalledBehindItsRequestAndBeforeTheNext) {
   EXPECT_EQ(listing, Lines()) << "stored before the units were told";
 }
 
-// --- Whose observer, and for how long ------------------------------------------------------------
+// --- Threads and lifetime of an observer ---------------------------------------------------------
 
 TEST_F(Diagnostics, ANullObserverEndsIt) {
   PlugMixers(1);

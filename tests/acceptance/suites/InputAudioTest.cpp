@@ -1,5 +1,5 @@
-// The USB input audio family: texts, what goes to the units, what is stored and announced, and when
-// a choice that was carried out draws a warning.
+// USB input audio: texts, what is sent, stored and announced, and when a choice that was sent gives
+// a warning.
 #include <limits>
 
 #include "../SetterOrder.h"
@@ -19,8 +19,7 @@ class InputAudio : public SetterOrder {
     return Sent(unit, value, "8002", outcome);
   }
 
-  // The question that follows a choice; that behind a raw value asks for 5 bytes, or 3 for
-  // TRX-VOLT.
+  // The read after a choice; the read after a raw value asks for 5 bytes, or 3 for TRX-VOLT.
   static std::string Selectors(int unit, const std::string &outcome, int length = 4) {
     return Asked(unit, "8002", length, outcome);
   }
@@ -29,7 +28,7 @@ class InputAudio : public SetterOrder {
     return SelvaChange("InputAudio", channel, index);
   }
 
-  // Plugs mixers in whose selector of channel 0 stands at these positions.
+  // Plugs in mixers whose selector of channel 0 is in these positions.
   void PlugMixersAt(const std::vector<std::uint8_t> &positions) {
     for (const std::uint8_t position : positions) rig().SetSelector(rig().PlugMixer(), 0, position);
   }
@@ -38,7 +37,7 @@ class InputAudio : public SetterOrder {
     for (const unsigned channel : {0U, 1U, 2U, 3U}) rig().SetSelector(unit, channel, position);
   }
 
-  // The texts of a model, a row a channel, up to the first index and the first channel refused.
+  // The texts of a model, one row for each channel, up to the first index and channel refused.
   static Rows TextsOf(ProductId product) {
     Rows rows;
     ORVStringRef text = nullptr;
@@ -60,7 +59,7 @@ class InputAudio : public SetterOrder {
     return index;
   }
 
-  // Sends a stored value of channel `channel` again and returns what went over the wire.
+  // Sends a stored value of channel `channel` again and returns the wire log.
   Lines SentAgain(std::int32_t channel, const std::string &stored, StatusCode expected) {
     PutSettings("TRX-SELVA", "<key>Output" + std::to_string(channel) + "</key><integer>" + stored +
                                  "</integer>");
@@ -347,7 +346,7 @@ TEST_F(InputAudio, BytesMissingInAShortReplyCountAsZero) {
                                     Routed(1, "030a"), Selectors(1, "2 bytes 00 06")}));
 }
 
-// No byte of one unit may stand in for a missing one of the next.
+// A byte from one unit must not be used for a missing byte of the next.
 TEST_F(InputAudio, AShortReplyIsNotFilledUpWithTheReplyOfTheUnitBefore) {
   PlugMixersAt({6, 6});
   rig().SetShortReplies(2, 1);

@@ -1,5 +1,5 @@
-// The warning that follows an input routing: which of the four texts applies, and in which
-// language. The system's language of a case is English.
+// The warning after an input routing: which of the four texts, and in which language. In these
+// cases the system's language is English.
 #include <fstream>
 #include <iterator>
 #include <set>
@@ -22,7 +22,7 @@ const Lines kFolders = {"English", "Japanese", "French", "German", "Italian", "D
 
 class InputRoutingWarning : public InstalledFiles {
  protected:
-  // A framework folder as platforms lay them out, with these language folders in it.
+  // A framework folder as on the platform, with these language folders.
   void InstallFramework(const std::string &framework, const Lines &folders,
                         const std::string &prefix = {}) {
     for (const std::string &folder : folders) {
@@ -36,13 +36,13 @@ class InputRoutingWarning : public InstalledFiles {
     LinkResources(framework);
   }
 
-  // All languages, on a system on which the framework lies below /Library.
+  // All languages, on a system that has the framework below /Library.
   void InstallAll() {
     InstallSystem("10.15");
     InstallFramework(kLaterFramework, kFolders);
   }
 
-  // The text; "(null)" for none, the status when it is refused.
+  // The text; "(null)" for none; the status when the call is refused.
   static std::string Warning(ProductId product, std::int32_t channel, std::int32_t language,
                              StatusCode status = 101) {
     const ORVStringRef untouched = TextOf("untouched");
@@ -202,7 +202,7 @@ TEST_F(InputRoutingWarning, TheFifthChannelIsThereForHaldenOnly) {
   EXPECT_EQ(Warning(11, 4, 99), "102");
 }
 
-// --- Where the texts lie ---------------------------------------------------------------------
+// --- The place of the texts ------------------------------------------------------------------
 
 TEST_F(InputRoutingWarning, TheSystemVersionDecidesWhichFrameworkIsOpened) {
   InstallFramework(kLaterFramework, {"English", "German"}, "later ");
@@ -277,7 +277,7 @@ TEST_F(InputRoutingWarning, FollowsAnInputRoutingThatAnswered101) {
   EXPECT_EQ(Warning(1, 2, 6, ORV_SetUSBInputAudioDirect(1, 2, 0, 15)), "Spanish WARNING");
 }
 
-// --- The texts that are built ----------------------------------------------------------------
+// --- The texts of the build ------------------------------------------------------------------
 
 std::string WithoutEntities(std::string text) {
   const std::pair<std::string, std::string> entities[] = {
@@ -290,7 +290,7 @@ std::string WithoutEntities(std::string text) {
   return text;
 }
 
-// The text behind a key of a strings file.
+// The text for a key of a strings file.
 std::string TextBehind(const std::string &key, const std::string &contents) {
   const std::string before = "<string>";
   const std::size_t keyAt = contents.find("<key>" + key + "</key>");
@@ -308,7 +308,7 @@ class BuiltWarning : public InputRoutingWarning {
     std::filesystem::copy(BUILT_SYSTEM_ROOT, rig().SystemRoot(), everything);
   }
 
-  // What the built strings file of a language holds for a key, read without the library.
+  // The text for a key in the build's strings file of a language, read without the library.
   static std::string Written(const std::string &folder, const std::string &key) {
     std::ifstream file(BUILT_SYSTEM_ROOT + std::string(kLaterFramework) + "/Versions/A/Resources/" +
                            folder + ".lproj/Localizable.strings",

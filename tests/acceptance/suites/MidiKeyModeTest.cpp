@@ -1,4 +1,4 @@
-// The MIDI key mode, which no model offers.
+// The MIDI key mode, which no model has.
 #include "../Deliveries.h"
 
 namespace trxtest {

@@ -1,4 +1,4 @@
-// What the mixers say of themselves: certify level, firmware version, input selectors, Serato.
+// The status queries: certify level, firmware version, input selectors, Serato.
 #include "../Acceptance.h"
 #include "../WireLines.h"
 
@@ -8,7 +8,7 @@ namespace {
 using Lines = std::vector<std::string>;
 using Positions = std::vector<std::uint8_t>;
 
-// What a query answers: its status, and what its result holds afterwards.
+// The outcome of a query: its status, and its result variable afterwards.
 struct Answer {
   StatusCode status;
   std::uint32_t result;
@@ -20,7 +20,7 @@ void PrintTo(const Answer &answer, std::ostream *out) {
   *out << answer.status << " with " << answer.result;
 }
 
-// What stands in a result before the call.
+// The value of a result variable before the call.
 constexpr std::uint32_t kBefore = 0xABCD1234;
 
 class MixerStatus : public Acceptance {

@@ -1,5 +1,5 @@
-// The USB output audio family: texts, what goes to the units and is read back, what is stored and
-// announced, and the default that is not stored.
+// USB output audio: texts, what is sent and read back, what is stored and announced, and the
+// default that is not stored.
 #include "../SetterOrder.h"
 #include "../WireLines.h"
 
@@ -34,7 +34,7 @@ class OutputAudio : public SetterOrder {
     return index;
   }
 
-  // Sends a stored value of a channel again and returns what went over the wire.
+  // Sends a stored value of a channel again and returns the wire log.
   Lines SentAgain(std::int32_t channel, const std::string &stored) {
     PutSettings("TRX-SELVA",
                 "<key>Input" + std::to_string(channel) + "</key><integer>" + stored + "</integer>");

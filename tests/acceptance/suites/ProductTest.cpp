@@ -103,7 +103,7 @@ TEST_F(ProductNames, TheThreeModelsThatAreOnlyRecognisedHaveNoBoostLevelAndNoCal
 
 class Connection : public Acceptance {
  protected:
-  // The one answer that every ProductId gets; 0 when the answers differ.
+  // The status for every ProductId; 0 when they differ.
   static StatusCode AnswerForEveryProduct() {
     std::set<StatusCode> answers;
     for (const ProductId product : kAllProducts) answers.insert(ORV_IsUSBConnection(product));

@@ -1,4 +1,4 @@
-// One way through everything that a host does; also run under a memory checker.
+// One case that does everything a host does; also run with a memory checker.
 #include <algorithm>
 
 #include "../Deliveries.h"

@@ -1,5 +1,5 @@
-// The settings without channels: bounds, texts, what goes to the units, what is stored, announced
-// and delivered. A row of literals each; every case runs once a row.
+// The settings without channels: bounds, texts, what is sent, stored, announced and delivered. Each
+// setting is a row of literals; every case runs for each row.
 #include <algorithm>
 
 #include "../Deliveries.h"
@@ -23,13 +23,13 @@ const std::vector<Model> kAllSix = {{0, "TRX-Arden"}, {1, "TRX-VOLT"},   {5, "TR
 struct Row {
   const char *name;
   std::vector<Model> models;
-  Lines texts;           // one a choice
-  Lines values;          // wValue, one a choice
+  Lines texts;           // one for each choice
+  Lines values;          // wValue, one for each choice
   const char *selector;  // wIndex
   std::uint32_t choicesSentAgain;
   const char *key;
   std::int32_t defaultIndex;
-  const char *change;  // stands behind the model's name
+  const char *change;  // follows the model's name
   StatusCode (*count)(ProductId, std::uint32_t *);
   StatusCode (*text)(ProductId, std::uint32_t, std::uint32_t, ORVStringRef *);
   StatusCode (*set)(ProductId, std::uint32_t);
@@ -76,7 +76,7 @@ const std::vector<Row> kRows = {
      .takeCallback = ORV_UnregisterMidiChannelChangedCallback},
 };
 
-// The way a row stands in the name of a test.
+// A row in the name of a test.
 void PrintTo(const Row &row, std::ostream *out) { *out << row.name; }
 std::string NameOf(const testing::TestParamInfo<Row> &info) { return info.param.name; }
 
@@ -229,7 +229,7 @@ TEST_P(Setting, PassesOverUnitsThatStallOrDoNotOpen) {
 TEST_P(Setting, IsSentStoredAndAnnouncedAlsoWhenItStaysTheSame) {
   rig().PlugMixer();
   EXPECT_EQ(row().set(model().product, 1), 100);
-  // Whether the file is written again shows in an entry that only a second write could keep.
+  // An entry that only a second write could keep shows whether the file is written again.
   PutSettings(model().name, EntryOf(row(), "0") + "<key>Mark</key><string>between</string>");
   EXPECT_EQ(row().set(model().product, 1), 100);
   EXPECT_EQ(rig().WireLog(), (Lines{SentTo(1, 1), SentTo(1, 1)}));
@@ -252,7 +252,7 @@ TEST_P(Setting, IsRefusedForAnotherModelOrIndexAndNothingIsDone) {
   ExpectNothingHappened();
 }
 
-// --- What is stored --------------------------------------------------------------------------
+// --- Stored values ---------------------------------------------------------------------------
 
 TEST_P(Setting, HasItsDefaultForItsModelsWhileNothingIsStored) {
   for (const ProductId product : kAllProducts) {
@@ -368,7 +368,7 @@ class SettingCallback : public Deliveries, public testing::WithParamInterface<Ro
   const Model &model() { return row().models.front(); }
 };
 
-// Null callbacks and contexts are as good as any other, and what Unregister names does not matter.
+// Null callbacks and contexts are accepted, and Unregister ignores its callback.
 TEST_P(SettingCallback, IsAcceptedForTheModelsOfTheSettingOnly) {
   for (const ProductId product : kAllProducts) {
     const StatusCode expected = IsServed(row(), product) ? 100 : 102;

@@ -1,5 +1,5 @@
-// The settings file: what stands in it, what it survives, what is read from it. Shown with the
-// boost level: every family records in the same way.
+// The settings file: its contents, what it survives, what is read from it. Tested with the boost
+// level: all settings are stored in the same way.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>

@@ -1,5 +1,5 @@
-// Which units a request reaches, in which order, and what becomes of those that fail. Shown with
-// the boost level: every family goes the same way.
+// Which units a request reaches, in which order, and what happens to those that fail. Tested with
+// the boost level: all settings use the same operation.
 #include <chrono>
 
 #include "../SetterOrder.h"
@@ -11,7 +11,7 @@ using Lines = std::vector<std::string>;
 
 class Units : public SetterOrder {
  protected:
-  // What level 0 looks like on the wire of a unit that takes it.
+  // Level 0 in the wire log of a unit that takes it.
   static std::string Taken(int unit) { return Sent(unit, "0 bytes"); }
 
   static std::string Sent(int unit, const std::string &outcome) {

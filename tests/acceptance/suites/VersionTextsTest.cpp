@@ -1,4 +1,4 @@
-// Version texts: which file and which entry answers, on which system.
+// Version texts: which file and which entry is read, on which system.
 #include "../InstalledFiles.h"
 
 namespace trxtest {
@@ -24,7 +24,7 @@ constexpr const char *kSystem = "/System/Library/CoreServices/SystemVersion.plis
 
 class VersionTexts : public InstalledFiles {
  protected:
-  // What a query answers; "102" when it refuses and leaves its result alone.
+  // The result of a query; "102" when it refuses and does not touch its result.
   static std::string Ask(Query query, ProductId product) {
     const ORVStringRef untouched = TextOf("untouched");
     ORVStringRef text = untouched;
@@ -47,7 +47,7 @@ class VersionTexts : public InstalledFiles {
     InstallInfo(kEarlierLibrary, "short", "earlier");
   }
 
-  // Which of the installed libraries answers on a system that says this of itself.
+  // Which of the installed libraries is found on a system with this version.
   std::string LibraryOn(const std::string &systemEntries) {
     Install(kSystem, systemEntries);
     return Library();
@@ -124,7 +124,7 @@ TEST_F(VersionTexts, OtherModelsAndANullResultAreRefusedEvenWhenTheFilesAreThere
   }
 }
 
-// --- What is looked at first -----------------------------------------------------------------
+// --- The order of the checks -----------------------------------------------------------------
 
 TEST_F(VersionTexts, TheDriverLooksAtTheSystemEvenForAModelThatIsThenRefused) {
   InstallSystem("10.15");
@@ -306,7 +306,7 @@ TEST_F(VersionTexts, APlugInThatCannotBeReadLeavesTheAnswerToTheExtension) {
   }
 }
 
-// --- What stands in the files ----------------------------------------------------------------
+// --- The contents of the files ---------------------------------------------------------------
 
 TEST_F(VersionTexts, AnEntryThatIsMissingOrNoTextIsRefused) {
   InstallSystem("10.15");

@@ -1,5 +1,5 @@
-// acceptance-host: a process with the library that does what it is told on standard input (see
-// Commands.h). While no command is there it sits in its event loop.
+// acceptance-host: a process with the library that takes commands on standard input (see
+// Commands.h). Between commands it runs its event loop.
 #include <cstdlib>
 #include <iostream>
 #include <string>
@@ -18,7 +18,7 @@
 
 namespace trxtest {
 
-// What keeps a device of the double from being opened binds every process alike.
+// The double refuses to open a device to every process alike.
 std::string GiveUpAdmin() { return "done"; }
 std::string GiveUpRoot() { return "done"; }
 
@@ -28,7 +28,7 @@ namespace {
 
 constexpr NSTimeInterval kTurn = 0.01;
 
-// Without anything to wait for, the run loop comes back at once.
+// With nothing to wait for, the run loop returns at once.
 void TakeATurn() {
   NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
   if (trxtest::IsReceiving()) {

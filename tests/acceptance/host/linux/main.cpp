@@ -1,5 +1,5 @@
-// acceptance-host: a process with the library that does what it is told on standard input (see
-// Commands.h). While no command is there it sits in its event loop.
+// acceptance-host: a process with the library that takes commands on standard input (see
+// Commands.h). Between commands it runs its event loop.
 #include <csignal>
 #include <cstdint>
 #include <string>

@@ -1,6 +1,5 @@
-// Units that do not open, as they are reported, where a unit is opened by asking every device: one
-// that cannot be asked has no place among the others, and the last one asked decides how the
-// opening of any has gone.
+// Reports about units that do not open. On macOS a unit is opened by asking every device: one that
+// cannot be asked has no position, and the last one asked decides the status of every opening.
 #include "../../RequestReports.h"
 
 namespace trxtest {
@@ -28,7 +27,7 @@ TEST_F(UnopenedUnit, InTheLastPlaceIsReportedOfEachUnit) {
                                   "nowhere open 0000 0000 failed"}));
 }
 
-// Each opening looks afresh: with the first mixer gone, the last position is that of nobody.
+// Each opening looks again: when the first mixer is gone, no mixer has the last position.
 TEST_F(UnopenedUnit, ThatVanishedInItsRequestLeavesItsPlaceToTheNextWithinTheSameCall) {
   PlugMixers(3);
   rig().SetFault(1, UnitFault::kVanishes);

@@ -1,4 +1,4 @@
-// What the platform answers for a text that a bundle does not have.
+// The platform's result for a text that a bundle does not have.
 #include "../../InstalledFiles.h"
 
 namespace trxtest {

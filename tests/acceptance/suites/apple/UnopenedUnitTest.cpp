@@ -1,5 +1,5 @@
-// Units that do not open, where a unit is opened by asking every device: one that cannot be asked
-// has no place among the others, and the last one asked decides how the opening of any has gone.
+// Units that do not open. On macOS a unit is opened by asking every device: one that cannot be
+// asked has no position, and the last one asked decides the status of every opening.
 #include "../../InstalledFiles.h"
 #include "../../WireLines.h"
 

@@ -1,4 +1,4 @@
-// Units that do not open, as they are reported: here a unit has its place whether it opens or not.
+// Reports about units that do not open: on Linux a unit has its position whether it opens or not.
 // And a path that follows the user's folders.
 #include <cstdlib>
 
@@ -20,7 +20,7 @@ TEST_F(UnopenedUnit, IsReportedInItsTurnWithItsPlace) {
                                   "unit 3 write 8003 0300 done"}));
 }
 
-// Pulled while the first one is served: it is skipped, alone.
+// Unplugged while the first one is served: only this one is skipped.
 TEST_F(UnopenedUnit, UnpluggedInTheMiddleOfASetIsGone) {
   PlugMixers(3);
   WhileReported([&] {
@@ -42,8 +42,8 @@ TEST_F(UnopenedUnit, IsTheOnlyOneThatASetMissesWhenItVanishesInItsRequest) {
                                   "unit 3 write 8003 0300 done"}));
 }
 
-// What is asked behind a setting is asked of the units that were told it, whatever is plugged in
-// and out meanwhile.
+// The read after a setting goes to the units that got the setting, whatever is plugged in or out
+// meanwhile.
 TEST_F(UnopenedUnit, IsMissedByTheReadsOfTheSameCallAndAMixerPluggedInSinceIsNotAsked) {
   PlugMixers(2);
   int reports = 0;

@@ -19,7 +19,7 @@ using std::chrono::milliseconds;
 
 constexpr milliseconds kSoon{10'000};
 constexpr milliseconds kNow{0};
-// Long enough for anything that is still under way to come in.
+// Long enough for everything on its way to arrive.
 constexpr milliseconds kAWhile{150};
 
 std::string selva = "selva";
@@ -46,7 +46,7 @@ void DispatchAtOnce() {
 
 class EventLoop : public Deliveries {
  protected:
-  // Dispatches as a host does, whenever the descriptor is readable, until there is nothing left.
+  // Dispatches as a host does, when the descriptor is readable, until nothing is left.
   void DispatchUntilQuiet() {
     while (IsReadableWithin(kAWhile)) DispatchAtOnce();
   }
@@ -102,7 +102,7 @@ TEST_F(EventLoop, WhatNobodyRegisteredForDoesNotWakeTheHost) {
   EXPECT_FALSE(IsReadableWithin(kAWhile));
 }
 
-// A hundred fit into the buffer of a socket, so that by then all are with this process.
+// A hundred fit into the buffer of a socket, so by then all have arrived in this process.
 TEST_F(EventLoop, OneDispatchDeliversAllThatHasArrived) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
   const auto witness = rig().StartHost();
@@ -116,8 +116,8 @@ TEST_F(EventLoop, OneDispatchDeliversAllThatHasArrived) {
   EXPECT_FALSE(IsReadableWithin(kAWhile));
 }
 
-// While Register asks the bus and waits for its answer, other notifications come in on the same
-// connection, in front of the answer: nothing in the socket tells of them any more.
+// While Register waits for the bus's answer, other notifications arrive on the same connection
+// before it. They have been read already, so the socket is not readable because of them.
 TEST_F(EventLoop, ReadableForWhatArrivedWhileARegistrationWaitedForTheBus) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
   const auto host = rig().StartHost();

@@ -1,5 +1,5 @@
-// A first unit that does not open, for functions that ask the first unit only: here a unit has its
-// place on the bus whether it opens or not.
+// A first unit that does not open, for functions that ask only the first unit: on Linux a unit has
+// its position on the bus whether it opens or not.
 #include "../../InstalledFiles.h"
 
 namespace trxtest {

@@ -1,4 +1,4 @@
-// When the service that carries announcements is away, comes, goes, comes back or hangs.
+// A notification service that is absent, appears, ends, comes back or hangs.
 #include <algorithm>
 #include <chrono>
 
@@ -16,8 +16,8 @@ std::string lumen = "lumen";
 
 class NotificationService : public Deliveries {
  protected:
-  // Announces from outside, again and again, until a callback is told: only then has the library
-  // found the service. Returns whether that happened, and forgets what was told.
+  // Announces from outside until a callback runs: only then has the library found the service.
+  // Returns whether that happened, and forgets these calls.
   bool WaitUntilHeard() {
     int announced = 0;
     const bool isHeard = RunEventLoopUntil([&] {
@@ -29,7 +29,7 @@ class NotificationService : public Deliveries {
     return isHeard;
   }
 
-  // Setting works as ever: the unit is told, the file is written.
+  // Setting works as usual: the unit gets the value, the file is written.
   void ExpectSettingWorks(std::uint32_t index, const std::string &onTheWire) {
     rig().ClearWireLog();
     EXPECT_EQ(ORV_SetBoostLevelIndex(11, index), 100);
@@ -132,7 +132,7 @@ TEST_F(NotificationService, WhileItHangsSettersWaitOnceAndTheirAnnouncementsCome
   ExpectSettingWorks(0, "0300");
   EXPECT_LT(Clock::now() - start, std::chrono::seconds(9));
   rig().ThawNotificationService();
-  // They go out with the first setter for which the service has found the time to answer.
+  // They are sent with the first setter for which the service answers again.
   std::vector<Announcement> arrived;
   EXPECT_TRUE(WaitUntil([&] {
     ExpectSettingWorks(2, "0100");

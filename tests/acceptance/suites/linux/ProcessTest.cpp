@@ -1,4 +1,4 @@
-// What the library does to the process it lives in: threads, descriptors, fork, folders.
+// The library's effects on its process: threads, descriptors, fork, folders.
 #include <algorithm>
 #include <atomic>
 #include <chrono>
@@ -167,7 +167,7 @@ TEST_F(Process, SettersOnEightThreadsReachEveryUnitTearNoFileAndAnnounceAll) {
   }
 }
 
-// A desk on which texts are installed too, and functions that threads call over and over.
+// A case with installed texts, and functions that threads call again and again.
 class Threads : public InstalledFiles {
  protected:
   static constexpr int kThreads = 8;
@@ -299,7 +299,7 @@ void ExpectInChild(const std::function<bool()> &body) {
   EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "status " << status;
 }
 
-// Long enough for whatever the child could have inherited to try the bus again.
+// Long enough for an inherited timer to try the bus again.
 TEST_F(Process, AForkedChildStartsWithoutRegistrationsAndLeavesTheParentsAlone) {
   constexpr std::chrono::milliseconds kChildLooks{1500};
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
@@ -347,7 +347,7 @@ TEST_F(Process, AForkedChildOfAProcessThatOnlySetLevelsSetsAndAnnouncesToo) {
                          BoostChange("TRX-SELVA", 11, 3)}));
 }
 
-// --- Where the user's folders lie -------------------------------------------------------------
+// --- The user's folders ------------------------------------------------------------------------
 
 TEST_F(Process, TheConfigurationFolderIsLookedUpAfreshAndARelativeOneIsIgnored) {
   const std::string home = fs::path(rig().LibraryFolder()).parent_path().parent_path() / "someone";

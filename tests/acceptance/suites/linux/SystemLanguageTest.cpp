@@ -1,5 +1,5 @@
-// Which language a warning comes in when the system's language is asked for, on Linux: LANGUAGE, a
-// list, then LC_ALL, LC_MESSAGES and LANG, then English.
+// The language of a warning for the system's language on Linux: LANGUAGE, a list, then LC_ALL,
+// LC_MESSAGES and LANG, then English.
 #include <cstdlib>
 
 #include "../../InstalledFiles.h"
@@ -7,7 +7,7 @@
 namespace trxtest {
 namespace {
 
-// The variables that say the user's language; null for one that is not set.
+// The variables with the user's language; null for one that is not set.
 struct Variables {
   const char *language;
   const char *all;
