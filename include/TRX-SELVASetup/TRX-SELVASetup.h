@@ -22,8 +22,8 @@
  * - Functions may run on several threads at once. The Register and Unregister functions belong to
  *   the receiving thread: on Linux the one that calls ORV_DispatchNotifications (EventLoop.h), on
  *   macOS the main thread with its run loop.
- * - Of two settings of one model that are stored at the very same time, on two threads or in two
- *   processes, one may be lost from the file.
+ * - Different settings of one model may be stored at the same time, on several threads or in
+ *   several processes: on Linux all are kept. On macOS the last writer of the file wins.
  * - Texts that the library gives out belong to it. They stay valid and unchanged for the life of
  *   the process; the host never frees them.
  */
