@@ -17,19 +17,19 @@ class PropertyList {
   PropertyList &operator=(PropertyList &&other) noexcept;
   ~PropertyList();
 
-  /// The dictionary in a file, in any encoding that the platform reads; nothing when the file is
-  /// missing, cannot be read, or is no property list with a dictionary at its root.
+  /// The dictionary in a file, in any format that the platform reads; nothing when the file is
+  /// missing, cannot be read, or is not a property list with a dictionary at its root.
   static std::optional<PropertyList> ReadFile(const std::string &path);
 
-  /// Changes the dictionary in a file: reads it, or makes an empty one where ReadFile gives
-  /// nothing, lets `change` change it, and writes it as an XML property list in place of the file,
-  /// in one step: a reader sees the old file or the new one, and a failure leaves the old one.
-  /// Returns whether it was written.
+  /// Changes the dictionary in a file: reads it, or starts with an empty one when ReadFile gives
+  /// nothing, calls `change`, and replaces the file by an XML property list in one step. A reader
+  /// sees the old file or the new one, and a failure leaves the old one. Returns whether it was
+  /// written.
   ///
-  /// On Linux nothing is lost that other programs write at the same time: when the file has changed
-  /// since it was read, `change` is called again with what is there now. A file is left alone that
-  /// cannot be read at the moment or is more than can be read; one that this process may not read
-  /// is kept beside the new one. See FileReplacement.h. Elsewhere whoever writes last wins.
+  /// On Linux, changes that other programs make at the same time are kept: when the file has
+  /// changed since it was read, `change` is called again with the new contents. A file that cannot
+  /// be read at the moment, or is too large or too deep, is left alone. One that this process may
+  /// not read is kept beside the new one. See FileReplacement.h. Elsewhere the last writer wins.
   static bool ChangeFile(const std::string &path,
                          const std::function<void(PropertyList &)> &change);
 
@@ -38,11 +38,10 @@ class PropertyList {
   /// is missing or anything else.
   std::optional<std::int32_t> IntegerForKey(const char *key) const;
 
-  /// The text of an entry; nothing when the entry is missing or no text. A number is no text: a
-  /// host could do nothing with a number in a text's place.
+  /// The text of an entry; nothing when the entry is missing or not a text. A number is not a text.
   std::optional<std::string> TextForKey(const char *key) const;
 
-  /// Sets an entry to an integer, in place of what the key held before.
+  /// Sets an entry to an integer and replaces the previous value.
   void SetInteger(const char *key, std::int32_t value);
 
  private:

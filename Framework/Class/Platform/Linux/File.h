@@ -8,9 +8,9 @@
 
 namespace orv {
 
-/// The descriptor, or in its place a new one for the same, that is none of the three standard
-/// streams; -1 with errno when there is none. Where a host has closed a standard stream, the next
-/// file that is opened gets its number, and what the host then prints would go into that file.
+/// The descriptor, or a duplicate of it that is not one of the three standard streams; -1 with
+/// errno on failure. When a host has closed a standard stream, the next opened file gets its
+/// number, and the host's output would go into that file.
 inline int AwayFromStandardStreams(int descriptor) noexcept {
   if (descriptor < 0 || descriptor > STDERR_FILENO) return descriptor;
   const int moved = fcntl(descriptor, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
@@ -18,7 +18,7 @@ inline int AwayFromStandardStreams(int descriptor) noexcept {
   return moved;
 }
 
-/// Owns a descriptor that has just been opened. Never one of the three standard streams.
+/// Owns a newly opened descriptor, never one of the three standard streams.
 class File {
  public:
   explicit File(int descriptor) : descriptor_(AwayFromStandardStreams(descriptor)) {}

@@ -6,9 +6,9 @@
 namespace orv {
 namespace {
 
-// Only what says clearly that there is no file, or that it is not for this process, counts as
-// that. Whatever else fails may work the next time: no descriptors or memory left, a server that
-// does not answer, a lease that its holder has been asked to give back.
+// Only errors that clearly say that there is no file, or that this process may not read it, count
+// as such. Other failures may pass: no descriptors or memory, a server that does not answer, a
+// lease whose holder has been asked to release it.
 ReadOutcome OutcomeOf(int error, int folder, const std::string &path, FileReading &reading) {
   if (error == ENOENT) return ReadOutcome::kMissing;
   if (fstatat(folder, path.c_str(), &reading.status, AT_SYMLINK_NOFOLLOW) != 0) {

@@ -1,4 +1,4 @@
-// Reading a file as a whole, and telling apart why it could not be read. Any thread.
+// Reads a whole file, and says why it could not be read. Any thread.
 #pragma once
 
 #include <cstddef>
@@ -17,19 +17,19 @@ enum class ReadOutcome {
   kNoFile,     // a folder, a pipe, a socket or a device
   kForbidden,  // this process may not read it
   kTooLarge,
-  kNotNow,  // the file may well be there and in order
+  kNotNow,  // failed; the file may exist and be in order
 };
 
-/// What was found at a path. The file stays open, so that no other gets its inode number.
+/// The result of reading a path. The file stays open, so that no other gets its inode number.
 struct FileReading {
   ReadOutcome outcome = ReadOutcome::kMissing;
   File file{-1};
-  struct stat status = {};  // of what was found, whatever it is
-  std::string contents;     // when it was read
+  struct stat status = {};  // of the found file, link or other node
+  std::string contents;     // if it was read
 };
 
 /// Reads a regular file of at most `most` bytes. The path is relative to `folder`, as for openat;
-/// `flags` may add O_NOFOLLOW. Does not wait: not for a pipe's writer, nor for who holds a lease.
+/// `flags` may add O_NOFOLLOW. Never waits for a pipe's writer or the holder of a lease.
 FileReading ReadFile(int folder, const std::string &path, std::size_t most, int flags = 0);
 
 }  // namespace orv

@@ -1,29 +1,28 @@
-// How several programs change one file at once and lose nothing, without a lock.
+// How several programs change one file at the same time and lose nothing, without a lock.
 //
-// A writer reads the file, writes a new one that has no name yet, and makes it durable. Then it
-//   1. announces: gives the new file a name of its own beside the old one,
-//   2. takes away the names that other writers have announced: they begin anew,
-//   3. compares: what is in the file's place must still be what it has read, else it begins anew,
-//   4. exchanges the two files in one step of the system, which fails if its own name was taken
-//      away meanwhile,
-//   5. looks at what came out under the announced name, and removes it.
-// Of two writers, the one that announces later takes away the other's name before it compares, or
-// sees what the other has put in place. So between 3 and 4 of a writer that succeeds there is no
-// other such writer, however slow it is, and nobody ever waits for one that stands still or is
-// dead. That is why this is no lock: one would have to be waited for, or broken.
+// A writer reads the file, writes a new file without a name, and makes it durable. Then it
+//   1. announces: links the new file to a unique name beside the old file,
+//   2. renames the files that other writers have announced: those writers start again,
+//   3. compares: the file must still be the one that was read, else the writer starts again,
+//   4. exchanges the two files in one system call, which fails if step 2 of another writer has
+//      renamed the announced file,
+//   5. checks which file is now under the announced name, and removes it.
+// Of two writers, the one that announces later either renames the other's announced file before it
+// compares, or sees the file that the other has put in place. So no other writer can succeed
+// between steps 3 and 4 of a writer that succeeds, however slow it is. Nobody waits for a writer
+// that is stopped or dead. A lock would have to be waited for, or broken.
 //
-// Programs that know nothing of all this, such as an editor, may replace the file between 3 and 4.
-// Their file is what comes out in 5. It is put back, and the writer begins anew.
+// A program that does not follow these steps, such as an editor, may replace the file between 3
+// and 4. Then step 5 finds its file, puts it back, and the writer starts again.
 //
-// A writer can be killed at any moment. Before 1 its file has no name and goes with it. Later its
-// name stays, and says which file the new one is and which one it is to replace: by that the next
-// writer can tell what it finds, and does 5 in its place. What a killed writer has put in the place
-// of an editor's file is gone with that.
+// A writer can be killed at any moment. Before step 1 its file has no name and disappears. After
+// it, the name remains. The name says which file is the new one and which one it replaces, so the
+// next writer knows what it finds and does step 5 in its place. That also reverts what a killed
+// writer has put in the place of an editor's file.
 //
-// Where file systems do not have all this: without files that have no name, the new file has one
-// from the beginning and a lock that lasts as long as its writer, by which others see whether it is
-// still at work. Where files cannot be exchanged, 4 is a rename, and only an editor's change
-// between 3 and 4 can be lost.
+// On file systems without files that have no name, the new file has a name from the start, and a
+// lock that ends with its writer and shows others whether it is still running. Where files cannot
+// be exchanged, step 4 is a rename, and only an editor's change between 3 and 4 can be lost.
 #include "FileReplacement.h"
 
 #include <algorithm>
@@ -54,14 +53,14 @@ namespace {
 
 constexpr mode_t kOwnerOnly = 0600;
 
-// Each attempt after the first means that another program has changed the file meanwhile.
+// Each attempt after the first means that another program has changed the file.
 constexpr int kMostAttempts = 2000;
 
 enum class Result { kReplaced, kOvertaken, kFailed };
 
-// --- Where the file is ---------------------------------------------------------------------------
+// --- The place of the file -----------------------------------------------------------------------
 
-// Makes the folder where it is missing.
+// Makes the folder if it is missing.
 int OpenFolder(const std::string &path) {
   constexpr int kFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
   const int folder = open(path.c_str(), kFlags);
@@ -70,21 +69,21 @@ int OpenFolder(const std::string &path) {
   return open(path.c_str(), kFlags);
 }
 
-// A file's place: its folder, open, so that everything is done in the same one.
+// A file's place: its folder, held open so that all steps use the same one, and its name.
 struct Place {
   explicit Place(const std::string &path)
       : folder(OpenFolder(path.substr(0, path.rfind('/')))),
         name(path.substr(path.rfind('/') + 1)) {}
 
   int Folder() const { return folder.Descriptor(); }
-  /// What the names of all that writers lay beside the file begin with.
+  /// The beginning of the names of all files that writers make beside the file.
   std::string Beside() const { return "." + name + "."; }
 
   File folder;
   std::string name;
 };
 
-// What was found there and is to be replaced.
+// The file that was found there and will be replaced.
 using OldFile = FileReading;
 
 bool HasPlace(const OldFile &old) { return old.outcome != ReadOutcome::kMissing; }
@@ -93,8 +92,8 @@ struct FreeText {
   void operator()(char *text) const { std::free(text); }
 };
 
-// A user may lay a link to a file of the same user, and root a link to anything. Who follows other
-// links changes files for whoever laid them.
+// A link is followed if its file belongs to the same user, or if this user or root made it. Through
+// any other link, another user could make this process change a file.
 bool MayFollow(const struct stat &link, const struct stat &file) {
   return link.st_uid == file.st_uid || link.st_uid == geteuid() || link.st_uid == 0;
 }
@@ -104,7 +103,7 @@ ReadOutcome OutcomeBehindLink(int error) {
   return error == EACCES ? ReadOutcome::kForbidden : ReadOutcome::kNotNow;
 }
 
-// Opens the file in a place, or the one that a link there leads to; the place is then that one's.
+// Opens the file in a place. If it is a link, opens its target and sets the place to the target's.
 OldFile FindOldFile(const std::string &path, std::size_t most, Place &place) {
   OldFile old = ReadFile(place.Folder(), place.name, most, O_NOFOLLOW);
   if (old.outcome != ReadOutcome::kLink) return old;
@@ -122,9 +121,9 @@ OldFile FindOldFile(const std::string &path, std::size_t most, Place &place) {
   return file;
 }
 
-// --- Which file is which -------------------------------------------------------------------------
+// --- Identity of files ---------------------------------------------------------------------------
 
-// By inode number and time of the last write. A file that is open keeps its number for itself.
+// Inode number and time of the last write. While a file is open, no other gets its inode number.
 std::string TagOf(const struct stat &status) {
   std::array<char, 40> text;
   std::snprintf(text.data(), text.size(), "%llx-%llx%08lx",
@@ -134,7 +133,7 @@ std::string TagOf(const struct stat &status) {
   return text.data();
 }
 
-// No file's.
+// Stands for no file.
 constexpr const char *kNoTag = "0-0";
 
 std::string TagAt(const Place &place, const std::string &name) {
@@ -147,7 +146,7 @@ bool IsSame(const timespec &one, const timespec &other) {
   return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
 }
 
-// Whether what was read is still there, and as it was.
+// Whether the file that was read is still there and unchanged.
 bool IsStillThere(const Place &place, const OldFile &old) {
   struct stat now = {};
   if (fstatat(place.Folder(), place.name.c_str(), &now, AT_SYMLINK_NOFOLLOW) != 0) {
@@ -158,13 +157,13 @@ bool IsStillThere(const Place &place, const OldFile &old) {
          IsSame(now.st_ctim, old.status.st_ctim);
 }
 
-// --- What lies beside the file -------------------------------------------------------------------
+// --- Files beside the file -----------------------------------------------------------------------
 
-// A file that is being written, on file systems where it needs a name for that.
+// A file that is being written, on file systems where such a file needs a name.
 constexpr std::string_view kUnfinished = "tmp.";
-// A new file that is announced; after the exchange, the one that was in place before.
+// An announced new file; after the exchange, the old file.
 constexpr std::string_view kAnnounced = "new.";
-// The same, after another writer took the announced name away.
+// The same, after another writer has renamed it.
 constexpr std::string_view kTaken = "old.";
 
 std::uint64_t NumberThatIsNew() {
@@ -177,8 +176,8 @@ std::string InHexadecimal(std::uint64_t number) {
   return text.data();
 }
 
-// What an announced name says: which file is the new one, and which it is to replace. The number
-// makes the name one that never comes again.
+// The parts of an announced name: which file is the new one, which one it replaces, and a number
+// that makes the name unique.
 struct Announcement {
   std::string newTag;
   std::string oldTag;
@@ -189,7 +188,7 @@ struct Announcement {
   }
 };
 
-// Nothing when it is somebody else's name that only begins like one.
+// Nothing for another program's name that only begins in the same way.
 std::optional<Announcement> AnnouncementIn(std::string_view text) {
   if (text.find_first_not_of("0123456789abcdef-.") != text.npos) return std::nullopt;
   const std::size_t first = text.find('.');
@@ -202,9 +201,9 @@ std::optional<Announcement> AnnouncementIn(std::string_view text) {
 
 enum class Found { kNothing, kNewFile, kOldFile, kForeignFile };
 
-// Looks at what is under a name that nobody exchanges any more, and removes it. What is neither the
-// new file nor the one that it was to replace was put there by a program that knows nothing of
-// announcements: it goes back in place, unless the new file is there no longer either.
+// Checks which file is under a name that no writer exchanges any more, and removes it. A file that
+// is neither the new one nor the one to replace comes from a program that does not announce. It is
+// put back, unless the new file is no longer in place either.
 Found Settle(const Place &place, const Announcement &announcement, const std::string &name) {
   const std::string tag = TagAt(place, name);
   if (tag == kNoTag) return Found::kNothing;
@@ -218,8 +217,8 @@ Found Settle(const Place &place, const Announcement &announcement, const std::st
   return tag == announcement.newTag ? Found::kNewFile : Found::kOldFile;
 }
 
-// False when another writer has taken the file for left behind, between its making and this. On a
-// system without locks nobody can, and nothing is removed.
+// Locks a new named file. False when another writer took it for abandoned and removed it before
+// this. On a file system without locks, no writer removes such files.
 bool ShowLife(int descriptor) {
   if (flock(descriptor, LOCK_EX | LOCK_NB) != 0) return errno != EWOULDBLOCK;
   struct stat status = {};
@@ -234,7 +233,7 @@ void RemoveUnlessAlive(const Place &place, const std::string &name) {
   }
 }
 
-// Under the name that it takes, a file can no longer be exchanged by who announced it.
+// Renames an announced file, so that its writer can no longer exchange it.
 void TakeAway(const Place &place, const Announcement &announcement) {
   const std::string announced = announcement.Name(place, kAnnounced);
   const std::string taken = announcement.Name(place, kTaken);
@@ -258,7 +257,7 @@ std::vector<std::string> NamesIn(int folder) {
   }
 }
 
-// Of writers that are killed, and of those that are at work: they will begin anew.
+// Includes the files of killed writers and of running ones, which then start again.
 void TakeAwayAllBut(const std::string &own, const Place &place) {
   const std::string beside = place.Beside();
   for (const std::string &name : NamesIn(place.Folder())) {
@@ -279,8 +278,8 @@ void TakeAwayAllBut(const std::string &own, const Place &place) {
 
 // --- Taking the old file's place -----------------------------------------------------------------
 
-// What a system says that cannot do something at all. Also when it means something else, what comes
-// instead is refused at once and leaves nothing.
+// The errors of systems that do not support an operation. If the error has another cause, the
+// replacement for the operation fails as well and leaves no file.
 bool SaysUnsupported(int error) {
   constexpr std::array kErrors = {EOPNOTSUPP, EISDIR, EINVAL, ENOSYS, ENOENT, EPERM, EACCES};
   return std::find(kErrors.begin(), kErrors.end(), error) != kErrors.end();
@@ -291,7 +290,7 @@ bool Rename(const Place &place, const std::string &from, const std::string &to,
   return renameat2(place.Folder(), from.c_str(), place.Folder(), to.c_str(), flags) == 0;
 }
 
-// Nobody can say that what cannot be read is not worth keeping.
+// A file that cannot be read may be worth keeping.
 bool KeepUnreadable(const Place &place) {
   std::string name = place.name + kUnreadableEnding;
   for (int number = 2;; ++number) {
@@ -317,7 +316,7 @@ Result Exchange(const Place &place, const OldFile &old, const Announcement &anno
   const bool isExchange = HasPlace(old) && !isUnreadable;
   if (Rename(place, announced, place.name, isExchange ? RENAME_EXCHANGE : RENAME_NOREPLACE)) {
     if (!isExchange) return Result::kReplaced;
-    // Who has already done this in our place has not said what came out.
+    // Another writer may already have done this, and then the old file is not known.
     const Found found = Settle(place, announcement, announced);
     return found == Found::kOldFile ? Result::kReplaced : Result::kOvertaken;
   }
@@ -342,7 +341,7 @@ bool WriteAll(int descriptor, std::string_view contents) {
   return true;
 }
 
-// Until owner and group are known, the new file is its writer's alone.
+// Only the writer can use the new file until its owner and group are set.
 bool Fill(int descriptor, const Place &place, const OldFile &old, std::string_view contents) {
   if (old.outcome == ReadOutcome::kRead) {
     TakeRights(descriptor, old.file.Descriptor(), old.status);
@@ -367,7 +366,7 @@ int GiveName(int descriptor, const Place &place, const std::string &name) {
              : errno;
 }
 
-// Returns nothing when it cannot be done in this way.
+// Returns nothing when the file system does not support this.
 std::optional<Result> ReplaceByUnnamedFile(const Place &place, const OldFile &old,
                                            std::string_view contents) {
   const File file(openat(place.Folder(), ".", O_TMPFILE | O_WRONLY | O_CLOEXEC, kOwnerOnly));
@@ -375,7 +374,7 @@ std::optional<Result> ReplaceByUnnamedFile(const Place &place, const OldFile &ol
   if (!Fill(file.Descriptor(), place, old, contents)) return Result::kFailed;
   const auto announcement = Announce(file.Descriptor(), old);
   if (!announcement) return Result::kFailed;
-  // Where there was nothing, one step does: giving a name fails when it is taken.
+  // Without an old file, one step is enough: linking fails if the name exists.
   const std::string name = HasPlace(old) ? announcement->Name(place, kAnnounced) : place.name;
   if (!HasPlace(old)) TakeAwayAllBut("", place);
   switch (const int error = GiveName(file.Descriptor(), place, name)) {
@@ -429,12 +428,12 @@ Result TryToChange(const std::string &path, std::size_t most, const ContentsChan
   if (!contents) return Result::kFailed;
   std::optional<Result> result = ReplaceByUnnamedFile(place, old, *contents);
   if (!result) result = ReplaceByNamedFile(place, old, *contents);
-  // What a power cut must not undo is not only the contents but also the new name.
+  // A power cut must not undo the new name either.
   if (*result == Result::kReplaced) fsync(place.Folder());
   return *result;
 }
 
-// Not all at the same moment, so that they do not take away each other's names for ever.
+// Writers wait for different times, so that they do not rename each other's files for ever.
 void LetOthersFinish(int attempt) {
   const auto longest = static_cast<std::uint64_t>(50 * std::min(attempt, 40));
   std::this_thread::sleep_for(std::chrono::microseconds(NumberThatIsNew() % longest));

@@ -17,11 +17,11 @@ constexpr mode_t kRightsOfGroup = 0070;
 
 constexpr const char *kAccessList = "system.posix_acl_access";
 constexpr std::string_view kAttributesOfUsers = "user.";
-// The largest that a list of names or a value can be.
+// The largest size of a list of names or of a value.
 constexpr std::size_t kLargestAttribute = std::size_t{64} << 10;
 
-// Returns whether the file has the old one's group afterwards. Only root can give a file away; a
-// user can give it to groups of his.
+// Returns whether the file has the old one's group afterwards. Only root can change the owner; a
+// user can choose among the user's own groups.
 bool TakeOwnerAndGroup(int descriptor, const struct stat &old) {
   struct stat status = {};
   if (fstat(descriptor, &status) != 0) return false;
@@ -42,7 +42,7 @@ struct Attributes {
 };
 
 Attributes AttributesOf(int descriptor) {
-  // Nearly every file has none, or one that tells a security module what it is.
+  // Almost every file has none, or only one for a security module.
   std::array<char, 256> few;
   ssize_t size = flistxattr(descriptor, few.data(), few.size());
   std::string names(few.data(), size > 0 ? static_cast<std::size_t>(size) : 0);
@@ -64,14 +64,14 @@ void CopyAttributesOfUsers(int from, int to, std::string_view names) {
   }
 }
 
-// The new file may have got a list from its folder. Such a list lets its people do no more than the
-// mode lets the group do.
+// The new file may have inherited a list from its folder. Such a list grants no more than the mode
+// grants the group.
 bool HasNoAccessList(int descriptor, mode_t rights) {
   return (rights & kRightsOfGroup) == 0 || fremovexattr(descriptor, kAccessList) == 0 ||
          errno == ENODATA || errno == EOPNOTSUPP;
 }
 
-// What is left when the old file's group cannot be kept: its members are among all others now.
+// The rights that remain when the old file's group cannot be kept: its members now count as others.
 mode_t WithoutGroup(mode_t rights) { return rights & (0700 | (rights & kRightsOfGroup) >> 3); }
 
 }  // namespace

@@ -12,7 +12,7 @@
 namespace orv {
 namespace {
 
-// The base directory rules of desktop Linux ask for folders that only their owner can enter.
+// The desktop's base directory rules require folders that only their owner can enter.
 constexpr mode_t kOwnerOnly = 0700;
 
 constexpr int kFolder = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;

@@ -1,13 +1,12 @@
-// Making a user's folders. Any thread.
+// Makes a user's folders. Any thread.
 #pragma once
 
 #include <string>
 
 namespace orv {
 
-/// Makes a folder and those above it, as far as they are missing, for their owner alone. What root
-/// makes in somebody else's folder belongs to that folder's owner; what cannot be given away is not
-/// made.
+/// Makes a folder and the missing ones above it, for their owner only. What root makes in another
+/// user's folder belongs to that user; if that cannot be done, it is not made.
 void MakeFolder(const std::string &path);
 
 }  // namespace orv

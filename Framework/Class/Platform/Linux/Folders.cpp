@@ -22,8 +22,8 @@ std::optional<std::string> HomeOfAccount() {
   return found != nullptr ? AbsolutePathFrom(found->pw_dir) : std::nullopt;
 }
 
-// A program that runs with other rights than its user's does not let the user say where it writes:
-// it writes where the user whose rights it has keeps files.
+// In a set-user-id program, the user who started it must not choose where it writes: it uses the
+// home folder of the user whose rights it has.
 std::optional<std::string> ConfigurationFolder() {
   if (auto folder = AbsolutePathFrom(secure_getenv("XDG_CONFIG_HOME"))) return folder;
   auto home = AbsolutePathFrom(secure_getenv("HOME"));

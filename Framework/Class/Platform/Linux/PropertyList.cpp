@@ -20,8 +20,8 @@
 namespace orv {
 namespace {
 
-// The parser reads and writes real numbers in the thread's locale; in a host that speaks
-// German, 3.5 would come back as 3.
+// The parser uses the thread's locale for real numbers: in a host with a German locale, 3.5 would
+// become 3.
 class NumbersAsInC {
  public:
   NumbersAsInC() : c_(newlocale(LC_ALL_MASK, "C", nullptr)), before_(uselocale(c_)) {}
@@ -44,10 +44,10 @@ using Text = std::unique_ptr<char, FreeText>;
 
 // --- Reading -------------------------------------------------------------------------------------
 
-// What the contents of a file come to.
+// The result of parsing a file's contents.
 struct Parsed {
-  plist_t root = nullptr;  // when it is a dictionary
-  bool isTooMuch = false;  // it may be one, but is more than can be read
+  plist_t root = nullptr;  // if it is a dictionary
+  bool isTooMuch = false;  // it may be one, but is too large or too deep to read
 };
 
 bool IsDictionary(plist_t root) {
@@ -75,8 +75,8 @@ std::string_view TextOf(plist_t entry) {
 
 // --- Writing -------------------------------------------------------------------------------------
 
-// XML has no way to write most control characters, not even in a roundabout way; a binary list may
-// hold them. A carriage return has one: as it stands, those who read XML turn it into a line feed.
+// XML cannot represent most control characters, not even escaped; a binary list may contain them. A
+// carriage return must be escaped: XML readers turn a plain one into a line feed.
 bool IsSpecialInXml(char character) {
   return static_cast<unsigned char>(character) < 0x20 && character != '\t' && character != '\n';
 }
@@ -135,7 +135,7 @@ bool PropertyList::ChangeFile(const std::string &path,
         PropertyList list = parsed.root != nullptr ? PropertyList(parsed.root) : PropertyList();
         change(list);
         std::string xml = AsXml(list.root_);
-        // What would not be read again must not take the place of what can be read.
+        // A list that could not be read again must not replace one that can.
         if (xml.empty() || !WithinLimits(xml)) return std::nullopt;
         return xml;
       });

@@ -7,12 +7,12 @@ namespace orv {
 namespace {
 
 constexpr int kDeepestNesting = 128;
-// As many objects as fit into the largest XML file, near enough.
+// About as many objects as fit into the largest XML file.
 constexpr std::size_t kMostObjects = 200'000;
 
 // --- XML -----------------------------------------------------------------------------------------
 
-// Takes the text up to and with `end` off the front. Returns false when `end` does not come.
+// Removes the text up to and including `end` from the front. Returns false when `end` is missing.
 bool SkipPast(std::string_view end, std::string_view &text) {
   const std::size_t found = text.find(end);
   if (found == std::string_view::npos) return false;
@@ -20,7 +20,7 @@ bool SkipPast(std::string_view end, std::string_view &text) {
   return true;
 }
 
-// The length of a tag up to its '>', which may also stand inside quotes; npos when the tag does not
+// The length of a tag up to its '>'; one inside quotes does not count. npos when the tag does not
 // end.
 std::size_t TagLength(std::string_view text) {
   bool quoted = false;
@@ -33,9 +33,9 @@ std::size_t TagLength(std::string_view text) {
 
 Extent ExtentIf(bool hasEnd) { return hasEnd ? Extent::kWithinLimits : Extent::kNoList; }
 
-// Takes what stands behind "<!" or "<?" off the front. A document type with declarations of its own
-// is refused: no program writes one into a property list, and it is where entities that grow
-// without bound are declared.
+// Removes what follows "<!" or "<?" from the front. A document type with internal declarations is
+// refused: no program writes one into a property list, and it could declare entities that grow
+// without bound.
 Extent SkipDeclaration(std::string_view &text) {
   if (text.starts_with("!--")) {
     text.remove_prefix(3);
@@ -47,22 +47,22 @@ Extent SkipDeclaration(std::string_view &text) {
   const std::string_view content = text.substr(0, length);
   text.remove_prefix(length + 1);
   if (content.starts_with('?')) {
-    // The parser would go on to the next "?>".
+    // The parser would continue to the next "?>".
     return content.ends_with('?') ? Extent::kWithinLimits : Extent::kBeyondLimits;
   }
   if (!content.starts_with("!DOCTYPE")) return Extent::kNoList;
   return content.find('[') == content.npos ? Extent::kWithinLimits : Extent::kBeyondLimits;
 }
 
-// What nearly every property list in XML begins with.
+// The beginning of almost every property list in XML.
 constexpr std::string_view kUsualHead =
     R"(<?xml version="1.0" encoding="UTF-8"?>)"
     "\n"
     R"(<!DOCTYPE plist PUBLIC "-//Apple//DTD PLIST 1.0//EN" "http://www.apple.com/DTDs/PropertyList-1.0.dtd">)"
     "\n";
 
-// Looks only at tags, as the parser sees them. Every getter goes through this: what is usual is
-// recognised at once, and the many plain tags are told from the few declarations by one look.
+// Checks only tags, as the parser sees them. Every getter uses this, so the usual beginning is
+// recognised at once, and one comparison separates plain tags from declarations.
 Extent ExtentOfXml(std::string_view text) {
   int depth = 0;
   if (text.starts_with(kUsualHead)) text.remove_prefix(kUsualHead.size());
@@ -90,7 +90,7 @@ Extent ExtentOfXml(std::string_view text) {
 constexpr std::string_view kBinaryMagic = "bplist00";
 constexpr std::size_t kTrailerSize = 32;
 
-// The tree of objects in a binary property list, as far as containers and their members go.
+// The tree of objects in a binary property list: containers and their members only.
 class BinaryTree {
  public:
   explicit BinaryTree(std::string_view contents)
@@ -113,8 +113,8 @@ class BinaryTree {
   static constexpr std::uint8_t kSet = 0xC0;
   static constexpr std::uint8_t kDictionary = 0xD0;
 
-  // Bytes and numbers past the end read as 0; what the parser makes of such a file is bounded all
-  // the same, because every visit is counted.
+  // Bytes and numbers past the end read as 0. The parser's work on such a file is still bounded,
+  // because every visit is counted.
   std::uint8_t Byte(std::uint64_t position) const {
     return position < contents_.size() ? static_cast<std::uint8_t>(contents_[position])
                                        : std::uint8_t{0};
@@ -126,7 +126,7 @@ class BinaryTree {
     return number;
   }
 
-  // How many bytes, characters or members an object has; too many when that is not told properly.
+  // The number of bytes, characters or members of an object; too many when it is malformed.
   std::uint64_t CountAt(std::uint64_t &position, std::uint8_t marker) const {
     const std::uint64_t inMarker = marker & 0x0F;
     if (inMarker != 0x0F) return inMarker;
@@ -138,7 +138,7 @@ class BinaryTree {
     return count;
   }
 
-  // A leaf is copied for each reference to it, so each reference counts.
+  // The parser copies a leaf for each reference to it, so each reference counts.
   Extent TakeLeaf(std::uint64_t bytes) {
     if (bytes > contents_.size()) return Extent::kNoList;
     leafBytes_ += bytes;

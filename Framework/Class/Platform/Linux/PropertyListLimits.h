@@ -1,6 +1,6 @@
-// What a property list may be like before it is handed to the parser. The parser descends once a
-// level, in reading, writing and freeing, and copies an object for each reference to it: without
-// limits a few hundred bytes exhaust stack or memory.
+// Limits for property lists that are given to the parser. The parser recurses once for each level
+// when it reads, writes and frees, and copies an object for each reference to it: without limits, a
+// few hundred bytes exhaust stack or memory.
 #pragma once
 
 #include <cstddef>
@@ -13,12 +13,12 @@ inline constexpr std::size_t kLargestPropertyList = std::size_t{4} << 20;
 
 enum class Extent {
   kWithinLimits,
-  kBeyondLimits,  // may be a property list, but the parser must not be given it
-  kNoList,        // cut off or no property list: the parser may not see where it ends
+  kBeyondLimits,  // may be a property list, but must not be given to the parser
+  kNoList,        // truncated or no property list: the parser might read past its end
 };
 
-/// Whether the parser can read the text, XML or binary, in bounded stack and memory. Says nothing
-/// else about whether it is a well-formed property list.
+/// Whether the parser can read the text, XML or binary, with bounded stack and memory. The text may
+/// still be malformed in other ways.
 Extent ExtentOf(std::string_view contents);
 
 inline bool WithinLimits(std::string_view contents) {
