@@ -16,14 +16,14 @@ extern "C" {
 /**
  * Gives the descriptor to watch for reading.
  *
- * It is readable whenever something is left to deliver, and stays the same for the life of the
- * process, also when the session bus goes away and comes back. It may be readable with nothing to
- * deliver, about once a second while the library looks for a bus that is away. After fork() the
- * child starts without registrations and gets a descriptor of its own. Watch it with poll, epoll,
- * GLib, Qt or anything else; never read from it, write to it or close it.
+ * It is readable when something is left to deliver. It stays the same for the life of the process,
+ * also when the session bus ends and comes back. It may be readable with nothing to deliver, about
+ * once a second while the library looks for a missing bus. After fork(), the child has no
+ * registrations and gets a new descriptor. Watch it with poll, epoll, GLib, Qt or anything else;
+ * never read from it, write to it or close it.
  *
- * @param descriptor  receives the descriptor; -1 when the process has no descriptor to spare (ask
- *     again later).
+ * @param descriptor  receives the descriptor; -1 when the process has no free descriptor (ask again
+ *     later).
  * @return ORV_SUCCESS; ORV_BAD_ARGUMENT for a null pointer.
  *
  * Any thread. Since 1.0.
@@ -32,9 +32,9 @@ ORV_EXPORT StatusCode ORV_GetNotificationDescriptor(int32_t *descriptor);
 
 /**
  * Delivers all notifications that have arrived: calls the registered callbacks on the calling
- * thread, in the order in which each poster announced. Never blocks. What the callbacks themselves
- * cause is delivered by the next call. Callbacks may call any function of the library, this one
- * included.
+ * thread. The announcements of one process and thread are delivered in their order. Never blocks.
+ * What the callbacks cause is delivered by the next call. Callbacks may call any function of the
+ * library, including this one.
  *
  * @return ORV_SUCCESS, always.
  *

@@ -1,6 +1,6 @@
-// The way every family and every query reaches the mixers: look once, then open each by position,
-// act, close. A unit that does not open, for whatever reason, is skipped in silence; so is one
-// unplugged since the look.
+// How every setting and every query reaches the mixers: look once, then open each by position, act,
+// close. A unit that does not open is skipped, for whatever reason; so is one unplugged since the
+// look.
 #pragma once
 
 #include <cstdint>
@@ -10,8 +10,8 @@
 
 namespace orv {
 
-/// The units that one exported call finds: it looks when this is made, and visits what it found, as
-/// often as it has to. Must not outlive the call.
+/// The units that one exported call finds. The constructor looks at the bus; the units can then be
+/// visited several times. Must not outlive the call.
 class ConnectedUnits {
  public:
   explicit ConnectedUnits(ProductId productId) noexcept
@@ -19,8 +19,8 @@ class ConnectedUnits {
 
   std::int32_t Count() const { return count_; }
 
-  /// Opens the unit at a position and closes it behind `use`, which gets its handle. Returns
-  /// whether it could be opened.
+  /// Opens the unit at a position, calls `use` with its handle, and closes it. Returns whether it
+  /// could be opened.
   template <typename Use>
   bool WithUnit(std::int32_t position, Use use) const {
     DeviceHandle unit = nullptr;
@@ -36,7 +36,7 @@ class ConnectedUnits {
   std::int32_t count_;
 };
 
-/// Whether the units behind this one are to be visited too.
+/// Whether to visit the units after this one.
 enum class Visit { kNext, kStop };
 
 /// Opens each unit in turn, calls `visit` with its handle, and closes it. `visit` returns a Visit.
@@ -55,8 +55,8 @@ void VisitFirstUnit(const ConnectedUnits &units, Visitor visit) {
   if (units.Count() > 0) units.WithUnit(0, visit);
 }
 
-/// Sends one write request to every connected unit; what the units answer does not matter. Returns
-/// the units, for a caller that visits them again.
+/// Sends one write request to every connected unit and ignores the results. Returns the units, for
+/// a caller that visits them again.
 ConnectedUnits ApplyToEveryUnit(ProductId productId, const auto &request, std::uint16_t value) {
   ConnectedUnits units(productId);
   VisitUnits(units, [&](DeviceHandle unit) {

@@ -1,5 +1,5 @@
-// What crosses the wire: vendor control requests on endpoint 0 of an open unit. All may run on any
-// thread and on several at once; each blocks until the transfer is done or has failed.
+// Vendor control requests on endpoint 0 of an open unit. All functions may run on any thread and on
+// several at once; each blocks until the transfer has ended.
 #pragma once
 
 #include <cstdint>
@@ -16,13 +16,13 @@ PlatformStatus DeviceRequest(DeviceHandle handle, std::uint8_t bmRequestType, st
                              std::uint16_t wValue, std::uint16_t wIndex, void *data,
                              std::uint16_t *length) noexcept;
 
-/// Asks a unit for `length` bytes into `buffer`. A short or failed reply leaves the rest of the
-/// buffer as it was, and the status does not tell a short reply from a full one: clear or preset
-/// the buffer.
+/// Reads `length` bytes from a unit into `buffer`. A short or failed reply leaves the rest of the
+/// buffer as it was, and a short reply has the same status as a full one: clear or preset the
+/// buffer.
 PlatformStatus Read(DeviceHandle handle, std::uint16_t selector, void *buffer,
                     std::uint16_t length) noexcept;
 
-/// Sends a unit a value. It travels in wValue; there is no data stage.
+/// Sends a value to a unit, in wValue; there is no data stage.
 PlatformStatus Write(DeviceHandle handle, std::uint16_t selector, std::uint16_t value) noexcept;
 
 /// A request that reads, called as a function.
@@ -44,12 +44,12 @@ struct WriteRequest {
   }
 };
 
-// Reads and writes have selectors of their own: the same number may mean another thing in the other
+// Reads and writes have separate selectors: the same number may have another meaning in the other
 // direction.
 
 /// 2 bytes, least significant first.
 inline constexpr ReadRequest GetFirmwareVersionNumber = {0x8001};
-/// A leading byte, then one byte a mixer channel: the position of its input selector.
+/// A leading byte, then one byte for each mixer channel: the position of its input selector.
 inline constexpr ReadRequest GetInputSelectorInfo = {0x8002};
 /// 2 bytes; the first is 1 while Serato is active, else 0.
 inline constexpr ReadRequest GetSeratoActiveInfo = {0x8004};
@@ -58,16 +58,15 @@ inline constexpr ReadRequest GetPortInfo = {0x8006};
 /// 4 bytes, most significant first.
 inline constexpr ReadRequest GetCertifyLevel = {0x8007};
 
-/// Routing of what the mixer sends to the computer, that is, of what the computer records. The two
-/// routings are named as the mixer sees them.
+/// The routing of what the computer records. The names of the two routings take the mixer's view.
 inline constexpr WriteRequest SetMixerOutputSetting = {0x8002};
 /// Level step of the USB output, in the high byte.
 inline constexpr WriteRequest SetUSBOutputLevelSetting = {0x8003};
 /// MIDI channel, in the high byte.
 inline constexpr WriteRequest SetMidiChannelSetting = {0x8004};
-/// MIDI key mode. Part of the protocol; no model offers a key mode, so it is never sent.
+/// MIDI key mode. Part of the protocol; no model has a key mode, so it is never sent.
 inline constexpr WriteRequest SetMidiKeyModeSetting = {0x8005};
-/// Routing of what the computer sends to the mixer. Mind the number: it is not 0x8006.
+/// The routing of what the computer plays. The number is 0x8016, not 0x8006.
 inline constexpr WriteRequest SetMixerInputSetting = {0x8016};
 
 }  // namespace orv

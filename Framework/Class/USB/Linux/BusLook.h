@@ -14,8 +14,8 @@ struct UnitAddress {
   auto operator<=>(const UnitAddress &) const = default;
 };
 
-/// What one exported call saw on the bus: the units in their order. Units are opened by address, so
-/// one that goes away leaves the others their positions for as long as the call lasts.
+/// The units that one exported call saw on the bus, in order. Units are opened by address: when one
+/// goes away, the others keep their positions until the call ends.
 using BusLook = std::vector<UnitAddress>;
 
 }  // namespace orv

@@ -18,8 +18,8 @@ namespace {
 
 constexpr const char *kDevicesFolder = "/sys/bus/usb/devices";
 
-// The folder of devices. opendir would do, but every call that reaches a mixer comes here, and
-// opendir asks for the status of the folder and for 32 KiB of memory each time.
+// The folder of devices. Every call that reaches a mixer reads it, and opendir would also get the
+// status of the folder and allocate 32 KiB each time.
 class Folder {
  public:
   Folder() : descriptor_(open(kDevicesFolder, O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
@@ -50,15 +50,15 @@ class Folder {
   alignas(dirent64) std::array<char, 8192> entries_;
 };
 
-// Interfaces have a colon in their name ("1-2:1.0"), root hubs are called "usb1" and so on. Neither
-// can be a mixer, and to know it from the name saves opening their files.
+// Interfaces have a colon in their name ("1-2:1.0"); root hubs are called "usb1" and so on. Neither
+// can be a mixer. Knowing it from the name saves opening their files.
 bool MayBeUnit(std::string_view name) {
   return !name.starts_with('.') && !name.starts_with("usb") &&
          name.find(':') == std::string_view::npos;
 }
 
-// The kernel's summary of a device, one KEY=VALUE a line: ids and address in a single read. The
-// kernel gives no attribute more than this.
+// The kernel's summary of a device, one KEY=VALUE on each line: ids and address in a single read.
+// No attribute is larger than this.
 using Summary = std::array<char, 4096>;
 
 std::string_view ReadSummary(int folder, const char *name, Summary &summary) {
@@ -83,7 +83,7 @@ std::string_view ValueOf(std::string_view key, std::string_view summary) {
   return {};
 }
 
-// Takes a number and, unless it ends the text, the separator behind it off the front of the text.
+// Removes a number from the front of the text, and the separator after it if there is one.
 std::optional<std::uint16_t> TakeNumber(std::string_view &text, int base, char separator) {
   std::uint16_t number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);

@@ -1,12 +1,12 @@
-// The walk over the USB devices that the kernel shows.
+// Lists the mixers among the USB devices of the kernel.
 #pragma once
 
 #include "BusLook.h"
 
 namespace orv {
 
-/// The units connected now, in the order of the bus. Looks at the bus afresh each time; an entry
-/// that vanishes while the walk looks at it is passed over. May throw std::bad_alloc.
+/// The units connected now, in the order of the bus. Reads the devices anew each time and skips an
+/// entry that vanishes meanwhile. May throw std::bad_alloc.
 BusLook LookAtBus();
 
 }  // namespace orv

@@ -17,7 +17,7 @@ using std::chrono::steady_clock;
 
 constexpr milliseconds kPatience(5000);
 
-// Signals for this thread wait as long as this lives.
+// Blocks all signals for this thread until the object ends.
 class HeldBackSignals {
  public:
   HeldBackSignals() {
@@ -40,10 +40,10 @@ int Try(int descriptor, usbdevfs_ctrltransfer &transfer, milliseconds patience) 
   return transferred < 0 ? -errno : transferred;
 }
 
-// A host's own timers and signals must not cost it a setting: the kernel gives a request up when
-// one arrives, and all requests may be repeated. Once is enough: the mixer has seen the request
-// already, and a host with a hundred signals a second would send it as often. The time that was
-// waited before counts. What no mask holds back may still interrupt.
+// A host's timers and signals must not cost it a setting: the kernel aborts a request when a signal
+// arrives, and all requests may be repeated. The repeated request runs with signals blocked: the
+// mixer has already seen the request, and a host with a hundred signals per second would send it as
+// often. The time already spent counts. Signals that cannot be blocked may still interrupt.
 int Transfer(int descriptor, usbdevfs_ctrltransfer &transfer) {
   const auto deadline = steady_clock::now() + kPatience;
   int result = Try(descriptor, transfer, kPatience);

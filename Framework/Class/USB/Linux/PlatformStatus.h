@@ -1,12 +1,12 @@
-// The results of platform calls. Linux has errno; the values here are those of IOKit, so that all
-// code above the platform halves, and whoever reads its logs, deals with one vocabulary.
+// The results of platform calls. The values are those of IOKit, also for errors that Linux reports
+// in errno, so that shared code has one set of values.
 #pragma once
 
 #include <cstdint>
 
 namespace orv {
 
-/// What a platform operation answers; 0 is success.
+/// The result of a platform operation; 0 is success.
 using PlatformStatus = std::int32_t;
 
 inline constexpr PlatformStatus kIOReturnSuccess = 0;
@@ -23,8 +23,7 @@ inline constexpr auto kIOReturnNotResponding = static_cast<PlatformStatus>(0xE00
 inline constexpr auto kIOUSBPipeStalled = static_cast<PlatformStatus>(0xE000404F);
 inline constexpr auto kIOUSBTransactionTimeout = static_cast<PlatformStatus>(0xE0004051);
 
-/// The status that names an error of the operating system; kIOReturnError for one without a
-/// namesake.
+/// The status for an errno value; kIOReturnError for one without a counterpart.
 PlatformStatus PlatformStatusFromErrno(int error) noexcept;
 
 }  // namespace orv

@@ -16,9 +16,9 @@
 namespace orv {
 namespace {
 
-// What the host prints must not reach a mixer where a closed standard stream would lend the node
-// its number. The node is opened once more instead of moved: software mixers know it by the
-// descriptor that opening gave.
+// When a host has closed a standard stream, the node may get its number, and the host's output
+// would go to the mixer. The node is then opened again, not duplicated: software mixers recognise
+// it by the descriptor that open returned.
 int OpenAwayFromStandardStreams(const char *path) {
   const int descriptor = open(path, O_RDWR | O_CLOEXEC);
   if (descriptor < 0 || descriptor > STDERR_FILENO) return descriptor;
@@ -27,9 +27,9 @@ int OpenAwayFromStandardStreams(const char *path) {
   return next;
 }
 
-// Device numbers are given again, and a process may be stopped between its look and the opening:
-// what was opened may be another device by now, which must never get a request meant for a mixer.
-// The node begins with the device's descriptor, its numbers in the byte order of this machine.
+// Device numbers are reused, and a process may be stopped between its look and the opening. The
+// opened node may by now be another device, which must never get a request for a mixer. The node
+// begins with the device's descriptor, with numbers in the byte order of this machine.
 PlatformStatus CheckIsMixer(int descriptor) {
   usb_device_descriptor device;
   const ssize_t size = pread(descriptor, &device, sizeof device, 0);
