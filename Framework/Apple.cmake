@@ -1,8 +1,8 @@
-# The framework, laid out as macOS wants it. CMake makes Versions/A, Current and the links to Headers, Resources and the library.
+# The framework in macOS's layout. CMake makes Versions/A, Current and the links to Headers, Resources and the library.
 
-# The library reads its texts and its version at this very place (see VersionTexts.cpp), so it is installed there, whatever the
-# prefix, and hosts find it there: the name that they are linked with is a fixed path and not one below @rpath. A host that
-# carries a framework of its own along would get the texts of the installed one all the same.
+# The library reads its texts and its version at this fixed place (see VersionTexts.cpp), so it is installed there, whatever the
+# prefix, and hosts are linked to this path, not to one below @rpath. A host with its own copy of the framework would still get the
+# texts of the installed one.
 set(TRX_FRAMEWORKS_FOLDER /Library/Frameworks CACHE STRING "Where the framework is installed and found by its hosts")
 
 set(module_map ${CMAKE_CURRENT_SOURCE_DIR}/module.modulemap)
@@ -12,10 +12,10 @@ write_exported_symbols_list(${exported_symbols} ${public_headers})
 add_library(TRX-SELVASetup SHARED ${public_headers} ${module_map})
 add_library(TRX-SELVASetup::TRX-SELVASetup ALIAS TRX-SELVASetup)
 
-# --- What it is compiled of -------------------------------------------------------------------------------------------
+# --- Sources ----------------------------------------------------------------------------------------------------------
 
 target_compile_definitions(TRX-SELVASetup PRIVATE MAKER_USB_VENDOR_ID=${MAKER_USB_VENDOR_ID})
-# References are counted by hand throughout.
+# All code counts references by hand.
 target_compile_options(TRX-SELVASetup PRIVATE $<$<COMPILE_LANGUAGE:OBJCXX>:-fno-objc-arc>)
 target_include_directories(TRX-SELVASetup
   PUBLIC ${PROJECT_SOURCE_DIR}/include
@@ -41,11 +41,11 @@ set_target_properties(TRX-SELVASetup PROPERTIES
   MACHO_COMPATIBILITY_VERSION ${PROJECT_VERSION_MAJOR}
   MACHO_CURRENT_VERSION ${PROJECT_VERSION}
   INSTALL_NAME_DIR ${TRX_FRAMEWORKS_FOLDER}
-  # Nothing is changed when it is installed, so a signature made in the build stays good.
+  # Installation changes nothing, so a signature made in the build stays valid.
   BUILD_WITH_INSTALL_NAME_DIR ON)
 
 set_source_files_properties(${module_map} PROPERTIES MACOSX_PACKAGE_LOCATION Modules)
-# The one link that CMake does not make itself.
+# The one link that CMake does not make.
 set(bundle ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/TRX-SELVASetup.framework)
 file(MAKE_DIRECTORY ${bundle})
 file(CREATE_LINK Versions/Current/Modules ${bundle}/Modules SYMBOLIC)

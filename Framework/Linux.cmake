@@ -3,7 +3,7 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(LIBPLIST REQUIRED IMPORTED_TARGET libplist-2.0)
 pkg_check_modules(LIBSYSTEMD REQUIRED IMPORTED_TARGET libsystemd)
 
-# The code once, as objects: the shared library exports the public functions only, and the unit tests reach the seams.
+# Compiled once, as objects: the shared library exports only the public functions, and unit tests can use the rest.
 add_library(framework OBJECT
   Class/ORVFunc/Linux/Observe.cpp
   Class/Platform/Linux/EventLoop.cpp
@@ -36,8 +36,8 @@ target_include_directories(framework
          Class/Platform Class/Platform/Linux
          Class/USB Class/USB/Linux)
 target_link_libraries(framework PRIVATE framework-shared PUBLIC PkgConfig::LIBPLIST PkgConfig::LIBSYSTEMD)
-# Functions that do the same are not made one by the optimiser: each keeps its place in the debug information, from which
-# tests/installation/abi describes the exported interface.
+# The optimiser must not merge identical functions: each needs its own debug information, from which tests/installation/abi
+# describes the exported interface.
 target_compile_options(framework PRIVATE $<$<AND:$<CXX_COMPILER_ID:GNU>,$<NOT:$<CONFIG:Debug>>>:-fno-ipa-icf>)
 
 write_version_script(${CMAKE_CURRENT_BINARY_DIR}/TRX-SELVASetup.map
@@ -52,12 +52,12 @@ set_target_properties(TRX-SELVASetup PROPERTIES
   VERSION ${PROJECT_VERSION}
   SOVERSION ${PROJECT_VERSION_MAJOR}
   LINK_DEPENDS ${CMAKE_CURRENT_BINARY_DIR}/TRX-SELVASetup.map)
-# Texts that were handed out stay valid for the life of the process, so the library stays loaded; and its functions call each
-# other, whatever a host calls its own.
+# Texts stay valid for the life of the process, so the library is never unloaded. Its functions call each other, even if a host
+# defines functions with the same names.
 target_link_options(TRX-SELVASetup PRIVATE
   -Wl,-z,nodelete -Wl,-Bsymbolic-functions
   -Wl,--version-script=${CMAKE_CURRENT_BINARY_DIR}/TRX-SELVASetup.map)
-# What clang's sanitizers call is in the program, so there the library may have it undefined.
+# The functions of clang's sanitizers are in the program, so there the library may leave them undefined.
 if(NOT (TRX_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang"))
   target_link_options(TRX-SELVASetup PRIVATE -Wl,--no-undefined)
 endif()

@@ -88,7 +88,7 @@ def holds(ratio, promise):
 
 class Table:
     def __init__(self):
-        self.rows = ["| what | against | system calls | instructions | time | promise | what limits it |",
+        self.rows = ["| what | against | system calls | instructions | time | promise | what dominates the cost |",
                      "|---|---|---|---|---|---|---|"]
         self.missed = []
 

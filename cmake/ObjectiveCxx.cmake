@@ -1,9 +1,9 @@
-# Objective-C++ with the compiler that knows it best, whatever compiles the rest; on macOS that is the compiler of the rest.
+# Objective-C++ is compiled by clang, whatever compiles the rest; on macOS both are the same.
 if(NOT APPLE)
   find_program(CLANGXX clang++ REQUIRED)
   set(CMAKE_OBJCXX_COMPILER ${CLANGXX})
 endif()
-# How precompiled headers begin and what they are called is one variable for all languages, set by the one enabled last.
+# The variables for the beginning and the name of precompiled headers are shared by all languages and set by the last one enabled.
 foreach(part EXTENSION PROLOGUE EPILOGUE)
   set(pch_${part} "${CMAKE_PCH_${part}}")
 endforeach()

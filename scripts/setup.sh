@@ -1,5 +1,5 @@
 # shellcheck shell=bash disable=SC2034
-# What the other scripts share: the Debian packages that the project needs, their installation, and the build.
+# Shared by the other scripts: the Debian packages that the project needs, their installation, and the build.
 
 build_packages=(
   cmake g++ ninja-build pkg-config
@@ -31,7 +31,7 @@ lint_packages=(
   clang-format clang-tidy cppcheck shellcheck
 )
 
-# Installs those of the named packages that are missing; does nothing, and needs no network and no rights, when none is.
+# Installs the missing ones of the named packages. When none is missing, it needs no network and no rights.
 install_missing() {
   local missing=() package
   for package in "$@"; do
@@ -52,8 +52,7 @@ install_missing() {
     apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# What was compiled before is taken from ccache, where it is installed. Without the second line it keeps nothing of what uses
-# precompiled headers.
+# Uses ccache if it is installed. Without the second line it does not cache what uses precompiled headers.
 if command -v ccache >/dev/null; then
   export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache CMAKE_OBJCXX_COMPILER_LAUNCHER=ccache
   export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS-pch_defines,time_macros}
@@ -65,15 +64,15 @@ build_preset() {
   cmake --build --preset "$1"
 }
 
-# Runs a command on software mixers, as many as the first argument says, with the programs of the release build. Bus, settings and
-# runtime folder are made for the occasion.
+# Runs a command on software mixers with the programs of the release build; the first argument is the number of mixers. Session bus,
+# settings and runtime folder are temporary.
 on_software_mixers() (
   units=$1
   shift
   stage=$(mktemp -d)
   trap 'rm -rf "$stage"' EXIT
 
-  # The bus's own remarks, such as that it may not raise its descriptor limit, are shown only when something fails.
+  # The bus's own messages, for example that it may not raise its descriptor limit, are shown only after a failure.
   # shellcheck disable=SC2016
   env XDG_CONFIG_HOME="$stage/settings" XDG_RUNTIME_DIR="$stage" \
     PATH="$PWD/build/release/bin:$PATH" TRX_SYSTEM_ROOT="$PWD/build/release/share/orvikaudio" \
