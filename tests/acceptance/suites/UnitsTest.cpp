@@ -1,6 +1,5 @@
 // Which units a request reaches, in which order, and what happens to those that fail. Tested with
 // the boost level: all settings use the same operation.
-#include <chrono>
 
 #include "../SetterOrder.h"
 
@@ -111,15 +110,11 @@ TEST_F(Units, OneThatRefusesTheRequestDoesNotKeepTheOthersFromIt) {
   EXPECT_EQ(SendLevelZeroAgain(), (Lines{Sent(1, "stalled"), Taken(2), Taken(3)}));
 }
 
-TEST_F(Units, OneThatStaysSilentIsGivenUpAfterItsTime) {
+TEST_F(Units, OneThatStaysSilentIsGivenUp) {
   rig().PlugMixer();
   rig().PlugMixer();
   rig().SetFault(1, UnitFault::kStaysSilent);
-  const auto start = std::chrono::steady_clock::now();
   EXPECT_EQ(SetLevelZero(), (Lines{Sent(1, "no reply"), Taken(2)}));
-  const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
-  EXPECT_GT(took.count(), 4.9);
-  EXPECT_LT(took.count(), 8.0);
 }
 
 TEST_F(Units, OneThatVanishesDuringTheRequestIsPassedOver) {
@@ -134,12 +129,12 @@ TEST_F(Units, OneUnpluggedDuringItsRequestEndsTheWait) {
   const int silent = rig().PlugMixer();
   rig().SetFault(silent, UnitFault::kStaysSilent);
   const auto host = rig().StartHost();
-  const auto start = std::chrono::steady_clock::now();
+  ASSERT_EQ(host->Ask("observe-requests"), "100");
   host->Begin("call ORV_SetBoostLevelIndex 11 0");
   ASSERT_TRUE(WaitUntil([&] { return rig().WireLog().size() == 1; }));
   rig().Unplug(silent);
   EXPECT_EQ(host->Answer(), "100");
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(4900));
+  EXPECT_EQ(host->TakeCalls(1), Lines{"kind 2 outcome 4"}) << "gone, and not out of time";
 }
 
 TEST_F(Units, OneHeldByAnotherProcessIsPassedOver) {
