@@ -27,6 +27,11 @@ void WaitForAddress(int descriptor) {
 }  // namespace
 
 PrivateSessionBus::PrivateSessionBus() {
+  Start();
+  setenv("DBUS_SESSION_BUS_ADDRESS", address_.c_str(), 1);
+}
+
+void PrivateSessionBus::Start() {
   std::array<int, 2> ends = {};
   if (pipe2(ends.data(), O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
   const std::string address = "--address=" + address_;
@@ -41,13 +46,29 @@ PrivateSessionBus::PrivateSessionBus() {
   close(ends[1]);
   WaitForAddress(ends[0]);
   close(ends[0]);
-  setenv("DBUS_SESSION_BUS_ADDRESS", address_.c_str(), 1);
 }
 
 PrivateSessionBus::~PrivateSessionBus() {
-  kill(daemon_, SIGTERM);
-  waitpid(daemon_, nullptr, 0);
+  Stop();
   unsetenv("DBUS_SESSION_BUS_ADDRESS");
 }
+
+void PrivateSessionBus::Stop() {
+  if (daemon_ < 0) return;
+  kill(daemon_, SIGKILL);
+  waitpid(daemon_, nullptr, 0);
+  daemon_ = -1;
+  unlink((folder_ / "bus").c_str());
+}
+
+void PrivateSessionBus::Freeze() {
+  kill(daemon_, SIGSTOP);
+  int status = 0;
+  if (waitpid(daemon_, &status, WUNTRACED) != daemon_ || !WIFSTOPPED(status)) {
+    throw std::runtime_error("the bus daemon does not stop");
+  }
+}
+
+void PrivateSessionBus::Thaw() { kill(daemon_, SIGCONT); }
 
 }  // namespace trxtest

@@ -3,11 +3,15 @@
 
 #include <string>
 
+#include <sys/types.h>
+
 #include "TemporaryFolder.h"
 
 namespace trxtest {
 
-/// Runs a bus daemon until the object ends and makes it the session bus of this process.
+/// Runs a bus daemon until the object ends and makes it the session bus of this process. The daemon
+/// can be stopped, started again at the same place, and frozen: then it stays there and does
+/// nothing.
 class PrivateSessionBus {
  public:
   PrivateSessionBus();
@@ -16,6 +20,11 @@ class PrivateSessionBus {
   ~PrivateSessionBus();
 
   const std::string &Address() const { return address_; }
+
+  void Start();
+  void Stop();
+  void Freeze();
+  void Thaw();
 
  private:
   TemporaryFolder folder_;

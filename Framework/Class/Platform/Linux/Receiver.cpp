@@ -138,8 +138,7 @@ void Receiver::Add(const std::string &name, NotificationHandler handler) {
     Connect();
     Process(patience_);
   }
-  // A bus that hangs is waited for once.
-  patience_ = unanswered_ == 0 ? kBusPatience : 0;
+  if (unanswered_ > 0) patience_ = 0;  // a bus that hangs is waited for once
 }
 
 void Receiver::Dispatch() {
@@ -147,6 +146,8 @@ void Receiver::Dispatch() {
   if (!bus_ && !observations_.empty()) Connect();
   if (MonotonicNow() >= NextQuestion()) AskAgain();
   Process(0);
+  // A handler that leaves by longjmp never comes back here.
+  if (!arrived_.empty()) WatchEverything();
   std::size_t left = arrived_.size();
   while (left-- > 0 && !arrived_.empty() && receiver.load() == this) DeliverFirst();
 }
@@ -154,6 +155,7 @@ void Receiver::Dispatch() {
 void Receiver::Connect() {
   bus_ = ConnectToBus();
   if (!bus_) return;
+  patience_ = kBusPatience;
   sd_bus_add_filter(bus_.get(), nullptr, Arrived, this);
   for (auto it = observations_.begin(); it != observations_.end(); ++it) {
     const bool isAskedFor = std::any_of(observations_.begin(), it, [&](const Observation &earlier) {
@@ -212,7 +214,7 @@ int Receiver::Arrived(sd_bus_message *message, void *self, sd_bus_error * /*erro
 // A bus that has not answered in time has not refused: it will come to what it was asked for.
 int Receiver::Answered(sd_bus_message *answer, void *observation, sd_bus_error * /*error*/) {
   auto &asked = *static_cast<Observation *>(observation);
-  --asked.owner->unanswered_;
+  if (--asked.owner->unanswered_ == 0) asked.owner->patience_ = kBusPatience;
   asked.isRefused = sd_bus_message_is_method_error(answer, nullptr) > 0 &&
                     sd_bus_message_is_method_error(answer, SD_BUS_ERROR_NO_REPLY) <= 0;
   if (asked.isRefused) asked.owner->askAgainAt_ = MonotonicNow() + kBusRetryPause;
@@ -242,10 +244,19 @@ bool Receiver::Process(std::uint64_t patience) {
 void Receiver::DeliverFirst() {
   const Notification notification = std::move(arrived_.front());
   arrived_.pop_front();
+  if (arrived_.empty()) ShowBacklog();
   const std::size_t count = observations_.size();
   for (std::size_t i = 0; i < count; ++i) {
     if (observations_[i].name == notification.name) observations_[i].handler(notification);
   }
+}
+
+void Receiver::ShowBacklog() {
+  const WatchSet *const set = TheWatchSet();
+  if (set == nullptr) return;
+  eventfd_t count = 0;
+  eventfd_read(set->backlog, &count);
+  if (!arrived_.empty()) eventfd_write(set->backlog, 1);
 }
 
 // Nothing is left to see to in a child that a handler has forked: the receiver is its parent's.
@@ -253,20 +264,20 @@ void Receiver::WatchEverything() {
   if (receiver.load() != this) return;
   const WatchSet *const set = TheWatchSet();
   if (set == nullptr) return;
-  eventfd_t count = 0;
-  eventfd_read(set->backlog, &count);
-  if (!arrived_.empty()) eventfd_write(set->backlog, 1);
+  ShowBacklog();
   SetTimer(set->timer, bus_ ? std::min(WatchBus(set->epoll), NextQuestion()) : NextLookForABus());
 }
 
-// Returns when the connection needs a turn whatever arrives.
+// Returns when the connection needs a turn whatever arrives. One that cannot be watched now, for
+// want of memory, needs one soon.
 std::uint64_t Receiver::WatchBus(int set) {
   watchedBus_ = sd_bus_get_fd(bus_.get());
   const int events = sd_bus_get_events(bus_.get());
-  if (watchedBus_ >= 0 && events >= 0) Watch(set, watchedBus_, static_cast<std::uint32_t>(events));
+  const bool isWatched = watchedBus_ >= 0 && events >= 0 &&
+                         Watch(set, watchedBus_, static_cast<std::uint32_t>(events));
   std::uint64_t timeLimit = kNever;
   sd_bus_get_timeout(bus_.get(), &timeLimit);
-  return timeLimit;
+  return isWatched ? timeLimit : std::min(timeLimit, MonotonicNow() + kBusRetryPause);
 }
 
 std::uint64_t Receiver::NextLookForABus() const {

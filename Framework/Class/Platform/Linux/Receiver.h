@@ -51,6 +51,7 @@ class Receiver {
   void DeliverFirst();
 
   void WatchEverything();
+  void ShowBacklog();
   std::uint64_t WatchBus(int set);
   std::uint64_t NextLookForABus() const;
   std::uint64_t NextQuestion() const;

@@ -32,6 +32,17 @@ std::ptrdiff_t OpenDescriptors(pid_t process) {
   return EntriesOf("/proc/" + std::to_string(process) + "/fd");
 }
 
+// What each open descriptor of this process is, such as "socket:[4711]".
+std::vector<std::string> DescriptorTargets() {
+  std::vector<std::string> targets;
+  for (const auto &entry : fs::directory_iterator("/proc/self/fd")) {
+    const std::string target = fs::read_symlink(entry.path());
+    if (!target.ends_with("/fd")) targets.push_back(target);  // the folder that is read here
+  }
+  std::sort(targets.begin(), targets.end());
+  return targets;
+}
+
 class Process : public Deliveries {};
 
 TEST_F(Process, NoThreadIsEverStarted) {
@@ -297,6 +308,17 @@ void ExpectInChild(const std::function<bool()> &body) {
   int status = 0;
   ASSERT_EQ(waitpid(child, &status, 0), child);
   EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "status " << status;
+}
+
+// A connection that a child kept would outlive its parent: to the bus the parent was still there.
+TEST_F(Process, AForkedChildHoldsNoDescriptorOfTheParentsRegistrations) {
+  const std::vector<std::string> before = DescriptorTargets();
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_GT(DescriptorTargets().size(), before.size());
+  ExpectInChild([&] {
+    EXPECT_EQ(DescriptorTargets(), before);
+    return true;
+  });
 }
 
 // Long enough for an inherited timer to try the bus again.
