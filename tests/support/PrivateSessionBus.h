@@ -10,8 +10,8 @@
 namespace trxtest {
 
 /// Runs a bus daemon until the object ends and makes it the session bus of this process. The daemon
-/// can be stopped, started again at the same place, and frozen: then it stays there and does
-/// nothing.
+/// can be stopped, started again at the same address, and frozen: then it keeps its connections and
+/// does nothing.
 class PrivateSessionBus {
  public:
   PrivateSessionBus();

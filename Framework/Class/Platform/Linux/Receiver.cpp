@@ -15,12 +15,12 @@
 namespace orv {
 namespace {
 
-// What the host's event loop watches. The descriptor given to the host is the epoll set; what it
-// watches may change, such as the connection to a bus that was restarted, the descriptor does not.
+// What the host's event loop watches. The host's descriptor is the epoll set. Its members may
+// change, for example when the bus was restarted; the descriptor does not.
 struct WatchSet {
   int epoll;
-  int timer;    // when the library needs a turn, whatever arrives
-  int backlog;  // readable while something that has arrived is not delivered
+  int timer;    // readable when the library needs a turn, even if nothing has arrived
+  int backlog;  // readable while something that has arrived is not yet delivered
 };
 
 std::atomic<WatchSet *> watchSet = nullptr;
@@ -41,7 +41,7 @@ bool Watch(int set, int descriptor, std::uint32_t events) {
          epoll_ctl(set, EPOLL_CTL_ADD, descriptor, &event) == 0;
 }
 
-// All or nothing: a descriptor that would never become readable is of no use to a host.
+// All or nothing: a descriptor that never becomes readable is useless to a host.
 WatchSet *MakeWatchSet() {
   auto *const set = new (std::nothrow)
       WatchSet{AwayFromStandardStreams(epoll_create1(EPOLL_CLOEXEC)),
@@ -55,40 +55,40 @@ WatchSet *MakeWatchSet() {
   return set;
 }
 
-// A forked child shares what its parent watches and must not touch it: it starts with nothing, and
-// what it registers itself is its own.
+// A forked child shares its parent's descriptors and must not use them: it starts without any, and
+// its own registrations get new ones.
 void ForgetParent() {
   if (const Receiver *const parents = receiver.exchange(nullptr)) parents->CloseConnection();
   if (const WatchSet *const set = watchSet.exchange(nullptr)) Close(set);
 }
 
-// The one watch set, made on first need; null when it cannot be made.
+// The one watch set, made at first use; null when it cannot be made.
 WatchSet *TheWatchSet() {
   WatchSet *existing = watchSet.load();
   if (existing != nullptr) return existing;
   WatchSet *const made = MakeWatchSet();
   if (made == nullptr) return nullptr;
   if (!watchSet.compare_exchange_strong(existing, made)) {
-    Close(made);  // another thread was faster
+    Close(made);  // another thread made it first
     return existing;
   }
   pthread_atfork(nullptr, nullptr, ForgetParent);
-  // What was registered before there was a set is not watched yet: that takes a dispatch.
+  // Registrations made before the set existed are not watched yet: a dispatch does that.
   if (receiver.load() != nullptr) eventfd_write(made->backlog, 1);
   return made;
 }
 
 constexpr std::uint64_t kNever = UINT64_MAX;
 
-// How long to leave a bus in peace that is away or refuses something, before looking for it or
-// asking it again, in microseconds.
+// How long to wait before looking again for a missing bus, or asking again after a refusal, in
+// microseconds.
 constexpr std::uint64_t kBusRetryPause = 1'000'000;
 
-// Setting the timer also takes back that it is readable.
+// Setting the timer also makes it unreadable.
 void SetTimer(int timer, std::uint64_t when) {
   itimerspec setting = {};
   if (when != kNever) {
-    const std::uint64_t soonest = std::max<std::uint64_t>(when, 1);  // 0 would switch the timer off
+    const std::uint64_t soonest = std::max<std::uint64_t>(when, 1);  // 0 would disarm the timer
     setting.it_value.tv_sec = static_cast<time_t>(soonest / 1'000'000);
     setting.it_value.tv_nsec = static_cast<long>(soonest % 1'000'000 * 1'000);
   }
@@ -115,7 +115,7 @@ bool Receiver::Observes(const std::string &name) const {
                      [&](const Observation &observation) { return observation.name == name; });
 }
 
-// Sees to it, however a turn of the receiver ends, that the host is woken for what is left.
+// However a turn of the receiver ends, makes sure that the host is woken for what is left.
 class Receiver::Turn {
  public:
   explicit Turn(Receiver &owner) : owner_(owner) {}
@@ -133,12 +133,12 @@ void Receiver::Add(const std::string &name, NotificationHandler handler) {
   observations_.push_back({name, handler, this});
   if (bus_ && !isKnown) AskFor(observations_.back());
   if (!bus_) Connect();
-  // The connection may have died with its bus since it was last used; then there may be a new bus.
+  // The bus and its connection may have ended since the last use; then there may be a new bus.
   if (!Process(patience_)) {
     Connect();
     Process(patience_);
   }
-  if (unanswered_ > 0) patience_ = 0;  // a bus that hangs is waited for once
+  if (unanswered_ > 0) patience_ = 0;  // wait only once for a bus that hangs
 }
 
 void Receiver::Dispatch() {
@@ -146,7 +146,7 @@ void Receiver::Dispatch() {
   if (!bus_ && !observations_.empty()) Connect();
   if (MonotonicNow() >= NextQuestion()) AskAgain();
   Process(0);
-  // A handler that leaves by longjmp never comes back here.
+  // A handler that leaves by longjmp never returns here.
   if (!arrived_.empty()) WatchEverything();
   std::size_t left = arrived_.size();
   while (left-- > 0 && !arrived_.empty() && receiver.load() == this) DeliverFirst();
@@ -172,9 +172,8 @@ void Receiver::AskAgain() {
   }
 }
 
-// The bus answers later, when it has time: what was asked for counts even if nobody waits for the
-// answer. What cannot be asked for, for want of memory or of a bus, is asked for on the next
-// connection, with all else.
+// The bus may answer later: a request is valid even if nothing waits for the answer. A request that
+// cannot be made, without memory or without a bus, is made on the next connection with all others.
 void Receiver::AskFor(Observation &observation) {
   observation.isRefused = false;
   const bool isAsked = UnlessOutOfMemory(false, [&] {
@@ -201,7 +200,8 @@ void Receiver::Disconnect() {
   bus_.reset();
 }
 
-// Called by sd-bus, a C library: what cannot be kept for want of memory is lost here.
+// Called by sd-bus, a C library: no exception may leave it. A notification is lost when there is no
+// memory for it.
 int Receiver::Arrived(sd_bus_message *message, void *self, sd_bus_error * /*error*/) {
   return UnlessOutOfMemory(0, [&] {
     if (auto notification = ReadNotification(message)) {
@@ -211,7 +211,7 @@ int Receiver::Arrived(sd_bus_message *message, void *self, sd_bus_error * /*erro
   });
 }
 
-// A bus that has not answered in time has not refused: it will come to what it was asked for.
+// A bus that has not answered in time has not refused: it will answer later.
 int Receiver::Answered(sd_bus_message *answer, void *observation, sd_bus_error * /*error*/) {
   auto &asked = *static_cast<Observation *>(observation);
   if (--asked.owner->unanswered_ == 0) asked.owner->patience_ = kBusPatience;
@@ -221,8 +221,8 @@ int Receiver::Answered(sd_bus_message *answer, void *observation, sd_bus_error *
   return 0;
 }
 
-// Takes in all that has arrived; waits so many microseconds for the bus to answer what it was
-// asked. Returns whether the connection held.
+// Reads everything that has arrived; waits this many microseconds for the bus's answers. Returns
+// whether the connection still works.
 bool Receiver::Process(std::uint64_t patience) {
   const std::uint64_t deadline = MonotonicNow() + patience;
   while (bus_) {
@@ -239,8 +239,8 @@ bool Receiver::Process(std::uint64_t patience) {
   return true;
 }
 
-// A handler may add observations and may dispatch: nothing here refers to the containers while it
-// runs. It is called for the observations that there were when the notification's turn came.
+// A handler may add observations and may dispatch, so nothing here refers to the containers while
+// it runs. It is called for the observations that existed when the notification's turn came.
 void Receiver::DeliverFirst() {
   const Notification notification = std::move(arrived_.front());
   arrived_.pop_front();
@@ -259,7 +259,7 @@ void Receiver::ShowBacklog() {
   if (!arrived_.empty()) eventfd_write(set->backlog, 1);
 }
 
-// Nothing is left to see to in a child that a handler has forked: the receiver is its parent's.
+// In a child that a handler has forked, nothing is left to do: the receiver is its parent's.
 void Receiver::WatchEverything() {
   if (receiver.load() != this) return;
   const WatchSet *const set = TheWatchSet();
@@ -268,8 +268,8 @@ void Receiver::WatchEverything() {
   SetTimer(set->timer, bus_ ? std::min(WatchBus(set->epoll), NextQuestion()) : NextLookForABus());
 }
 
-// Returns when the connection needs a turn whatever arrives. One that cannot be watched now, for
-// want of memory, needs one soon.
+// Returns when the connection needs a turn even if nothing arrives. One that cannot be watched now,
+// without memory, needs one soon.
 std::uint64_t Receiver::WatchBus(int set) {
   watchedBus_ = sd_bus_get_fd(bus_.get());
   const int events = sd_bus_get_events(bus_.get());

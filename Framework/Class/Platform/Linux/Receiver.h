@@ -1,4 +1,5 @@
-// Receiving: one connection a process, read on the one thread that registers and dispatches.
+// Receives notifications: one connection for each process, used on the one thread that registers
+// and dispatches.
 #pragma once
 
 #include <cstdint>
@@ -10,23 +11,23 @@
 
 namespace orv {
 
-/// The descriptor that is readable whenever something is left to deliver; the same for the life of
-/// the process, -1 when none could be made. Any thread.
+/// The descriptor that is readable when something is left to deliver; the same for the life of the
+/// process, -1 when none could be made. Any thread.
 int NotificationDescriptor() noexcept;
 
-/// The observations of this process and what has arrived for them. The receiving thread only.
+/// The observations of this process and the notifications that have arrived for them. The receiving
+/// thread only.
 class Receiver {
  public:
-  /// The one receiver; made on first need, never released.
+  /// The one receiver; made at first use, never released.
   static Receiver &Instance();
 
   void Add(const std::string &name, NotificationHandler handler);
 
-  /// Delivers what has arrived by now. Never blocks; may be called from a handler.
+  /// Delivers what has arrived so far. Never blocks; may be called from a handler.
   void Dispatch();
 
-  /// Closes the connection's descriptor and nothing else: for a forked child, which has a copy of
-  /// it.
+  /// Only closes the connection's descriptor: for a forked child, which has a copy of it.
   void CloseConnection() const;
 
  private:
@@ -34,7 +35,7 @@ class Receiver {
     std::string name;
     NotificationHandler handler;
     Receiver *owner;
-    bool isRefused = false;  // by the bus; for the first observation of a name only
+    bool isRefused = false;  // by the bus; only in the first observation of a name
   };
 
   class Turn;
@@ -56,12 +57,12 @@ class Receiver {
   std::uint64_t NextLookForABus() const;
   std::uint64_t NextQuestion() const;
 
-  std::deque<Observation> observations_;  // stay where they are: the bus answers to them
+  std::deque<Observation> observations_;  // never move: the bus's answers refer to them
   std::deque<Notification> arrived_;
   Bus bus_;
-  int unanswered_ = 0;  // what the bus was asked for and has not granted yet
+  int unanswered_ = 0;  // requests to the bus without an answer
   std::uint64_t patience_ = kBusPatience;
-  std::uint64_t askAgainAt_ = 0;  // for what the bus has refused
+  std::uint64_t askAgainAt_ = 0;  // for requests that the bus has refused
   int watchedBus_ = -1;
 };
 

@@ -34,8 +34,8 @@ bool IsNotificationKey(std::string_view key) {
          kNotificationKeys.end();
 }
 
-// A dictionary with more entries than this is not read to its end: a bus carries messages of many
-// millions, and a host that dispatches them must not stand still.
+// A dictionary with more entries than this is not read to its end: a message may have many millions
+// of them, and dispatching it must not stop the host.
 constexpr int kMostEntries = 65'536;
 
 int ReadDictionary(sd_bus_message *message, UserInfo &userInfo) {

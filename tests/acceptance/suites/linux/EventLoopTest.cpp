@@ -209,7 +209,7 @@ TEST_F(EventLoop, WhatACallbackCausesComesWithTheNextDispatch) {
   EXPECT_FALSE(IsReadableWithin(kAWhile));
 }
 
-// Registering takes in what has arrived, too.
+// Registering also reads what has arrived.
 TEST_F(EventLoop, WhatACallbackCausesAndTakesInComesWithTheNextDispatch) {
   const auto setAndRegister = [](std::int32_t index, void *context) {
     IndexA(index, context);
@@ -229,7 +229,7 @@ TEST_F(EventLoop, WhatACallbackCausesAndTakesInComesWithTheNextDispatch) {
   EXPECT_EQ(Calls(), (CallList{{"A selva", -1, 1}, {"A selva", -1, 2}}));
 }
 
-// As hosts in C and interpreters do with their errors.
+// As hosts in C and interpreters do for their errors.
 TEST_F(EventLoop, ACallbackMayLeaveByLongjmpAndTheRestIsNotForgotten) {
   static std::jmp_buf host;
   const auto leave = [](std::int32_t index, void *context) {
