@@ -15,9 +15,10 @@ class Candidates(HostTest):
         return [line.split("\t")[0] for line in self.done("complete", *words).out.splitlines()]
 
     def test_commands(self):
-        self.assertEqual(self.candidates(""),
-                         ["input", "output", "boost", "midi", "status", "watch", "reapply",
-                          "diagnose", "versions", "models"])
+        commands = self.candidates("")
+        self.assertEqual(commands[:4], ["input", "output", "boost", "midi"])
+        self.assertEqual(commands[-6:],
+                         ["status", "watch", "reapply", "diagnose", "versions", "models"])
         self.assertEqual(self.candidates("--json", "re"), ["reapply"])
 
     def test_commands_say_what_they_are(self):

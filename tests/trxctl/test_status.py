@@ -120,7 +120,8 @@ class Models(HostTest):
         listed = self.done("models", "--json").json["models"]
         accepted = {model["model"]: (
             model["product_id"],
-            [(one["setting"], one.get("channels"), one["settable"]) for one in model["settings"]],
+            [(one["setting"], one.get("channels"), one["settable"]) for one in model["settings"]
+             if one["setting"] in ("input", "output", "boost", "midi")],
             model["raw_input_channels"], model["status"]) for model in listed}
         boost = ("boost", None, True)
         selectors = "input_selectors"

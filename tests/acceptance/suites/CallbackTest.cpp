@@ -233,10 +233,13 @@ TEST_F(Callbacks, ANameThatNobodyRegisteredForIsNotHeardEvenWithAProductIdThatHa
   EXPECT_EQ(DeliverAll(), CallList());
 }
 
+// The context of the first model lies behind the callback of the last.
 TEST_F(Callbacks, AProductIdOutsideTheTablesOrWithoutACallbackIsIgnored) {
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(0, IndexA, &arden), 100);
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(0, ChannelIndexA, &arden), 100);
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
   ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, ChannelIndexA, &selva), 100);
-  for (const std::int32_t product : {-1, 12, 13, 7, 0, 256 + 11, 0x10000 + 11, INT_MAX, INT_MIN}) {
+  for (const std::int32_t product : {-1, 12, 13, 7, 1, 256 + 11, 0x10000 + 11, INT_MAX, INT_MIN}) {
     rig().Announce(IndexChange("TRX-SELVA BoostLevel Change", product, 1));
     rig().Announce(ChannelChange("TRX-SELVA InputAudio Change", product, 1, 1));
   }
