@@ -115,8 +115,8 @@ TEST_F(Descriptors, AChildForkedWhileTheyWereFewHasNoneOfItsParentsRegistrations
 
 // Calls that make a descriptor.
 bool MakesDescriptor(const SystemCall &call) {
-  constexpr std::array kNumbers = {SYS_openat, SYS_socket,   SYS_epoll_create1, SYS_timerfd_create,
-                                   SYS_fcntl,  SYS_eventfd2, SYS_memfd_create};
+  constexpr std::array kNumbers = {SYS_openat,         SYS_openat2, SYS_socket,   SYS_epoll_create1,
+                                   SYS_timerfd_create, SYS_fcntl,   SYS_eventfd2, SYS_memfd_create};
   return std::find(kNumbers.begin(), kNumbers.end(), static_cast<long>(call.number)) !=
          kNumbers.end();
 }

@@ -512,6 +512,28 @@ TEST_F(FileReplacement, ALinkOfAnotherUsersToAFileOfOnesOwnIsNotFollowed) {
   EXPECT_EQ(StatusOf(folder_ / "root's").st_uid, kSomeUser);
 }
 
+// Root with a user's environment: a folder of the user's may be a link to anywhere.
+TEST_F(FileReplacement, RootDoesNotFollowAUsersLinkToAFolderOfAnotherUser) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can write everywhere";
+  ASSERT_EQ(mkdir((folder_ / "root's").c_str(), 0700), 0);
+  ASSERT_EQ(symlink("root's", (folder_ / "link").c_str()), 0);
+  EXPECT_TRUE(Add(folder_ / "link/settings", "a"));
+  EXPECT_TRUE(Add(folder_ / "link/made/settings", "a"));
+  EXPECT_EQ(folder_.Entries(), 5U);
+
+  ASSERT_EQ(lchown((folder_ / "link").c_str(), kSomeUser, kSomeGroup), 0);
+  EXPECT_FALSE(Add(folder_ / "link/settings", "b"));
+  EXPECT_FALSE(Add(folder_ / "link/made/settings", "b"));
+  EXPECT_FALSE(Add(folder_ / "link/new/settings", "b"));
+  EXPECT_EQ(ReadBytes(folder_ / "root's/settings"), "a");
+  EXPECT_EQ(ReadBytes(folder_ / "root's/made/settings"), "a");
+  EXPECT_EQ(folder_.Entries(), 5U);
+
+  ASSERT_EQ(chown((folder_ / "root's").c_str(), kSomeUser, kSomeGroup), 0);
+  EXPECT_TRUE(Add(folder_ / "link/settings", "b"));
+  EXPECT_EQ(ReadBytes(folder_ / "root's/settings"), "ab");
+}
+
 // --- What may not be read ------------------------------------------------------------------------
 
 TEST_F(FileReplacement, KeepsAFileThatItMayNotReadBesideTheNewOne) {

@@ -39,8 +39,10 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <linux/openat2.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include "File.h"
@@ -60,13 +62,49 @@ enum class Result { kReplaced, kOvertaken, kFailed };
 
 // --- The place of the file -----------------------------------------------------------------------
 
+// A link is followed if its target belongs to the same user, or if this user or root made it.
+// Through any other link, another user could make this process change a file.
+bool MayFollow(const struct stat &link, const struct stat &target) {
+  return link.st_uid == target.st_uid || link.st_uid == geteuid() || link.st_uid == 0;
+}
+
+// Whether a folder is behind a link that must not be followed.
+bool IsBehindForeignLink(const std::string &folder) {
+  struct stat link = {};
+  struct stat target = {};
+  for (std::size_t end = folder.find('/', 1);; end = folder.find('/', end + 1)) {
+    const std::string part = folder.substr(0, end);
+    if (lstat(part.c_str(), &link) == 0 && S_ISLNK(link.st_mode) &&
+        stat(part.c_str(), &target) == 0 && !MayFollow(link, target)) {
+      return true;
+    }
+    if (end == folder.npos) return false;
+  }
+}
+
+constexpr int kFolder = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+
+// Root can write everywhere, so it looks at the links on the way, if there are any.
+int OpenFolderAsRoot(const std::string &path) {
+  const open_how how = {kFolder, 0, RESOLVE_NO_SYMLINKS};
+  const auto folder =
+      static_cast<int>(syscall(SYS_openat2, AT_FDCWD, path.c_str(), &how, sizeof how));
+  if (folder >= 0) return folder;
+  if (!IsBehindForeignLink(path)) return open(path.c_str(), kFolder);
+  errno = ELOOP;
+  return -1;
+}
+
+int OpenExistingFolder(const std::string &path) {
+  return geteuid() == 0 ? OpenFolderAsRoot(path) : open(path.c_str(), kFolder);
+}
+
 // Makes the folder if it is missing.
 int OpenFolder(const std::string &path) {
-  constexpr int kFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
-  const int folder = open(path.c_str(), kFlags);
+  const int folder = OpenExistingFolder(path);
   if (folder >= 0 || errno != ENOENT) return folder;
   MakeFolder(path);
-  return open(path.c_str(), kFlags);
+  return OpenExistingFolder(path);
 }
 
 // A file's place: its folder, held open so that all steps use the same one, and its name.
@@ -91,12 +129,6 @@ bool HasPlace(const OldFile &old) { return old.outcome != ReadOutcome::kMissing;
 struct FreeText {
   void operator()(char *text) const { std::free(text); }
 };
-
-// A link is followed if its file belongs to the same user, or if this user or root made it. Through
-// any other link, another user could make this process change a file.
-bool MayFollow(const struct stat &link, const struct stat &file) {
-  return link.st_uid == file.st_uid || link.st_uid == geteuid() || link.st_uid == 0;
-}
 
 ReadOutcome OutcomeBehindLink(int error) {
   if (error == ENOENT || error == ENOTDIR || error == ELOOP) return ReadOutcome::kLink;
