@@ -1,5 +1,5 @@
-// The input is a command line of trxctl, a word each line; a zero byte stands for a line break
-// inside a word. No mixer is connected and there is no bus.
+// The input is a command line of trxctl, one word on each line; a zero byte stands for a line break
+// in a word. No mixer is connected and there is no bus.
 #include <algorithm>
 #include <array>
 #include <csignal>
@@ -30,7 +30,7 @@ constexpr int kOutputFailed = 6;
 
 using Lines = std::vector<std::string>;
 
-/// What is written to a standard stream, from its making on.
+/// Captures what is written to a standard stream while it exists.
 class StreamInMemory {
  public:
   explicit StreamInMemory(int number)
@@ -56,7 +56,7 @@ class StreamInMemory {
   int file_;
 };
 
-/// While it lives, the user asks the program to end: a command that waits does not wait then.
+/// While it exists, the user asks the program to end, so a command that waits returns at once.
 class EndAsked {
  public:
   EndAsked() {
@@ -88,7 +88,7 @@ Lines Split(std::string_view text) {
   return lines;
 }
 
-/// What one run of trxctl came to.
+/// The result of one run of trxctl.
 struct Outcome {
   int code;
   std::string output;
@@ -106,7 +106,7 @@ Outcome RunTrxctl(Lines words) {
   return {code, output.Text(), error.Text()};
 }
 
-// The hint that stands behind an error of which nobody has thought.
+// The hint after an unexpected error.
 constexpr std::string_view kUnexpected = "this should not happen";
 
 void CheckJson(const Outcome &outcome) {
@@ -194,7 +194,7 @@ void Run(std::string_view input) {
 }  // namespace
 }  // namespace trxfuzz
 
-// The fuzzer, too, has to do without the standard streams from here on; it then uses a copy.
+// From here on the fuzzer, too, has no standard streams; it uses a copy.
 extern "C" int LLVMFuzzerInitialize(int *count, char ***arguments) {
   static std::vector<char *> extended(*arguments, *arguments + *count);
   static std::string leaveStreams = "-close_fd_mask=3";

@@ -1,5 +1,5 @@
-// The input is a series of control commands, a line each, given to a simulator with one mixer; then
-// a host asks every unit everything.
+// The input is a series of control commands, one on each line, for a simulator with one mixer. Then
+// a host sends every request to every unit.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -21,7 +21,7 @@ using trxsim::Outcome;
 
 using Lines = std::vector<std::string>;
 
-// More units than a machine has ports tell nothing new.
+// More units than a machine has ports show nothing new.
 constexpr std::size_t kMostUnits = 16;
 
 bool IsPrintable(std::string_view text) {
@@ -29,7 +29,7 @@ bool IsPrintable(std::string_view text) {
                      [](char character) { return character >= ' ' && character <= '~'; });
 }
 
-/// Everything that can be seen of the units.
+/// The visible state of all units.
 Lines Seen(CommandInterpreter &interpreter, const Desk &desk) {
   Lines seen;
   for (const auto &[number, unit] : desk.Units()) {

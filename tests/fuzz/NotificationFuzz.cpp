@@ -1,8 +1,8 @@
 // The input describes messages, which are sent over a real bus to this process. Every callback that
-// a host can register is registered, once. Per message:
+// a host can register is registered once. For each message:
 //   1 byte   the name: one of those that are observed, then others
-//   1 byte   below 128: a notification as it should be, 127 with many entries of another program in
-//            front, whose number the next byte gives; else a message of another shape
+//   1 byte   below 128: a well-formed notification, for 127 after many entries of another program,
+//            whose number the next byte gives; else another kind of message
 //   1 byte   how many entries or other repeated parts
 //   the parts: 1 byte selects a key or text, 4 bytes are a number
 #include <algorithm>
@@ -44,7 +44,7 @@ constexpr std::uint8_t kWithManyOthers = 127;
 constexpr std::size_t kMostEntries = 65'536;
 constexpr auto kPatience = std::chrono::seconds(30);
 
-/// Takes the input apart; zeros when it is over.
+/// Reads the parts of the input; zeros after its end.
 class Input {
  public:
   Input(const std::uint8_t *data, std::size_t size) : data_(data), size_(size) {}
@@ -175,13 +175,13 @@ Message NewMessage(sd_bus *bus, const char *path, const char *interface, const c
   return Message(message);
 }
 
-/// How many entries of another program a byte stands for: a few, or as many as may be at most.
+/// The number of entries of another program for a byte: a few, or the most that are allowed.
 std::size_t OthersOf(std::uint8_t byte) {
   return byte == 255 ? kMostEntries : byte * std::size_t{8};
 }
 
-/// A notification of the right shape; what is in it behind `others` entries of another program is
-/// also left in `entries`. Gives nothing in `entries` when it is too long to be taken for one.
+/// A well-formed notification. Its entries after the `others` entries of another program are also
+/// put into `entries`; nothing is put there when it is too long to be accepted.
 Message Notification(sd_bus *bus, const char *name, std::size_t others, Input &input,
                      std::optional<Entries> &entries) {
   Message message = NewMessage(bus, kPath, kInterface, kMember);
@@ -259,7 +259,7 @@ void AppendAll(sd_bus_message *message, std::string_view signature, const char *
   }
 }
 
-/// A message that is no notification.
+/// A message that is not a notification.
 Message OtherMessage(sd_bus *bus, const char *name, std::uint8_t form, Input &input) {
   constexpr std::array<const char *, 3> kPaths = {"/com/orvikaudio/Setup/a", "/",
                                                   "/com/orvikaudio"};
@@ -293,7 +293,7 @@ std::optional<Call> ExpectedCall(std::string_view name, const Entries &entries) 
   return Call{&*called, hasChannel ? value("Channel") : 0, value("Index")};
 }
 
-/// This process as a host that is called back, and another connection, which posts.
+/// This process as a host with callbacks, and a second connection that posts.
 class Host {
  public:
   Host() {
@@ -312,7 +312,7 @@ class Host {
     Promise(sd_bus_send(Poster(), message.get(), nullptr) >= 0, "a message can be sent");
   }
 
-  /// Sends a last notification and dispatches until its call came, or too many calls.
+  /// Sends a last notification and dispatches until its call has come, or too many calls.
   void Await(std::vector<Call> expected) {
     calls.clear();
     SendMark();

@@ -1,4 +1,4 @@
-// What every fuzz target checks with.
+// The check that every fuzz target uses.
 #pragma once
 
 #include <cstdlib>
@@ -9,10 +9,10 @@
 
 namespace trxfuzz {
 
-/// Where broken promises are told. A target that takes standard error for itself changes it.
+/// Where broken promises are reported. A target that captures standard error changes it.
 inline int reportDescriptor = STDERR_FILENO;
 
-/// Ends the run, which keeps its input as a file, unless the promise holds.
+/// Ends the run unless the promise holds; the fuzzer then saves the input as a file.
 inline void Promise(bool holds, std::string_view promise, std::string_view but = "") {
   if (holds) return;
   std::string report = "BROKEN PROMISE: " + std::string(promise) + '\n';

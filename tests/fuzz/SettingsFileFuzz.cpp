@@ -1,5 +1,5 @@
-// The input is a settings file, byte for byte. It lies in the place of every model's file while all
-// getters read it; then one setting is set, and all getters read again.
+// The input is a settings file, byte for byte. All getters read it as the file of every model. Then
+// one setting is set, and all getters read again.
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -36,7 +36,7 @@ constexpr std::array<Model, 6> kModels = {{{ORV_PRODUCT_TRX_ARDEN, "TRX-Arden"},
                                            {ORV_PRODUCT_TRX_MORROW, "TRX-MORROW"},
                                            {ORV_PRODUCT_TRX_SELVA, "TRX-SELVA"}}};
 
-// One current value that can be asked for. A null key: answered, but never looked up.
+// One current value that can be read. A null key: the getter works but reads no entry.
 struct Value {
   Family family;
   ProductId productId;
@@ -68,7 +68,7 @@ constexpr std::array<Value, 20> kValues = {{
     {Family::kMidiChannel, ORV_PRODUCT_TRX_VOLT, 0, "MidiChannel", 0},
 }};
 
-// One setting that can be made.
+// One value that can be set.
 struct Setting {
   Family family;
   ProductId productId;
@@ -120,7 +120,7 @@ StatusCode Set(const Setting &setting) {
   std::abort();
 }
 
-/// The settings files of all models, in a folder of their own.
+/// The settings files of all models, in a private folder.
 class SettingsFiles {
  public:
   explicit SettingsFiles(std::string folder) : folder_(std::move(folder)) {}
@@ -137,13 +137,13 @@ class SettingsFiles {
     return std::string(std::istreambuf_iterator<char>(file), {});
   }
 
-  /// Puts the same bytes in the place of each file.
+  /// Writes the same bytes to each file.
   void Make(const std::string &bytes) const {
     const std::string first = PathOf(kModels.front().productId);
     for (const Model &model : kModels) unlink(PathOf(model.productId).c_str());
     std::ofstream(first, std::ios::binary) << bytes;
     for (const Model &model : kModels) {
-      // Each is replaced as a whole, so one file under six names does for six.
+      // Each is replaced as a whole, so one file with six names is enough.
       [[maybe_unused]] const int made = link(first.c_str(), PathOf(model.productId).c_str());
     }
   }
@@ -175,7 +175,7 @@ void CheckGetter(const Value &value, const StoredList &list) {
           "got " + std::to_string(result) + " and not " + std::to_string(expected));
 }
 
-// Returns the dictionary in the file that was set.
+// Returns the dictionary in the changed file.
 StoredList CheckSet(const Setting &setting, const std::string &before,
                     const StoredList &listBefore) {
   Promise(Set(setting) == ORV_SUCCESS, "a setter succeeds whatever the file holds");

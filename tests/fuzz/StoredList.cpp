@@ -24,7 +24,7 @@ StoredList DictionaryOf(plist_t root) {
   return root != nullptr && plist_get_node_type(root) == PLIST_DICT ? std::move(list) : nullptr;
 }
 
-// As XML holds it: control characters have no form there.
+// As in XML, which cannot represent control characters.
 std::string InXml(const std::string &text) {
   std::string result;
   for (const char character : text) {
@@ -236,7 +236,7 @@ bool HasXmlForm(const StoredList &list) {
 
 std::optional<std::string> Difference(const StoredList &before, const StoredList &after,
                                       const std::string &exceptKey) {
-  // Of a key with a zero byte in it the parser gives nothing but an abort.
+  // The parser aborts on a key with a zero byte in it.
   if (before && RawXmlOf(before).find('\0') != std::string::npos) return std::nullopt;
   auto entriesBefore = before ? EntriesOf(before.get()) : std::map<std::string, plist_t>();
   auto entriesAfter = EntriesOf(after.get());

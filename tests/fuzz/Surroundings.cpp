@@ -14,7 +14,7 @@
 namespace trxfuzz {
 namespace {
 
-// A disk would take its time to make each write durable.
+// On a disk, making each write durable is slow.
 std::string MakeTemporaryFolder() {
   std::string path = access("/dev/shm", W_OK | X_OK) == 0 ? "/dev/shm" : "/tmp";
   path += "/trx-fuzz-XXXXXX";

@@ -1,4 +1,4 @@
-// The surroundings of a fuzz target: nothing that it does reaches the user's own settings, bus or
+// Private surroundings for a fuzz target, so that it cannot reach the user's settings, bus or
 // mixers.
 #pragma once
 
@@ -6,9 +6,8 @@
 
 namespace trxfuzz {
 
-/// Makes a settings folder of this process's own, in memory where the system offers that, and takes
-/// the session bus away. Refuses to go on when a mixer is connected. Returns the folder in which
-/// the library keeps its files; it exists.
+/// Makes a private settings folder, in memory if possible, and hides the session bus. Refuses to
+/// continue when a mixer is connected. Returns the folder of the library's files, which exists.
 std::string MakeSurroundings();
 
 }  // namespace trxfuzz

@@ -1,5 +1,6 @@
-// The input is what a kernel sends to one unit over USB/IP, behind two bytes: what is wrong with
-// the unit, and the length of the pieces in which the bytes arrive (0: all at once).
+// The input is two bytes, and then the bytes that a kernel sends to one unit over USB/IP. The two
+// bytes are the unit's fault and the length of the pieces in which the rest arrives (0: all at
+// once).
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
@@ -34,7 +35,7 @@ constexpr std::size_t kHeaderLength = 48;
 
 enum Trouble : std::uint8_t { kNone, kStall, kShort, kNoReply, kVanish, kStranger, kTroubles };
 
-/// One unit with its trouble, and the device's half of the conversation about it.
+/// One unit with its fault, and the device side of its connection.
 class Device {
  public:
   explicit Device(Trouble trouble) {
@@ -81,7 +82,7 @@ std::uint32_t NumberAt(Input bytes, std::size_t place) {
   return number;
 }
 
-/// Follows a conversation, frame by frame, as the kernel does.
+/// Checks a conversation frame by frame, as the kernel does.
 class Kernel {
  public:
   Kernel(Trouble trouble, Input replies) : trouble_(trouble), replies_(replies) {}

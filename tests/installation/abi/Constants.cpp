@@ -1,5 +1,5 @@
-// The constants of the interface are in no type of a function: the functions take and return plain
-// numbers. Here is one that has them, so that the description of this module does too.
+// The exported functions take and return plain numbers, so no type of theirs contains the
+// interface's constants. This function's type does, and so the description of this module has them.
 #include <TRX-SELVASetup/Diagnostics.h>
 #include <TRX-SELVASetup/EventLoop.h>
 #include <TRX-SELVASetup/TRX-SELVASetup.h>

@@ -26,7 +26,7 @@ def describe(library):
     files = corpus.findall("abi-instr")
     if not files:
         raise ValueError(f"{library} has no debug information")
-    # A type that several files name has the same text in each.
+    # A type that is in several files has the same text in each.
     entries = {xml.etree.ElementTree.tostring(entry).strip(): entry for file in files for entry in file}
     for file in files:
         corpus.remove(file)

@@ -1,4 +1,4 @@
-"""Compares what the library exports, and the constants of its headers, with the descriptions beside this file.
+"""Compares the library's exports and the constants of its headers with the descriptions beside this file.
 
 The descriptions are what hosts that are already built rely on. Whoever means to change the interface runs scripts/abi-update.
 """
@@ -27,7 +27,7 @@ ADVICE = "\nThe exported interface is not as described. If that is meant, run sc
 
 @functools.cache
 def described_anew(library):
-    """A file with the description of the library as it has been built."""
+    """A file with the description of the built library."""
     file = tempfile.NamedTemporaryFile("w", suffix=".abi")
     file.write(describe(library))
     file.flush()
@@ -35,7 +35,7 @@ def described_anew(library):
 
 
 def differences(description, library):
-    """What is not as described. abidiff says what a change means but passes over some, such as another name for a type."""
+    """The differences from the description. abidiff explains a change but ignores some, such as another name for a type."""
     built = described_anew(library).name
     compared = subprocess.run(["abidiff", "--harmless", str(description), built],
                               stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
@@ -75,7 +75,7 @@ class Interface(unittest.TestCase):
 
 
 class Change(unittest.TestCase):
-    """Changes to the interface that must be noticed. It is the description that is changed, the other way round."""
+    """Changes to the interface that must be detected. The tests change the description instead, in the opposite direction."""
 
     def setUp(self):
         self.library = xml.etree.ElementTree.parse(LIBRARY_DESCRIPTION)

@@ -1,4 +1,4 @@
-"""Runs hosts against the installed library, on a desk with one software mixer and a session bus of their own.
+"""Runs hosts with the installed library, on one software mixer and a private session bus.
 
 Each host must reach the mixer, be called back, and end as its documentation says.
 """
@@ -36,13 +36,13 @@ MENU_WITH_FIRST_STORED = """\
 
 
 def mixer(*words):
-    """What the simulator answers to a command."""
+    """The simulator's answer to a command."""
     return subprocess.run([TRX_MIXER_CTL, *words], check=True, capture_output=True, text=True,
                           timeout=PATIENCE).stdout
 
 
 class Running:
-    """A host that goes on running until its input ends."""
+    """A host that runs until its input ends."""
 
     def __init__(self, command, env):
         self.process = subprocess.Popen(command, env=env, stdin=subprocess.PIPE,
@@ -67,7 +67,7 @@ class Running:
         self.process.stdin.flush()
 
     def end_of_input(self):
-        """The host's exit code once it has no more input, and whatever it wrote until then."""
+        """Ends the input. Returns the host's exit code and its remaining output."""
         self.process.stdin.close()
         code = self.process.wait(PATIENCE)
         return code, self._text + self.process.stdout.read()
@@ -85,7 +85,7 @@ class HostTest(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.settings_file = pathlib.Path(
             folder.name, "orvikaudio/Preferences/com.orvikaudio.TRX-SELVAautosetup.plist")
-        # Texts come from where the installation stands, not from where it was configured to be.
+        # Texts come from the real place of the installation, not from the configured one.
         self.env = dict(os.environ, XDG_CONFIG_HOME=folder.name,
                         TRX_SYSTEM_ROOT=str(INSTALLATION / "share/orvikaudio"),
                         LC_ALL="en_GB.UTF-8", LANGUAGE="")

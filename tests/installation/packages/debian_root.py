@@ -20,7 +20,7 @@ import time
 
 RELEASE = "bookworm"
 SUITES = [RELEASE, f"{RELEASE}-updates", f"{RELEASE}-security"]
-# What is in a root besides what every Debian has.
+# The packages of a root besides those of every Debian.
 ROOTS = {
     "minimal": [],
     "desk": ["gcc", "g++", "cmake", "make", "pkg-config", "dbus-daemon", "bash-completion", "man-db", "udev"],
@@ -29,11 +29,11 @@ KEPT_FOR = 7 * 24 * 3600  # seconds
 CACHE = pathlib.Path(os.environ.get("XDG_CACHE_HOME") or pathlib.Path.home() / ".cache") / "trx-selva"
 DOWNLOADED = CACHE / "downloaded-packages"
 
-# What dpkg, apt and the dynamic linker write down for themselves.
+# The records of dpkg, apt and the dynamic linker.
 RECORDS = ["var/lib/dpkg", "var/lib/apt", "var/cache/apt", "var/cache/ldconfig", "var/cache/debconf",
            "etc/ld.so.cache", "var/log"]
-# Mounts are seen by the command only and end with it, however it ends: nothing outside ever sees them, the removal of
-# the root least of all.
+# Only the command sees the mounts, and they end with it, however it ends. Nothing else sees them, especially not the
+# removal of the root.
 ENTER = """set -e
 root=$1; downloaded=$2; shift 2
 mount --rbind /dev "$root/dev"
@@ -45,7 +45,7 @@ exec chroot "$@"
 
 
 def sources():
-    """The lines with which this machine's own apt gets the packages of the release."""
+    """The source lines with which this machine's apt gets the packages of the release."""
     lines = subprocess.run(
         ["apt-get", "indextargets", "--format", "$(CODENAME) deb $(REPO_URI) $(RELEASE) $(COMPONENT)",
          "Created-By: Packages", "Component: main"],
@@ -71,7 +71,7 @@ def archive(name):
 
 
 def make(name):
-    """Makes the archive of a root, if there is none that is fresh enough. An old one is better than none."""
+    """Makes the archive of a root, unless there is a recent one. An old one is better than none."""
     made = archive(name)
     if made.exists() and time.time() - made.stat().st_mtime < KEPT_FOR:
         return
@@ -85,7 +85,7 @@ def make(name):
 
 
 def bootstrap(name, made):
-    # Nobody reads a half-made archive, and whoever makes one at the same time makes the same.
+    # No reader sees an incomplete archive, and two that are made at the same time are the same.
     with tempfile.TemporaryDirectory(dir=CACHE) as folder:
         new = pathlib.Path(folder, made.name)
         packages = [f"--include={','.join(ROOTS[name])}"] if ROOTS[name] else []
@@ -97,13 +97,13 @@ def bootstrap(name, made):
 
 
 def clear():
-    """Removes what nothing will use again: archives with other contents, and packages not downloaded of late."""
+    """Removes what will not be used again: archives with other contents, and packages not downloaded recently."""
     wanted = [archive(name) for name in ROOTS]
     for name in ROOTS:
         for other in CACHE.glob(f"*-{name}-*.tar"):
             if other not in wanted:
                 other.unlink(missing_ok=True)
-    # A package that a kept root still wants may be the only copy within reach.
+    # A package that a kept root still needs may be the only copy available.
     oldest = min((made.stat().st_mtime for made in wanted if made.exists()), default=time.time())
     for package in DOWNLOADED.glob("*.deb"):
         if package.stat().st_ctime < min(oldest, time.time() - KEPT_FOR):
@@ -111,7 +111,7 @@ def clear():
 
 
 def tell_of_missing_ids():
-    """Says what is wrong when the user namespace of this user would have no further users in it."""
+    """Explains the problem when this user's namespace would have only one user in it."""
     user = pwd.getpwuid(os.getuid()).pw_name
     owners = (user, str(os.getuid()))
     for file in map(pathlib.Path, ("/etc/subuid", "/etc/subgid")):
@@ -122,14 +122,14 @@ def tell_of_missing_ids():
 
 
 def become_root():
-    """Runs this program anew as root of a user namespace of its own, unless it is root already."""
+    """Runs this program again as root of a new user namespace, unless it is root already."""
     if os.getuid() != 0:
         tell_of_missing_ids()
         os.execvp("unshare", ["unshare", "--map-root-user", "--map-auto", sys.executable, "-B", *sys.argv])
 
 
 class DebianRoot:
-    """A Debian of its own, below a temporary folder."""
+    """A separate Debian, below a temporary folder."""
 
     def __init__(self, name):
         self._folder = tempfile.TemporaryDirectory()
@@ -164,7 +164,7 @@ class DebianRoot:
             (self.path / file[1:]).unlink()
 
     def contents(self):
-        """Every file, with its kind, rights and contents, but for RECORDS."""
+        """Every file, with its kind, rights and contents, except RECORDS."""
         found = {}
         for folder, folders, files in os.walk(self.path):
             inside = pathlib.Path(folder).relative_to(self.path)

@@ -1,5 +1,5 @@
-"""The Debian packages on a desk: hosts in C and in C++ are built with them by somebody without privileges, and run with software
-mixers; shells, man and udev find what is theirs."""
+"""The Debian packages in use: an unprivileged user builds hosts in C and C++ with them and runs them on software mixers; shells,
+man and udev find their files."""
 
 import os
 import pathlib
@@ -34,7 +34,7 @@ class Desk(unittest.TestCase):
         cls.root.run("chown", "--recursive", USER, "/tmp/consumer")
 
     def as_user(self, script):
-        """What a shell script of the user prints."""
+        """The output of a shell script that the user runs."""
         return self.root.run("sh", "-ec", script, user=USER).stdout
 
     def with_a_mixer(self, host):

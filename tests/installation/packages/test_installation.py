@@ -1,4 +1,4 @@
-"""Installs the Debian packages into a Debian that has nothing else, uses what they promise, and removes them again."""
+"""Installs the Debian packages in a minimal Debian, uses what they promise, and removes them again."""
 
 import gzip
 import os

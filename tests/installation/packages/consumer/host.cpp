@@ -1,4 +1,4 @@
-// A host in C++: sends the level in its argument and waits until the library tells of it.
+// A host in C++: sets the level in its argument and waits for the announcement.
 #include <cstdlib>
 #include <iostream>
 #include <optional>
