@@ -45,7 +45,7 @@ void Aftermath::ExpectRegistrationHolds() {
   for (const std::uint32_t index : {0U, 1U, 2U}) SetLevel(index);
   EXPECT_TRUE(RunEventLoopUntil([] { return Calls().back().index == 2; }));
   const CallList all = std::exchange(Calls(), {});
-  // What somebody announced before comes before.
+  // Earlier announcements arrive first.
   const auto last = std::find_if(all.rbegin(), all.rend(), [](const Call &call) {
     return call.index == static_cast<std::int32_t>(kAreYouThere);
   });

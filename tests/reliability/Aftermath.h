@@ -1,4 +1,4 @@
-// What must still hold after something went wrong.
+// What must still hold after a failure.
 #pragma once
 
 #include <string>
@@ -8,25 +8,25 @@
 
 namespace trxtest {
 
-/// A case about the settings file and the registrations of TRX-SELVA. Works in a forked child too,
-/// which has no part in the rig's own connection to the bus.
+/// A case about the settings file and the registrations of TRX-SELVA. Also works in a forked child,
+/// which does not use the rig's connection to the bus.
 class Aftermath : public Deliveries {
  protected:
-  /// Puts a settings file with this level and an entry of somebody else's.
+  /// Makes a settings file with this level and an entry of another program.
   void PutLevelThree();
   void PutLevelThree(const std::string &otherText);
 
-  /// The settings with this level and the entry of somebody else's.
+  /// The settings with this level and the entry of another program.
   static Settings Level(int index);
 
-  /// The names below the user's Library folder when nothing but one settings file was ever there.
+  /// The names below the user's Library folder when it has only one settings file.
   static const std::vector<std::string> kOnlyTheFile;
 
   /// Registers for the boost level of TRX-SELVA.
   static void Register();
 
-  /// Expects that who called Register is told, in order and once, of what is set from now on; sets
-  /// levels to see that. The library may first have to find the bus again.
+  /// Sets levels and expects that the registered callback is called for each, in order and once.
+  /// The library may first have to find the bus again.
   void ExpectRegistrationHolds();
 };
 

@@ -1,5 +1,5 @@
-// The session bus killed and restarted while announcements come thick and fast, and a bus that does
-// not grant what it is asked for.
+// A session bus that is killed and restarted under many announcements, and a bus that refuses
+// requests.
 #include <csignal>
 #include <cstdlib>
 #include <string>
@@ -53,7 +53,7 @@ TEST_F(BusStorm, KilledAndRestartedInTheMiddleTheBusLosesNoRegistration) {
   }));
 }
 
-// A bus that grants each connection no more than so many rules.
+// A bus that limits the number of match rules of each connection.
 class LimitedBus {
  public:
   explicit LimitedBus(int rules) {
@@ -120,7 +120,7 @@ TEST_F(StingyBus, IsAskedAgainForWhatItRefused) {
   ASSERT_TRUE(RunEventLoopUntil([] { return !Calls().empty(); }));
   ASSERT_EQ(Calls(), (CallList{{"A selva", -1, 2}})) << "nothing was refused";
   bus.Grant(100);
-  // Nobody calls the library but for its own sake: its timer must see to it.
+  // No host calls the library, so its timer must do it.
   int looks = 0;
   Calls().clear();
   ASSERT_TRUE(RunEventLoopUntil([&] {

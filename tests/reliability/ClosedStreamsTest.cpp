@@ -1,5 +1,5 @@
-// A host without standard streams: the numbers 0 to 2 go to the next files that are opened, and
-// what the host prints must not end up in a file, a mixer or a connection of the library's.
+// A host without standard streams: the next opened files get the numbers 0 to 2, and the host's
+// output must not go into a file, a mixer or a connection of the library.
 #include <algorithm>
 #include <array>
 #include <filesystem>
@@ -24,8 +24,8 @@ namespace fs = std::filesystem;
 
 constexpr std::array kStreams = {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO};
 
-// What is done with files that can be written to, with nodes and with connections. What the walk
-// over the bus reads is gone at once and cannot be written to.
+// The operations on writable files, on nodes and on connections. The files that the walk over the
+// bus reads are closed at once and cannot be written.
 bool UsesDescriptor(const SystemCall &call) {
   constexpr std::array kNumbers = {SYS_write,   SYS_fsync,           SYS_fchmod,
                                    SYS_ioctl,   SYS_flock,           SYS_writev,
@@ -34,7 +34,7 @@ bool UsesDescriptor(const SystemCall &call) {
          kNumbers.end();
 }
 
-// The software mixers carry a request to a node over a connection of their own.
+// The software mixers use a connection of their own for a request to a node.
 bool MayBeRequest(const SystemCall &call) { return static_cast<long>(call.number) == SYS_sendto; }
 
 bool IsNode(pid_t process, int descriptor) {
@@ -47,7 +47,7 @@ constexpr long kMark = SYS_getsid;
 
 class ClosedStreams : public Aftermath {
  protected:
-  // Runs `body` without standard streams and watches all that is done with descriptors.
+  // Runs `body` without standard streams and records all operations on descriptors.
   void ExpectNothingInTheirPlace(const std::function<void()> &body) {
     SteppedProcess child([&] {
       for (const int stream : kStreams) close(stream);

@@ -1,5 +1,5 @@
-// A process that gets no more descriptors: every call answers as it promises, the settings file
-// keeps what it holds, and once there are descriptors again everything works.
+// A process without free descriptors: every call returns what it promises, the settings file keeps
+// its contents, and everything works when there are descriptors again.
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -19,7 +19,7 @@
 namespace trxtest {
 namespace {
 
-// More than any of the calls below needs at once.
+// More than any of the calls below needs at a time.
 constexpr int kPlenty = 12;
 
 rlimit Limit() {
@@ -28,7 +28,7 @@ rlimit Limit() {
   return limit;
 }
 
-// So many numbers for descriptors are left to this process as long as the object lives.
+// Leaves this many free descriptors to the process until the object ends.
 class FewDescriptors {
  public:
   explicit FewDescriptors(int left) : before_(Limit()) {
@@ -49,7 +49,7 @@ class FewDescriptors {
 
 class Descriptors : public Aftermath {
  protected:
-  // One of everything that needs descriptors.
+  // One call of each kind that needs descriptors.
   static void CallEverything() {
     Register();
     EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
@@ -94,7 +94,7 @@ TEST_F(Descriptors, HoweverFewAreLeftEveryCallAnswersAndLaterEverythingWorks) {
   }
 }
 
-// One descriptor is enough for the bus, but not for what the host watches.
+// One descriptor is enough for the bus, but not for the host's descriptor.
 TEST_F(Descriptors, AChildForkedWhileTheyWereFewHasNoneOfItsParentsRegistrations) {
   ExpectQuietSuccess([this] {
     {
@@ -121,21 +121,21 @@ bool MakesDescriptor(const SystemCall &call) {
          kNumbers.end();
 }
 
-// The software mixers take a descriptor of their own behind each node, and give the process up when
-// there is none.
+// The software mixers use one more descriptor for each node, and end the process when there is
+// none.
 bool OpensNode(const SystemCall &call) {
   return static_cast<long>(call.number) == SYS_openat && call.arguments[2] == (O_RDWR | O_CLOEXEC);
 }
 
-// The call that stands for the end of what is looked at; nothing else makes it.
+// A system call that marks the end of the checked part; nothing else makes it.
 constexpr long kMark = SYS_getsid;
 
 void SetLimit(pid_t process, const rlimit &limit) {
   ASSERT_EQ(prlimit(process, RLIMIT_NOFILE, &limit, nullptr), 0);
 }
 
-// Goes on until the child stands before the n-th call that makes a descriptor for the library, or
-// at the mark. False at the mark.
+// Continues until the child is before the n-th call that makes a descriptor for the library, or at
+// the mark. False at the mark.
 bool StepToDescriptor(SteppedProcess &child, int n) {
   bool isOfMixers = false;
   for (;;) {

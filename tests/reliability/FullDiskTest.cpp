@@ -1,5 +1,5 @@
-// No space or no room for names where the settings lie: setting works but for the file, which stays
-// as it was, and nothing is left beside it.
+// No space for the settings file: setting works otherwise, the file stays as it was, and nothing is
+// left beside it.
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -24,7 +24,7 @@ class FullDisk : public Aftermath {
     fs::create_directories(rig().LibraryFolder());
   }
 
-  // Leaves so many blocks of a file system in memory.
+  // Leaves this many free blocks of a file system in memory.
   void FillUpTo(std::uintmax_t blocksLeft) {
     struct statvfs status = {};
     ASSERT_EQ(statvfs(rig().LibraryFolder().c_str(), &status), 0);
@@ -49,7 +49,7 @@ class FullDisk : public Aftermath {
 
   std::string Filler() { return rig().LibraryFolder() + "/filler"; }
 
-  // The setter answers, tells the mixer and announces as ever.
+  // The setter returns, sends and announces as usual.
   void ExpectSetButNotStored(int unit, const std::optional<Settings> &stored) {
     const Lines before = LibraryListing();
     rig().ClearWireLog();
@@ -69,7 +69,7 @@ TEST_F(FullDisk, LeavesTheOldFileWholeAndNothingBesideIt) {
   const Mount memory = Mount::Memory(rig().LibraryFolder(), "size=256k");
   const int unit = rig().PlugMixer();
   Register();
-  // Three blocks of text, of which none, one or two find room.
+  // Three blocks of text, with room for none, one or two of them.
   const std::string text(9000, 'o');
   const Settings old = {{"MaxLevel", "<integer>3</integer>"},
                         {"Other", "<string>" + text + "</string>"}};

@@ -1,6 +1,5 @@
 // A process that is killed while it sets something, before each of its system calls in turn: the
-// settings file is the old one or the new one, and what may lie beside it is gone with the next
-// write.
+// settings file is the old one or the new one, and the next write removes any file beside it.
 #include <algorithm>
 #include <filesystem>
 #include <functional>
@@ -27,7 +26,7 @@ const Settings kNew = {{"MaxLevel", "<integer>1</integer>"}, {"Other", "<string>
 const Settings kNext = {{"MaxLevel", "<integer>2</integer>"}, {"Other", "<string>kept</string>"}};
 
 const Lines kNothingElse = {"Preferences/com.orvikaudio.TRX-SELVAautosetup.plist"};
-// Folders that are still empty.
+// Folders that are empty so far.
 const Lines kBeforeTheFile = {"./", "Preferences/"};
 const std::string kLeftBeside = "Preferences/.com.orvikaudio.TRX-SELVAautosetup.plist.";
 const std::string kLeftAnnounced = kLeftBeside + "new.";
@@ -50,8 +49,8 @@ class KilledWriter : public Deliveries {
     Lines leftBehind;  // a line for each name each time
   };
 
-  // Has a child run `set` on what `prepare` left, and kills it before its first, its second, ...
-  // its last system call. Looks each time at what there is then, and calls `afterwards`.
+  // Calls `prepare`, has a child run `set`, and kills it before its first, its second, ... its last
+  // system call. Checks the files each time, and calls `afterwards`.
   Tally KillAtEveryMoment(const std::function<void()> &prepare, const std::function<void()> &set,
                           const std::optional<Settings> &oldFile,
                           const std::optional<Settings> &newFile,
@@ -101,7 +100,7 @@ class KilledWriter : public Deliveries {
     EXPECT_EQ(LibraryListing(), kNothingElse);
   }
 
-  // Who registered before is told of what is set after all that.
+  // An earlier registration still gets later settings.
   void ExpectRegistrationsHold() {
     DeliverAll();
     SetTwo();
@@ -153,7 +152,7 @@ TEST_F(KilledWriter, WhereFilesNeedANameLeavesNothingAfterTheNextWriteEither) {
   ExpectAllToBegin(kLeftBeside, tally.leftBehind);
 }
 
-// Another program sets another value while the one that is killed stands still.
+// Another program sets another value while the one to be killed is stopped.
 TEST_F(KilledWriter, TakesNothingOfAnotherWithIt) {
   int moments = 0;
   for (bool isAtWork = true; isAtWork && !HasFailure();) {
@@ -162,7 +161,7 @@ TEST_F(KilledWriter, TakesNothingOfAnotherWithIt) {
     isAtWork = child.StepTo(++moments).has_value();
     SteppedProcess another([] { EXPECT_EQ(ORV_SetUSBOutputAudio(11, 1, 2), 100); });
     EXPECT_TRUE(another.RunToEnd());
-    // As far as it would have come on its own, and no further.
+    // As far as it would have come alone, and no further.
     if (isAtWork && child.StepTo(kFewestMoments)) child.Kill();
     SetTwo();
     Settings expected = kNext;

@@ -1,5 +1,5 @@
-// Eight processes that each set another value of one model, all at once: every value is stored, on
-// every kind of file system that a home folder usually lies on.
+// Eight processes that each set a different value of one model at the same time: every value is
+// stored, on every usual kind of file system for a home folder.
 #include <array>
 #include <cstdint>
 #include <cstdlib>
@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// How often each of them sets its value; scripts/stress asks for more.
+// How often each of them sets its value; scripts/stress uses more.
 int SetsOfEach(int usually) {
   const char *const asked = std::getenv("TRX_SETS_OF_EACH_WRITER");
   return asked != nullptr ? std::atoi(asked) : usually;
@@ -78,7 +78,7 @@ std::uint32_t IndexOf(const Writer &writer, int round) {
   return static_cast<std::uint32_t>(round) % writer.choices;
 }
 
-// Returns how often a value was not stored, or was gone when the writer looked.
+// Returns how often a value was not stored, or was missing when its writer looked.
 int SetOverAndOver(const Writer &writer, int rounds) {
   int lost = 0;
   for (int round = 0; round < rounds; ++round) {
@@ -90,7 +90,7 @@ int SetOverAndOver(const Writer &writer, int rounds) {
 
 class ManyWriters : public Aftermath {
  protected:
-  // What is announced is not looked at here.
+  // Announcements are ignored here.
   void SetUp() override { rig().StopNotificationService(); }
 
   void ExpectNothingLost(int rounds) {
@@ -137,7 +137,7 @@ TEST_F(ManyWriters, LoseNothingOnADisk) {
 TEST_F(ManyWriters, LoseNothingOnAnOverlay) {
   HaveOwnMounts();
   MakeLibraryFolder();
-  // The file lies below at first, as in a container's image.
+  // At first the file is in the lower layer, as in a container's image.
   PutLevelThree();
   const Mount overlay = Mount::Overlay(rig().LibraryFolder());
   ExpectNothingLost(SetsOfEach(250));

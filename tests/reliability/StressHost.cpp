@@ -1,17 +1,17 @@
 // stress-host: one of many processes that use the library at once.
 //
-//   stress-host poster NUMBER     sets every family, over and over, until its input ends
-//   stress-host observer          registers for everything and checks what it is told
-//   stress-host reader            asks for every current value, over and over, until its input ends
+//   stress-host poster NUMBER     sets everything again and again until its input ends
+//   stress-host observer          registers for everything and checks the announcements
+//   stress-host reader            reads every current value again and again until its input ends
 //
-// Each prints "ready" once it is at work. A line on standard input asks for a report, which is one
-// line of JSON; one that begins with '!' also lets a poster stand still until its next line. The
-// end of the input ends the process with a last report.
+// Each prints "ready" when it is running. A line on standard input asks for a report, which is one
+// line of JSON; a line that begins with '!' also stops a poster until its next line. The end of the
+// input ends the process with a last report.
 //
-// What is announced does not say who set it. So each poster has choices of its own, those of the
-// list of all choices at the places NUMBER, NUMBER + 8, ..., and sets them in an order that
-// everybody knows: an observer can tell for each announcement who must have set it, and what this
-// poster must have set before.
+// An announcement does not say which process made it. So each poster has its own choices, those at
+// the indexes NUMBER, NUMBER + 8, ... of the list of all choices, and sets them in a fixed order.
+// From this an observer knows for each announcement which poster made it, and what the poster must
+// have set before.
 #include <array>
 #include <csignal>
 #include <cstdint>
@@ -41,7 +41,7 @@ constexpr ProductId kSelva = 11;
 
 enum class Family { kBoost, kMidi, kInput, kOutput };
 
-// One value that one setter can be given.
+// One value of one setter.
 struct Choice {
   Family family = Family::kBoost;
   ProductId product = 0;
@@ -51,7 +51,7 @@ struct Choice {
   bool operator==(const Choice &) const = default;
 };
 
-// Family by family, and of each a number that gives every poster at least one.
+// All settings in turn, with enough values of each for every poster.
 std::vector<Choice> AllChoices() {
   std::vector<Choice> all;
   for (std::uint32_t index = 0; index < 4; ++index) {
@@ -74,7 +74,7 @@ std::vector<Choice> AllChoices() {
   return all;
 }
 
-// What one poster sets, one choice after another without end.
+// The endless sequence of one poster's choices.
 class Sequence {
  public:
   explicit Sequence(std::size_t poster) : random_(static_cast<std::uint32_t>(poster) + 1) {
@@ -129,8 +129,8 @@ std::ptrdiff_t OpenDescriptors() {
   return std::distance(begin(all), end(all));
 }
 
-// A report: how often, for each poster or in all; what was wrong first; how many descriptors there
-// are while nothing is being done.
+// A report: the number of operations, for each poster or in total; the first error; the number of
+// descriptors while the process is idle.
 void Report(const std::vector<std::uint64_t> &counts, const std::string &wrong) {
   Say("{\"counts\": " + ListOf(counts) + ", \"wrong\": \"" + wrong +
       "\", \"descriptors\": " + std::to_string(OpenDescriptors()) + "}");
@@ -138,8 +138,7 @@ void Report(const std::vector<std::uint64_t> &counts, const std::string &wrong) 
 
 enum class Asked { kNothing, kReport, kStandStill, kEnd };
 
-// What standard input has to say, waiting no longer than this, or for as long as it takes when it
-// is negative.
+// Reads standard input, waiting no longer than this; without limit when it is negative.
 Asked LookAtInput(int milliseconds) {
   pollfd input = {STDIN_FILENO, POLLIN, 0};
   if (poll(&input, 1, milliseconds) <= 0) return Asked::kNothing;
@@ -148,7 +147,7 @@ Asked LookAtInput(int milliseconds) {
   return line[0] == '!' ? Asked::kStandStill : Asked::kReport;
 }
 
-// Keeps what was wrong first.
+// Keeps the first error.
 class Complaint {
  public:
   void Add(const std::string &text) {
@@ -190,7 +189,7 @@ int Post(std::size_t poster) {
     if (asked == Asked::kEnd) break;
     const Choice &choice = sequence.Next();
     const StatusCode status = Set(choice);
-    // Only the routing of what is recorded may come with a warning.
+    // Only the input routing may give a warning.
     const bool isWell = status == 100 || (status == 101 && choice.family == Family::kInput);
     if (!isWell) complaint.Add(Shown(choice) + " is answered with " + std::to_string(status));
     ++count;

@@ -1,5 +1,5 @@
-// A mixer that is unplugged while a call is at work, before each of the call's system calls in
-// turn: between count and open, between open and request, behind the request.
+// A mixer that is unplugged during a call, before each of the call's system calls in turn: between
+// count and open, between open and request, after the request.
 #include <algorithm>
 #include <array>
 #include <functional>
@@ -19,8 +19,8 @@ using Lines = std::vector<std::string>;
 
 constexpr int kMostMoments = 5000;
 
-// Calls whose outcome may depend on what is plugged in. To unplug before another one is the same as
-// before the next of these.
+// System calls whose result may depend on what is plugged in. Unplugging before any other call is
+// the same as before the next of these.
 bool MayLookAtBus(const SystemCall &call) {
   constexpr std::array kNumbers = {SYS_openat, SYS_getdents64, SYS_read,
                                    SYS_ioctl,  SYS_sendto,     SYS_recvfrom};
@@ -30,9 +30,9 @@ bool MayLookAtBus(const SystemCall &call) {
 
 class VanishingUnit : public Aftermath {
  protected:
-  // Has a child run `call` over and over, and unplugs the mixer that is plugged in last before the
-  // first look that the child may take at the bus, before the second, ... before the last. The call
-  // must end well each time; then `afterwards` looks. Returns how often it was unplugged.
+  // Has a child run `call` again and again, and unplugs the last mixer before the child's first
+  // access to the bus, before the second, ... before the last. The call must end well each time;
+  // then `afterwards` checks. Returns how often the mixer was unplugged.
   int UnplugAtEveryMoment(const std::function<void()> &call,
                           const std::function<void()> &afterwards) {
     const int unit = rig().PlugMixer();

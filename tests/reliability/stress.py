@@ -1,4 +1,4 @@
-"""Eight processes set every family on one user's files, as fast as they can, while others read and observe.
+"""Eight processes set everything on one user's files, as fast as they can, while others read and observe.
 
 stress.py SECONDS [--without-memory]
 
@@ -52,7 +52,7 @@ def settings_file(folder, model):
 
 
 def fault_of(data, keys):
-    """What is wrong with the contents of a settings file; nothing when it is whole."""
+    """The error in a settings file's contents; nothing when it is complete."""
     try:
         settings = plistlib.loads(data, fmt=plistlib.FMT_XML)
     except Exception as error:
@@ -66,7 +66,7 @@ def fault_of(data, keys):
 
 
 def read_files(folder):
-    """Reads the files over and over until the input ends, then says how often and what was wrong first."""
+    """Reads the files again and again until the input ends, then reports how often and the first error."""
     print("ready", flush=True)
     reads, wrong, seen = 0, "", set()
     while not select.select([sys.stdin], [], [], 0.001)[0]:
@@ -107,11 +107,11 @@ class Member:
         return line.decode()
 
     def report(self):
-        """What it has done so far."""
+        """A report of its work so far."""
         return self._ask(b"?\n")
 
     def stand_still(self):
-        """What a poster has done so far. It goes on when it is asked for its next report."""
+        """A report of a poster's work so far. The poster continues when it is asked for its next report."""
         return self._ask(b"!\n")
 
     def _ask(self, request):
@@ -120,7 +120,7 @@ class Member:
         return json.loads(self.line())
 
     def end(self):
-        """Ends it and gives its last report."""
+        """Ends it and returns its last report."""
         self._process.stdin.close()
         report = json.loads(self.line())
         if self._process.wait(PATIENCE) != 0:
@@ -128,7 +128,7 @@ class Member:
         return report
 
     def memory(self):
-        """KiB of resident memory that is its own. Counted page by page: the sum in "status" is only near enough."""
+        """KiB of its private resident memory, counted page by page: the sum in "status" is inexact."""
         pages = pathlib.Path(f"/proc/{self._process.pid}/smaps_rollup").read_text()
         return next(int(line.split()[1]) for line in pages.splitlines() if line.startswith("Anonymous:"))
 
@@ -162,7 +162,7 @@ class Group:
         return self.observers + self.posters + self.readers
 
     def sizes(self):
-        """Memory and descriptors of each host, taken when no observer has anything left to be told."""
+        """Memory and descriptors of each host, taken when every observer has received everything."""
         sets = [poster.stand_still()["counts"][0] for poster in self.posters]
         for observer in self.observers:
             wait_until_all_is_told(observer, sets)
@@ -174,14 +174,14 @@ class Group:
 
 
 def stay_until(deadline):
-    """Lets the others work. The mixers' log is kept short meanwhile: it is no part of what is tried."""
+    """Lets the others work, and keeps the mixers' log short: it is not part of the test."""
     while (left := deadline - time.monotonic()) > 0:
         subprocess.run([TRX_MIXER_CTL, "log", "clear"], check=True, timeout=PATIENCE)
         select.select([], [], [], min(1, left))
 
 
 def wait_until_all_is_told(observer, sets):
-    """The observer's report once it was told of so much, or when it takes too long."""
+    """The observer's report when it has received this many announcements, or after a time limit."""
     deadline = time.monotonic() + PATIENCE
     while True:
         report = observer.report()
@@ -191,7 +191,7 @@ def wait_until_all_is_told(observer, sets):
 
 
 class Verdict:
-    """What was otherwise than expected."""
+    """The differences from what was expected."""
 
     def __init__(self):
         self.faults = []
@@ -223,7 +223,7 @@ def check_files(verdict, folder):
 
 
 def run(seconds, withMemory, folder):
-    """Runs once; prints what was done; gives what was wrong."""
+    """Runs once, prints a summary, and returns the errors."""
     verdict = Verdict()
     group = Group(folder)
     try:
