@@ -1,26 +1,25 @@
 #include "XmlEncoding.h"
 
+#include <array>
 #include <string_view>
 
 namespace orv {
 namespace {
 
-using std::string_view_literals::operator""sv;
-
 constexpr std::string_view kMarkUtf8 = "\xEF\xBB\xBF";
 
-struct ByteOrder {
+struct Beginning {
+  std::string_view bytes;
   bool isBigEndian;
   std::size_t markSize;
 };
 
-std::optional<ByteOrder> Utf16In(std::string_view contents) {
-  if (contents.starts_with("\xFE\xFF"sv)) return ByteOrder{true, 2};
-  if (contents.starts_with("\xFF\xFE"sv)) return ByteOrder{false, 2};
-  if (contents.starts_with("\0<"sv)) return ByteOrder{true, 0};
-  if (contents.starts_with("<\0"sv)) return ByteOrder{false, 0};
-  return std::nullopt;
-}
+constexpr std::array kBeginningsOfUtf16 = {
+    Beginning{{"\xFE\xFF", 2}, true, 2},
+    Beginning{{"\xFF\xFE", 2}, false, 2},
+    Beginning{{"\0<", 2}, true, 0},
+    Beginning{{"<\0", 2}, false, 0},
+};
 
 void Append(char32_t character, std::string &text) {
   const auto rest = [&](int shift) {
@@ -87,8 +86,9 @@ class Utf16 {
 }  // namespace
 
 std::optional<std::string> InUtf8(std::string contents) {
-  if (const auto order = Utf16In(contents)) {
-    return Utf16(std::string_view(contents).substr(order->markSize), order->isBigEndian).InUtf8();
+  for (const auto &[bytes, isBigEndian, markSize] : kBeginningsOfUtf16) {
+    if (!contents.starts_with(bytes)) continue;
+    return Utf16(std::string_view(contents).substr(markSize), isBigEndian).InUtf8();
   }
   if (contents.starts_with(kMarkUtf8)) contents.erase(0, kMarkUtf8.size());
   return contents;
