@@ -1,6 +1,6 @@
-// How long the library waits for a session bus that hangs, how often it looks for one that is away,
-// and what wakes the host meanwhile. The waits are those that are asked of the system, to the
-// microsecond; none of them takes its time.
+// How long the library waits for a session bus that hangs, how often it looks for a missing one,
+// and what wakes the host meanwhile. The tests check the requested waits, to the microsecond; no
+// test really waits.
 #include <chrono>
 #include <cstdint>
 #include <cstdlib>
@@ -30,7 +30,7 @@ constexpr std::chrono::seconds kPatience{60};
 
 int delivered = 0;
 
-// Observes a name that nothing has observed before, and gives it.
+// Observes a new name and returns it.
 std::string Observe() {
   static int names = 0;
   const std::string name = "Change " + std::to_string(++names);
@@ -142,7 +142,7 @@ TEST_F(BusWait, WhileTheBusIsThereNoTimerWakesTheHost) {
   EXPECT_FALSE(IsTimerOn());
 }
 
-// The request is under way and the bus will come to it: to ask again would be to ask twice.
+// The bus has the request and will answer it: asking again would ask twice.
 TEST_F(BusWait, AnAnswerThatDoesNotComeInTimeIsNoRefusal) {
   setenv("SYSTEMD_BUS_TIMEOUT", "20ms", 1);
   ASSERT_TRUE(IsHeard(Observe())) << "the connection is up";
@@ -168,7 +168,7 @@ TEST_F(BusWait, AConnectionThatCannotBeWatchedAtOnceIsWatchedAfterOneSecond) {
     Dispatch();
     ASSERT_THAT(system.TimerRunsOutIn(), Optional(1'000'000));
   }
-  // The host does nothing but watch the descriptor.
+  // The host only watches the descriptor.
   ASSERT_TRUE(RunEventLoopUntil([] { return !IsTimerOn(); }));
   Post(name);
   EXPECT_TRUE(RunEventLoopUntil([] { return delivered > 0; }));
@@ -202,7 +202,7 @@ TEST_F(BusWait, PostsThatABusLeavesInTheProcessAreWaitedForOnce) {
     {
       const WatchedSystem system;
       std::vector<std::uint64_t> waits;
-      // What fits into the socket leaves at once.
+      // Messages that fit into the socket leave at once.
       for (int i = 0; i < 1'000'000 && waits.empty(); ++i) {
         Post("a name");
         waits = system.TakeWaits();

@@ -187,7 +187,7 @@ TEST_F(BusWalk, FindsAMixerBehindManyOtherDevices) {
   EXPECT_THAT(Units(), ElementsAre(Address(9, 9)));
 }
 
-// A number must not be taken for another because the rest of it was not read.
+// A number that is only partly read must not count as another number.
 TEST_F(BusWalk, NeverTakesTheBeginningOfANumberForTheWhole) {
   const std::string summary = "PRODUCT=" + Vendor() + "/1f/100\nBUSNUM=001\nFILL=";
   for (std::size_t size = 900; size < 1100; ++size) {

@@ -1,4 +1,4 @@
-// The visit of all units, by the way that every family takes.
+// Visiting all units, as every setting does.
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -18,7 +18,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// What the latest request was sent to. A request is a plain function and can keep nothing itself.
+// The unit of the latest request. A request is a plain function and cannot store it itself.
 std::vector<std::string> sent;
 
 PlatformStatus RecordingRequest(DeviceHandle handle, std::uint16_t value) {
@@ -82,7 +82,7 @@ TEST_F(VisitOfAllUnits, LooksAtTheBusOnce) {
   EXPECT_THAT(Visited(units), ElementsAre("node 1/2", "node 1/3", "node 1/4"));
 }
 
-// One mixer is pulled while the first one is served, and its number goes to another device.
+// One mixer is unplugged while the first one is served, and another device gets its number.
 TEST_F(VisitOfAllUnits, HasNothingForADeviceThatGotTheNumberOfAUnit) {
   std::vector<std::string> visited;
   VisitUnits(ConnectedUnits(11), [&](DeviceHandle unit) {

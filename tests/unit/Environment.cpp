@@ -16,7 +16,7 @@ Environment::Environment(const std::vector<Variable> &variables) {
   }
 }
 
-// In reverse: a variable that was named twice gets the value that it had first.
+// In reverse order: a variable that was named twice gets its original value.
 Environment::~Environment() {
   for (auto variable = before_.rbegin(); variable != before_.rend(); ++variable) Put(*variable);
 }

@@ -1,4 +1,4 @@
-// Environment variables for the length of one test.
+// Environment variables for one test.
 #pragma once
 
 #include <initializer_list>
@@ -9,7 +9,7 @@
 
 namespace orv {
 
-/// Sets variables, or removes those without a value, and puts all of them back at the end. One
+/// Sets variables, or removes those without a value, and restores all of them at the end. One
 /// thread only: the environment belongs to the whole process.
 class Environment {
  public:
@@ -27,7 +27,7 @@ class Environment {
   std::vector<Variable> before_;
 };
 
-/// Nothing in the environment says which language the user reads, except these variables.
+/// Only these variables in the environment name the user's language.
 std::vector<Environment::Variable> OnlyLanguage(const std::vector<Environment::Variable> &set);
 
 }  // namespace orv

@@ -22,7 +22,7 @@ void *Allocate(std::size_t size) noexcept {
 
 }  // namespace
 
-// Stand in the place of the language's own for the whole program.
+// Replace the operators of the language in the whole program.
 void *operator new(std::size_t size) {
   void *const memory = Allocate(size);
   if (memory == nullptr) throw std::bad_alloc();

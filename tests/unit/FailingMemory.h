@@ -1,4 +1,4 @@
-// Memory that runs out when a test wants it to.
+// Memory that runs out when a test requests it.
 #pragma once
 
 namespace orv {

@@ -1,5 +1,5 @@
-// Changing a file while others change it too, beside what killed writers have left, and when the
-// system fails: on file systems with everything that the library can use, and on lesser ones.
+// Changing a file while others change it too, with files that killed writers have left, and when
+// the system fails: on file systems with everything that the library can use, and on others.
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -45,7 +45,7 @@ using trxtest::WriteBytes;
 
 constexpr std::size_t kPlenty = 1'000'000;
 
-// What a system may lack. Each is for a process that can be given up.
+// Features that a system may lack. Each change is for a process that ends afterwards.
 struct System {
   const char *description;
   std::function<void()> giveUp;
@@ -65,7 +65,7 @@ const std::vector<System> kSystems = {
      false},
 };
 
-// Adds a letter to what is in the file unless it is there. Returns whether it worked.
+// Adds a letter to the file unless it is there. Returns whether it worked.
 bool Add(const std::string &path, const std::string &letter) {
   return ChangeFileContents(path, kPlenty, [&](const std::optional<std::string> &old) {
     const std::string contents = old.value_or("");
@@ -77,7 +77,7 @@ bool IsOfGivingUp(const SystemCall &call) { return static_cast<long>(call.number
 
 class FileReplacement : public testing::Test {
  protected:
-  // A writer that adds a letter, on a system like this, and ends well if that works.
+  // A writer that adds a letter, on such a system, and ends well if that works.
   std::function<void()> Adding(const std::string &letter, const System &system) const {
     return [=, this] {
       system.giveUp();
@@ -89,7 +89,7 @@ class FileReplacement : public testing::Test {
     EXPECT_TRUE(SteppedProcess(Adding(letter, system)).RunToEnd());
   }
 
-  // As an editor does that knows nothing of the library.
+  // Replaces the file as an editor does.
   void Edit(const std::string &contents) const {
     WriteBytes(folder_ / "edited", contents);
     ASSERT_EQ(rename((folder_ / "edited").c_str(), path_.c_str()), 0);
@@ -113,8 +113,8 @@ class FileReplacement : public testing::Test {
     }
   }
 
-  // As above; then lets somebody do something, lets the writer go on by one more, two more, ...
-  // system calls, and kills it.
+  // The same; then calls something else, lets the writer continue for one, two, ... more system
+  // calls, and kills it.
   void AtEveryTwoMoments(const std::vector<System> &systems,
                          const std::function<void(const System &)> &between,
                          const std::function<void(const System &)> &then) const {
@@ -180,7 +180,7 @@ TEST_F(FileReplacement, LeavesAFileThatIsTooLarge) {
 
 // --- Many writers --------------------------------------------------------------------------------
 
-// Lets processes change a file all at once.
+// Lets processes change a file at the same time.
 void AllAtOnce(int processes, const std::function<bool(int)> &body) {
   std::vector<pid_t> writers;
   for (int i = 0; i < processes; ++i) {
@@ -237,7 +237,7 @@ void ExpectNothingLost(const TemporaryFolder &folder, int times) {
 
 TEST_F(FileReplacement, ByManyProcessesAtOnceLosesNothing) { ExpectNothingLost(folder_, 150); }
 
-// What the build folder lies on is usually a disk, which other tests spare.
+// The build folder is usually on a disk, which other tests do not use.
 TEST_F(FileReplacement, ByManyProcessesAtOnceLosesNothingOnADisk) {
   ExpectNothingLost(TemporaryFolder(BUILD_FOLDER), 10);
 }
@@ -431,8 +431,8 @@ TEST_F(FileReplacement, InterruptedWhileReadingOrWritingGoesOn) {
   }
 }
 
-// What a power cut must not undo: the contents before they get a name, and the name before the
-// setter comes back.
+// A power cut must not undo the change: the contents are durable before they get a name, and the
+// name before the setter returns.
 TEST_F(FileReplacement, IsDurableBeforeItShowsAndBeforeItIsSaidToBeDone) {
   for (const System &system : kSystems) {
     SCOPED_TRACE(system.description);
@@ -441,7 +441,7 @@ TEST_F(FileReplacement, IsDurableBeforeItShowsAndBeforeItIsSaidToBeDone) {
     std::vector<std::string> order;
     std::optional<std::uint64_t> file;
     const auto then = [&](const std::string &step) {
-      // Where a file gets no name later, there is a second one.
+      // If a file cannot get a name later, there is a second one.
       if (order.empty() || order.back() != step) order.push_back(step);
     };
     while (const auto call = writer.Step()) {

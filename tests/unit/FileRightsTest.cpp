@@ -1,4 +1,4 @@
-// Who may do what with a file that has taken another's place: nobody more than before.
+// The rights to a file that has replaced another one: nobody gets more than before.
 #include <cerrno>
 #include <cstdint>
 #include <functional>
@@ -41,8 +41,8 @@ struct stat StatusOf(const std::string &path) {
   return status;
 }
 
-// An access list as the kernel takes it: what owner, one more user, the group, most others and all
-// the rest may.
+// An access list in the kernel's format: the rights of the owner, one more user, the group, the
+// mask and all others.
 std::string AccessList(unsigned owner, unsigned oneMore, unsigned group, unsigned most,
                        unsigned rest) {
   std::string list("\2\0\0\0", 4);
@@ -85,7 +85,7 @@ class FileRights : public testing::Test {
 
   mode_t Mode() const { return StatusOf(path_).st_mode & 07777; }
 
-  // On what the build folder lies on: file systems in memory have no attributes of users.
+  // In the build folder: file systems in memory have no user attributes.
   const TemporaryFolder folder_{BUILD_FOLDER};
   const std::string path_ = folder_ / "settings";
 };
@@ -110,7 +110,7 @@ TEST_F(FileRights, OwnerGroupAndPermissionsAreKept) {
   }
 }
 
-// Only root can bring about the first half of it: a file of a group that the writer is not in.
+// Only root can test the first half of this: a file of a group that the writer is not in.
 TEST_F(FileRights, NothingIsLeftToAnotherGroupThanTheOldFiles) {
   const bool isRoot = geteuid() == 0;
   ASSERT_EQ(chmod(folder_.Path().c_str(), 0777), 0);
@@ -118,7 +118,7 @@ TEST_F(FileRights, NothingIsLeftToAnotherGroupThanTheOldFiles) {
     mode_t before;
     mode_t afterwards;
   };
-  // In the last one the group is kept out of what all others may read.
+  // In the last one, all others may read and the group may not.
   for (const auto &[before, afterwards] : {Case{0664, 0604}, Case{0646, 0604}, Case{0604, 0600}}) {
     PutOldFile(0600);
     ASSERT_EQ(chown(path_.c_str(), geteuid(), isRoot ? kSomeGroup : getegid()), 0);
@@ -142,7 +142,7 @@ TEST_F(FileRights, AnAccessListIsKept) {
   EXPECT_EQ(Mode(), 0640U);
 }
 
-// Root alone can bring this about, as above.
+// Only root can test this, as above.
 TEST_F(FileRights, AnAccessListThatCannotBeKeptLeavesNothingToAnybodyElse) {
   if (geteuid() != 0) GTEST_SKIP() << "only root can make a file of a group that it is not in";
   ASSERT_EQ(chmod(folder_.Path().c_str(), 0777), 0);
@@ -199,7 +199,7 @@ TEST_F(FileRights, ThoseOfWhatIsNoFileAreNotTaken) {
   }
 }
 
-// Root with a user's environment, as sudo leaves it.
+// Root with a user's environment, as with sudo.
 TEST_F(FileRights, WhatRootMakesInAUsersFolderIsTheUsers) {
   if (geteuid() != 0) GTEST_SKIP() << "only root makes things in the folders of others";
   ASSERT_EQ(chown(folder_.Path().c_str(), kSomeUser, kSomeGroup), 0);

@@ -1,4 +1,4 @@
-// Making a user's folders: for their owner alone, whoever makes them.
+// Making a user's folders: only for their owner, whoever makes them.
 #include <string>
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Where a user's files are, by the environment and the account.
+// The place of a user's files, from the environment and the account.
 #include <cstdlib>
 #include <optional>
 #include <string>
@@ -80,7 +80,7 @@ TEST(LibraryFolder, IsLookedUpAfreshEachTime) {
   });
 }
 
-// Who starts such a program must not say where it writes with rights that are not theirs.
+// The user who starts such a program must not choose where it writes with another user's rights.
 TEST(LibraryFolder, LiesInTheHomeOfWhoseRightsTheProcessHasWhateverTheEnvironmentSays) {
   const Environment environment = {{"HOME", "/foreign"}, {"XDG_CONFIG_HOME", "/foreign/config"}};
   EXPECT_THAT(OutputOf(PRIVILEGE_PROBE), EndsWith(" /foreign/config/orvikaudio"));

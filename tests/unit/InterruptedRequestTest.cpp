@@ -1,5 +1,5 @@
-// Requests that signals interrupt. The kernel's answers and the time come from the test, so that
-// the time-out of each try is known to the millisecond.
+// Requests interrupted by signals. The test supplies the kernel's answers and the time, so the
+// time-out of each try is known to the millisecond.
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -19,7 +19,7 @@
 
 namespace {
 
-// What stands in the place of the kernel.
+// Replaces the kernel.
 struct Kernel {
   std::int64_t milliseconds = 1'000'000;     // since the machine was started
   std::function<int(std::uint32_t)> answer;  // gets the time-out of a try; minus the error
@@ -29,7 +29,7 @@ Kernel kernel;
 
 }  // namespace
 
-// In the place of the C library's, for this program.
+// Replace those of the C library in this program.
 extern "C" int ioctl(int, unsigned long request, ...) noexcept {
   va_list arguments;
   va_start(arguments, request);
@@ -61,7 +61,7 @@ class InterruptedRequest : public testing::Test {
  protected:
   InterruptedRequest() { kernel = Kernel(); }
 
-  // Lets each try take some milliseconds and end so; the tries behind them succeed at once.
+  // Makes each try take some milliseconds and end in this way; later tries succeed at once.
   struct Ending {
     std::int64_t milliseconds;
     int result;

@@ -59,7 +59,8 @@ std::string SharedText(std::size_t number) {
 
 using Handed = std::array<std::vector<ORVStringRef>, kTexts>;
 
-// What several threads get that begin at the same moment and ask for the same texts, over and over.
+// The texts that several threads get when they start together and ask for the same texts
+// repeatedly.
 std::array<Handed, kThreads> AskOnManyThreads() {
   std::array<Handed, kThreads> handed;
   std::latch ready(kThreads);

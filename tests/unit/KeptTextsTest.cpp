@@ -1,4 +1,4 @@
-// The set of texts handed out, over a platform that has no text now and then.
+// The set of kept texts, with a platform that sometimes has no text.
 #include <string_view>
 
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ class TextWithMemory {
 };
 
 TEST(KeptTexts, KeepNoTextThatThePlatformCouldNotMake) {
-  // As long as the process, as all texts are kept.
+  // Lives as long as the process, because all texts are kept.
   static KeptTexts<TextWithMemory> texts;
   hasMemory = false;
   EXPECT_EQ(texts.Keep("a text"), nullptr);

@@ -17,7 +17,7 @@ using trxtest::WriteBytes;
 const std::string kHello = "<key>HELLO</key><string>";
 const std::string kEndOfText = "</string>";
 
-// A bundle with the languages that a test puts into it.
+// A bundle with the languages of a test.
 class LocalizedStringsTest : public testing::Test {
  protected:
   std::string Bundle() const { return folder_.Path(); }
@@ -40,7 +40,7 @@ class LocalizedStringsTest : public testing::Test {
     AddEntries(language, kHello + text + kEndOfText);
   }
 
-  // The text that a user with these settings gets.
+  // The text for a user with these settings.
   ORVStringRef TextWith(const std::vector<Environment::Variable> &variables,
                         const char *key = "HELLO") {
     const Environment environment(OnlyLanguage(variables));

@@ -22,7 +22,7 @@ std::string ThreeDigits(unsigned number) {
   return digits.insert(0, 3 - std::min<std::size_t>(digits.size(), 3), '0');
 }
 
-// As a mixer gives it, but for the ids.
+// As from a mixer, except for the ids.
 std::string DeviceDescriptor(unsigned vendor, unsigned product) {
   const std::array<unsigned, kDescriptorSize> bytes = {
       18,           1, 0, 2, 0, 0, 0, 64, vendor & 0xFF, vendor >> 8, product & 0xFF,

@@ -1,4 +1,4 @@
-// A USB of a test's own in the place of the machine's, as files.
+// A USB made of files, in place of the machine's.
 #pragma once
 
 #include <filesystem>
@@ -10,8 +10,7 @@
 
 namespace orv {
 
-/// Stands in the place of /sys and /dev for the length of a test. At the start there is a bus
-/// without any entry.
+/// Replaces /sys and /dev during a test. At the start there is a bus without entries.
 class MockBus {
  public:
   MockBus();
@@ -34,16 +33,16 @@ class MockBus {
   /// Makes the node of a device with these ids, whatever is listed.
   void MakeNode(unsigned bus, unsigned device, unsigned vendor, unsigned product);
 
-  /// Takes an entry off the list.
+  /// Removes an entry from the list.
   void Unlist(const std::string &name);
 
-  /// Takes the whole bus away.
+  /// Removes the whole bus.
   void RemoveList();
 
-  /// The path of a node in the folder that stands for /dev.
+  /// The path of a node in the folder that replaces /dev.
   std::filesystem::path Node(unsigned bus, unsigned device) const;
 
-  /// How many of its files and folders this process has open.
+  /// The number of its files and folders that this process has open.
   int OpenFiles() const;
 
  private:
@@ -53,13 +52,13 @@ class MockBus {
   std::filesystem::path root_;
 };
 
-/// Which node an open unit has: "node 1/5" for the one on bus 1 with number 5.
+/// The node of an open unit: "node 1/5" for the one on bus 1 with number 5.
 std::string NodeBehind(DeviceHandle unit);
 
-/// What the kernel says of a mixer.
+/// The kernel's summary of a mixer.
 std::string MixerSummary(unsigned bus, unsigned device);
 
-/// What the kernel says of a device with these ids, written as it writes them.
+/// The kernel's summary of a device with these ids, in the kernel's format.
 std::string Summary(const std::string &product, const std::string &bus, const std::string &device);
 
 }  // namespace orv

@@ -1,5 +1,5 @@
-// The tests of the bus run with umockdev loaded in front of the C library. The program sees to that
-// itself, so that it can be started like any other.
+// The tests of the bus need umockdev's preloaded library. The program starts itself again with it,
+// so that it can be started like any other.
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -24,12 +24,12 @@ bool IsLoaded() {
   return library != nullptr;
 }
 
-// Set for the program's second start, which must not lead to a third.
+// Set for the program's second start, to prevent a third.
 constexpr const char *kSecondStart = "TRX_BUS_TESTS_SECOND_START";
 
 }  // namespace
 
-// The thread sanitizer does not see how GLib orders what its own threads do. These tests run the
+// The thread sanitizer does not see how GLib synchronises its own threads. These tests run the
 // library on one thread only.
 extern "C" __attribute__((visibility("default"))) const char *__tsan_default_suppressions() {
   return "race:libglib-2.0.so\nrace:libgobject-2.0.so\nrace:libgio-2.0.so\n"

@@ -1,4 +1,4 @@
-// The dictionary that a notification carries.
+// The dictionary of a notification.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

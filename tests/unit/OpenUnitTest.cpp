@@ -1,4 +1,4 @@
-// Opening units by position: which one, and what is said when it does not open.
+// Opening units by position: which unit is opened, and the status when it does not open.
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
@@ -22,7 +22,7 @@ using testing::ElementsAre;
 constexpr auto kGeneralError = static_cast<PlatformStatus>(0xE00002BC);
 constexpr auto kNoDevice = static_cast<PlatformStatus>(0xE00002C0);
 
-// The nodes of all units, opened by position one after the other.
+// The nodes of all units, opened by position in turn.
 std::vector<std::string> NodesInOrder() {
   std::vector<std::string> nodes;
   DeviceHandle handle = nullptr;
@@ -135,7 +135,7 @@ TEST(OpenUnit, SaysThatADeviceIsGoneForASocketInThePlaceOfTheNode) {
   EXPECT_EQ(handle, nullptr);
 }
 
-// A device number is given again sooner or later: the node is another device's by now.
+// Device numbers are reused: the node is now another device's.
 TEST(OpenUnit, SaysThatAUnitIsGoneWhoseNumberAnotherDeviceHas) {
   struct Ids {
     unsigned vendor;

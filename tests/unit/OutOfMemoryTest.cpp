@@ -1,5 +1,5 @@
-// Memory that runs out in the middle of a call: no exception leaves the C interface, the answer is
-// one that the call promises, and the next call finds everything in order.
+// Memory that runs out during a call: no exception leaves the C interface, the status is one that
+// the call promises, and the next call finds everything in order.
 #include <cstdint>
 #include <cstdlib>
 #include <functional>
@@ -27,8 +27,8 @@ using testing::UnorderedElementsAre;
 using trxtest::PrivateSessionBus;
 using trxtest::TemporaryFolder;
 
-// Makes the call again and again, each time with memory for one allocation more, until it needs no
-// more than it gets. Gives all answers.
+// Makes the call again and again, each time with memory for one more allocation, until that is
+// enough. Returns all results.
 std::set<StatusCode> AnswersWhileMemoryGrows(const std::function<StatusCode()> &call) {
   std::set<StatusCode> answers;
   constexpr int kMostAllocations = 2000;

@@ -1,4 +1,4 @@
-// The one vocabulary for what platform calls answer.
+// The status values of platform calls.
 #include <cerrno>
 #include <cstdint>
 

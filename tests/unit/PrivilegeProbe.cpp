@@ -1,5 +1,5 @@
-// Prints whether the system runs this program with more rights than its user, where a fixed path
-// leads to, and where the user's files are.
+// Prints whether the system runs this program with more rights than its user, how it maps a fixed
+// path, and where the user's files are.
 #include <cstdio>
 
 #include <sys/auxv.h>
@@ -13,7 +13,7 @@ int main() {
               orv::SystemPath("/Library/file").c_str(),
               orv::LibraryFolder().value_or("none").c_str());
   std::fflush(stdout);
-  // Ends here: a leak checker would try to look into the process, which the system refuses while it
+  // Ends here: a leak checker would try to inspect the process, which the system refuses when it
   // has more rights than its user.
   _exit(0);
 }

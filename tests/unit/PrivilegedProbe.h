@@ -1,15 +1,15 @@
-// A program that says where the library finds its files when it has more rights than its user.
+// A program with more rights than its user that prints where the library finds its files.
 #pragma once
 
 #include <string>
 
 namespace trxtest {
 
-/// What a program prints.
+/// The output of a program.
 std::string OutputOf(const std::string &program);
 
-/// A copy of the probe that runs with rights that the user of this test does not have: those of
-/// another account for root, of another of their groups for anyone else.
+/// A copy of the probe that runs with rights that the user of this test does not have: for root,
+/// those of another account; for other users, those of another of their groups.
 class PrivilegedProbe {
  public:
   PrivilegedProbe();
@@ -17,7 +17,7 @@ class PrivilegedProbe {
   PrivilegedProbe &operator=(const PrivilegedProbe &) = delete;
   ~PrivilegedProbe();
 
-  /// False where the user of this test has no other rights to give.
+  /// False when the user of this test cannot give it such rights.
   bool IsPrivileged() const { return isPrivileged_; }
   const std::string &Path() const { return path_; }
 

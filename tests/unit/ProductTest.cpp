@@ -1,4 +1,4 @@
-// The models: their numbers, their names, which function serves which.
+// The models: their numbers, their names, and the functions that serve them.
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -15,7 +15,7 @@ using testing::ElementsAre;
 
 constexpr ProductId kUntouched = 4711;
 
-// What the library makes of a name; kUntouched when it answers 102 and writes nothing.
+// The library's result for a name; kUntouched when it returns 102 and writes nothing.
 ProductId ProductIdOf(const char *name) {
   ProductId productId = kUntouched;
   const StatusCode status = ORV_GetProductId(name, &productId);
@@ -82,7 +82,7 @@ TEST(ModelDisplayName, IsNoneForAnyOther) {
   }
 }
 
-// The numbers up to 12, and some far beyond, that a set holds.
+// The numbers in a set, among those up to 12 and some far beyond.
 std::vector<ProductId> Accepted(const ProductSet &set) {
   std::vector<ProductId> accepted;
   for (ProductId productId = 0; productId <= 12; ++productId) {

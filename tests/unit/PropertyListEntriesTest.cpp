@@ -1,4 +1,4 @@
-// Entries of other programs: whatever their type, they survive a write of the library's own.
+// Entries of other programs: whatever their type, they survive a write of the library.
 #include <string>
 #include <vector>
 
@@ -16,7 +16,7 @@ using testing::ElementsAre;
 using trxtest::TemporaryFolder;
 using trxtest::WriteBytes;
 
-// What an independent reader finds in a file after the library has set "MaxLevel" in it.
+// The entries that an independent reader finds after the library has set "MaxLevel".
 std::vector<std::string> AfterSettingMaxLevel(const std::string &contents) {
   const TemporaryFolder folder;
   const std::string path = folder / "settings.plist";
@@ -26,7 +26,7 @@ std::vector<std::string> AfterSettingMaxLevel(const std::string &contents) {
   return ShownEntries(path);
 }
 
-// The file that the library leaves of a binary list with these keys and values.
+// The file that the library writes for a binary list with these keys and values.
 std::vector<std::string> AfterSettingMaxLevel(BinaryList &list,
                                               const std::vector<BinaryList::Reference> &entries) {
   return AfterSettingMaxLevel(list.File(list.AddDictionary(entries)));

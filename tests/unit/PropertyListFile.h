@@ -1,4 +1,4 @@
-// Property lists as the files that other programs leave, and as an independent reader sees them.
+// Property lists as other programs write them, and as an independent reader sees them.
 #pragma once
 
 #include <cstdint>
@@ -11,21 +11,21 @@ namespace orv {
 /// An XML property list with these entries, each a <key> and its value, in its root dictionary.
 std::string XmlList(const std::string &entries);
 
-/// Sets "MaxLevel" in the list in a file, as the library sets any value. Returns whether it did.
+/// Sets "MaxLevel" in a list in a file, as the library sets any value. Returns whether it did.
 bool SetMaxLevel(const std::string &path, std::int32_t value);
 
 /// The bytes of a number, most significant first.
 std::string BigEndian(std::uint64_t number, unsigned size);
 
-/// The bytes of a real number as a binary property list holds it.
+/// The bytes of a real number in a binary property list.
 std::string BigEndianReal(double real);
 
-/// Builds a binary property list, object by object. References to objects take four bytes.
+/// Builds a binary property list, object by object. References to objects have four bytes.
 class BinaryList {
  public:
   using Reference = std::uint32_t;
 
-  /// Adds an object of these bytes, marker and all.
+  /// Adds an object with these bytes, including the marker.
   Reference Add(std::string bytes);
 
   Reference AddText(std::string_view ascii);
@@ -47,8 +47,8 @@ class BinaryList {
 /// A binary list with one entry, "a", whose value is an object of these bytes.
 std::string BinaryListOf(const std::string &object);
 
-/// The entries of an XML property list as an independent reader sees them, one each as "key: type
-/// value" in the order of the keys; a single line of complaint when it cannot read the file.
+/// The entries of an XML property list as an independent reader sees them, each as "key: type
+/// value" in the order of the keys; one line with the error when it cannot read the file.
 std::vector<std::string> ShownEntries(const std::string &path);
 
 }  // namespace orv

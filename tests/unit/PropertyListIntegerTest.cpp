@@ -1,4 +1,4 @@
-// The integer reading of an entry, for every type that another program may have left.
+// The integer reading of an entry, for every type that another program may have written.
 #include <cstdint>
 #include <limits>
 #include <optional>
@@ -29,7 +29,7 @@ std::optional<PropertyList> ListIn(const std::string &contents) {
   return PropertyList::ReadFile(folder / "list.plist");
 }
 
-// The reading of the entry "a" in a file of these bytes.
+// The reading of the entry "a" in a file with these bytes.
 std::optional<std::int32_t> ReadingIn(const std::string &contents) {
   const auto list = ListIn(contents);
   EXPECT_TRUE(list);

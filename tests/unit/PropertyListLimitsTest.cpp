@@ -1,4 +1,4 @@
-// What is handed to the parser of property lists, at the bounds.
+// The limits for property lists that are given to the parser.
 #include <string>
 #include <vector>
 

@@ -1,4 +1,4 @@
-// A host that speaks a language with a decimal comma keeps its locale, and files keep their values.
+// A host whose locale has a decimal comma keeps its locale, and files keep their values.
 #include <clocale>
 #include <cstdlib>
 #include <string>
@@ -21,7 +21,7 @@ using trxtest::ExpectQuietSuccess;
 using trxtest::TemporaryFolder;
 using trxtest::WriteBytes;
 
-// A locale of our own, so that none need be installed. All its other parts are those of C.
+// A private locale, so that none must be installed. All its other parts are those of C.
 class PropertyListInAHostWithADecimalComma : public testing::Test {
  protected:
   void SetUp() override {
@@ -30,7 +30,7 @@ class PropertyListInAHostWithADecimalComma : public testing::Test {
                "END LC_NUMERIC\n");
     const std::string command = "'" LOCALEDEF "' -c -i '" + (folder_ / "source") + "' '" +
                                 (folder_ / "comma") + "' >/dev/null 2>&1";
-    // It complains of the parts that are not there and says so in its exit code.
+    // It warns about the missing parts and exits with an error.
     [[maybe_unused]] const int complaint = std::system(command.c_str());
     setenv("LOCPATH", folder_.Path().c_str(), 1);
   }

@@ -1,5 +1,5 @@
-// What stands in the file's place may be anything: it is read or it counts as missing, the host
-// goes on, and its standard error stays its own.
+// Anything may be at the file's path: it is read or counts as missing, the host continues, and
+// nothing is written to its standard error.
 #include <cstdint>
 #include <random>
 #include <string>
@@ -55,7 +55,7 @@ std::string ValidBinary() {
 
 class PropertyListReading : public testing::Test {
  protected:
-  // A file of these bytes counts as missing, to a process that lives and keeps silent.
+  // A file with these bytes counts as missing, and the process continues silently.
   void ExpectMissing(const std::string &contents) {
     WriteBytes(path_, contents);
     ExpectMissing();
@@ -74,7 +74,7 @@ class PropertyListReading : public testing::Test {
     });
   }
 
-  // Reads the file, changes it and writes it again, as the library does to any file it can read.
+  // Reads the file, changes it and writes it again, as the library does with any file it can read.
   void ReadAndMerge() const {
     const auto list = PropertyList::ReadFile(path_);
     if (!list) return;
@@ -219,7 +219,7 @@ TEST_F(PropertyListReading, ClosedXmlNestedTooDeepIsMissing) {
   ExpectMissing(XmlList("<key>a</key>" + open + close));
 }
 
-// Tags that only seem to close something must not make room for others to open it.
+// Tags that only seem to close something must not allow deeper nesting.
 TEST_F(PropertyListReading, NestingCannotBeHiddenBehindTagsThatAreNone) {
   constexpr int kLevels = 100'000;
   std::string open;
@@ -277,7 +277,7 @@ TEST_F(PropertyListReading, SharedReferencesThatUnfoldWithoutBoundAreMissing) {
   ExpectMissing(wide.File(wide.AddDictionary({name, few})));
 }
 
-// The size of a count is itself a field that can lie.
+// The size of a count is itself a field that can be wrong.
 TEST_F(PropertyListReading, UnfoldingCannotBeHiddenBehindCountsOfOddSize) {
   for (const char size : {'\x10', '\x13', '\x14', '\x15', '\x1F', '\x23'}) {
     SCOPED_TRACE(static_cast<int>(size));

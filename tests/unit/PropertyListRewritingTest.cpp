@@ -1,4 +1,4 @@
-// What becomes of a list that is read and written again, where the two forms do not say the same.
+// Lists that are read and written again, where the two forms are not equivalent.
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -23,7 +23,7 @@ void AppendNumber(std::string &bytes, std::uint64_t number, unsigned size) {
   for (unsigned i = size; i > 0; --i) bytes += static_cast<char>(number >> (i - 1) * 8 & 0xFF);
 }
 
-// A binary list of these objects, the first of which is the root; references take one byte.
+// A binary list of these objects, the first of which is the root; references have one byte.
 std::string ListOf(const std::vector<std::string> &objects) {
   std::string bytes = "bplist00";
   std::vector<std::uint64_t> offsets;
@@ -84,7 +84,7 @@ TEST_F(PropertyListRewriting, WhatWouldBeTooLargeToReadAgainDoesNotReplaceWhatCa
 }
 
 TEST_F(PropertyListRewriting, WhatWouldBeTooDeepToReadAgainDoesNotReplaceWhatCanBeRead) {
-  // {"a": [[[...]]]}, which the binary form holds in two levels less than XML does.
+  // {"a": [[[...]]]}, which needs two levels less in the binary form than in XML.
   std::vector<std::string> objects = {"\xD1\x01\x02",
                                       "\x51"
                                       "a"};
@@ -109,7 +109,7 @@ TEST_F(PropertyListRewriting, ACharacterThatXmlCannotHoldIsReplaced) {
   EXPECT_NE(ReadBytes(path_).find("<string>x\uFFFD\ty</string>"), std::string::npos);
 }
 
-// As it stands, every reader of XML but this library's would take it for a line feed.
+// Other XML readers would turn a plain one into a line feed.
 TEST_F(PropertyListRewriting, ACarriageReturnIsWrittenAsWhatReadersOfXmlTakeItFor) {
   for (const std::string before :
        {"<string>one\rtwo\r\nthree</string>", "<string>one&#13;two&#13;\nthree</string>",

@@ -1,4 +1,4 @@
-// Writing a property list: the whole new file or the whole old one, and nothing else in the folder.
+// Writing a property list: the complete new file or the complete old one, and no other file.
 #include <atomic>
 #include <csignal>
 #include <cstdio>
@@ -114,8 +114,8 @@ TEST_F(PropertyListWriting, AFolderInThePlaceOfTheFileFailsAndStays) {
   EXPECT_EQ(ReadBytes(path_ + "/inside"), "kept");
 }
 
-// No file may grow beyond so many bytes: the write breaks off in the middle of the list or, with 0,
-// at its beginning, for root too.
+// Limits the size of files to this many bytes: the write fails in the middle of the list or, with
+// 0, at its beginning, for root too.
 void LimitFileSize(rlim_t bytes) {
   ASSERT_NE(std::signal(SIGXFSZ, SIG_IGN), SIG_ERR);
   const rlimit limit = {bytes, bytes};
@@ -174,7 +174,7 @@ struct Progress {
   std::atomic<bool> ended = false;
 };
 
-// Reads the file again and again until told to stop; every reading must be whole.
+// Reads the file again and again until it is stopped; every result must be complete.
 void ReadUntilEnded(const std::string &path, Progress &progress) {
   while (!progress.ended) {
     const auto list = PropertyList::ReadFile(path);

@@ -1,4 +1,4 @@
-// What tests leave on the machine when one of them is killed: nothing.
+// A killed test leaves nothing on the machine.
 #include <chrono>
 #include <csignal>
 #include <filesystem>

@@ -1,5 +1,5 @@
-// The tests of the requests run under trx-mixer-sim, on a desk with one mixer. The program sees to
-// that itself, so that it can be started like any other.
+// The tests of the requests run under trx-mixer-sim with one mixer. The program starts itself again
+// under it, so that it can be started like any other.
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
@@ -15,7 +15,7 @@
 
 namespace {
 
-// Set for the program's start under the simulator, which must not lead to another.
+// Set for the program's start under the simulator, to prevent another.
 constexpr const char *kSecondStart = "TRX_REQUEST_TESTS_SECOND_START";
 
 int RunUnderSimulator(int argc, char **argv) {

@@ -1,4 +1,4 @@
-// The request operations on a real node: what each puts on the wire, and what comes back.
+// The requests on a real node: what each sends, and what it returns.
 #include <array>
 #include <cstdint>
 #include <string>
@@ -32,7 +32,7 @@ Buffer PresetBuffer() {
   return buffer;
 }
 
-// The only unit of the desk, opened; plugged in and without a fault at the start of each case.
+// The only unit, opened; plugged in and without a fault at the start of each case.
 class Request : public testing::Test {
  protected:
   void SetUp() override {

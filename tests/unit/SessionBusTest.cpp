@@ -1,4 +1,4 @@
-// How a notification looks on the bus, and which messages are taken for one.
+// The form of a notification on the bus, and which messages count as one.
 #include <cstdint>
 #include <cstdlib>
 #include <functional>
@@ -30,7 +30,7 @@ struct ReleaseMessage {
 };
 using Message = std::unique_ptr<sd_bus_message, ReleaseMessage>;
 
-// A bus with a sender, and a listener that hears all signals of it.
+// A bus with a sender, and a listener that receives all its signals.
 class SessionBus : public testing::Test {
  protected:
   void SetUp() override {
@@ -39,7 +39,7 @@ class SessionBus : public testing::Test {
     listener_ = Listen("type='signal',path='/com/orvikaudio/Setup'");
   }
 
-  // A connection of the test's own that asks for the signals of a rule.
+  // A connection that asks for the signals of a match rule.
   Bus Listen(const std::string &rule) {
     sd_bus *connection = nullptr;
     EXPECT_GE(sd_bus_new(&connection), 0);
@@ -54,7 +54,7 @@ class SessionBus : public testing::Test {
     return bus;
   }
 
-  // The next signal of the product that a connection hears; null when none comes in time.
+  // The next signal of the product that a connection receives; null when none arrives in time.
   static Message Next(const Bus &bus) {
     const std::uint64_t deadline = MonotonicNow() + kPatience;
     while (MonotonicNow() < deadline) {
@@ -78,7 +78,7 @@ class SessionBus : public testing::Test {
     ASSERT_GE(sd_bus_flush(sender_.get()), 0);
   }
 
-  // A signal with this content, as if it had arrived.
+  // A signal with this content, as if it had been received.
   Message Arrived(const std::function<int(sd_bus_message *)> &fill,
                   const char *path = "/com/orvikaudio/Setup",
                   const char *interface = "com.orvikaudio.Setup", const char *member = "Changed") {
@@ -201,7 +201,7 @@ TEST_F(SessionBus, AMessageOfTheAgreedShapeIsANotification) {
               ElementsAre(Pair("Index", 7), Pair("ProductID", 11)));
 }
 
-// A notification with so many other entries, the last one being what counts.
+// A notification with this many other entries before its own.
 int AppendMany(sd_bus_message *to, int others) {
   int result = sd_bus_message_append(to, "s", "name");
   if (result >= 0) result = sd_bus_message_open_container(to, 'a', "{si}");
@@ -271,7 +271,7 @@ TEST_F(SessionBus, AMessageOfAnotherShapeIsNone) {
   }
 }
 
-// The rules of the bus hold for what is sent to all; anybody may send anything to one connection.
+// Match rules apply to broadcast signals; anyone may send anything to one connection.
 TEST_F(SessionBus, ASignalOfAnotherPathInterfaceOrMemberIsNone) {
   const auto fill = [](sd_bus_message *to) {
     return sd_bus_message_append(to, "sa{si}", "name", 1, "Index", 7);

@@ -35,13 +35,13 @@ class SettingsFile : public testing::Test {
   void SetUp() override { setenv("XDG_CONFIG_HOME", folder_.Path().c_str(), 1); }
   void TearDown() override { unsetenv("XDG_CONFIG_HOME"); }
 
-  // Puts a file of these bytes where the model's settings file belongs.
+  // Makes a settings file of the model with these bytes.
   void LeaveFile(const std::string &contents) const {
     std::filesystem::create_directories(preferences_);
     WriteBytes(path_, contents);
   }
 
-  // A result that holds something else before, as a getter's caller may leave it.
+  // A result variable with another value before the call.
   static std::int32_t Value(const char *key, std::int32_t defaultValue) {
     std::int32_t result = 4711;
     GetSettingValue("TRX-SELVA", key, defaultValue, &result);
@@ -97,13 +97,13 @@ TEST_F(SettingsFile, IsMadeWithItsFoldersByTheFirstMerge) {
   }
 }
 
-// A file server's lease, which the first to open the file from elsewhere finds in his way.
+// A file server's lease, which blocks the first process that opens the file elsewhere.
 TEST_F(SettingsFile, IsLeftAsItIsWhileSomebodyHoldsALeaseOnIt) {
   const std::string before = XmlList("<key>Foreign</key><string>kept</string>");
   LeaveFile(before);
   const File holder(open(path_.c_str(), O_RDWR | O_CLOEXEC));
   ASSERT_TRUE(holder.IsOpen());
-  // The signal that asks for the lease, one that nobody minds.
+  // The signal that asks for the lease; one without effect.
   ASSERT_EQ(fcntl(holder.Descriptor(), F_SETSIG, SIGURG), 0);
   ASSERT_EQ(fcntl(holder.Descriptor(), F_SETLEASE, F_WRLCK), 0);
   MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
@@ -150,7 +150,7 @@ TEST_F(SettingsFile, ThatIsNoDictionaryIsReplacedByTheNewEntry) {
   }
 }
 
-// What is more than can be read may be a list all the same: it is not thrown away.
+// A file beyond the limits may still be a list: it is not replaced.
 TEST_F(SettingsFile, ThatIsMoreThanCanBeReadIsLeftAsItIs) {
   std::string deep;
   for (int i = 0; i < 200; ++i) deep += "<array>";

@@ -61,7 +61,7 @@ void OnText(GMarkupParseContext *context, const gchar *text, gsize length, gpoin
   }
 }
 
-// Comments, and what stands before the root.
+// Comments, and what comes before the root.
 void OnOther(GMarkupParseContext *, const gchar *text, gsize length, gpointer data, GError **) {
   std::string_view characters(text, length);
   if (!characters.starts_with(kCommentBegins) || !characters.ends_with(kCommentEnds)) return;

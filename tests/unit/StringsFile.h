@@ -1,4 +1,4 @@
-// A strings file as a reader sees it that shares no code with the library.
+// A strings file as seen by a reader that shares no code with the library.
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 
 namespace orv {
 
-/// One entry with the comment that stands before it for the translator.
+/// One entry with the comment before it, which is for the translator.
 struct StringsEntry {
   std::string comment;  // without the marks around it
   std::string key;

@@ -104,7 +104,7 @@ const Case kUnknown[] = {
     {"InTheListIsPassedOver",
      {{"LANG", "fr_FR.UTF-8"}, {"LANGUAGE", "sv:ko:xx:it"}},
      {"ko", "Italian", "English"}},
-    // A list stands in place of the locale, even when nothing in it is known.
+    // A list replaces the locale, even when nothing in it is known.
     {"ListOfNothingElse", {{"LANG", "fr_FR.UTF-8"}, {"LANGUAGE", "sv:xx"}}, kEnglishOnly},
 };
 INSTANTIATE_TEST_SUITE_P(Unknown, SystemLanguageTest, testing::ValuesIn(kUnknown), NameOf);
@@ -165,7 +165,7 @@ const Case kUntranslated[] = {
     // C.UTF-8 is a locale like others: only its texts are English.
     {"CInUtf8", {{"LANG", "C.UTF-8"}}, kEnglishOnly},
     {"CInUtf8ReadsTheList", {{"LANG", "C.UTF-8"}, {"LANGUAGE", "de"}}, {"German", "English"}},
-    // As an entry, C says that the user would rather have untranslated texts than what follows.
+    // As an entry, C means that the user prefers untranslated texts to what follows.
     {"CEndsTheList", {{"LANG", "fr_FR.UTF-8"}, {"LANGUAGE", "de:C:ja"}}, {"German", "English"}},
     {"PosixEndsTheList",
      {{"LANG", "fr_FR.UTF-8"}, {"LANGUAGE", "de:POSIX:ja"}},

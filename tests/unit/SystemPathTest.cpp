@@ -48,7 +48,7 @@ TEST(SystemPathTest, OfAnOrdinaryProcessFollowsTheEnvironmentOfItsParent) {
 TEST(SystemPathTest, IgnoresTheEnvironmentInAProcessWithMoreRightsThanItsUser) {
   const Environment environment = {{"TRX_SYSTEM_ROOT", "/foreign"}};
   const PrivilegedProbe probe;
-  // Root, and with it every automatic run, can always try this; an account with one group cannot.
+  // Root, and so every automatic run, can always test this; an account with one group cannot.
   if (!probe.IsPrivileged() && geteuid() != 0) {
     GTEST_SKIP() << "this account cannot give a program other rights";
   }

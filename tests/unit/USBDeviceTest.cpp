@@ -1,4 +1,4 @@
-// The rules of the handle, as far as they need no unit.
+// The rules for handles that need no unit.
 #include <cstdint>
 
 #include <fcntl.h>

@@ -1,4 +1,4 @@
-// Requests that fail: what is left of the length and the buffer.
+// Requests that fail: the length and the buffer afterwards.
 #include <array>
 #include <cstdint>
 
@@ -16,7 +16,7 @@ using testing::Each;
 
 constexpr auto kGeneralError = static_cast<PlatformStatus>(0xE00002BC);
 
-// Handles of things that can be opened and are no USB device.
+// Handles of files that are not USB devices.
 class RequestToWhatIsNoDevice : public testing::Test {
  protected:
   void SetUp() override {

@@ -1,4 +1,4 @@
-// What every translation of the warnings must keep to.
+// The rules for every translation of the warnings.
 #include <algorithm>
 #include <array>
 #include <filesystem>
@@ -30,7 +30,7 @@ using trxtest::TemporaryFolder;
 
 using Scripts = std::set<GUnicodeScript>;
 
-// The words of the glossary, in a form that is part of each form that the texts use.
+// The words of the glossary, in a form that is part of all forms in the texts.
 struct Language {
   const char *folder;
   const char *locale;
@@ -241,7 +241,7 @@ TEST_P(WarningTextsTest, AreWrittenInTheScriptsOfTheLanguageExceptUsb) {
     }
     Scripts found;
     for (const gunichar character : CharactersOf(text)) {
-      // The long-vowel mark of Japanese and the like belong to no script in particular.
+      // The Japanese long-vowel mark and similar characters belong to no particular script.
       const GUnicodeScript script = g_unichar_get_script(character);
       if (g_unichar_isalpha(character) && script != G_UNICODE_SCRIPT_COMMON) found.insert(script);
     }

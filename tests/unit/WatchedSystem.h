@@ -1,5 +1,5 @@
-// What the library asks of the system while it waits for the session bus, seen and steered by a
-// test. Needs the linker's --wrap for the calls that WatchedSystem.cpp wraps.
+// The library's system calls while it waits for the session bus, recorded and controlled by a test.
+// Needs the linker's --wrap for the calls that WatchedSystem.cpp wraps.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +8,8 @@
 
 namespace trxtest {
 
-/// For its life the library's clock stands still, and its waits for the bus pass at once and put
-/// the clock forward: the bus should be away or hang. One at a time, on one thread.
+/// While it exists, the library's clock is stopped. Waits for the bus return at once and advance
+/// the clock: the bus should be missing or hang. One at a time, on one thread.
 class WatchedSystem {
  public:
   WatchedSystem();
@@ -23,7 +23,7 @@ class WatchedSystem {
   /// In how many microseconds the timer runs out; nothing while it is off.
   static std::optional<std::uint64_t> TimerRunsOutIn();
 
-  /// From now on the system takes on no watches, or takes them on again.
+  /// From now on the system refuses new watches, or accepts them again.
   static void RefuseWatches(bool isRefused);
 };
 
