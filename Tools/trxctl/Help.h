@@ -21,8 +21,8 @@ class HelpFormat : public CLI::Formatter {
 
   /// Behind an option only the name of its value, behind an argument nothing.
   std::string make_option_opts(const CLI::Option *option) const override {
-    const bool has_value = option->get_type_size() != 0 && !option->get_positional();
-    return has_value ? ' ' + option->get_type_name() : "";
+    const bool hasValue = option->get_type_size() != 0 && !option->get_positional();
+    return hasValue ? ' ' + option->get_type_name() : "";
   }
 };
 

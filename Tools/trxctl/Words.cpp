@@ -7,11 +7,11 @@ namespace trxctl {
 
 std::string Printable(std::string_view text) {
   std::string result(text);
-  const auto is_control = [](char c) {
+  const auto isControl = [](char c) {
     const auto byte = static_cast<unsigned char>(c);
     return byte < 0x20 || byte == 0x7F;
   };
-  std::replace_if(result.begin(), result.end(), is_control, '?');
+  std::replace_if(result.begin(), result.end(), isControl, '?');
   return result;
 }
 
