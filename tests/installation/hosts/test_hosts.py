@@ -144,8 +144,10 @@ class HostOfTheReadme(HostTest):
 class HostThatExits(HostTest):
     def test_may_still_set_a_level_from_what_it_does_at_exit(self):
         program = self.installed(BUILT_BY_BUILD_LINE / "exit-host")
-        done = self.run_host([VALGRIND, "--quiet", "--error-exitcode=9", *program])
-        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        # Its log is no error: valgrind also warns about system calls that are newer than it is.
+        log = pathlib.Path(self.env["XDG_CONFIG_HOME"], "valgrind.log")
+        done = self.run_host([VALGRIND, "--error-exitcode=9", f"--log-file={log}", *program])
+        self.assertEqual((done.returncode, done.stderr), (0, ""), log.read_text())
         self.assertEqual([line.split("->")[0].strip() for line in mixer("log").splitlines()],
                          ["unit 1  OUT  40 03  wValue 0200  wIndex 8003  wLength 0",
                           "unit 1  OUT  40 03  wValue 0100  wIndex 8003  wLength 0"])
