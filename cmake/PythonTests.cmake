@@ -1,11 +1,11 @@
-# Tests that are suites of Python's unittest.
+# Tests that are suites of Python's unittest module.
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 
 # Runs a suite of the current folder:
 #
 #   add_python_test(NAME SUITE [TIMEOUT seconds] [ENVIRONMENT variable=value...] [MIXERS number [WRAPPER program]])
 #
-# With MIXERS it runs on a session bus of its own with so many software mixers, which the program in TRX_MIXER_CTL controls;
+# With MIXERS it runs with a private session bus and this number of software mixers, which the program in TRX_MIXER_CTL controls;
 # a wrapper is a program that runs the suite.
 function(add_python_test name suite)
   cmake_parse_arguments(PARSE_ARGV 2 test "" "TIMEOUT;MIXERS;WRAPPER" "ENVIRONMENT")

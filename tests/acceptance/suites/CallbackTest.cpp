@@ -301,8 +301,9 @@ TEST_F(Callbacks, AChangeInAnotherProcessArrivesInBothDirections) {
   EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 1}}));
 }
 
-// All is announced under one name: macOS promises no order between two. What a name brings is
-// called by the product inside, so that product 5 tells here when product 11 has been delivered.
+// All announcements have one name, because macOS promises no order between two. The product inside
+// selects the callback, so the one for product 5 shows that those for product 11 have been
+// delivered.
 TEST_F(Callbacks, EachProcessHasRegistrationsOfItsOwn) {
   const std::string name = "TRX-SELVA BoostLevel Change";
   const auto one = rig().StartHost();

@@ -1,4 +1,4 @@
-// What the library asks of the notification centre, message by message.
+// The messages that the library sends to the notification centre.
 #import <Foundation/Foundation.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

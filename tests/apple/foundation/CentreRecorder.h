@@ -1,4 +1,4 @@
-// The messages that the notification centre gets.
+// Records the messages to the notification centre.
 #pragma once
 
 #include <string>
@@ -6,8 +6,8 @@
 
 namespace orv {
 
-/// Takes the place of the notification centre's operations for the length of a test: what is asked
-/// of the centre is written down and not done.
+/// Replaces the notification centre's operations during a test: messages are recorded and not
+/// executed.
 class CentreRecorder {
  public:
   CentreRecorder();

@@ -1,4 +1,4 @@
-// How much memory a call leaves behind.
+// The memory that a call leaves allocated.
 #pragma once
 
 #include <cstddef>
@@ -12,8 +12,8 @@ inline std::size_t HeapInUse() {
   return now.uordblks + now.hblkhd;
 }
 
-/// The bytes by which the heap has grown after so many calls of an action, once it has been called
-/// often enough to have made what it makes only once.
+/// The bytes by which the heap grows in this number of calls, after enough earlier calls to have
+/// allocated everything that is allocated only once.
 template <typename Action>
 std::ptrdiff_t HeapGrowth(int calls, Action action) {
   for (int i = 0; i < calls / 10; ++i) action();

@@ -1,11 +1,11 @@
-// The daemon that carries notifications between the processes of a private user.
+// The daemon that passes notifications between the processes of a private user.
 #pragma once
 
 #include <sys/types.h>
 
 namespace trxtest {
 
-/// Runs the daemon for the length of a test.
+/// Runs the daemon during a test.
 class NotificationDaemon {
  public:
   NotificationDaemon();

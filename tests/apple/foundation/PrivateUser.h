@@ -1,14 +1,12 @@
-// A user whom Foundation takes for the one at the computer: with a Library folder, defaults and
-// message ports of its own.
+// A private user for Foundation, with a Library folder, defaults and message ports.
 #pragma once
 
 #include <string>
 
 namespace trxtest {
 
-/// Makes the folder of a new user, and makes each process that is started from now on that user's.
-/// A process learns whose it is while it is loaded, so it cannot become another's. Removes the
-/// folder at the end.
+/// Makes the folder of a new user; processes started from now on belong to that user. A process
+/// reads its user while it is loaded and cannot change it. Removes the folder at the end.
 class PrivateUser {
  public:
   PrivateUser();
@@ -20,17 +18,16 @@ class PrivateUser {
   std::string folder_;
 };
 
-/// Whether this process is a private user's.
+/// Whether this process belongs to a private user.
 bool IsPrivateUsers();
 
-/// Where things lie for the private user of this process.
+/// The folders of this process's private user.
 std::string LibraryFolderOfUser();
 std::string PortsFolderOfUser();
-/// Where fixed paths of the system lead to, see bridge/SystemRoot.h.
+/// The folder for the fixed paths of the system, see bridge/SystemRoot.h.
 std::string SystemRootOfUser();
 
-/// Runs this program again as a process of its own, with the same arguments, and returns what that
-/// returns.
+/// Runs this program again in a new process, with the same arguments, and returns its exit code.
 int RunAgain(char **arguments);
 
 }  // namespace trxtest

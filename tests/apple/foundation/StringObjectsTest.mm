@@ -1,4 +1,4 @@
-// Texts as string objects: what a host hands in and what it is handed.
+// Texts as string objects: those that a host passes and those that it gets.
 #include <array>
 #include <latch>
 #include <set>

@@ -1,5 +1,5 @@
-// trxctl as a program of macOS, with what this machine lacks for it: devices for the double of
-// IOKit, and time for the announcements of a process that ends at once.
+// trxctl as on macOS, with what this machine lacks: devices for the double of IOKit, and time for
+// the announcements of a process that ends at once.
 #include <cstdlib>
 
 #include <CommandLine.h>

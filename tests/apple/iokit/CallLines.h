@@ -1,4 +1,4 @@
-// Lines of the double's record, from what differs in them: which device, which iterator.
+// Lines of the double's record, made from the parts that differ: which device, which iterator.
 #pragma once
 
 #include <initializer_list>
@@ -83,12 +83,12 @@ inline Lines InterfaceReleased(const std::string &device) {
   return {"interface of device " + device + ": Release"};
 }
 
-/// A device that is looked at and left as it is: the chosen one, and all behind it.
+/// A device that is examined and kept: the chosen one, and all after it.
 inline Lines Kept(const std::string &device, const std::string &walk = "1") {
   return Joined({Found(device, "", walk), Exchanged(device), ReadInFull(device)});
 }
 
-/// A device that is looked at and let go: all in front of the chosen one.
+/// A device that is examined and released: all before the chosen one.
 inline Lines PassedOver(const std::string &device, const std::string &walk = "1") {
   return Joined({Kept(device, walk), InterfaceReleased(device)});
 }

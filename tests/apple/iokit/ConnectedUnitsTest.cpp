@@ -1,4 +1,4 @@
-// The way of every family to the mixers, over this platform's half.
+// How every setting reaches the mixers, with the code for macOS.
 #include <atomic>
 #include <cstdint>
 #include <string>
@@ -103,7 +103,7 @@ struct Status {
   unsigned value;
 };
 
-// A status behind a chosen mixer, whichever it is, is taken for the mixer's.
+// The status of a device after the chosen mixer counts as the mixer's.
 class ConnectedUnitsBeforeAFailingDevice : public ConnectedUnits,
                                            public testing::WithParamInterface<Status> {};
 

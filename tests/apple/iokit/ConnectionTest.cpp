@@ -1,4 +1,4 @@
-// What a host is told of the mixers' being there, over this platform's half.
+// Whether mixers are connected, with the code for macOS.
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
 #include "IOKitTest.h"

@@ -200,8 +200,7 @@ class Threads : public InstalledFiles {
     EXPECT_EQ(ORV_SetCurrentMidiChannelIndex(1), 100);
   }
 
-  // Whoever stores last may take away what another thread stored in between, so that there is
-  // either what is set here or what holds with nothing stored.
+  // Each value is the one that is set here or, before that, the default.
   static void ExpectStored() {
     std::int32_t input = -77;
     EXPECT_EQ(ORV_GetCurrentUSBInputAudioIndex(11, 0, &input), 100);
