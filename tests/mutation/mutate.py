@@ -175,6 +175,15 @@ def everything():
     yield from ((program, "") for program in PROGRAMS)
 
 
+running = set()  # what was started and has not ended
+
+
+def end_at_once(*_):
+    for process in list(running):
+        os.killpg(process.pid, signal.SIGKILL)
+    os._exit(1)
+
+
 class Copy:
     """A copy of the tree with a build of its own, for one mutation after the other."""
 
@@ -213,13 +222,14 @@ class Copy:
         with open(self.tree / "mutate.log", "w", encoding="utf-8") as log:
             with subprocess.Popen(command, cwd=self.tree, stdin=subprocess.DEVNULL, stdout=log, stderr=log,
                                   start_new_session=True) as process:
+                running.add(process)
                 try:
                     return process.wait(patience) == 0
                 except subprocess.TimeoutExpired:
+                    os.killpg(process.pid, signal.SIGKILL)
                     return False
                 finally:
-                    if process.poll() is None:
-                        os.killpg(process.pid, signal.SIGKILL)
+                    running.discard(process)
 
     def builds(self):
         return self.run(["ninja", "-C", str(self.build), *PROGRAMS], 1800)
@@ -324,6 +334,8 @@ def main():
             print(f"{mutation.name()}\n  - {mutation.before[0].strip()}\n  + {mutation.after[0].strip()}")
         print(f"{len(mutations)} mutations")
         return 0
+    for ending in (signal.SIGINT, signal.SIGTERM):
+        signal.signal(ending, end_at_once)
     try_all(mutations, options)
     return 0 if report(mutations) else 1
 
