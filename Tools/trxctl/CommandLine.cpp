@@ -13,6 +13,7 @@
 #include "Help.h"
 #include "InfoCommands.h"
 #include "Listing.h"
+#include "Profile.h"
 #include "Reapply.h"
 #include "SettingCommand.h"
 #include "Status.h"
@@ -66,8 +67,8 @@ class Program {
     for (const client::SettingKind &kind : client::SettingKinds()) {
       commands_.push_back(MakeSettingCommand(app_, kind));
     }
-    for (const auto make :
-         {MakeStatus, MakeWatch, MakeReapply, MakeDiagnose, MakeVersions, MakeModels}) {
+    for (const auto make : {MakeStatus, MakeWatch, MakeReapply, MakeProfile, MakeDiagnose,
+                            MakeVersions, MakeModels}) {
       commands_.push_back(make(app_));
     }
     for (const Command &command : commands_) command.app->group(command.isHidden ? "" : "Commands");
@@ -142,7 +143,9 @@ class Program {
   std::vector<std::string> OptionNames() const {
     std::vector<const CLI::App *> apps{&app_};
     for (const Command &command : commands_) {
-      if (command.app->parsed()) apps.push_back(command.app);
+      if (!command.app->parsed()) continue;
+      apps.push_back(command.app);
+      for (const CLI::App *below : command.app->get_subcommands()) apps.push_back(below);
     }
     std::vector<std::string> names;
     for (const CLI::App *app : apps) {

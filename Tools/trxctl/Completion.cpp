@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <optional>
 
+#include "Profile.h"
 #include "UserInput.h"
 #include "Words.h"
 #include "client/InputLists.h"
 #include "client/Languages.h"
+#include "client/Profiles.h"
 #include "client/Settings.h"
 
 namespace trxctl {
@@ -18,7 +20,7 @@ struct Candidate {
   std::string about;
 };
 
-/// A word without the quotes and escapes that the shell left in it; no text of ours holds any.
+/// A word without the quotes and escapes that the shell left in it.
 std::string Unquoted(std::string word) {
   std::erase_if(word, [](char c) { return c == '"' || c == '\'' || c == '\\'; });
   return word;
@@ -47,15 +49,20 @@ class Situation {
       option_ = nullptr;
     } else if (const CLI::Option *option = OptionOf(word)) {
       Take(*option, word);
-    } else if (command_ == nullptr) {
-      command_ = CommandNamed(word);
+    } else if (!CommandsHere().empty()) {
+      if (const CLI::App *command = CommandNamed(word)) command_ = command;
     } else {
       words_.push_back(word);
     }
   }
 
+  /// The commands of which one comes next: those of the program, or those below its command.
+  std::vector<const CLI::App *> CommandsHere() const {
+    return (command_ == nullptr ? program_ : *command_).get_subcommands(nullptr);
+  }
+
   const CLI::App *CommandNamed(const std::string &word) const {
-    for (const CLI::App *command : program_.get_subcommands(nullptr)) {
+    for (const CLI::App *command : CommandsHere()) {
       if (command->get_name() == word) return command;
     }
     return nullptr;
@@ -99,7 +106,8 @@ class Situation {
   }
 
   std::vector<Candidate> PlainWords() const {
-    if (command_ == nullptr) return Commands();
+    if (!CommandsHere().empty()) return Commands();
+    if (NextArgument() == kProfileArgument) return Profiles();
     const client::SettingKind *kind = ChosenKind();
     const client::Model *model = ChosenModel();
     if (kind == nullptr || model == nullptr) return {};
@@ -110,11 +118,33 @@ class Situation {
 
   std::vector<Candidate> Commands() const {
     std::vector<Candidate> commands;
-    for (const CLI::App *command : program_.get_subcommands(nullptr)) {
+    for (const CLI::App *command : CommandsHere()) {
       if (command->get_group().empty()) continue;
       commands.push_back({command->get_name(), FirstLine(command->get_description())});
     }
     return commands;
+  }
+
+  /// The argument that comes next, as the help calls it; empty for none.
+  std::string NextArgument() const {
+    std::size_t place = 0;
+    for (const CLI::Option *option : command_->get_options()) {
+      if (!option->get_positional()) continue;
+      if (place == words_.size()) return option->get_single_name();
+      ++place;
+    }
+    return "";
+  }
+
+  /// Without the folder of the profiles there is nothing to complete, and it is no place to say so.
+  static std::vector<Candidate> Profiles() {
+    std::vector<Candidate> profiles;
+    try {
+      for (const std::string &name : client::ProfileNames()) profiles.push_back({name, ""});
+    } catch (const client::ProfileFault &) {
+      profiles.clear();
+    }
+    return profiles;
   }
 
   const client::SettingKind *ChosenKind() const {
@@ -196,7 +226,8 @@ void Complete(const CLI::App &program, std::vector<std::string> words, const Out
   std::string text;
   Json json = Json::array();
   for (const Candidate &one : Situation(program, words).Candidates(begun.starts_with('-'))) {
-    if (!Lower(one.text).starts_with(begun)) continue;
+    // The name of a profile may hold some of its own.
+    if (!Lower(Unquoted(one.text)).starts_with(begun)) continue;
     text += one.text + (one.about.empty() ? "" : '\t' + one.about) + '\n';
     json.push_back(one.text);
   }

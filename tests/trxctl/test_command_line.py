@@ -4,7 +4,7 @@ import unittest
 
 from host import HostTest
 
-COMMANDS = ["input", "output", "boost", "midi", "status", "watch", "reapply", "diagnose",
+COMMANDS = ["input", "output", "boost", "midi", "status", "watch", "reapply", "profile", "diagnose",
             "versions", "models"]
 
 

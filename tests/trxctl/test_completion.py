@@ -17,8 +17,8 @@ class Candidates(HostTest):
     def test_commands(self):
         commands = self.candidates("")
         self.assertEqual(commands[:4], ["input", "output", "boost", "midi"])
-        self.assertEqual(commands[-6:],
-                         ["status", "watch", "reapply", "diagnose", "versions", "models"])
+        self.assertEqual(commands[-7:], ["status", "watch", "reapply", "profile", "diagnose",
+                                         "versions", "models"])
         self.assertEqual(self.candidates("--json", "re"), ["reapply"])
 
     def test_commands_say_what_they_are(self):
