@@ -2,15 +2,18 @@
 
 #include <array>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 
 #include <fcntl.h>
+#include <linux/usb/ch9.h>
 #include <linux/usbdevice_fs.h>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -91,9 +94,11 @@ void BareWalk() {
 void BareSend() {
   static const std::string node = NodeOfUnit();
   BareWalk();
-  BareWalk();
   const int unit = open(node.c_str(), O_RDWR | O_CLOEXEC);
   Require(unit >= 0, "open the unit");
+  std::array<char, USB_DT_DEVICE_SIZE> descriptor;
+  Require(pread(unit, descriptor.data(), descriptor.size(), 0) == USB_DT_DEVICE_SIZE,
+          "read what the unit is");
   usbdevfs_ctrltransfer transfer = {0x40, 3, 0x0200, 0x8003, 0, 5000, nullptr};
   ioctl(unit, USBDEVFS_CONTROL, &transfer);
   close(unit);
@@ -109,19 +114,32 @@ std::span<const char> BareRead() {
   return {contents.data(), static_cast<std::size_t>(size)};
 }
 
-void BareReplace() {
-  static const std::string path = SettingsFilePath();
-  static const std::string temporary = path + ".floor";
-  static const std::string folder = path.substr(0, path.rfind('/'));
-  static const std::string contents(BareRead().data(), BareRead().size());
-  const int file = open(temporary.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+// As the library replaces a file so that no change of another program is lost: a new file without a
+// name, then its name, a look for other writers, at the file itself, the exchange, and a look at
+// what came out of it.
+void BareReplace(std::span<const char> contents) {
+  static const std::filesystem::path path = SettingsFilePath();
+  static const std::string name = path.filename();
+  static const std::string announced = "." + name + ".floor";
+  const int folder = open(path.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  const int file = openat(folder, ".", O_WRONLY | O_TMPFILE | O_CLOEXEC, 0600);
   Require(write(file, contents.data(), contents.size()) > 0, "write the settings file");
   fsync(file);
-  rename(temporary.c_str(), path.c_str());
-  const int parent = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  fsync(parent);
-  close(parent);
+  struct stat status;
+  fstat(file, &status);
+  const std::string unnamed = "/proc/self/fd/" + std::to_string(file);
+  Require(linkat(AT_FDCWD, unnamed.c_str(), folder, announced.c_str(), AT_SYMLINK_FOLLOW) == 0,
+          "name the new settings file");
+  std::array<char, 4096> entries;
+  while (syscall(SYS_getdents64, folder, entries.data(), entries.size()) > 0) continue;
+  fstatat(folder, name.c_str(), &status, AT_SYMLINK_NOFOLLOW);
+  Require(renameat2(folder, announced.c_str(), folder, name.c_str(), RENAME_EXCHANGE) == 0,
+          "exchange the settings file");
+  fstatat(folder, announced.c_str(), &status, AT_SYMLINK_NOFOLLOW);
+  unlinkat(folder, announced.c_str(), 0);
   close(file);
+  fsync(folder);
+  close(folder);
 }
 
 void BarePost() {

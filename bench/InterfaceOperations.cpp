@@ -1,4 +1,6 @@
 // The exported functions, each with its floor and with what one would write instead.
+#include <cstdlib>
+
 #include <plist/plist.h>
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
@@ -15,19 +17,7 @@ void SendAgain() {
   Require(ORV_SetCurrentBoostLevelIndex(ORV_PRODUCT_TRX_SELVA) == ORV_SUCCESS, "send again");
 }
 
-void SendAgainFloor() {
-  BareRead();
-  BareSend();
-}
-
 void Set() { Require(ORV_SetBoostLevelIndex(ORV_PRODUCT_TRX_SELVA, 1) == ORV_SUCCESS, "set"); }
-
-void SetFloor() {
-  BareSend();
-  BareRead();
-  BareReplace();
-  BarePost();
-}
 
 void Get() {
   int32_t index = -1;
@@ -35,14 +25,47 @@ void Get() {
           "get");
 }
 
-void GetWithLibplist() {
-  const auto contents = BareRead();
-  plist_t root = nullptr;
-  plist_from_memory(contents.data(), static_cast<uint32_t>(contents.size()), &root);
-  uint64_t index = 0;
-  plist_get_uint_val(plist_dict_get_item(root, "MaxLevel"), &index);
-  plist_free(root);
-  Require(index == 1, "get with libplist");
+// The settings as libplist reads them.
+class BareList {
+ public:
+  BareList() {
+    const auto contents = BareRead();
+    plist_from_memory(contents.data(), static_cast<uint32_t>(contents.size()), &root_);
+  }
+  BareList(const BareList &) = delete;
+  BareList &operator=(const BareList &) = delete;
+  ~BareList() { plist_free(root_); }
+
+  uint64_t Level() const {
+    uint64_t index = 0;
+    plist_get_uint_val(plist_dict_get_item(root_, "MaxLevel"), &index);
+    return index;
+  }
+
+  void WriteLevel(uint64_t index) {
+    plist_dict_set_item(root_, "MaxLevel", plist_new_uint(index));
+    char *contents = nullptr;
+    uint32_t size = 0;
+    plist_to_xml(root_, &contents, &size);
+    BareReplace({contents, size});
+    std::free(contents);
+  }
+
+ private:
+  plist_t root_ = nullptr;
+};
+
+void GetWithLibplist() { Require(BareList().Level() == 1, "get with libplist"); }
+
+void SendAgainFloor() {
+  GetWithLibplist();
+  BareSend();
+}
+
+void SetFloor() {
+  BareSend();
+  BareList().WriteLevel(1);
+  BarePost();
 }
 
 }  // namespace
