@@ -20,6 +20,7 @@
 #include "CommandLine.h"
 #include "Promise.h"
 #include "Surroundings.h"
+#include "client/Profiles.h"
 
 namespace trxfuzz {
 namespace {
@@ -157,7 +158,9 @@ void CheckCharacters(const std::string &text) {
   Promise(std::none_of(text.begin(), text.end(), steers), "no output steers the terminal", text);
 }
 
+// Without a profile from before no command line can export one, wherever it says.
 void EmptyFolder(const std::string &folder) {
+  std::filesystem::remove_all(*client::ProfilesFolder());
   for (const auto &entry : std::filesystem::directory_iterator(folder)) {
     const std::string name = entry.path().filename();
     Promise(name.starts_with("com.orvikaudio.") && name.ends_with("autosetup.plist"),
