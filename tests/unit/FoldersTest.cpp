@@ -13,17 +13,21 @@
 #include "Environment.h"
 #include "Folders.h"
 #include "PrivilegedProbe.h"
+#include "TemporaryFolder.h"
 
 namespace orv {
 namespace {
 
 using testing::EndsWith;
 using testing::Optional;
+using testing::StartsWith;
 using testing::StrEq;
 using trxtest::BecomeUserWithoutAccount;
 using trxtest::ExpectQuietSuccess;
 using trxtest::OutputOf;
 using trxtest::PrivilegedProbe;
+using trxtest::ReadBytes;
+using trxtest::TemporaryFolder;
 
 // The environment is the process's: each test changes it in a child.
 TEST(LibraryFolder, LiesInTheConfigurationFolderOfTheEnvironment) {
@@ -95,6 +99,23 @@ TEST(LibraryFolder, LiesInTheHomeOfWhoseRightsTheProcessHasWhateverTheEnvironmen
   ASSERT_NE(account, nullptr);
   EXPECT_THAT(OutputOf(probe.Path()),
               EndsWith(std::string(" ") + account->pw_dir + "/.config/orvikaudio"));
+}
+
+// Such a program's folders may be closed to the user who starts it.
+TEST(LibraryFolder, IsMadeInAHomeThatOnlyTheUserWhoseRightsTheProcessHasCanEnter) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can give a program another user's rights";
+  const PrivilegedProbe probe;
+  ASSERT_TRUE(probe.IsPrivileged());
+  struct stat program = {};
+  ASSERT_EQ(stat(probe.Path().c_str(), &program), 0);
+  const TemporaryFolder home;
+  ASSERT_EQ(chown(home.Path().c_str(), program.st_uid, program.st_gid), 0);
+  const std::string file = home / ".config/orvikaudio/file";
+  ExpectQuietSuccess([&] {
+    BecomeUserWithoutAccount();
+    EXPECT_THAT(OutputOf(probe.Path(), file), StartsWith("privileged "));
+  });
+  EXPECT_EQ(ReadBytes(file), "stored");
 }
 
 TEST(LibraryFolder, IsNoneForAUserWithoutHomeAndAccount) {

@@ -28,10 +28,10 @@ std::optional<gid_t> AnotherGroup() {
 
 }  // namespace
 
-std::string OutputOf(const std::string &program) {
+std::string OutputOf(const std::string &program, const std::string &arguments) {
   const auto close = [](FILE *stream) { return pclose(stream); };
-  const std::unique_ptr<FILE, decltype(close)> stream(popen(("'" + program + "'").c_str(), "r"),
-                                                      close);
+  const std::string command = "'" + program + "' " + arguments;
+  const std::unique_ptr<FILE, decltype(close)> stream(popen(command.c_str(), "r"), close);
   if (stream == nullptr) return "cannot be run";
   std::string output;
   std::array<char, 512> part = {};

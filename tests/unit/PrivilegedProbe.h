@@ -5,8 +5,8 @@
 
 namespace trxtest {
 
-/// The output of a program.
-std::string OutputOf(const std::string &program);
+/// The output of a program; the arguments are words for the shell.
+std::string OutputOf(const std::string &program, const std::string &arguments = "");
 
 /// A copy of the probe that runs with rights that the user of this test does not have: for root,
 /// those of another account; for other users, those of another of their groups.

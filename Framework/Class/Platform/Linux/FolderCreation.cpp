@@ -16,6 +16,7 @@ namespace {
 constexpr mode_t kOwnerOnly = 0700;
 
 constexpr int kFolder = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+constexpr int kParent = O_PATH | O_DIRECTORY | O_CLOEXEC;
 
 }  // namespace
 
@@ -24,8 +25,11 @@ void MakeFolder(const std::string &path) {
   if (slash == path.npos) return;
   const std::string parent = path.substr(0, slash == 0 ? 1 : slash);
   const std::string name = path.substr(slash + 1);
-  if (access(parent.c_str(), F_OK) != 0 && errno == ENOENT && parent != "/") MakeFolder(parent);
-  const File above(open(parent.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+  File above(open(parent.c_str(), kParent));
+  if (!above.IsOpen() && errno == ENOENT && parent != "/") {
+    MakeFolder(parent);
+    above = File(open(parent.c_str(), kParent));
+  }
   if (!above.IsOpen() || mkdirat(above.Descriptor(), name.c_str(), kOwnerOnly) != 0) return;
   const File made(openat(above.Descriptor(), name.c_str(), kFolder));
   if (made.IsOpen() && GiveToOwnerOfFolder(made.Descriptor(), above.Descriptor())) return;
