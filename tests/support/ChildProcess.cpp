@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/mman.h>
+#include <sys/prctl.h>
 #include <sys/types.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -93,6 +94,9 @@ void BecomeOrdinaryUser() {
   ASSERT_EQ(setgroups(0, nullptr), 0);
   ASSERT_EQ(setresgid(kNobody, kNobody, kNobody), 0);
   ASSERT_EQ(setresuid(kNobody, kNobody, kNobody), 0);
+  // The system has closed the process's own files in /proc to it, as it would not for a process
+  // that this user has started.
+  ASSERT_EQ(prctl(PR_SET_DUMPABLE, 1), 0);
 }
 
 void BecomeUserWithoutAccount() {

@@ -95,6 +95,12 @@ class FileReplacement : public testing::Test {
     ASSERT_EQ(rename((folder_ / "edited").c_str(), path_.c_str()), 0);
   }
 
+  void PutOldFile() const {
+    std::remove((path_ + ".unreadable").c_str());
+    Edit("old");
+    ASSERT_EQ(chmod(path_.c_str(), modeOfOldFile_), 0);
+  }
+
   // Stops a writer that adds an "a" before its first, its second, ... its last system call, on each
   // system, and calls `then` with it.
   void AtEveryMoment(const std::function<void(SteppedProcess &, const System &)> &then) const {
@@ -102,7 +108,7 @@ class FileReplacement : public testing::Test {
       int moment = 1;
       for (bool isAtWork = true; isAtWork && !HasFailure(); ++moment) {
         SCOPED_TRACE(std::string(system.description) + ", moment " + std::to_string(moment));
-        Edit("old");
+        PutOldFile();
         SteppedProcess writer(Adding("a", system));
         const auto call = writer.StepTo(moment);
         isAtWork = call.has_value();
@@ -125,7 +131,7 @@ class FileReplacement : public testing::Test {
         for (int more = 1; goesOn && !HasFailure(); ++more) {
           SCOPED_TRACE(std::string(system.description) + ", moments " + std::to_string(first) +
                        " and " + std::to_string(more) + " more");
-          Edit("old");
+          PutOldFile();
           SteppedProcess writer(Adding("a", system));
           isAtWork = writer.StepTo(first).has_value();
           if (!isAtWork) break;
@@ -145,6 +151,7 @@ class FileReplacement : public testing::Test {
 
   const TemporaryFolder folder_;
   const std::string path_ = folder_ / "settings";
+  mode_t modeOfOldFile_ = 0644;
 };
 
 TEST_F(FileReplacement, WorksOnEverySystem) {
@@ -572,6 +579,77 @@ TEST_F(FileReplacement, KeepsItWhereFilesCannotBeExchangedToo) {
     EXPECT_EQ(ReadBytes(path_), "a");
   });
   EXPECT_THAT(folder_.Names(), ElementsAre("settings", "settings.unreadable"));
+}
+
+// The old file may not be read by its own user. Each test is for an ordinary user: root can read
+// everything.
+class UnreadableFile : public FileReplacement {
+ protected:
+  UnreadableFile() { modeOfOldFile_ = 0; }
+
+  void AsOrdinaryUser(const std::function<void()> &test) const {
+    ASSERT_EQ(chmod(folder_.Path().c_str(), 0777), 0);
+    ExpectQuietSuccess([&] {
+      BecomeOrdinaryUser();
+      test();
+    });
+  }
+
+  void ExpectTheOldFileIsKept() const {
+    EXPECT_THAT(folder_.Names(), ElementsAre("settings", "settings.unreadable"));
+    ASSERT_EQ(chmod((path_ + ".unreadable").c_str(), 0600), 0);
+    EXPECT_EQ(ReadBytes(path_ + ".unreadable"), "old");
+  }
+};
+
+TEST_F(UnreadableFile, ReplacedSlowerThanByAnotherAtAnyMomentLosesNothing) {
+  AsOrdinaryUser([this] {
+    AtEveryMoment([this](SteppedProcess &writer, const System &system) {
+      LetAnotherAdd("b", system);
+      EXPECT_TRUE(writer.RunToEnd());
+      EXPECT_THAT(ReadBytes(path_), AnyOf("ab", "ba"));
+      ExpectTheOldFileIsKept();
+    });
+  });
+}
+
+TEST_F(UnreadableFile, KilledAtAnyMomentIsNeverMissing) {
+  AsOrdinaryUser([this] {
+    AtEveryMoment([this](SteppedProcess &writer, const System &system) {
+      writer.Kill();
+      EXPECT_THAT(StatusOf(path_).st_size, AnyOf(1, 3));
+      const std::string found = ReadBytes(path_);
+      LetAnotherAdd("b", system);
+      EXPECT_EQ(ReadBytes(path_), found + "b");
+      ExpectTheOldFileIsKept();
+    });
+  });
+}
+
+TEST_F(UnreadableFile, WithAnySystemCallFailingOnceIsNeverMissing) {
+  AsOrdinaryUser([this] {
+    AtEveryMoment([this](SteppedProcess &writer, const System &system) {
+      writer.Fail(EIO);
+      writer.RunToEnd();
+      EXPECT_THAT(StatusOf(path_).st_size, AnyOf(1, 3));
+      const std::string found = ReadBytes(path_);
+      LetAnotherAdd("b", system);
+      EXPECT_EQ(ReadBytes(path_), found + "b");
+      ExpectTheOldFileIsKept();
+    });
+  });
+}
+
+TEST_F(UnreadableFile, ReplacedSlowerThanByAnotherAndThenKilledLosesNothing) {
+  AsOrdinaryUser([this] {
+    AtEveryTwoMoments(
+        {kSystems[0], kSystems[1]}, [this](const System &system) { LetAnotherAdd("b", system); },
+        [this](const System &system) {
+          LetAnotherAdd("c", system);
+          EXPECT_THAT(ReadBytes(path_), AnyOf("bc", "abc", "bac"));
+          ExpectTheOldFileIsKept();
+        });
+  });
 }
 
 TEST_F(FileReplacement, LeavesAFolderInThePlace) {

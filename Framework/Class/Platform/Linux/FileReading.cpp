@@ -6,16 +6,39 @@
 namespace orv {
 namespace {
 
+// How often a file may be replaced while its status is looked up.
+constexpr int kMostLooks = 100;
+
+bool IsSame(const timespec &one, const timespec &other) {
+  return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
+}
+
+// Opens the file. If that fails, returns the error and sets the status of what is there. Another
+// program may replace the file between the two, so they are repeated until nothing has changed.
+int OpenOrLook(int folder, const std::string &path, int flags, FileReading &reading) {
+  struct stat before = {};
+  for (int look = 0; look < kMostLooks; ++look) {
+    reading.file = File(static_cast<int>(TEMP_FAILURE_RETRY(
+        openat(folder, path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | flags))));
+    if (reading.file.IsOpen()) return 0;
+    const int error = errno;
+    if (error == ENOENT) return error;
+    reading.status = {};
+    fstatat(folder, path.c_str(), &reading.status, AT_SYMLINK_NOFOLLOW);
+    if (look > 0 && IsUnchanged(before, reading.status)) return error;
+    before = reading.status;
+  }
+  return EAGAIN;
+}
+
 // Only errors that clearly say that there is no file, or that this process may not read it, count
 // as such. Other failures may pass: no descriptors or memory, a server that does not answer, a
 // lease whose holder has been asked to release it.
-ReadOutcome OutcomeOf(int error, int folder, const std::string &path, FileReading &reading) {
+ReadOutcome OutcomeOf(int error, const struct stat &status) {
   if (error == ENOENT) return ReadOutcome::kMissing;
-  if (fstatat(folder, path.c_str(), &reading.status, AT_SYMLINK_NOFOLLOW) != 0) {
-    return ReadOutcome::kNotNow;
-  }
-  if (S_ISLNK(reading.status.st_mode)) return ReadOutcome::kLink;
-  if (!S_ISREG(reading.status.st_mode)) return ReadOutcome::kNoFile;
+  if (status.st_mode == 0) return ReadOutcome::kNotNow;
+  if (S_ISLNK(status.st_mode)) return ReadOutcome::kLink;
+  if (!S_ISREG(status.st_mode)) return ReadOutcome::kNoFile;
   return error == EACCES || error == EPERM ? ReadOutcome::kForbidden : ReadOutcome::kNotNow;
 }
 
@@ -35,12 +58,16 @@ bool ReadAll(int descriptor, std::string &contents) {
 
 }  // namespace
 
+bool IsUnchanged(const struct stat &before, const struct stat &now) {
+  return now.st_ino == before.st_ino && now.st_dev == before.st_dev &&
+         now.st_size == before.st_size && IsSame(now.st_mtim, before.st_mtim) &&
+         IsSame(now.st_ctim, before.st_ctim);
+}
+
 FileReading ReadFile(int folder, const std::string &path, std::size_t most, int flags) {
   FileReading reading;
-  reading.file = File(static_cast<int>(TEMP_FAILURE_RETRY(
-      openat(folder, path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | flags))));
-  if (!reading.file.IsOpen()) {
-    reading.outcome = OutcomeOf(errno, folder, path, reading);
+  if (const int error = OpenOrLook(folder, path, flags, reading); error != 0) {
+    reading.outcome = OutcomeOf(error, reading.status);
     return reading;
   }
   if (fstat(reading.file.Descriptor(), &reading.status) != 0) {

@@ -32,4 +32,7 @@ struct FileReading {
 /// `flags` may add O_NOFOLLOW. Never waits for a pipe's writer or the holder of a lease.
 FileReading ReadFile(int folder, const std::string &path, std::size_t most, int flags = 0);
 
+/// Whether two statuses are of the same file and nothing has changed it in between.
+bool IsUnchanged(const struct stat &before, const struct stat &now);
+
 }  // namespace orv

@@ -6,7 +6,8 @@
 //   3. compares: the file must still be the one that was read, else the writer starts again,
 //   4. exchanges the two files in one system call, which fails if step 2 of another writer has
 //      renamed the announced file,
-//   5. checks which file is now under the announced name, and removes it.
+//   5. checks which file is now under the announced name, and removes it, or keeps it under another
+//      name if it could not be read.
 // Of two writers, the one that announces later either renames the other's announced file before it
 // compares, or sees the file that the other has put in place. So no other writer can succeed
 // between steps 3 and 4 of a writer that succeeds, however slow it is. Nobody waits for a writer
@@ -32,6 +33,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 #include <string_view>
 #include <thread>
@@ -174,19 +176,13 @@ std::string TagAt(const Place &place, const std::string &name) {
   return isThere ? TagOf(status) : kNoTag;
 }
 
-bool IsSame(const timespec &one, const timespec &other) {
-  return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
-}
-
 // Whether the file that was read is still there and unchanged.
 bool IsStillThere(const Place &place, const OldFile &old) {
   struct stat now = {};
   if (fstatat(place.Folder(), place.name.c_str(), &now, AT_SYMLINK_NOFOLLOW) != 0) {
     return !HasPlace(old) && errno == ENOENT;
   }
-  return HasPlace(old) && now.st_ino == old.status.st_ino && now.st_dev == old.status.st_dev &&
-         now.st_size == old.status.st_size && IsSame(now.st_mtim, old.status.st_mtim) &&
-         IsSame(now.st_ctim, old.status.st_ctim);
+  return HasPlace(old) && IsUnchanged(old.status, now);
 }
 
 // --- Files beside the file -----------------------------------------------------------------------
@@ -209,11 +205,13 @@ std::string InHexadecimal(std::uint64_t number) {
 }
 
 // The parts of an announced name: which file is the new one, which one it replaces, and a number
-// that makes the name unique.
+// that makes the name unique. A minus sign before the number says that the old file is kept.
 struct Announcement {
   std::string newTag;
   std::string oldTag;
   std::string number;
+
+  bool KeepsOldFile() const { return number.starts_with('-'); }
 
   std::string Name(const Place &place, std::string_view kind) const {
     return place.Beside().append(kind) + newTag + "." + oldTag + "." + number;
@@ -233,20 +231,64 @@ std::optional<Announcement> AnnouncementIn(std::string_view text) {
 
 enum class Found { kNothing, kNewFile, kOldFile, kForeignFile };
 
+bool Rename(const Place &place, const std::string &from, const std::string &to,
+            unsigned flags = 0) {
+  return renameat2(place.Folder(), from.c_str(), place.Folder(), to.c_str(), flags) == 0;
+}
+
+// The errors of systems that do not support an operation. If the error has another cause, the
+// replacement for the operation fails as well and leaves no file.
+bool SaysUnsupported(int error) {
+  constexpr std::array kErrors = {EOPNOTSUPP, EISDIR, EINVAL, ENOSYS, ENOENT, EPERM, EACCES};
+  return std::find(kErrors.begin(), kErrors.end(), error) != kErrors.end();
+}
+
+// Renames a file unless the new name exists. Returns 0 or an errno value.
+int RenameToFreeName(const Place &place, const std::string &from, const std::string &to) {
+  if (Rename(place, from, to, RENAME_NOREPLACE)) return 0;
+  const int error = errno;
+  if (error == ENOENT || !SaysUnsupported(error)) return error;
+  if (TagAt(place, to) != kNoTag) return EEXIST;
+  return Rename(place, from, to) ? 0 : errno;
+}
+
+// A file that cannot be read may be worth keeping. Calls `giveName` with names for it until one is
+// free. Returns 0 or an errno value.
+int KeepUnreadable(const Place &place, const std::function<int(const std::string &)> &giveName) {
+  const std::string first = place.name + kUnreadableEnding;
+  int error = giveName(first);
+  for (int number = 2; error == EEXIST; ++number) {
+    error = giveName(first + "-" + std::to_string(number));
+  }
+  return error;
+}
+
+// Removes the old file, or keeps it if it could not be read.
+void PutAway(const Place &place, const Announcement &announcement, const std::string &name) {
+  if (announcement.KeepsOldFile()) {
+    KeepUnreadable(place, [&](const auto &kept) { return RenameToFreeName(place, name, kept); });
+  } else {
+    unlinkat(place.Folder(), name.c_str(), 0);
+  }
+}
+
 // Checks which file is under a name that no writer exchanges any more, and removes it. A file that
 // is neither the new one nor the one to replace comes from a program that does not announce. It is
 // put back, unless the new file is no longer in place either.
 Found Settle(const Place &place, const Announcement &announcement, const std::string &name) {
   const std::string tag = TagAt(place, name);
   if (tag == kNoTag) return Found::kNothing;
-  const bool isForeign = tag != announcement.newTag && tag != announcement.oldTag;
+  if (tag == announcement.oldTag) {
+    PutAway(place, announcement, name);
+    return Found::kOldFile;
+  }
+  const bool isForeign = tag != announcement.newTag;
   if (isForeign && TagAt(place, place.name) == announcement.newTag) {
     renameat(place.Folder(), name.c_str(), place.Folder(), place.name.c_str());
   } else {
     unlinkat(place.Folder(), name.c_str(), 0);
   }
-  if (isForeign) return Found::kForeignFile;
-  return tag == announcement.newTag ? Found::kNewFile : Found::kOldFile;
+  return isForeign ? Found::kForeignFile : Found::kNewFile;
 }
 
 // Locks a new named file. False when another writer took it for abandoned and removed it before
@@ -310,55 +352,65 @@ void TakeAwayAllBut(const std::string &own, const Place &place) {
 
 // --- Taking the old file's place -----------------------------------------------------------------
 
-// The errors of systems that do not support an operation. If the error has another cause, the
-// replacement for the operation fails as well and leaves no file.
-bool SaysUnsupported(int error) {
-  constexpr std::array kErrors = {EOPNOTSUPP, EISDIR, EINVAL, ENOSYS, ENOENT, EPERM, EACCES};
-  return std::find(kErrors.begin(), kErrors.end(), error) != kErrors.end();
-}
-
-bool Rename(const Place &place, const std::string &from, const std::string &to,
-            unsigned flags = 0) {
-  return renameat2(place.Folder(), from.c_str(), place.Folder(), to.c_str(), flags) == 0;
-}
-
-// A file that cannot be read may be worth keeping.
-bool KeepUnreadable(const Place &place) {
-  std::string name = place.name + kUnreadableEnding;
-  for (int number = 2;; ++number) {
-    if (Rename(place, place.name, name, RENAME_NOREPLACE)) return true;
-    const bool isFree = TagAt(place, name) == kNoTag;
-    if (isFree) return SaysUnsupported(errno) && Rename(place, place.name, name);
-    name = place.name + kUnreadableEnding + "-" + std::to_string(number);
+// Keeps a file that cannot be read where a rename will replace it: by a second link, so that it is
+// not missing in between. The system may refuse a link to another user's file, so that file is
+// renamed. In its place, another writer may have put a new file, which then goes back.
+Result KeepInPlace(const Place &place, const Announcement &announcement) {
+  std::string kept;
+  const auto link = [&](const std::string &name) {
+    kept = name;
+    // A killed writer may have got so far.
+    if (TagAt(place, name) == announcement.oldTag) return 0;
+    const int folder = place.Folder();
+    return linkat(folder, place.name.c_str(), folder, name.c_str(), 0) == 0 ? 0 : errno;
+  };
+  const auto renameTo = [&](const std::string &name) {
+    kept = name;
+    return RenameToFreeName(place, place.name, name);
+  };
+  int error = KeepUnreadable(place, link);
+  const bool isLink = error == 0;
+  if (!isLink && error != ENOENT) error = KeepUnreadable(place, renameTo);
+  if (error != 0) return error == ENOENT ? Result::kOvertaken : Result::kFailed;
+  if (TagAt(place, kept) == announcement.oldTag) return Result::kReplaced;
+  if (isLink) {
+    unlinkat(place.Folder(), kept.c_str(), 0);
+  } else {
+    RenameToFreeName(place, kept, place.name);
   }
+  return Result::kOvertaken;
+}
+
+// Where files cannot be exchanged.
+Result ReplaceByRename(const Place &place, const Announcement &announcement) {
+  if (announcement.KeepsOldFile()) {
+    const Result kept = KeepInPlace(place, announcement);
+    if (kept != Result::kReplaced) return kept;
+  }
+  if (Rename(place, announcement.Name(place, kAnnounced), place.name)) return Result::kReplaced;
+  return errno == ENOENT ? Result::kOvertaken : Result::kFailed;
+}
+
+Result ReplaceWithoutExchange(const Place &place, const Announcement &announcement, int error) {
+  if (error == ENOENT || error == EEXIST) return Result::kOvertaken;
+  return SaysUnsupported(error) ? ReplaceByRename(place, announcement) : Result::kFailed;
 }
 
 Result Exchange(const Place &place, const OldFile &old, const Announcement &announcement) {
   const std::string announced = announcement.Name(place, kAnnounced);
   TakeAwayAllBut(announced, place);
-  if (!IsStillThere(place, old)) {
-    unlinkat(place.Folder(), announced.c_str(), 0);
-    return Result::kOvertaken;
-  }
-  const bool isUnreadable = old.outcome == ReadOutcome::kForbidden;
-  if (isUnreadable && !KeepUnreadable(place)) {
-    unlinkat(place.Folder(), announced.c_str(), 0);
-    return Result::kFailed;
-  }
-  const bool isExchange = HasPlace(old) && !isUnreadable;
-  if (Rename(place, announced, place.name, isExchange ? RENAME_EXCHANGE : RENAME_NOREPLACE)) {
-    if (!isExchange) return Result::kReplaced;
+  const bool isSame = IsStillThere(place, old);
+  const unsigned how = HasPlace(old) ? RENAME_EXCHANGE : RENAME_NOREPLACE;
+  if (isSame && Rename(place, announced, place.name, how)) {
+    if (!HasPlace(old)) return Result::kReplaced;
     // Another writer may already have done this, and then the old file is not known.
     const Found found = Settle(place, announcement, announced);
     return found == Found::kOldFile ? Result::kReplaced : Result::kOvertaken;
   }
-  const bool isGone = errno == ENOENT || errno == EEXIST;
-  if (!isGone && SaysUnsupported(errno) && Rename(place, announced, place.name)) {
-    return Result::kReplaced;
-  }
-  const bool isOvertaken = isGone || errno == ENOENT;
-  unlinkat(place.Folder(), announced.c_str(), 0);
-  return isOvertaken ? Result::kOvertaken : Result::kFailed;
+  const Result result =
+      isSame ? ReplaceWithoutExchange(place, announcement, errno) : Result::kOvertaken;
+  if (result != Result::kReplaced) unlinkat(place.Folder(), announced.c_str(), 0);
+  return result;
 }
 
 // --- The new file --------------------------------------------------------------------------------
@@ -386,8 +438,9 @@ bool Fill(int descriptor, const Place &place, const OldFile &old, std::string_vi
 std::optional<Announcement> Announce(int descriptor, const OldFile &old) {
   struct stat status = {};
   if (fstat(descriptor, &status) != 0) return std::nullopt;
+  const std::string mark = old.outcome == ReadOutcome::kForbidden ? "-" : "";
   return Announcement{TagOf(status), HasPlace(old) ? TagOf(old.status) : kNoTag,
-                      InHexadecimal(NumberThatIsNew())};
+                      mark + InHexadecimal(NumberThatIsNew())};
 }
 
 // Returns 0 or an errno value.
