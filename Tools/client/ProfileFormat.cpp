@@ -121,15 +121,20 @@ ProfileChoice ChoiceIn(const Json &entry, const Model &model) {
   const std::int64_t index = NumberAt(entry, "index");
   const std::string text = TextAt(entry, "text");
   const std::vector<std::string> choices = setting.Choices();
-  ProfileFault fault{.problem = ProfileProblem::kUnknownText,
-                     .what = text,
-                     .number = index,
-                     .model = setting.model,
-                     .setting = setting};
-  if (std::find(choices.begin(), choices.end(), text) == choices.end()) throw fault;
-  fault.problem = ProfileProblem::kDisagree;
-  if (index < 0 || index >= static_cast<std::int64_t>(choices.size())) throw fault;
-  if (choices[static_cast<std::size_t>(index)] != text) throw fault;
+  const auto faultOf = [&](ProfileProblem problem) {
+    return ProfileFault{.problem = problem,
+                        .what = text,
+                        .number = index,
+                        .model = setting.model,
+                        .setting = setting};
+  };
+  if (std::find(choices.begin(), choices.end(), text) == choices.end()) {
+    throw faultOf(ProfileProblem::kUnknownText);
+  }
+  const bool isChoice = index >= 0 && index < static_cast<std::int64_t>(choices.size());
+  if (!isChoice || choices[static_cast<std::size_t>(index)] != text) {
+    throw faultOf(ProfileProblem::kDisagree);
+  }
   return {setting, static_cast<int32_t>(index)};
 }
 

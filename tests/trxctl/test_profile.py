@@ -293,6 +293,15 @@ class Loading(ProfileTest):
                           "connected": True, "sent_to": 2})
         self.assertEqual(len(boost["mixers"]), 2)
 
+    def test_a_mixer_that_does_not_take_it_is_not_counted(self):
+        self.mixer("fault", 1, "refuse")
+        result = self.run_host("profile", "load", "gig")
+        self.assertIn("Sent to 1 of 2 connected mixers.\n", result.out)
+        self.assertEqual(self.stored(), CHOSEN)
+        self.assertEqual(self.levels_sent(), [(2, "0200")])
+        settings = self.run_host("profile", "load", "gig", "--json").json["settings"]
+        self.assertEqual([one["sent_to"] for one in settings], [1] * 7)
+
     def test_dry_run_shows_the_difference_and_does_nothing(self):
         self.assertEqual(self.done("profile", "load", "gig", "--dry-run").out,
                          'TRX-SELVA profile "gig" would change what is stored:\n'
