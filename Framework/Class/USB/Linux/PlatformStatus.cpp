@@ -11,7 +11,7 @@ struct Namesake {
   PlatformStatus status;
 };
 
-constexpr std::array<Namesake, 15> kNamesakes = {{
+constexpr std::array<Namesake, 17> kNamesakes = {{
     {EBUSY, kIOReturnExclusiveAccess},
     {EPIPE, kIOUSBPipeStalled},
     {ETIMEDOUT, kIOUSBTransactionTimeout},
@@ -21,7 +21,10 @@ constexpr std::array<Namesake, 15> kNamesakes = {{
     {ENXIO, kIOReturnNoDevice},
     {EACCES, kIOReturnNotPermitted},
     {EPERM, kIOReturnNotPermitted},
+    // The same by different host controllers.
     {EPROTO, kIOReturnNotResponding},
+    {EILSEQ, kIOReturnNotResponding},
+    {ETIME, kIOReturnNotResponding},
     {EOVERFLOW, kIOReturnOverrun},
     {ENOMEM, kIOReturnNoMemory},
     {EMFILE, kIOReturnNoResources},
