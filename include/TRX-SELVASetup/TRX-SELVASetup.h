@@ -23,7 +23,11 @@
  *   the receiving thread: on Linux the one that calls ORV_DispatchNotifications (EventLoop.h), on
  *   macOS the main thread with its run loop.
  * - Different settings of one model may be stored at the same time, on several threads or in
- *   several processes: on Linux all are kept. On macOS the last writer of the file wins.
+ *   several processes: on Linux all are kept. On macOS the last writer of the file wins. On Linux
+ *   there is no lock: each writer announces its new file by a name beside the settings file, and
+ *   starts again when another was faster (docs/protocol.md). Two things can be lost: what an editor
+ *   saves in the last moment, where files cannot be exchanged in one step, and a setting whose
+ *   writing fails for a passing reason, which is not stored.
  * - Texts that the library gives out belong to it. They stay valid and unchanged for the life of
  *   the process; the host never frees them.
  */
