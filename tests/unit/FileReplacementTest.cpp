@@ -30,6 +30,7 @@ namespace {
 using testing::AnyOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::StartsWith;
 using trxtest::BecomeOrdinaryUser;
 using trxtest::ExpectQuietSuccess;
 using trxtest::FailToOpen;
@@ -378,6 +379,18 @@ TEST_F(FileReplacement, RemovesWhatKilledWritersLeftAndNothingElse) {
   EXPECT_EQ(ReadBytes(living), "half of it");
 }
 
+// The mode of the file that is replaced may already be set.
+TEST_F(FileReplacement, RemovesAnUnfinishedFileThatMayOnlyBeRead) {
+  ASSERT_EQ(chmod(folder_.Path().c_str(), 0777), 0);
+  WriteBytes(folder_ / ".settings.tmp.78", "half of it");
+  ASSERT_EQ(chmod((folder_ / ".settings.tmp.78").c_str(), 0444), 0);
+  ExpectQuietSuccess([this] {
+    BecomeOrdinaryUser();
+    EXPECT_TRUE(Add(path_, "a"));
+  });
+  ExpectNothingBeside();
+}
+
 // --- A system that fails -------------------------------------------------------------------------
 
 TEST_F(FileReplacement, LeavesAFileThatCannotBeReadAtTheMoment) {
@@ -423,19 +436,62 @@ TEST_F(FileReplacement, WithAnySystemCallFailingOnceLosesNothing) {
   }
 }
 
+// Runs a writer up to the first of these system calls. Returns whether it came there.
+bool StepToCall(SteppedProcess &writer, long number) {
+  std::optional<SystemCall> call = writer.Step();
+  while (call && static_cast<long>(call->number) != number) call = writer.Step();
+  return call.has_value();
+}
+
 TEST_F(FileReplacement, InterruptedWhileReadingOrWritingGoesOn) {
   constexpr std::array kNumbers = {SYS_pread64, SYS_write, SYS_fsync};
   for (const long number : kNumbers) {
     SCOPED_TRACE(number);
     WriteBytes(path_, "old");
     SteppedProcess writer(Adding("a", kSystems.front()));
-    std::optional<SystemCall> call = writer.Step();
-    while (call && static_cast<long>(call->number) != number) call = writer.Step();
-    ASSERT_TRUE(call);
+    ASSERT_TRUE(StepToCall(writer, number));
     writer.Fail(EINTR);
     EXPECT_TRUE(writer.RunToEnd());
     EXPECT_EQ(ReadBytes(path_), "olda");
   }
+}
+
+TEST_F(FileReplacement, LeavesTheFileWhenItCannotSeeWhoElseWrites) {
+  for (const bool isThere : {true, false}) {
+    for (const System &system : kSystems) {
+      SCOPED_TRACE(system.description);
+      if (isThere) WriteBytes(path_, "old");
+      SteppedProcess writer(Adding("a", system));
+      ASSERT_TRUE(StepToCall(writer, SYS_getdents64));
+      writer.Fail(EIO);
+      EXPECT_FALSE(writer.RunToEnd());
+      EXPECT_EQ(ReadBytes(path_), isThere ? "old" : "");
+      EXPECT_EQ(folder_.Entries(), isThere ? 1U : 0U);
+      std::remove(path_.c_str());
+    }
+  }
+}
+
+TEST_F(FileReplacement, ReplacesAFileOfAnotherProjectThatCannotBeExchanged) {
+  WriteBytes(path_, "old");
+  SteppedProcess writer(Adding("a", kSystems.front()));
+  ASSERT_TRUE(StepToCall(writer, SYS_renameat2));
+  writer.Fail(EXDEV);
+  EXPECT_TRUE(writer.RunToEnd());
+  EXPECT_EQ(ReadBytes(path_), "olda");
+  ExpectNothingBeside();
+}
+
+TEST_F(FileReplacement, WhoseUnfinishedFileWasRemovedStartsAgain) {
+  WriteBytes(path_, "old");
+  SteppedProcess writer(Adding("a", kSystems[1]));
+  ASSERT_TRUE(StepToCall(writer, SYS_renameat));
+  const std::vector<std::string> names = folder_.Names();
+  ASSERT_THAT(names, ElementsAre(StartsWith(".settings.tmp."), "settings"));
+  ASSERT_EQ(unlink((folder_ / names.front()).c_str()), 0);
+  EXPECT_TRUE(writer.RunToEnd());
+  EXPECT_EQ(ReadBytes(path_), "olda");
+  ExpectNothingBeside();
 }
 
 // A power cut must not undo the change: the contents are durable before they get a name, and the

@@ -19,7 +19,8 @@
 // A writer can be killed at any moment. Before step 1 its file has no name and disappears. After
 // it, the name remains. The name says which file is the new one and which one it replaces, so the
 // next writer knows what it finds and does step 5 in its place. That also reverts what a killed
-// writer has put in the place of an editor's file.
+// writer has put in the place of an editor's file; until the next write, the killed writer's file
+// stays there.
 //
 // On file systems without files that have no name, the new file has a name from the start, and a
 // lock that ends with its writer and shows others whether it is still running. Where files cannot
@@ -157,7 +158,8 @@ OldFile FindOldFile(const std::string &path, std::size_t most, Place &place) {
 
 // --- Identity of files ---------------------------------------------------------------------------
 
-// Inode number and time of the last write. While a file is open, no other gets its inode number.
+// Inode number and time of the last write. While a file is open, no other gets its inode number. A
+// link, a pipe or a file that cannot be read is not open; the time tells it from a later file.
 std::string TagOf(const struct stat &status) {
   std::array<char, 40> text;
   std::snprintf(text.data(), text.size(), "%llx-%llx%08lx",
@@ -237,9 +239,10 @@ bool Rename(const Place &place, const std::string &from, const std::string &to,
 }
 
 // The errors of systems that do not support an operation. If the error has another cause, the
-// replacement for the operation fails as well and leaves no file.
+// replacement for the operation fails as well and leaves no file. EXDEV: the old file counts
+// against another project's quota than its folder, and cannot be exchanged, only replaced.
 bool SaysUnsupported(int error) {
-  constexpr std::array kErrors = {EOPNOTSUPP, EISDIR, EINVAL, ENOSYS, ENOENT, EPERM, EACCES};
+  constexpr std::array kErrors = {EOPNOTSUPP, EISDIR, EINVAL, ENOSYS, ENOENT, EPERM, EACCES, EXDEV};
   return std::find(kErrors.begin(), kErrors.end(), error) != kErrors.end();
 }
 
@@ -299,9 +302,15 @@ bool ShowLife(int descriptor) {
   return fstat(descriptor, &status) != 0 || status.st_nlink > 0;
 }
 
+File OpenUnfinished(const Place &place, const std::string &name, int access) {
+  return File(openat(place.Folder(), name.c_str(), access | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+}
+
+// Some file systems lock only what is open for writing, but the file may have the mode of a file
+// that its owner may only read.
 void RemoveUnlessAlive(const Place &place, const std::string &name) {
-  const File file(
-      openat(place.Folder(), name.c_str(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  File file = OpenUnfinished(place, name, O_WRONLY);
+  if (!file.IsOpen()) file = OpenUnfinished(place, name, O_RDONLY);
   if (file.IsOpen() && flock(file.Descriptor(), LOCK_EX | LOCK_NB) == 0) {
     unlinkat(place.Folder(), name.c_str(), 0);
   }
@@ -316,13 +325,16 @@ void TakeAway(const Place &place, const Announcement &announcement) {
   }
 }
 
-std::vector<std::string> NamesIn(int folder) {
+// Nothing on failure. Starts again at the first name: the folder was opened before this writer
+// announced its file, and some file systems then decide which names are found.
+std::optional<std::vector<std::string>> NamesIn(int folder) {
   std::vector<std::string> names;
   alignas(dirent64) std::array<char, 32768> entries;
   lseek(folder, 0, SEEK_SET);
   for (;;) {
     const ssize_t size = getdents64(folder, entries.data(), entries.size());
-    if (size <= 0) return names;
+    if (size < 0) return std::nullopt;
+    if (size == 0) return names;
     for (ssize_t at = 0; at < size;) {
       const auto *entry = reinterpret_cast<const dirent64 *>(entries.data() + at);
       names.emplace_back(entry->d_name);
@@ -331,10 +343,13 @@ std::vector<std::string> NamesIn(int folder) {
   }
 }
 
-// Includes the files of killed writers and of running ones, which then start again.
-void TakeAwayAllBut(const std::string &own, const Place &place) {
+// Includes the files of killed writers and of running ones, which then start again. False when
+// there may be others.
+bool TakeAwayAllBut(const std::string &own, const Place &place) {
   const std::string beside = place.Beside();
-  for (const std::string &name : NamesIn(place.Folder())) {
+  const auto names = NamesIn(place.Folder());
+  if (!names) return false;
+  for (const std::string &name : *names) {
     if (!name.starts_with(beside) || name == own) continue;
     const std::string_view rest = std::string_view(name).substr(beside.size());
     const std::string_view kind = rest.substr(0, kAnnounced.size());
@@ -348,6 +363,7 @@ void TakeAwayAllBut(const std::string &own, const Place &place) {
       Settle(place, *announcement, name);
     }
   }
+  return true;
 }
 
 // --- Taking the old file's place -----------------------------------------------------------------
@@ -398,7 +414,10 @@ Result ReplaceWithoutExchange(const Place &place, const Announcement &announceme
 
 Result Exchange(const Place &place, const OldFile &old, const Announcement &announcement) {
   const std::string announced = announcement.Name(place, kAnnounced);
-  TakeAwayAllBut(announced, place);
+  if (!TakeAwayAllBut(announced, place)) {
+    unlinkat(place.Folder(), announced.c_str(), 0);
+    return Result::kFailed;
+  }
   const bool isSame = IsStillThere(place, old);
   const unsigned how = HasPlace(old) ? RENAME_EXCHANGE : RENAME_NOREPLACE;
   if (isSame && Rename(place, announced, place.name, how)) {
@@ -461,7 +480,7 @@ std::optional<Result> ReplaceByUnnamedFile(const Place &place, const OldFile &ol
   if (!announcement) return Result::kFailed;
   // Without an old file, one step is enough: linking fails if the name exists.
   const std::string name = HasPlace(old) ? announcement->Name(place, kAnnounced) : place.name;
-  if (!HasPlace(old)) TakeAwayAllBut("", place);
+  if (!HasPlace(old) && !TakeAwayAllBut("", place)) return Result::kFailed;
   switch (const int error = GiveName(file.Descriptor(), place, name)) {
     case 0:
       return HasPlace(old) ? Exchange(place, old, *announcement) : Result::kReplaced;
@@ -483,6 +502,8 @@ Result ReplaceByNamedFile(const Place &place, const OldFile &old, std::string_vi
     if (announcement && Rename(place, name, announcement->Name(place, kAnnounced))) {
       return Exchange(place, old, *announcement);
     }
+    // Another writer took it for abandoned.
+    if (announcement && errno == ENOENT) return Result::kOvertaken;
   }
   unlinkat(place.Folder(), name.c_str(), 0);
   return Result::kFailed;
