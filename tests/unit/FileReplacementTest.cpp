@@ -210,8 +210,11 @@ std::string Numbered(const std::string &letter, int number) {
   return letter + std::string(4 - digits.size(), '0') + digits;
 }
 
-// Sets the number of a letter. Returns whether it is in the file then.
+// Sets the number of a letter. Returns whether it is in the file then, and the number before it
+// still was: setting the next one would hide the loss.
 bool SetNumber(const std::string &path, const std::string &letter, int number) {
+  const bool isLost =
+      number > 1 && ReadBytes(path).find(Numbered(letter, number - 1)) == std::string::npos;
   const std::string entry = Numbered(letter, number);
   const bool isSet = ChangeFileContents(path, kPlenty, [&](const auto &old) {
     std::string contents = old.value_or("");
@@ -219,7 +222,7 @@ bool SetNumber(const std::string &path, const std::string &letter, int number) {
     if (before != contents.npos) contents.erase(before, entry.size());
     return contents + entry;
   });
-  return isSet && ReadBytes(path).find(entry) != std::string::npos;
+  return !isLost && isSet && ReadBytes(path).find(entry) != std::string::npos;
 }
 
 void ExpectNothingLost(const TemporaryFolder &folder, int times) {
@@ -492,6 +495,41 @@ TEST_F(FileReplacement, WhoseUnfinishedFileWasRemovedStartsAgain) {
   EXPECT_TRUE(writer.RunToEnd());
   EXPECT_EQ(ReadBytes(path_), "olda");
   ExpectNothingBeside();
+}
+
+TEST_F(FileReplacement, ThatPutsAnEditBackLosesNothingOfALaterOneEither) {
+  bool isAtWork = true;
+  for (int more = 1; isAtWork && !HasFailure(); ++more) {
+    SCOPED_TRACE(more);
+    PutOldFile();
+    SteppedProcess writer(Adding("a", kSystems.front()));
+    ASSERT_TRUE(StepToCall(writer, SYS_renameat2));
+    Edit("edited");
+    isAtWork = writer.StepTo(more).has_value();
+    if (!isAtWork) break;
+    Edit("again");
+    EXPECT_TRUE(writer.RunToEnd());
+    EXPECT_THAT(ReadBytes(path_), AnyOf("again", "againa"));
+    ExpectNothingBeside();
+  }
+}
+
+TEST_F(FileReplacement, WithASystemCallFailingWhileItPutsAnEditBackLosesNothing) {
+  bool isAtWork = true;
+  for (int more = 1; isAtWork && !HasFailure(); ++more) {
+    SCOPED_TRACE(more);
+    PutOldFile();
+    SteppedProcess writer(Adding("a", kSystems.front()));
+    ASSERT_TRUE(StepToCall(writer, SYS_renameat2));
+    Edit("edited");
+    isAtWork = writer.StepTo(more).has_value();
+    if (!isAtWork) break;
+    writer.Fail(EIO);
+    writer.RunToEnd();
+    LetAnotherAdd("b", kSystems.front());
+    EXPECT_THAT(ReadBytes(path_), AnyOf("editedb", "editedab"));
+    ExpectNothingBeside();
+  }
 }
 
 // A power cut must not undo the change: the contents are durable before they get a name, and the

@@ -38,6 +38,7 @@
 #include <memory>
 #include <string_view>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <dirent.h>
@@ -172,10 +173,13 @@ std::string TagOf(const struct stat &status) {
 // Stands for no file.
 constexpr const char *kNoTag = "0-0";
 
-std::string TagAt(const Place &place, const std::string &name) {
+// Nothing when the system does not say which file it is.
+std::optional<std::string> TagAt(const Place &place, const std::string &name) {
   struct stat status = {};
-  const bool isThere = fstatat(place.Folder(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
-  return isThere ? TagOf(status) : kNoTag;
+  if (fstatat(place.Folder(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0) {
+    return TagOf(status);
+  }
+  return errno == ENOENT ? std::optional<std::string>(kNoTag) : std::nullopt;
 }
 
 // Whether the file that was read is still there and unchanged.
@@ -220,6 +224,10 @@ struct Announcement {
   }
 };
 
+std::string UniqueNumber(bool keepsOldFile) {
+  return (keepsOldFile ? "-" : "") + InHexadecimal(NumberThatIsNew());
+}
+
 // Nothing for another program's name that only begins in the same way.
 std::optional<Announcement> AnnouncementIn(std::string_view text) {
   if (text.find_first_not_of("0123456789abcdef-.") != text.npos) return std::nullopt;
@@ -251,7 +259,9 @@ int RenameToFreeName(const Place &place, const std::string &from, const std::str
   if (Rename(place, from, to, RENAME_NOREPLACE)) return 0;
   const int error = errno;
   if (error == ENOENT || !SaysUnsupported(error)) return error;
-  if (TagAt(place, to) != kNoTag) return EEXIST;
+  const auto there = TagAt(place, to);
+  if (!there) return EIO;
+  if (*there != kNoTag) return EEXIST;
   return Rename(place, from, to) ? 0 : errno;
 }
 
@@ -275,23 +285,49 @@ void PutAway(const Place &place, const Announcement &announcement, const std::st
   }
 }
 
-// Checks which file is under a name that no writer exchanges any more, and removes it. A file that
-// is neither the new one nor the one to replace comes from a program that does not announce. It is
-// put back, unless the new file is no longer in place either.
-Found Settle(const Place &place, const Announcement &announcement, const std::string &name) {
-  const std::string tag = TagAt(place, name);
-  if (tag == kNoTag) return Found::kNothing;
-  if (tag == announcement.oldTag) {
-    PutAway(place, announcement, name);
-    return Found::kOldFile;
+// Puts a foreign file back in place of the new file and removes that. If the file that comes out is
+// not the one that went in before, another program has just put it there: it goes back as well.
+void PutBack(const Place &place, const std::string &name, std::string foreign,
+             std::string inPlace) {
+  while (Rename(place, name, place.name, RENAME_EXCHANGE)) {
+    const auto found = TagAt(place, name);
+    if (!found) return;
+    if (*found == inPlace) {
+      unlinkat(place.Folder(), name.c_str(), 0);
+      return;
+    }
+    inPlace = std::exchange(foreign, *found);
   }
-  const bool isForeign = tag != announcement.newTag;
-  if (isForeign && TagAt(place, place.name) == announcement.newTag) {
-    renameat(place.Folder(), name.c_str(), place.Folder(), place.name.c_str());
+}
+
+// Deals with a file that is neither the new one nor the one to replace. It comes from a program
+// that does not announce. It is put back, unless the new file is no longer in place either.
+void SettleForeign(const Place &place, const Announcement &announcement, const std::string &name,
+                   const std::string &tag) {
+  const auto inPlace = TagAt(place, place.name);
+  if (!inPlace) return;
+  if (*inPlace == announcement.newTag) {
+    PutBack(place, name, tag, *inPlace);
   } else {
     unlinkat(place.Folder(), name.c_str(), 0);
   }
-  return isForeign ? Found::kForeignFile : Found::kNewFile;
+}
+
+// Checks which file is under a name that no writer exchanges any more, and removes it. What cannot
+// be decided now is left to the next writer.
+Found Settle(const Place &place, const Announcement &announcement, const std::string &name) {
+  const auto tag = TagAt(place, name);
+  if (!tag || *tag == kNoTag) return Found::kNothing;
+  if (*tag == announcement.oldTag) {
+    PutAway(place, announcement, name);
+    return Found::kOldFile;
+  }
+  if (*tag == announcement.newTag) {
+    unlinkat(place.Folder(), name.c_str(), 0);
+    return Found::kNewFile;
+  }
+  SettleForeign(place, announcement, name, *tag);
+  return Found::kForeignFile;
 }
 
 // Locks a new named file. False when another writer took it for abandoned and removed it before
@@ -316,13 +352,12 @@ void RemoveUnlessAlive(const Place &place, const std::string &name) {
   }
 }
 
-// Renames an announced file, so that its writer can no longer exchange it.
-void TakeAway(const Place &place, const Announcement &announcement) {
-  const std::string announced = announcement.Name(place, kAnnounced);
+// Renames another writer's file, so that neither its writer nor one that has taken it away before
+// can exchange it any longer.
+void TakeAway(const Place &place, Announcement announcement, const std::string &name) {
+  announcement.number = UniqueNumber(announcement.KeepsOldFile());
   const std::string taken = announcement.Name(place, kTaken);
-  if (renameat(place.Folder(), announced.c_str(), place.Folder(), taken.c_str()) == 0) {
-    Settle(place, announcement, taken);
-  }
+  if (Rename(place, name, taken)) Settle(place, announcement, taken);
 }
 
 // Nothing on failure. Starts again at the first name: the folder was opened before this writer
@@ -356,12 +391,7 @@ bool TakeAwayAllBut(const std::string &own, const Place &place) {
     if (kind == kUnfinished) RemoveUnlessAlive(place, name);
     if (kind != kAnnounced && kind != kTaken) continue;
     const auto announcement = AnnouncementIn(rest.substr(kind.size()));
-    if (!announcement) continue;
-    if (kind == kAnnounced) {
-      TakeAway(place, *announcement);
-    } else {
-      Settle(place, *announcement, name);
-    }
+    if (announcement) TakeAway(place, *announcement, name);
   }
   return true;
 }
@@ -457,9 +487,8 @@ bool Fill(int descriptor, const Place &place, const OldFile &old, std::string_vi
 std::optional<Announcement> Announce(int descriptor, const OldFile &old) {
   struct stat status = {};
   if (fstat(descriptor, &status) != 0) return std::nullopt;
-  const std::string mark = old.outcome == ReadOutcome::kForbidden ? "-" : "";
   return Announcement{TagOf(status), HasPlace(old) ? TagOf(old.status) : kNoTag,
-                      mark + InHexadecimal(NumberThatIsNew())};
+                      UniqueNumber(old.outcome == ReadOutcome::kForbidden)};
 }
 
 // Returns 0 or an errno value.
