@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Mixers.h"
+#include "Requests.h"
 #include "Settings.h"
 
 namespace client {
@@ -13,25 +14,39 @@ namespace client {
 /// What became of a value at one mixer.
 struct MixerResult {
   Mixer mixer;
-  /// 0, or the system's reason why the mixer was not opened.
-  int refusal;
+  Outcome outcome = Outcome::kDone;
+  /// The system's reason why the mixer was not opened; 0 when it was.
+  int refusal = 0;
+
+  bool IsOpened() const { return refusal == 0; }
 };
 
 /// Where a value went.
 struct Delivery {
-  bool connected = false;
+  bool isConnected = false;
   /// Empty also when the system does not tell which mixers are connected.
   std::vector<MixerResult> mixers = {};
 
   /// How many mixers took it.
-  std::size_t Taken() const;
+  std::size_t CountTaken() const;
 
   /// Whether mixers are known to be there, and none could be opened.
   bool IsNoneOpened() const;
+
+  /// Adds what became of another value: a mixer has taken all only if it took each.
+  void Add(const Delivery &other);
 };
 
 /// Which mixers are there to take a value.
 Delivery Reachable();
+
+/// What became of the requests in a log.
+///
+/// @param known  the mixers that were connected before.
+Delivery DeliveryOf(const RequestLog &log, const std::vector<Mixer> &known);
+
+/// The model of the mixers, if they agree on one that has settings; else null.
+const Model *AgreedModel(const std::vector<Mixer> &mixers);
 
 /// What came of sending a value.
 struct SendResult {
@@ -65,8 +80,11 @@ SendResult SendDefault(const Setting &setting);
 /// Sends a raw value, which is neither stored nor announced.
 SendResult SendRaw(const Setting &setting, int32_t group, uint32_t source);
 
-/// The warning that the library has for a setting, when a value was sent with one; nothing when its
-/// texts are not installed.
+/// Whether the warning that the library answered with is one for the user: only a control tone
+/// passes the input selector, whatever the status says for other signals.
+bool IsWarningFor(const Setting &setting, const SendResult &result, int32_t index);
+
+/// The warning that the library has for a setting; nothing when its texts are not installed.
 ///
 /// @param language  the number of the language; kSystemLanguage for that of the user's system.
 std::optional<std::string> WarningText(const Setting &setting, int32_t language);

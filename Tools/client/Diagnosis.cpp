@@ -1,10 +1,10 @@
 #include "Diagnosis.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 
-#include <unistd.h>
-
+#include "Delivery.h"
 #include "MixerChecks.h"
 #include "SessionBus.h"
 #include "StoredSettings.h"
@@ -24,28 +24,6 @@ fs::path NearestExisting(fs::path folder) {
   return folder;
 }
 
-Check CheckFolder() {
-  Check check{.part = CheckedPart::kSettingsFolder};
-  const auto folder = SettingsFolder();
-  if (!folder) {
-    check.finding = Finding::kNoHome;
-    return check;
-  }
-  check.path = *folder;
-  const fs::path nearest = NearestExisting(*folder);
-  check.obstacle = nearest.string();
-  check.otherCount = nearest == fs::path(*folder) ? 1 : 0;
-  std::error_code error;
-  if (!fs::is_directory(nearest, error)) {
-    check.finding = Finding::kNoFolder;
-    check.reason = ENOTDIR;
-  } else if (access(nearest.c_str(), W_OK | X_OK) != 0) {
-    check.finding = Finding::kFolderNotWritable;
-    check.reason = errno;
-  }
-  return check;
-}
-
 Finding FindingFor(FileProblem problem) {
   switch (problem) {
     case FileProblem::kNone:
@@ -62,20 +40,32 @@ Finding FindingFor(FileProblem problem) {
   return Finding::kFileIsNoList;
 }
 
+/// The settings of a model whose stored number is no choice.
+std::vector<Setting> WithoutChoice(const Model &model) {
+  std::vector<Setting> settings = SettingsOf(model);
+  std::erase_if(settings, [](const Setting &setting) {
+    return setting.TextOf(setting.Current()).has_value();
+  });
+  return settings;
+}
+
+bool IsAnythingStored(const Model &model) {
+  const std::vector<Setting> settings = SettingsOf(model);
+  return std::any_of(settings.begin(), settings.end(),
+                     [](const Setting &setting) { return setting.IsStored(); });
+}
+
 Check CheckFiles(const std::vector<const Model *> &models) {
   Check check{.part = CheckedPart::kSettingsFiles};
   for (const Model *model : models) {
-    // What the library answers from is in good order; only the rest needs a look.
-    if (DiffersFromDefaults(*model)) {
-      ++check.count;
-      continue;
-    }
-    check.path = SettingsFileOf(*model);
+    check.path = SettingsFileOf(*model).value_or("");
     const FileState state = StateOfFile(check.path);
     check.finding = FindingFor(state.problem);
     check.reason = state.reason;
+    check.settings = WithoutChoice(*model);
+    if (check.IsGood() && !check.settings.empty()) check.finding = Finding::kNoChoice;
     if (!check.IsGood()) return check;
-    if (state.exists) ++check.otherCount;
+    if (state.exists) ++(IsAnythingStored(*model) ? check.count : check.otherCount);
   }
   return check;
 }
@@ -96,18 +86,55 @@ Check CheckInstallation() {
 
 }  // namespace
 
-Check CheckAnswer() {
-  uint32_t active = 0;
-  // Without an answer the library tells so.
-  const bool answered = ORV_GetMixerSeratoActiveStatus(DefaultModel().id, &active) == ORV_SUCCESS;
-  return {.part = CheckedPart::kAnswer, .finding = answered ? Finding::kGood : Finding::kNoAnswer};
+Check CheckFolder() {
+  Check check{.part = CheckedPart::kSettingsFolder};
+  const auto file = SettingsFileOf(DefaultModel());
+  if (!file) {
+    check.finding = Finding::kNoHome;
+    return check;
+  }
+  const fs::path folder = fs::path(*file).parent_path();
+  check.path = folder.string();
+  const fs::path nearest = NearestExisting(folder);
+  check.obstacle = nearest.string();
+  check.otherCount = nearest == folder ? 1 : 0;
+  std::error_code error;
+  if (!fs::is_directory(nearest, error)) {
+    check.finding = Finding::kNoFolder;
+    check.reason = ENOTDIR;
+    return check;
+  }
+  check.reason = ReasonAgainstWriting(nearest.string());
+  if (check.reason != 0) check.finding = Finding::kFolderNotWritable;
+  return check;
+}
+
+std::vector<Check> CheckAnswers() {
+  const std::vector<Mixer> known = ConnectedMixers();
+  const RequestLog log;
+  uint32_t level = 0;
+  // Of all questions the one that is put to every mixer, whatever the others answer.
+  ORV_GetMixerCertifyLevel(DefaultModel().id, &level);
+  std::vector<Check> checks;
+  for (const MixerResult &result : DeliveryOf(log, known).mixers) {
+    if (!result.IsOpened() || result.outcome == Outcome::kDone) continue;
+    checks.push_back({.part = CheckedPart::kAnswer,
+                      .finding = Finding::kNoAnswer,
+                      .mixers = {result.mixer},
+                      .outcome = result.outcome});
+  }
+  if (checks.empty()) checks.push_back({.part = CheckedPart::kAnswer});
+  return checks;
 }
 
 std::vector<Check> Diagnose(const std::vector<const Model *> &models) {
   std::vector<Check> checks = CheckMixers();
-  if (const auto bus = HasSessionBus()) {
+  const SessionBusState bus = ReachSessionBus();
+  if (bus != SessionBusState::kNotNeeded) {
     checks.push_back({.part = CheckedPart::kSessionBus,
-                      .finding = *bus ? Finding::kGood : Finding::kNoSessionBus});
+                      .finding = bus == SessionBusState::kReached    ? Finding::kGood
+                                 : bus == SessionBusState::kNoAnswer ? Finding::kSessionBusSilent
+                                                                     : Finding::kNoSessionBus});
   }
   checks.push_back(CheckFolder());
   checks.push_back(CheckFiles(models));

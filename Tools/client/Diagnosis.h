@@ -5,7 +5,8 @@
 #include <vector>
 
 #include "Mixers.h"
-#include "Models.h"
+#include "Requests.h"
+#include "Settings.h"
 
 namespace client {
 
@@ -26,26 +27,28 @@ enum class CheckedPart {
 /// What a check found. Only kGood is no problem.
 enum class Finding {
   kGood,
-  kUsbHidden,          ///< path: the folder that cannot be read; reason.
-  kNoUsbDevice,        ///<
+  kUsbHidden,  ///< path: the folder that cannot be read; reason.
+  kNoUsbDevice,
   kOnlyOtherProducts,  ///< names: products of the maker that are no mixers.
-  kNoMixer,            ///<
+  kNoMixer,
   kNodeMissing,        ///< mixers: the one; path: its node.
   kNoRule,             ///< mixers: the one that may not be opened, for want of the udev rule.
   kRuleWithoutEffect,  ///< mixers: the one; names: the folders with the udev rule.
   kHeld,               ///< mixers: the one that another program holds.
   kNotOpened,          ///< mixers: the one; reason.
-  kNoAnswer,           ///<
-  kNoSessionBus,       ///<
-  kNoHome,             ///<
+  kNoAnswer,           ///< mixers: the one; outcome.
+  kNoSessionBus,
+  kSessionBusSilent,
+  kNoHome,
   kFolderNotWritable,  ///< path: the settings folder; obstacle: what is not writable; reason.
   kNoFolder,           ///< path: the settings folder; obstacle: what stands in its place; reason.
   kFileIsNone,         ///< path: the settings file.
   kFileTooLarge,       ///< path
   kFileUnreadable,     ///< path; reason, where the system gives one.
   kFileIsNoList,       ///< path
-  kNoLibraryVersion,   ///<
-  kNoPackageVersion,   ///<
+  kNoChoice,           ///< path; settings: those whose stored number is no choice.
+  kNoLibraryVersion,
+  kNoPackageVersion,
 };
 
 /// One thing that was looked at.
@@ -58,6 +61,8 @@ struct Check {
   std::string obstacle = {};
   /// The system's reason, an errno; 0 for none.
   int reason = 0;
+  Outcome outcome = Outcome::kDone;
+  std::vector<Setting> settings = {};
   /// Names that belong to the finding: other products, folders with the rule, versions.
   std::vector<std::string> names = {};
   /// What was counted: USB devices, settings files in use.
@@ -68,13 +73,17 @@ struct Check {
   bool IsGood() const { return finding == Finding::kGood; }
 };
 
-/// Looks at everything from the USB bus to the installation, changing nothing. What makes no sense
-/// after a problem, such as opening a mixer that is not there, is left out.
+/// Looks at everything from the USB bus to the installation, changing nothing; only a file is
+/// written to the settings folder and removed. What makes no sense after a problem, such as opening
+/// a mixer that is not there, is left out.
 ///
 /// @param models  whose settings files are looked at.
 std::vector<Check> Diagnose(const std::vector<const Model *> &models);
 
-/// Asks the connected mixers something.
-Check CheckAnswer();
+/// Looks at what storing settings needs: their folder.
+Check CheckFolder();
+
+/// Asks the connected mixers something: a check for each that does not answer, or one that is good.
+std::vector<Check> CheckAnswers();
 
 }  // namespace client

@@ -5,6 +5,7 @@ pkg_check_modules(LIBSYSTEMD REQUIRED IMPORTED_TARGET libsystemd)
 add_library(trx-client STATIC
   Linux/LibraryText.cpp
   Linux/MixerChecks.cpp
+  Linux/MixerWatch.cpp
   Linux/Mixers.cpp
   Linux/SessionBus.cpp
   Linux/StoredSettings.cpp

@@ -1,5 +1,6 @@
 #include "MixerStatus.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -20,12 +21,20 @@ constexpr std::array<Entry, 6> kEntries{{
     {ORV_PRODUCT_TRX_SELVA, {4, true, true, true}},
 }};
 
-std::optional<SelectorPosition> AskSelector(const Model &model, uint32_t channel) {
-  constexpr uint32_t kUntouched = 0xFFFFFFFF;
-  uint32_t position = kUntouched;
-  const StatusCode status = ORV_GetMixerInputSelectorStatus(model.id, channel, &position);
-  if (position == kUntouched) return std::nullopt;
-  return SelectorPosition{position, status == ORV_SUCCESS};
+/// Asks one question of the mixers and notes in the status who answered.
+///
+/// @return whether the answer counts: the mixer that gave the last one did answer.
+template <typename Question>
+bool Ask(MixerStatus &status, const std::vector<Mixer> &known, const Question &question) {
+  const RequestLog log;
+  const bool isGood = question() == ORV_SUCCESS;
+  status.answers.Add(DeliveryOf(log, known));
+  const auto &requests = log.Requests();
+  // One model always answers without a request.
+  if (requests.empty()) return isGood;
+  const auto last = std::find_if(requests.rbegin(), requests.rend(),
+                                 [](const Request &request) { return request.isOpened; });
+  return isGood && last != requests.rend() && last->outcome == Outcome::kDone;
 }
 
 }  // namespace
@@ -37,24 +46,27 @@ const StatusKinds &StatusKindsOf(const Model &model) {
 }
 
 MixerStatus AskStatus(const Model &model) {
+  constexpr uint32_t kHighestPosition = 7;
   const StatusKinds &kinds = StatusKindsOf(model);
+  const std::vector<Mixer> known = ConnectedMixers();
   MixerStatus status;
   uint32_t number = 0;
-  if (kinds.certifyLevel && ORV_GetMixerCertifyLevel(model.id, &number) == ORV_SUCCESS) {
-    status.certifyLevel = number;
-  }
-  number = 0;
-  // The library answers 0 as well when the mixer does not.
-  if (kinds.firmware && ORV_GetFirmwareVersionIndex(model.id, &number) == ORV_SUCCESS &&
-      number != 0) {
-    status.firmware = number;
-  }
+  const auto ask = [&](const auto &function) {
+    return Ask(status, known, [&] { return function(model.id, &number); });
+  };
+  if (kinds.certifyLevel && ask(ORV_GetMixerCertifyLevel)) status.certifyLevel = number;
+  if (kinds.firmware && ask(ORV_GetFirmwareVersionIndex)) status.firmware = number;
   for (uint32_t channel = 0; channel < kinds.selectors; ++channel) {
-    status.selectors.push_back(AskSelector(model, channel));
+    number = 0;
+    const bool isAnswered = Ask(status, known, [&] {
+      // A number that is no position makes it another status, and is an answer all the same.
+      ORV_GetMixerInputSelectorStatus(model.id, channel, &number);
+      return ORV_SUCCESS;
+    });
+    status.selectors.emplace_back();
+    if (isAnswered) status.selectors.back() = SelectorPosition{number, number <= kHighestPosition};
   }
-  if (kinds.serato && ORV_GetMixerSeratoActiveStatus(model.id, &number) == ORV_SUCCESS) {
-    status.serato = number != 0;
-  }
+  if (kinds.serato && ask(ORV_GetMixerSeratoActiveStatus)) status.serato = number != 0;
   return status;
 }
 

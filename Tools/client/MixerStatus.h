@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "Models.h"
+#include "Delivery.h"
 
 namespace client {
 
@@ -32,6 +32,8 @@ struct MixerStatus {
   std::optional<uint32_t> firmware = {};
   std::vector<std::optional<SelectorPosition>> selectors = {};
   std::optional<bool> serato = {};
+  /// What became of the questions at each mixer.
+  Delivery answers = {};
 };
 
 /// Asks the connected mixers. The firmware is that of the first, the rest that of the last.

@@ -14,6 +14,8 @@ struct Mixer {
   std::string serial = {};
   /// The file that it is opened through; empty where the system has no such files.
   std::string node = {};
+  /// On macOS, in place of bus and address.
+  unsigned location = 0;
 };
 
 /// What there is on the USB bus besides mixers.

@@ -72,9 +72,9 @@ StoredProfile ProfileInFile(const fs::path &path) {
 }  // namespace
 
 std::optional<std::string> ProfilesFolder() {
-  const auto settings = SettingsFolder();
-  if (!settings) return std::nullopt;
-  return fs::path(*settings).replace_filename("Profiles").string();
+  const auto file = SettingsFileOf(DefaultModel());
+  if (!file) return std::nullopt;
+  return fs::path(*file).parent_path().replace_filename("Profiles").string();
 }
 
 std::vector<StoredProfile> StoredProfiles() {

@@ -1,9 +1,11 @@
 #include "Settings.h"
 
+#include <algorithm>
 #include <array>
 
 #include "InputLists.h"
 #include "LibraryText.h"
+#include "StoredSettings.h"
 
 namespace client {
 namespace {
@@ -55,7 +57,6 @@ constexpr std::array<SettingKind, 5> kSettingKinds{{
      .choice = "input audio choice",
      .about = "what the computer records on each USB channel",
      .hasChannels = true,
-     .firstNumber = 0,
      .againCount = 0,
      .key = "Output",
      .defaultIndex = 0,
@@ -71,7 +72,6 @@ constexpr std::array<SettingKind, 5> kSettingKinds{{
      .choice = "output audio choice",
      .about = "where the computer plays each USB channel",
      .hasChannels = true,
-     .firstNumber = 0,
      .againCount = 0,
      .key = "Input",
      .defaultIndex = 0,
@@ -85,7 +85,6 @@ constexpr std::array<SettingKind, 5> kSettingKinds{{
      .choice = "boost level",
      .about = "the boost level of the mixer's USB audio output",
      .hasChannels = false,
-     .firstNumber = 0,
      .againCount = 0,
      .key = "MaxLevel",
      .defaultIndex = 3,
@@ -93,13 +92,11 @@ constexpr std::array<SettingKind, 5> kSettingKinds{{
          kWithoutChannel<ORV_GetNumOfBoostLevelIndex, ORV_GetBoostLevelText,
                          ORV_GetCurrentBoostLevelIndex, ORV_SetBoostLevelIndex,
                          ORV_SetCurrentBoostLevelIndex, ORV_RegisterBoostLevelChangedCallback>},
-    // Whoever says 10 means MIDI channel 10, so the numbers are those of the channels.
     {.name = "midi",
      .title = "MIDI channel",
      .choice = "MIDI channel",
      .about = "the MIDI channel that the mixer uses",
      .hasChannels = false,
-     .firstNumber = 1,
      .againCount = 4,
      .key = "MidiChannel",
      .defaultIndex = 0,
@@ -112,7 +109,6 @@ constexpr std::array<SettingKind, 5> kSettingKinds{{
      .choice = "key mode",
      .about = "the MIDI key mode of the mixer",
      .hasChannels = false,
-     .firstNumber = 0,
      .againCount = 0,
      .key = "",
      .defaultIndex = 0,
@@ -167,6 +163,14 @@ int32_t Setting::Default() const {
 
 std::string Setting::Key() const {
   return std::string(kind->key) + (kind->hasChannels ? std::to_string(channel) : "");
+}
+
+bool Setting::IsStored() const {
+  const auto file = SettingsFileOf(*model);
+  if (!file) return false;
+  const FileState state = StateOfFile(*file);
+  if (!state.keys) return Current() != Default();
+  return std::find(state.keys->begin(), state.keys->end(), Key()) != state.keys->end();
 }
 
 bool Setting::CanSendAgain(int32_t index) const {

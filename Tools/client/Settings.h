@@ -60,8 +60,6 @@ struct SettingKind {
   std::string_view about;
   /// Whether each channel of the mixer has its own.
   bool hasChannels;
-  /// The number of the first choice, as people count its choices.
-  uint32_t firstNumber;
   /// How many choices, from the first on, can be sent again once stored. 0: all.
   int32_t againCount;
   /// The key that it is stored under; the number of the channel follows, where it has channels.
@@ -101,6 +99,10 @@ struct Setting {
 
   /// The key that it is stored under.
   std::string Key() const;
+
+  /// Whether the current index was stored, and is not only the default. For a file that is not
+  /// looked into, as it is large or binary: whether the index differs from the default.
+  bool IsStored() const;
 
   /// Whether a choice, once stored, can be sent again.
   bool CanSendAgain(int32_t index) const;

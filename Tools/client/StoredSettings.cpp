@@ -1,19 +1,39 @@
 #include "StoredSettings.h"
 
-#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+
+#include <unistd.h>
+
+#include <TRX-SELVASetup/Diagnostics.h>
+
+#include "LibraryText.h"
 
 namespace client {
 
-std::string SettingsFileOf(const Model &model) {
-  const auto folder = SettingsFolder();
-  if (!folder) return "";
-  return *folder + "/com.orvikaudio." + std::string(model.name) + "autosetup.plist";
+std::optional<std::string> SettingsFileOf(const Model &model) {
+  ORVStringRef path = nullptr;
+  ORV_GetSettingsFilePath(model.id, &path);
+  return CharactersOf(path);
 }
 
-bool DiffersFromDefaults(const Model &model) {
-  const std::vector<Setting> settings = SettingsOf(model);
-  return std::any_of(settings.begin(), settings.end(),
-                     [](const Setting &setting) { return setting.Current() != setting.Default(); });
+int ReasonAgainstWriting(const std::string &folder) {
+  // More than a settings file needs.
+  static constexpr std::array<char, 8192> kContents{};
+  std::string path = folder + "/.trx-probe-XXXXXX";
+  const int descriptor = mkstemp(path.data());
+  if (descriptor < 0) return errno;
+  int reason = 0;
+  const ssize_t written = write(descriptor, kContents.data(), kContents.size());
+  if (written < 0 || fsync(descriptor) != 0) {
+    reason = errno;
+  } else if (written != static_cast<ssize_t>(kContents.size())) {
+    reason = ENOSPC;
+  }
+  close(descriptor);
+  unlink(path.c_str());
+  return reason;
 }
 
 }  // namespace client

@@ -2,8 +2,9 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
-#include "Settings.h"
+#include "Models.h"
 
 namespace client {
 
@@ -22,18 +23,20 @@ struct FileState {
   FileProblem problem = FileProblem::kNone;
   /// The system's reason for kUnreadable, where it gives one.
   int reason = 0;
+  /// The keys in it that hold a number. Nothing when the file was not looked into, as it is large
+  /// or binary.
+  std::optional<std::vector<std::string>> keys = {};
 };
 
-/// The folder that the library keeps the user's settings in; nothing when the user has no home.
-std::optional<std::string> SettingsFolder();
+/// The file that the settings of a model are stored in at this moment; nothing when the user has no
+/// folder for settings.
+std::optional<std::string> SettingsFileOf(const Model &model);
 
-/// The file that the settings of a model are stored in; empty when the user has no home.
-std::string SettingsFileOf(const Model &model);
-
-/// Looks at the settings file of a model.
+/// Looks at a settings file.
 FileState StateOfFile(const std::string &file);
 
-/// Whether the library answers for any setting of the model with something else than the default.
-bool DiffersFromDefaults(const Model &model);
+/// Why a file could not be written to a folder just now, as the system says it; 0 when it could.
+/// Nothing is left behind.
+int ReasonAgainstWriting(const std::string &folder);
 
 }  // namespace client

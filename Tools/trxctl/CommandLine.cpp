@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <cstdlib>
 #include <exception>
 #include <optional>
 #include <string>
@@ -15,6 +16,7 @@
 #include "Listing.h"
 #include "Profile.h"
 #include "Reapply.h"
+#include "Reset.h"
 #include "SettingCommand.h"
 #include "Status.h"
 #include "UserInput.h"
@@ -55,7 +57,7 @@ class Program {
  public:
   Program() : app_(kOverview, "trxctl") {
     app_.formatter(HelpFormat::Make());
-    app_.add_option("--model", model_, "The mixer model (default: TRX-SELVA)")
+    app_.add_option("--model", model_, "The mixer model (default: that of the mixers)")
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast)
         ->type_name("NAME");
     app_.add_flag("--json")->description("Answer in JSON, errors included");
@@ -67,8 +69,8 @@ class Program {
     for (const client::SettingKind &kind : client::SettingKinds()) {
       commands_.push_back(MakeSettingCommand(app_, kind));
     }
-    for (const auto make : {MakeStatus, MakeWatch, MakeReapply, MakeProfile, MakeDiagnose,
-                            MakeVersions, MakeModels}) {
+    for (const auto make : {MakeStatus, MakeWatch, MakeReapply, MakeReset, MakeProfile,
+                            MakeDiagnose, MakeVersions, MakeModels}) {
       commands_.push_back(make(app_));
     }
     for (const Command &command : commands_) command.app->group(command.isHidden ? "" : "Commands");
@@ -80,8 +82,12 @@ class Program {
       Complete(app_, {argv + 2, argv + argc}, output);
       return ExitCode::kDone;
     }
+    words_ = {argv + std::min(argc, 1), argv + argc};
+    if (!words_.empty() && words_.front() == "help") words_ = HelpWords();
+    RefuseValuesOfFlags();
     try {
-      app_.parse(argc, argv);
+      // The parser takes the words off the end.
+      app_.parse(std::vector<std::string>(words_.rbegin(), words_.rend()));
     } catch (const CLI::CallForHelp &) {
       output.Print(app_.help(), {{"help", app_.help()}});
       return ExitCode::kDone;
@@ -105,17 +111,64 @@ class Program {
 
  private:
   ExitCode RunChosen(const Output &output) const {
-    const Session session{model_ ? ModelNamed(*model_) : client::DefaultModel(), model_.has_value(),
-                          output};
+    const std::optional<std::string> model = model_ ? model_ : ModelOfEnvironment();
+    const Session session{model ? ModelNamed(*model) : UnnamedModel(), model.has_value(), output};
     const auto chosen = std::find_if(commands_.begin(), commands_.end(),
                                      [](const Command &command) { return command.app->parsed(); });
     if (chosen != commands_.end()) return chosen->run(session);
-    Show(session);
-    return ExitCode::kDone;
+    return Show(session);
+  }
+
+  /// What stands for "help" and, where a command follows, for its help.
+  std::vector<std::string> HelpWords() const {
+    std::vector<std::string> words(words_.begin() + 1, words_.end());
+    words.emplace_back("--help");
+    return words;
+  }
+
+  /// The parser takes --json=no and even --json= for a value of the flag.
+  void RefuseValuesOfFlags() const {
+    for (const std::string &word : words_) {
+      if (word == "--") return;
+      const std::size_t equals = word.find('=');
+      if (!word.starts_with("--") || equals == std::string::npos) continue;
+      const std::string name = word.substr(0, equals);
+      if (IsFlag(name)) {
+        throw Failure{ExitCode::kUsage, name + " takes no value", "write " + name + " alone"};
+      }
+    }
+  }
+
+  bool IsFlag(const std::string &name) const {
+    const auto isFlagOf = [&name](const CLI::App *app) {
+      const CLI::Option *option = app->get_option_no_throw(name);
+      return option != nullptr && option->get_items_expected_max() == 0;
+    };
+    return isFlagOf(&app_) ||
+           std::any_of(commands_.begin(), commands_.end(),
+                       [&](const Command &command) { return isFlagOf(command.app); });
+  }
+
+  static std::optional<std::string> ModelOfEnvironment() {
+    const char *model = std::getenv("TRXCTL_MODEL");
+    if (model == nullptr || *model == '\0') return std::nullopt;
+    return model;
+  }
+
+  /// Whether a word that is no command stands before one, as in "set boost 1".
+  bool IsBeforeCommand(const std::string &given) const {
+    const std::vector<std::string> names = CommandNames();
+    return words_.size() > 1 && words_.front() == given &&
+           std::find(names.begin(), names.end(), words_[1]) != names.end();
   }
 
   [[noreturn]] void ThrowNotExpected(const std::string &given) const {
     const auto chosen = app_.get_subcommands();
+    if (!given.starts_with('-') && IsBeforeCommand(given)) {
+      const std::vector<std::string> rest(words_.begin() + 1, words_.end());
+      throw Failure{ExitCode::kUsage, "unknown command " + Quoted(given),
+                    "did you mean trxctl " + Printable(Joined(rest, " ")) + "?"};
+    }
     if (given.starts_with('-')) {
       ThrowUnknown("unknown option " + Quoted(given), Nearest(given, OptionNames()));
     } else if (chosen.empty()) {
@@ -164,6 +217,8 @@ class Program {
   CLI::App app_;
   std::optional<std::string> model_;
   std::vector<Command> commands_;
+  /// The command line behind the name of the program.
+  std::vector<std::string> words_;
 };
 
 /// Whether errors are wanted in JSON, also when the command line cannot be understood.

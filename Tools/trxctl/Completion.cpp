@@ -1,6 +1,7 @@
 #include "Completion.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <optional>
 
 #include "Profile.h"
@@ -156,8 +157,10 @@ class Situation {
   }
 
   const client::Model *ChosenModel() const {
-    if (!model_) return &client::DefaultModel();
-    const std::vector<const client::Model *> matching = client::ModelsMatching(*model_);
+    const char *environment = std::getenv("TRXCTL_MODEL");
+    const std::string name = model_ ? *model_ : environment == nullptr ? "" : environment;
+    if (name.empty()) return &UnnamedModel();
+    const std::vector<const client::Model *> matching = client::ModelsMatching(name);
     return matching.size() == 1 ? matching.front() : nullptr;
   }
 

@@ -1,9 +1,11 @@
 #include "Diagnose.h"
 
 #include <array>
+#include <cerrno>
 #include <cstring>
 
 #include "PlatformWords.h"
+#include "Progress.h"
 #include "Words.h"
 #include "client/Diagnosis.h"
 
@@ -88,6 +90,13 @@ std::string GoodAsText(const Check &check) {
   return Printable("library " + check.names.front() + ", package " + check.names.back());
 }
 
+/// What to do when the settings folder takes no file.
+std::string FolderHint(int reason) {
+  if (reason == ENOSPC || reason == EDQUOT) return "delete what is not needed on that disk";
+  if (reason == EROFS) return "the file system is mounted read-only; mount it for writing";
+  return "make that folder writable for this user";
+}
+
 /// What a check came to, in words.
 struct Verdict {
   ExitCode code;
@@ -121,7 +130,7 @@ Verdict VerdictOf(const Check &check) {
       return {ExitCode::kNoAccess,
               MixerOf(check) + " may not be opened by this user; the udev rule " + kRule +
                   " is not installed",
-              std::string("copy ") + kRule + " to /etc/udev/rules.d, then run: " + kReloadRules};
+              "run: sudo cp " + PathOf(check) + " /etc/udev/rules.d/ && " + kReloadRules};
     case Finding::kRuleWithoutEffect:
       return {ExitCode::kNoAccess,
               MixerOf(check) + " may not be opened by this user, although the udev rule " + kRule +
@@ -136,11 +145,18 @@ Verdict VerdictOf(const Check &check) {
               MixerOf(check) + " may not be opened by this user: " + ReasonOf(check),
               "plug the mixer out and in again"};
     case Finding::kNoAnswer:
-      return {ExitCode::kFailed, "a mixer does not answer a request, or not as it should",
+      return {ExitCode::kFailed,
+              DescribeWithSerial(check.mixers.front()) + (check.outcome == client::Outcome::kRefused
+                                                              ? ", refuses a request"
+                                                              : ", does not answer a request"),
               "switch the mixer off and on again, and connect it without a hub"};
     case Finding::kNoSessionBus:
       return {ExitCode::kFailed, "there is none, so programs do not learn of each other's changes",
               "run trxctl in a desktop session, or everything together under dbus-run-session"};
+    case Finding::kSessionBusSilent:
+      return {ExitCode::kFailed,
+              "it does not answer, so programs do not learn of each other's changes",
+              "log out and in again"};
     case Finding::kNoHome:
       return {ExitCode::kNotStored, "this user has no home folder to keep settings in",
               std::string(kPlatformWords.withoutHome)};
@@ -150,7 +166,7 @@ Verdict VerdictOf(const Check &check) {
               "settings cannot be stored in " + PathOf(check) + ": " + Printable(check.obstacle) +
                   ": " + ReasonOf(check),
               check.finding == Finding::kNoFolder ? "remove what is in its place"
-                                                  : "make that folder writable for this user"};
+                                                  : FolderHint(check.reason)};
     case Finding::kFileIsNone:
       return {ExitCode::kFailed, PathOf(check) + ": is no file", kCountsAsNotStored};
     case Finding::kFileTooLarge:
@@ -163,6 +179,14 @@ Verdict VerdictOf(const Check &check) {
     case Finding::kFileIsNoList:
       return {ExitCode::kFailed, PathOf(check) + ": is no property list with a dictionary in it",
               kCountsAsNotStored};
+    case Finding::kNoChoice: {
+      const client::Setting &first = check.settings.front();
+      return {ExitCode::kFailed,
+              PathOf(check) + ": the " + TitleOf(first) + " stored is " +
+                  std::to_string(first.Current()) + ", which is no " +
+                  std::string(first.kind->choice),
+              StoreOneHint(first)};
+    }
     case Finding::kNoLibraryVersion:
     case Finding::kNoPackageVersion:
       return {ExitCode::kFailed,
@@ -191,6 +215,7 @@ Json AsJson(const Check &check, const Verdict &verdict) {
 }
 
 ExitCode Run(const Session &session) {
+  const Progress progress(session.output);
   std::string text;
   Json list = Json::array();
   ExitCode code = ExitCode::kDone;
@@ -212,7 +237,8 @@ Command MakeDiagnose(CLI::App &program) {
       program.add_subcommand("diagnose", "Tell why a mixer is not found or cannot be used");
   app->footer(
       std::string("Looks at everything from the USB bus to the settings files, a line each, and\n"
-                  "ends with the exit code for the first problem. Nothing is changed.\n"
+                  "ends with the exit code for the first problem. A file is written to the\n"
+                  "settings folder and removed again; nothing else is changed.\n"
                   "\n"
                   "Examples:\n"
                   "  trxctl diagnose\n"

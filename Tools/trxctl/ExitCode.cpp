@@ -6,7 +6,7 @@ namespace trxctl {
 namespace {
 
 // The position of an entry is its exit code.
-constexpr std::array<ExitCodeEntry, 9> kExitCodes{{
+constexpr std::array<ExitCodeEntry, 10> kExitCodes{{
     {ExitCode::kDone, "done", "done"},
     {ExitCode::kFailed, "failed", "the system did not give what the program needs"},
     {ExitCode::kUsage, "usage", "the command line was not understood"},
@@ -14,8 +14,9 @@ constexpr std::array<ExitCodeEntry, 9> kExitCodes{{
     {ExitCode::kNoMixer, "no_mixer", "no mixer is connected and nothing could be done without one"},
     {ExitCode::kTimedOut, "timed_out", "the time given with --timeout is over"},
     {ExitCode::kOutputFailed, "output_failed", "the output could not be written"},
-    {ExitCode::kNoAccess, "no_access", "mixers are connected, but this user may open none of them"},
+    {ExitCode::kNoAccess, "no_access", "mixers are connected, but none of them could be opened"},
     {ExitCode::kNotStored, "not_stored", "the setting could not be stored"},
+    {ExitCode::kPartlySent, "partly_sent", "a connected mixer did not take it"},
 }};
 
 }  // namespace

@@ -18,6 +18,7 @@ enum class ExitCode {
   kOutputFailed = 6,
   kNoAccess = 7,
   kNotStored = 8,
+  kPartlySent = 9,
 };
 
 /// What an exit code is called in JSON and how it is explained in the help.
@@ -36,7 +37,7 @@ const ExitCodeEntry &EntryOf(ExitCode code);
 /// Thrown when a command cannot be done: ends the program with a message for the user.
 struct Failure {
   ExitCode code;
-  /// One line: what is wrong.
+  /// One line: what is wrong. Empty: nothing is said, as when the reader of the output has left.
   std::string message;
   /// One line: what the user can do about it.
   std::string hint;

@@ -19,10 +19,16 @@ Json NameAsJson(const client::Setting &setting);
 /// The members "model", "setting" and, where it has channels, "channel".
 Json HeadingAsJson(const client::Setting &setting);
 
-/// A connected mixer.
-Json MixerAsJson(const client::MixerResult &result);
+/// {"index": 1, "text": "-10 dB", "stored": true} for the choice in use.
+Json CurrentAsJson(const client::Setting &setting);
 
-/// The members "connected", "sent_to" and "mixers".
+/// A connected mixer.
+Json MixerAsJson(const client::Mixer &mixer);
+
+/// A connected mixer, and whether it may be opened.
+Json AccessAsJson(const client::MixerResult &result);
+
+/// The members "connected", "sent_to" and "mixers", each mixer with its result.
 Json DeliveryAsJson(const client::Delivery &delivery);
 
 }  // namespace trxctl

@@ -11,8 +11,7 @@ namespace {
 constexpr std::size_t kColumn = 24;
 
 std::string Row(const client::MixerResult &result) {
-  std::string row = "  " + Describe(result.mixer);
-  if (!result.mixer.serial.empty()) row += ", serial " + Printable(result.mixer.serial);
+  std::string row = "  " + DescribeWithSerial(result.mixer);
   if (result.refusal != 0) {
     row += std::string(": may not be opened (") + std::strerror(result.refusal) + ")";
   }
@@ -20,7 +19,7 @@ std::string Row(const client::MixerResult &result) {
 }
 
 std::string MixersAsText(const Output &output, const client::Delivery &reachable) {
-  if (!reachable.connected) return "No mixer is connected.\n";
+  if (!reachable.isConnected) return "No mixer is connected.\n";
   std::string text = output.Strong("Connected mixers") + '\n';
   int refusal = 0;
   for (const client::MixerResult &result : reachable.mixers) {
@@ -47,8 +46,12 @@ Json ChoicesAsJson(const client::Setting &setting) {
 
 /// What an answer tells of one setting: what is stored and what there is to choose from.
 Json StateAsJson(const client::Setting &setting) {
-  return {{"current", ChoiceAsJson(setting, setting.Current())},
-          {"choices", ChoicesAsJson(setting)}};
+  return {{"current", CurrentAsJson(setting)}, {"choices", ChoicesAsJson(setting)}};
+}
+
+/// Says that the settings file of a model cannot be used, if so.
+void NoteFile(const Session &session, const client::Model &model) {
+  if (const auto warning = FileWarning(model)) session.output.Note(*warning);
 }
 
 /// Hints that are no part of the list.
@@ -69,35 +72,40 @@ std::string Heading(const Session &session, const client::Setting &setting,
 
 }  // namespace
 
-void Show(const Session &session) {
+ExitCode Show(const Session &session) {
   const client::Delivery reachable = client::Reachable();
   std::string text = MixersAsText(session.output, reachable) + '\n' +
                      session.output.Strong(std::string(session.model.name) + " settings") + '\n';
   Json json{{"model", session.model.name},
             {"product_id", session.model.id},
-            {"connected", reachable.connected},
-            {"mixers", DeliveryAsJson(reachable)["mixers"]},
+            {"connected", reachable.isConnected},
+            {"mixers", Json::array()},
             {"settings", Json::array()}};
+  for (const client::MixerResult &result : reachable.mixers) {
+    json["mixers"].push_back(AccessAsJson(result));
+  }
+  std::vector<std::string> hints;
   for (const client::Setting &setting : client::SettingsOf(session.model)) {
     text += Row(setting);
+    if (!setting.TextOf(setting.Current())) hints.push_back("hint: " + StoreOneHint(setting));
     Json entry = NameAsJson(setting);
-    entry.update(ChoiceAsJson(setting, setting.Current()));
+    entry.update(CurrentAsJson(setting));
     json["settings"].push_back(std::move(entry));
   }
-  session.output.Print(text, json);
+  if (const auto warning = FileWarning(session.model)) hints.push_back(*warning);
+  return session.output.Print({.text = text, .json = json, .notes = hints});
 }
 
 void ListChoices(const Session &session, const client::Setting &setting) {
   const int32_t current = setting.Current();
   const std::vector<std::string> choices = setting.Choices();
-  const std::size_t first = setting.kind->firstNumber;
-  const std::size_t digits = std::to_string(first + choices.size() - 1).size();
+  const std::size_t digits = std::to_string(choices.size()).size();
 
   std::string text =
       Heading(session, setting, TitleOf(setting)) + ": " + CurrentAsText(setting) + '\n';
   for (std::size_t index = 0; index < choices.size(); ++index) {
     const bool isChosen = static_cast<int32_t>(index) == current;
-    const std::string number = std::to_string(first + index);
+    const std::string number = std::to_string(index + 1);
     const std::string line =
         std::string(digits - number.size(), ' ') + number + "  " + choices[index];
     text += isChosen ? "* " + session.output.Strong(line) + '\n' : "  " + line + '\n';
@@ -106,6 +114,7 @@ void ListChoices(const Session &session, const client::Setting &setting) {
   json["settable"] = setting.TakesChoices();
   json.update(StateAsJson(setting));
   session.output.Print(text, json);
+  NoteFile(session, *setting.model);
   Note(session, setting);
 }
 
@@ -124,6 +133,7 @@ void ListChannels(const Session &session, const std::vector<client::Setting> &se
     json["channels"].push_back(std::move(entry));
   }
   session.output.Print(text, json);
+  NoteFile(session, *first.model);
   for (const client::Setting &setting : settings) {
     Note(session, setting);
     if (!setting.TakesChoices()) break;

@@ -9,7 +9,7 @@ namespace trxctl {
 
 /// Shows the connected mixers and the settings of the model: what the program does when no command
 /// is named.
-void Show(const Session &session);
+ExitCode Show(const Session &session);
 
 /// Prints one setting (of one channel) with its choices.
 void ListChoices(const Session &session, const client::Setting &setting);

@@ -47,18 +47,20 @@ std::string OneLine(const Json &json) {
 void WriteOutput(std::string_view text) {
   const int reason = WriteAll(STDOUT_FILENO, text);
   if (reason == 0) return;
+  // Programs end quietly when nobody reads on.
+  if (reason == EPIPE) throw Failure{ExitCode::kOutputFailed, "", ""};
   throw Failure{ExitCode::kOutputFailed,
                 std::string("cannot write the output: ") + std::strerror(reason),
                 "the command itself may have been carried out; look at where the output goes"};
 }
 
-Json ToJson(const Failure &failure) {
+Json ErrorAsJson(const Failure &failure) {
   Json error{{"code", static_cast<int>(failure.code)},
              {"kind", EntryOf(failure.code).kind},
              {"message", failure.message},
              {"hint", failure.hint}};
   if (!failure.choices.empty()) error["choices"] = failure.choices;
-  return {{"error", std::move(error)}};
+  return error;
 }
 
 }  // namespace
@@ -82,16 +84,34 @@ void Output::Print(std::string_view text, const Json &json) const {
   WriteOutput(isJson_ ? OneLine(json) : std::string(text));
 }
 
+ExitCode Output::Print(const Answer &answer) const {
+  Json json = answer.json;
+  if (answer.failure) json["error"] = ErrorAsJson(*answer.failure);
+  Print(answer.text, json);
+  for (const std::string &note : answer.notes) Note(note);
+  if (!answer.failure) return ExitCode::kDone;
+  if (!isJson_) PrintForPeople(*answer.failure);
+  return answer.failure->code;
+}
+
 void Output::Note(std::string_view text) const {
   if (!isJson_) WriteAll(STDERR_FILENO, std::string(text) + '\n');
 }
 
 void Output::Print(const Failure &failure) const {
+  if (failure.message.empty()) return;
   if (isJson_ && failure.code != ExitCode::kOutputFailed &&
-      WriteAll(STDOUT_FILENO, OneLine(ToJson(failure))) == 0) {
+      WriteAll(STDOUT_FILENO, OneLine({{"error", ErrorAsJson(failure)}})) == 0) {
     return;
   }
   PrintForPeople(failure);
+}
+
+bool Output::IsSeen() const { return !isJson_ && isatty(STDERR_FILENO) == 1; }
+
+void Output::PrintPassing(std::string_view text) const {
+  // To the start of the line, the text, and nothing of what stood there before.
+  WriteAll(STDERR_FILENO, '\r' + std::string(text) + "\033[K");
 }
 
 std::string Output::Strong(std::string_view text) const {

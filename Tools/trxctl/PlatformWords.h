@@ -6,8 +6,6 @@ namespace trxctl {
 
 /// What is said to the user in other words on each platform.
 struct PlatformWords {
-  /// What to do when settings cannot be stored.
-  std::string_view notStored;
   /// What to do when the user has no home folder.
   std::string_view withoutHome;
   /// What to do when the files with the versions are missing.

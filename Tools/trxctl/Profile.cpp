@@ -6,8 +6,8 @@
 #include <optional>
 #include <utility>
 
-#include "PlatformWords.h"
 #include "ProfileFaults.h"
+#include "Progress.h"
 #include "Sending.h"
 #include "UserInput.h"
 #include "Words.h"
@@ -181,7 +181,8 @@ ExitCode ShowDifference(const Session &session, const client::Profile &profile) 
   json["changes"] = Json::array();
   std::string rows;
   for (const client::ProfileChoice &choice : client::DifferingFromStored(profile)) {
-    rows += "  " + TitleOf(choice.setting) + ": " + CurrentAsText(choice.setting) + " -> " +
+    rows += "  " + TitleOf(choice.setting) + ": " +
+            ChoiceAsText(choice.setting, choice.setting.Current()) + " -> " +
             choice.setting.TextOf(choice.index).value_or("") + '\n';
     Json change = ChoiceOf(choice);
     change["stored"] = ChoiceAsJson(choice.setting, choice.setting.Current());
@@ -208,13 +209,14 @@ class LoadReport {
     Json entry = ChoiceOf(choice);
     entry["stored"] = sent.result.isStored;
     entry.update(DeliveryAsJson(delivery));
-    if (sent.result.status == ORV_SUCCESS_WITH_WARNING) {
+    if (client::IsWarningFor(choice.setting, sent.result, choice.index)) {
       const std::string warning = WarningOf(choice.setting);
       warnings_.Add(warning, TitleOf(choice.setting));
       entry["warning"] = warning;
     }
-    deliveries_.Add(delivery.connected ? DeliveryAsText(delivery) : kNoMixer, Row(choice));
-    if (!sent.result.isStored) notStored_.push_back(TitleOf(choice.setting));
+    deliveries_.Add(delivery.isConnected ? DeliveryAsText(delivery) : kNoMixer, Row(choice));
+    if (!sent.result.isStored) notStored_.push_back(choice.setting);
+    delivery_.Add(delivery);
     json_["settings"].push_back(std::move(entry));
   }
 
@@ -225,14 +227,19 @@ class LoadReport {
     for (const auto &[delivery, rows] : deliveries_.All()) {
       text += "  " + Joined(rows, "\n  ") + '\n' + delivery;
     }
-    output.Print(text, json_);
+    Answer answer{.text = text, .json = json_};
+    answer.notes = OtherModelWarnings(*profile_.model, delivery_);
     for (const auto &[warning, titles] : warnings_.All()) {
-      output.Note("warning: " + Joined(titles) + ": " + warning);
+      answer.notes.push_back("warning: " + Joined(titles) + ": " + warning);
     }
-    if (notStored_.empty()) return ExitCode::kDone;
-    output.Note("could not be stored: " + Joined(notStored_) +
-                "\nhint: " + std::string(kPlatformWords.notStored));
-    return ExitCode::kNotStored;
+    answer.failure = DeliveryFailure(delivery_, "; the settings are stored");
+    if (!notStored_.empty()) {
+      std::vector<std::string> titles;
+      for (const client::Setting &setting : notStored_) titles.push_back(TitleOf(setting));
+      answer.notes.push_back("could not be stored: " + Joined(titles));
+      answer.failure = NotStored(notStored_.front());
+    }
+    return output.Print(answer);
   }
 
  private:
@@ -249,7 +256,8 @@ class LoadReport {
   Json json_;
   Told deliveries_;
   Told warnings_;
-  std::vector<std::string> notStored_;
+  std::vector<client::Setting> notStored_;
+  client::Delivery delivery_;
 };
 
 ExitCode Load(const Session &session, const Request &request) {
@@ -257,6 +265,7 @@ ExitCode Load(const Session &session, const Request &request) {
   LoadReport report(profile,
                     request.language ? LanguageNamed(*request.language) : client::kSystemLanguage);
   if (request.isDryRun) return ShowDifference(session, profile);
+  const Progress progress(session.output);
   for (const client::ProfileSendResult &sent : client::SetProfile(profile)) report.Add(sent);
   return report.Print(session.output);
 }

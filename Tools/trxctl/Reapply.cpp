@@ -1,5 +1,8 @@
 #include "Reapply.h"
 
+#include <memory>
+
+#include "Progress.h"
 #include "Sending.h"
 #include "Words.h"
 
@@ -9,48 +12,65 @@ namespace {
 /// What was sent and what was not, for both kinds of answer.
 struct Outcome {
   std::string sentText;
-  std::string notSentText;
   Json sent = Json::array();
   Json notSent = Json::array();
-  /// Whether something that the model takes could not be sent.
-  bool isMissing = false;
+  std::vector<std::string> notes = {};
+  client::Delivery delivery = {};
 };
 
-void Send(Outcome &outcome, const client::Setting &setting) {
+void Send(Outcome &outcome, const client::Setting &setting, bool isDryRun) {
+  // What the model cannot take is no news.
+  if (!setting.TakesChoices()) return;
   Json json = NameAsJson(setting);
-  json.update(ChoiceAsJson(setting, setting.Current()));
-  const auto reason = ReasonAgainstAgain(setting);
-  if (!reason) {
-    client::SendAgain(setting);
-    outcome.sent.push_back(std::move(json));
-    outcome.sentText += "  " + TitleOf(setting) + ": " + CurrentAsText(setting) + '\n';
+  json.update(CurrentAsJson(setting));
+  if (const auto reason = ReasonAgainstAgain(setting)) {
+    json["reason"] = *reason;
+    outcome.notSent.push_back(std::move(json));
+    outcome.notes.push_back("Not sent: " + TitleOf(setting) + ": " + *reason);
     return;
   }
-  json["reason"] = *reason;
-  outcome.notSent.push_back(std::move(json));
-  outcome.notSentText += "  " + TitleOf(setting) + ": " + *reason + '\n';
-  outcome.isMissing = outcome.isMissing || setting.TakesChoices();
+  if (!isDryRun) outcome.delivery.Add(client::SendAgain(setting).delivery);
+  outcome.sent.push_back(std::move(json));
+  outcome.sentText += "  " + TitleOf(setting) + ": " + CurrentAsText(setting) + '\n';
 }
 
-ExitCode Run(const Session &session) {
+Failure NotAllSent() {
+  return {ExitCode::kRefused, "not every stored setting can be sent again",
+          "choose those anew that were not sent"};
+}
+
+ExitCode Run(const Session &session, bool isDryRun) {
   const client::Delivery reachable = client::Reachable();
   RequireReachable(reachable, "nothing was sent");
+  const Progress progress(session.output);
   Outcome outcome;
-  for (const client::Setting &setting : client::SettingsOf(session.model)) Send(outcome, setting);
+  for (const client::Setting &setting : client::SettingsOf(session.model)) {
+    Send(outcome, setting, isDryRun);
+  }
   const std::string model(session.model.name);
-  std::string text = session.output.Strong(model + " settings sent again") + '\n' +
-                     outcome.sentText + DeliveryAsText(reachable);
-  if (!outcome.notSentText.empty()) text += "Not sent:\n" + outcome.notSentText;
-  Json json{{"model", model}, {"sent", outcome.sent}, {"not_sent", outcome.notSent}};
-  json.update(DeliveryAsJson(reachable));
-  session.output.Print(text, json);
-  return outcome.isMissing ? ExitCode::kRefused : ExitCode::kDone;
+  Answer answer{.text = session.output.Strong(model + (isDryRun ? " settings that would be sent"
+                                                                : " settings sent again")) +
+                        '\n' + outcome.sentText + DeliveryAsText(outcome.delivery),
+                .json = {{"model", model}, {"sent", outcome.sent}, {"not_sent", outcome.notSent}},
+                .notes = outcome.notes};
+  if (isDryRun) {
+    answer.json["dry_run"] = true;
+    return session.output.Print(answer);
+  }
+  answer.json.update(DeliveryAsJson(outcome.delivery));
+  const auto warnings = OtherModelWarnings(session.model, outcome.delivery);
+  answer.notes.insert(answer.notes.end(), warnings.begin(), warnings.end());
+  answer.failure = DeliveryFailure(outcome.delivery);
+  if (!answer.failure && !outcome.notSent.empty()) answer.failure = NotAllSent();
+  return session.output.Print(answer);
 }
 
 }  // namespace
 
 Command MakeReapply(CLI::App &program) {
   CLI::App *app = program.add_subcommand("reapply", "Send all stored settings once more");
+  const auto isDryRun = std::make_shared<bool>(false);
+  app->add_flag("--dry-run", *isDryRun, "Only tell what would be sent");
   app->footer(
       std::string("For a mixer that was plugged in later. Where nothing is stored, the default is\n"
                   "sent. Ends with exit code 3 when a stored setting could not be sent.\n"
@@ -59,7 +79,7 @@ Command MakeReapply(CLI::App &program) {
                   "  trxctl reapply\n"
                   "  trxctl reapply --model TRX-VOLT\n") +
       kSharedOptionsHelp);
-  return {app, Run};
+  return {app, [isDryRun](const Session &session) { return Run(session, *isDryRun); }};
 }
 
 }  // namespace trxctl

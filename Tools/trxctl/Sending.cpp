@@ -1,60 +1,70 @@
 #include "Sending.h"
 
-#include <algorithm>
 #include <cstring>
 
-#include "PlatformWords.h"
+#include "Progress.h"
 #include "UserInput.h"
 #include "Words.h"
+#include "client/Diagnosis.h"
 #include "client/InputLists.h"
+#include "client/SessionBus.h"
 
 namespace trxctl {
 namespace {
 
 constexpr char kNothingSent[] = "nothing was sent";
 
-/// What was done, for both kinds of answer.
-struct Done {
-  std::string text;
-  Json json;
-};
-
-Done Started(const client::Setting &setting, std::string_view action, const std::string &sentence) {
+Answer Started(const client::Setting &setting, std::string_view action,
+               const std::string &sentence) {
   Json json = HeadingAsJson(setting);
   json["action"] = action;
-  return {std::string(setting.model->name) + ' ' + TitleOf(setting) + ' ' + sentence + ".\n",
-          std::move(json)};
+  return {
+      .text = std::string(setting.model->name) + ' ' + TitleOf(setting) + ' ' + sentence + ".\n",
+      .json = std::move(json)};
 }
 
-/// Adds the warning that the library has for what was done, if there is one.
-void AddWarning(Done &done, const client::Setting &setting, const client::SendResult &result,
-                int32_t language) {
-  if (result.status != ORV_SUCCESS_WITH_WARNING) return;
+/// What would be done, and where it would go.
+Answer Planned(const client::Setting &setting, std::string_view action, const std::string &choice) {
+  const client::Delivery reachable = client::Reachable();
+  Answer answer = Started(setting, action, "would be sent: " + choice);
+  answer.text += "Connected mixers: " + std::to_string(reachable.mixers.size()) +
+                 ". Nothing was sent or stored.\n";
+  answer.json["dry_run"] = true;
+  answer.json["connected"] = reachable.isConnected;
+  answer.json["mixers"] = Json::array();
+  for (const client::MixerResult &result : reachable.mixers) {
+    answer.json["mixers"].push_back(AccessAsJson(result));
+  }
+  return answer;
+}
+
+void AddDelivery(Answer &answer, const client::Setting &setting, const client::Delivery &delivery) {
+  answer.json.update(DeliveryAsJson(delivery));
+  answer.text += DeliveryAsText(delivery);
+  const std::vector<std::string> warnings = OtherModelWarnings(*setting.model, delivery);
+  answer.notes.insert(answer.notes.end(), warnings.begin(), warnings.end());
+}
+
+/// Adds the warning that the library has for what was done.
+void AddWarning(Answer &answer, const client::Setting &setting, int32_t language) {
   const std::string warning =
       client::WarningText(setting, language)
           .value_or("The input selector of this channel may keep the choice from taking effect.");
-  done.text += "warning: " + warning + '\n';
-  done.json["warning"] = warning;
+  answer.notes.push_back("warning: " + warning);
+  answer.json["warning"] = warning;
 }
 
-/// " to 2 mixers"; nothing when the system does not tell to how many.
-std::string ToMixersOf(const client::Delivery &delivery) {
-  if (delivery.connected && delivery.mixers.empty()) return "";
-  return " to " + Counted(delivery.Taken(), "mixer");
-}
-
-/// What is wrong with each mixer that was not opened, and what to do about it.
-std::string NotSentAsText(const client::Delivery &delivery) {
-  std::string text;
-  int refusal = 0;
-  for (const client::MixerResult &result : delivery.mixers) {
-    if (result.refusal == 0) continue;
-    text += "Not sent to " + Describe(result.mixer) +
-            ", which may not be opened: " + std::strerror(result.refusal) + '\n';
-    if (refusal == 0) refusal = result.refusal;
+/// Tells when no program can have learned of a change.
+void AddAnnouncement(Answer &answer) {
+  const client::SessionBusState bus = client::ReachSessionBus();
+  if (bus == client::SessionBusState::kNotNeeded) return;
+  answer.json["announced"] = bus == client::SessionBusState::kReached;
+  if (bus == client::SessionBusState::kMissing) {
+    answer.notes.emplace_back("note: there is no session bus, so no other program was told");
+  } else if (bus == client::SessionBusState::kNoAnswer) {
+    answer.notes.emplace_back(
+        "note: the session bus does not answer, so no other program was told");
   }
-  if (refusal != 0) text += "hint: " + AccessHint(refusal) + '\n';
-  return text;
 }
 
 void RequireChoices(const client::Setting &setting) {
@@ -80,61 +90,106 @@ std::string CanBeSentAgain(const client::Setting &setting) {
          setting.TextOf(setting.kind->againCount - 1).value_or("") + " can be sent again";
 }
 
-Failure NotStored(const client::Setting &setting, const client::SendResult &result) {
-  return {ExitCode::kNotStored,
-          "the " + TitleOf(setting) + " was sent" + ToMixersOf(result.delivery) +
-              ", but could not be stored",
-          std::string(kPlatformWords.notStored)};
-}
-
 std::string LaterHint(const client::Setting &setting) {
   const bool again = setting.CanSendAgain(setting.Current());
   return "hint: once a mixer is connected, send it with: " +
-         CommandLineFor(setting, again ? "--again" : Quoted(CurrentAsText(setting))) + '\n';
+         CommandLineFor(setting,
+                        again ? "--again" : Quoted(ChoiceAsText(setting, setting.Current())));
 }
 
 }  // namespace
 
 void RequireReachable(const client::Delivery &reachable, const std::string &message) {
-  if (!reachable.connected) {
+  if (!reachable.isConnected) {
     throw Failure{ExitCode::kNoMixer, "no mixer is connected, so " + message,
                   "connect a mixer and switch it on, then try again"};
   }
   if (reachable.IsNoneOpened()) {
     const client::MixerResult &first = reachable.mixers.front();
     throw Failure{ExitCode::kNoAccess,
-                  message + ": " + Describe(first.mixer) + " may not be opened (" +
-                      std::strerror(first.refusal) + ")",
-                  AccessHint(first.refusal)};
+                  message + ": " + DescribeWithSerial(first.mixer) + ", " + OutcomeAsText(first),
+                  OutcomeHint(first)};
   }
 }
 
 std::string DeliveryAsText(const client::Delivery &delivery) {
-  if (delivery.mixers.empty()) return "Sent; the system does not tell to how many mixers.\n";
-  return "Sent to " + std::to_string(delivery.Taken()) + " of " +
-         Counted(delivery.mixers.size(), "connected mixer") + ".\n" + NotSentAsText(delivery);
+  if (!delivery.isConnected) return "";
+  return "Sent to " + std::to_string(delivery.CountTaken()) + " of " +
+         Counted(delivery.mixers.size(), "connected mixer") + ".\n";
 }
 
-void SetChoice(const Session &session, const client::Setting &setting, const std::string &given,
-               int32_t language) {
+std::optional<Failure> DeliveryFailure(const client::Delivery &delivery,
+                                       const std::string &elsewhere) {
+  std::vector<std::string> findings;
+  std::string hint;
+  for (const client::MixerResult &result : delivery.mixers) {
+    if (result.outcome == client::Outcome::kDone) continue;
+    findings.push_back(DescribeWithSerial(result.mixer) + ", " + OutcomeAsText(result));
+    if (hint.empty()) hint = OutcomeHint(result);
+  }
+  if (findings.empty()) return std::nullopt;
+  return Failure{delivery.IsNoneOpened() ? ExitCode::kNoAccess : ExitCode::kPartlySent,
+                 Joined(findings, "; ") + elsewhere, hint};
+}
+
+std::vector<std::string> OtherModelWarnings(const client::Model &model,
+                                            const client::Delivery &delivery) {
+  std::vector<std::string> warnings;
+  for (const client::MixerResult &result : delivery.mixers) {
+    const client::Model *other = client::ModelRecognisedIn(result.mixer.product);
+    if (other == nullptr || other == &model) continue;
+    warnings.push_back("warning: " + DescribeWithSerial(result.mixer) + ", is no " +
+                       std::string(model.name) + "; for its own settings use --model " +
+                       std::string(other->name));
+  }
+  return warnings;
+}
+
+Failure NotStored(const client::Setting &setting) {
+  std::string message = "the " + TitleOf(setting) + " could not be stored";
+  const client::Check folder = client::CheckFolder();
+  if (folder.reason != 0) {
+    message += ": " + Printable(folder.obstacle) + ": " + std::strerror(folder.reason);
+  }
+  return {ExitCode::kNotStored, message, "trxctl diagnose tells what is wrong and what to do"};
+}
+
+ExitCode SetChoice(const Session &session, const client::Setting &setting, const std::string &given,
+                   const SendOptions &options) {
   RequireChoices(setting);
-  const uint32_t index =
-      ChoiceNamed(given, setting.Choices(), setting.kind->choice, setting.kind->firstNumber);
+  const uint32_t index = ChoiceNamed(given, setting.Choices(), setting.kind->choice);
+  const auto choice = static_cast<int32_t>(index);
+  if (options.isDryRun) {
+    Answer plan = Planned(setting, "set", ChoiceAsText(setting, choice));
+    plan.json.update(ChoiceAsJson(setting, choice));
+    return session.output.Print(plan);
+  }
+  const Progress progress(session.output);
   const client::SendResult result = client::Set(setting, index);
   if (result.status == ORV_BAD_ARGUMENT) {
     throw Failure{ExitCode::kRefused, Quoted(given) + " was refused",
                   "see what there is to choose from: " + CommandLineFor(setting)};
   }
-  if (!result.isStored) throw NotStored(setting, result);
-  Done done = Started(setting, "set", "set to " + CurrentAsText(setting));
-  done.json.update(ChoiceAsJson(setting, static_cast<int32_t>(index)));
-  done.json.update(DeliveryAsJson(result.delivery));
-  done.text +=
-      result.delivery.connected
-          ? DeliveryAsText(result.delivery)
-          : "No mixer is connected; the setting is stored all the same.\n" + LaterHint(setting);
-  AddWarning(done, setting, result, language);
-  session.output.Print(done.text, done.json);
+  Answer answer = Started(setting, "set", "set to " + ChoiceAsText(setting, choice));
+  answer.json.update(ChoiceAsJson(setting, choice));
+  answer.json["stored"] = result.isStored;
+  AddDelivery(answer, setting, result.delivery);
+  if (!result.delivery.isConnected) {
+    answer.text += std::string("No mixer is connected; the setting is ") +
+                   (result.isStored ? "stored all the same.\n" : "not stored either.\n");
+    if (result.isStored) answer.notes.push_back(LaterHint(setting));
+  }
+  if (client::IsWarningFor(setting, result, choice)) {
+    AddWarning(answer, setting, options.language);
+  }
+  AddAnnouncement(answer);
+  answer.failure = DeliveryFailure(result.delivery, "; the setting is stored");
+  if (!result.isStored) {
+    if (answer.failure)
+      answer.notes.push_back("Not sent: " + DeliveryFailure(result.delivery)->message);
+    answer.failure = NotStored(setting);
+  }
+  return session.output.Print(answer);
 }
 
 std::optional<std::string> ReasonAgainstAgain(const client::Setting &setting) {
@@ -154,55 +209,80 @@ std::optional<std::string> ReasonAgainstAgain(const client::Setting &setting) {
   return std::nullopt;
 }
 
-void SendAgain(const Session &session, const client::Setting &setting) {
+ExitCode SendAgain(const Session &session, const client::Setting &setting,
+                   const SendOptions &options) {
   RequireChoices(setting);
+  const int32_t stored = setting.Current();
   if (const auto reason = ReasonAgainstAgain(setting)) {
-    const auto text = setting.TextOf(setting.Current());
+    const auto text = setting.TextOf(stored);
     throw Failure{ExitCode::kRefused, *reason + ", so nothing was sent",
                   text ? "set it anew instead: " + CommandLineFor(setting, Quoted(*text))
                        : StoreOneHint(setting)};
   }
+  if (options.isDryRun) {
+    Answer plan = Planned(setting, "again", CurrentAsText(setting));
+    plan.json.update(CurrentAsJson(setting));
+    return session.output.Print(plan);
+  }
+  const Progress progress(session.output);
   const client::SendResult result = client::SendAgain(setting);
   RequireReachable(result.delivery, kNothingSent);
-  Done done = Started(setting, "again", "sent again: " + CurrentAsText(setting));
-  done.json.update(ChoiceAsJson(setting, setting.Current()));
-  done.json.update(DeliveryAsJson(result.delivery));
-  session.output.Print(done.text + DeliveryAsText(result.delivery), done.json);
+  Answer answer = Started(setting, "again", "sent again: " + CurrentAsText(setting));
+  answer.json.update(CurrentAsJson(setting));
+  AddDelivery(answer, setting, result.delivery);
+  answer.failure = DeliveryFailure(result.delivery);
+  return session.output.Print(answer);
 }
 
-void SendDefault(const Session &session, const client::Setting &setting) {
-  RequireReachable(client::Reachable(), kNothingSent);
-  const client::SendResult result = client::SendDefault(setting);
+ExitCode SendDefault(const Session &session, const client::Setting &setting,
+                     const SendOptions &options) {
   const int32_t standard = setting.Default();
-  Done done = Started(setting, "default",
-                      "set to its default for the time being: " +
-                          setting.TextOf(standard).value_or(std::to_string(standard)));
-  done.text += "Nothing is stored; the stored choice is still " + CurrentAsText(setting) +
-               ". Back to it: " + CommandLineFor(setting, "--again") + '\n';
-  done.json.update(ChoiceAsJson(setting, standard));
-  done.json["stored"] = ChoiceAsJson(setting, setting.Current());
-  done.json.update(DeliveryAsJson(result.delivery));
-  session.output.Print(done.text + DeliveryAsText(result.delivery), done.json);
+  if (options.isDryRun) {
+    Answer plan = Planned(setting, "default", ChoiceAsText(setting, standard));
+    plan.json.update(ChoiceAsJson(setting, standard));
+    return session.output.Print(plan);
+  }
+  RequireReachable(client::Reachable(), kNothingSent);
+  const Progress progress(session.output);
+  const client::SendResult result = client::SendDefault(setting);
+  Answer answer =
+      Started(setting, "default", "set to its default for now: " + ChoiceAsText(setting, standard));
+  answer.text += "This holds for now only. Nothing is stored; the stored choice is still " +
+                 CurrentAsText(setting) + ". Back to it: " + CommandLineFor(setting, "--again") +
+                 '\n';
+  answer.json.update(ChoiceAsJson(setting, standard));
+  answer.json["stored"] = ChoiceAsJson(setting, setting.Current());
+  AddDelivery(answer, setting, result.delivery);
+  AddAnnouncement(answer);
+  answer.failure = DeliveryFailure(result.delivery);
+  return session.output.Print(answer);
 }
 
-void SendRaw(const Session &session, const client::Setting &setting, const std::string &given,
-             int32_t group, int32_t language) {
+ExitCode SendRaw(const Session &session, const client::Setting &setting, const std::string &given,
+                 int32_t group, const SendOptions &options) {
   const uint32_t source = SourceNamed(given, setting);
+  const std::string value = "source " + std::to_string(source) + ", group " + std::to_string(group);
+  if (options.isDryRun) {
+    Answer plan = Planned(setting, "raw", value);
+    plan.json["source"] = source;
+    plan.json["group"] = group;
+    return session.output.Print(plan);
+  }
   RequireReachable(client::Reachable(), kNothingSent);
+  const Progress progress(session.output);
   const client::SendResult result = client::SendRaw(setting, group, source);
   if (result.status == ORV_BAD_ARGUMENT) {
     throw Failure{ExitCode::kRefused, Quoted(given) + " was refused",
                   "see what the model takes: trxctl models"};
   }
-  Done done =
-      Started(setting, "raw",
-              "sent raw: source " + std::to_string(source) + ", group " + std::to_string(group));
-  done.text += "Nothing is stored.\n" + DeliveryAsText(result.delivery);
-  done.json["source"] = source;
-  done.json["group"] = group;
-  done.json.update(DeliveryAsJson(result.delivery));
-  AddWarning(done, setting, result, language);
-  session.output.Print(done.text, done.json);
+  Answer answer = Started(setting, "raw", "sent raw: " + value);
+  answer.text += "Nothing is stored.\n";
+  answer.json["source"] = source;
+  answer.json["group"] = group;
+  AddDelivery(answer, setting, result.delivery);
+  if (result.status == ORV_SUCCESS_WITH_WARNING) AddWarning(answer, setting, options.language);
+  answer.failure = DeliveryFailure(result.delivery);
+  return session.output.Print(answer);
 }
 
 }  // namespace trxctl

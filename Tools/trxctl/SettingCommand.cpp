@@ -25,6 +25,7 @@ struct Request {
   std::vector<std::string> words;
   bool isAgain = false;
   bool isDefault = false;
+  bool isDryRun = false;
   std::optional<std::string> rawSource;
   int32_t rawGroup = kLowestGroup;
   std::optional<std::string> language;
@@ -82,10 +83,10 @@ void AddOptions(CLI::App &app, const client::SettingKind &kind, Request &request
     app.add_option("CHOICE", request.words,
                    "A text from the list, the beginning of one, or its number");
   }
+  app.add_flag("--dry-run", request.isDryRun, "Only tell what would be sent");
   app.add_flag("--again", request.isAgain, "Send the stored choice to the mixers once more");
   if (kind.extras.setDefault != nullptr) {
-    app.add_flag("--default", request.isDefault,
-                 "Set the default for the time being; nothing is stored");
+    app.add_flag("--default", request.isDefault, "Set the default for now; nothing is stored");
   }
   if (kind.extras.setRaw != nullptr) {
     app.add_option("--raw", request.rawSource, "Send this raw source code; nothing is stored")
@@ -122,7 +123,7 @@ std::string Examples(const client::SettingKind &kind) {
   };
   add("", "what is stored, and the choices");
   add(Quoted(setting.TextOf(1).value_or("")), "set it by its text");
-  add(std::to_string(kind.firstNumber + 1), "set it by its number");
+  add("2", "set it by its number");
   add("--again", "send the stored choice again");
   if (kind.extras.setDefault != nullptr) add("--default", "set the default for now");
   if (kind.extras.setRaw != nullptr) add("--raw 10", "send a raw value");
@@ -136,7 +137,18 @@ std::string Examples(const client::SettingKind &kind) {
   return text;
 }
 
-void RequireOffered(const client::SettingKind &kind, const client::Model &chosen) {
+/// The command as it was typed, to be typed again.
+std::string Typed(const client::SettingKind &kind, const std::vector<std::string> &words) {
+  std::string typed(kind.name);
+  for (const std::string &word : words) {
+    const bool isPlain = word.find_first_of(" \t\"'$\\") == std::string::npos && !word.empty();
+    typed += ' ' + (isPlain && word.size() < 30 ? Printable(word) : Quoted(word));
+  }
+  return typed;
+}
+
+void RequireOffered(const client::SettingKind &kind, const client::Model &chosen,
+                    const std::vector<std::string> &words) {
   if (!client::SettingsOf(kind, chosen).empty()) return;
   const std::string title(kind.title);
   const std::string message = std::string(chosen.name) + " has no " + title;
@@ -146,25 +158,27 @@ void RequireOffered(const client::SettingKind &kind, const client::Model &chosen
   }
   throw Failure{ExitCode::kRefused, message,
                 "models that have one: " + Joined(others) + "; name one: trxctl " +
-                    std::string(kind.name) + " --model " + others.front(),
+                    Typed(kind, words) + " --model " + others.front(),
                 others};
 }
 
-void RunOn(const Session &session, const client::Setting &setting, const Request &request) {
+ExitCode RunOn(const Session &session, const client::Setting &setting, const Request &request) {
   const int32_t language =
       request.language ? LanguageNamed(*request.language) : client::kSystemLanguage;
-  if (request.isAgain) return SendAgain(session, setting);
-  if (request.isDefault) return SendDefault(session, setting);
+  const SendOptions options{language, request.isDryRun};
+  if (request.isAgain) return SendAgain(session, setting, options);
+  if (request.isDefault) return SendDefault(session, setting, options);
   if (request.rawSource) {
-    return SendRaw(session, setting, *request.rawSource, request.rawGroup, language);
+    return SendRaw(session, setting, *request.rawSource, request.rawGroup, options);
   }
-  if (request.words.empty()) return ListChoices(session, setting);
-  SetChoice(session, setting, request.Choice(), language);
+  if (!request.words.empty()) return SetChoice(session, setting, request.Choice(), options);
+  ListChoices(session, setting);
+  return ExitCode::kDone;
 }
 
-void Run(const Session &session, const client::SettingKind &kind, Request request) {
+ExitCode Run(const Session &session, const client::SettingKind &kind, Request request) {
   const client::Model &model = session.model;
-  RequireOffered(kind, model);
+  RequireOffered(kind, model, request.words);
   const std::vector<client::Setting> settings = client::SettingsOf(kind, model);
   if (!kind.hasChannels) {
     request.RequireOneAction(true);
@@ -172,12 +186,15 @@ void Run(const Session &session, const client::SettingKind &kind, Request reques
   }
   const auto channel = request.TakeChannel();
   request.RequireOneAction(channel.has_value());
-  if (!channel) return ListChannels(session, settings);
+  if (!channel) {
+    ListChannels(session, settings);
+    return ExitCode::kDone;
+  }
   // Raw values reach channels, too, that have no list.
   const std::size_t count = request.rawSource
                                 ? static_cast<std::size_t>(client::CountRawInputChannels(model.id))
                                 : settings.size();
-  RunOn(session, {&kind, &model, ChannelNamed(*channel, kind, model, count)}, request);
+  return RunOn(session, {&kind, &model, ChannelNamed(*channel, kind, model, count)}, request);
 }
 
 }  // namespace
@@ -188,11 +205,7 @@ Command MakeSettingCommand(CLI::App &program, const client::SettingKind &kind) {
   app->footer("Examples:\n" + Examples(kind) + kSharedOptionsHelp);
   const auto request = std::make_shared<Request>();
   AddOptions(*app, kind, *request);
-  return {app,
-          [&kind, request](const Session &session) {
-            Run(session, kind, *request);
-            return ExitCode::kDone;
-          },
+  return {app, [&kind, request](const Session &session) { return Run(session, kind, *request); },
           client::ModelsWith(kind).empty()};
 }
 

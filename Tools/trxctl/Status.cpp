@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 
+#include "Progress.h"
 #include "Sending.h"
 #include "Words.h"
 #include "client/MixerStatus.h"
@@ -19,12 +20,6 @@ std::string Row(std::string title, const std::string &value) {
   title.resize(kColumn, ' ');
   return "  " + title + value + '\n';
 }
-
-/// The answer as it grows.
-struct Answer {
-  std::string text;
-  Json json;
-};
 
 std::string FirmwareAsText(uint32_t version) {
   std::array<char, 16> digits{};
@@ -48,7 +43,16 @@ void AddFirmware(Answer &answer, const client::MixerStatus &status, bool isTold)
                                                    : kNoAnswer);
 }
 
-void AddSelectors(Answer &answer, const client::MixerStatus &status) {
+/// A position in words, where they are known.
+std::string PositionAsText(const client::Model &model, const client::SelectorPosition &selector) {
+  const std::string number = std::to_string(selector.position);
+  if (!selector.isValid) return number + " (no position)";
+  if (model.id == ORV_PRODUCT_TRX_SELVA && selector.position == 6) return "6, USB (first port)";
+  if (model.id == ORV_PRODUCT_TRX_SELVA && selector.position == 7) return "7, USB (second port)";
+  return number;
+}
+
+void AddSelectors(Answer &answer, const client::Model &model, const client::MixerStatus &status) {
   answer.json["input_selectors"] = Json::array();
   std::size_t channel = 0;
   for (const auto &selector : status.selectors) {
@@ -56,7 +60,7 @@ void AddSelectors(Answer &answer, const client::MixerStatus &status) {
     Json entry{{"channel", channel}, {"position", nullptr}};
     std::string text = kNoAnswer;
     if (selector) {
-      text = std::to_string(selector->position) + (selector->isValid ? "" : " (no position)");
+      text = PositionAsText(model, *selector);
       if (selector->isValid) entry["position"] = selector->position;
     }
     answer.json["input_selectors"].push_back(std::move(entry));
@@ -73,26 +77,42 @@ void AddSerato(Answer &answer, const client::MixerStatus &status, bool isTold) {
                                                 : "not active");
 }
 
+/// Which mixers answered, and whose values these are.
+void AddMixers(Answer &answer, const client::Delivery &answers, const client::StatusKinds &kinds) {
+  answer.text += "Mixers\n";
+  for (const client::MixerResult &result : answers.mixers) {
+    const bool isGood = result.outcome == client::Outcome::kDone;
+    answer.text += "  " + DescribeWithSerial(result.mixer) + ": " +
+                   (isGood ? "answers" : OutcomeAsText(result)) + '\n';
+  }
+  if (answers.mixers.size() > 1) {
+    answer.text += kinds.firmware
+                       ? "The firmware is that of the first mixer, the rest that of the last.\n"
+                       : "The values are those of the last mixer.\n";
+  }
+  answer.json["mixers"] = DeliveryAsJson(answers)["mixers"];
+}
+
+std::optional<Failure> NoAnswer(const client::Delivery &answers) {
+  auto failure = DeliveryFailure(answers);
+  if (failure && failure->code == ExitCode::kPartlySent) failure->code = ExitCode::kFailed;
+  return failure;
+}
+
 ExitCode Run(const Session &session) {
-  const client::Delivery reachable = client::Reachable();
-  RequireReachable(reachable, "there is no status to read");
+  RequireReachable(client::Reachable(), "there is no status to read");
+  const Progress progress(session.output);
   const client::StatusKinds &kinds = client::StatusKindsOf(session.model);
   const client::MixerStatus status = client::AskStatus(session.model);
   Answer answer{session.output.Strong(std::string(session.model.name) + " mixer status") + '\n',
                 {{"model", session.model.name}}};
   AddCertifyLevel(answer, status, kinds.certifyLevel);
   AddFirmware(answer, status, kinds.firmware);
-  AddSelectors(answer, status);
+  AddSelectors(answer, session.model, status);
   AddSerato(answer, status, kinds.serato);
-  if (reachable.Taken() > 1) {
-    const std::string mixers = Counted(reachable.Taken(), "mixer");
-    answer.text += kinds.firmware ? "The firmware is that of the first of " + mixers +
-                                        ", the rest is that of the last.\n"
-                                  : "This is what the last of " + mixers + " reports.\n";
-  }
-  answer.json["mixers"] = DeliveryAsJson(reachable)["mixers"];
-  session.output.Print(answer.text, answer.json);
-  return ExitCode::kDone;
+  AddMixers(answer, status.answers, kinds);
+  answer.failure = NoAnswer(status.answers);
+  return session.output.Print(answer);
 }
 
 }  // namespace

@@ -1,10 +1,14 @@
 #include "UserInput.h"
 
 #include <algorithm>
+#include <cctype>
+#include <iterator>
 #include <numeric>
+#include <sstream>
 
 #include "ExitCode.h"
 #include "Words.h"
+#include "client/Delivery.h"
 #include "client/InputLists.h"
 #include "client/Languages.h"
 
@@ -27,16 +31,38 @@ std::size_t Distance(std::string_view from, std::string_view to) {
   return row.back();
 }
 
+/// The text in lower case, with dashes for minus signs and without blanks.
 std::string Plain(std::string_view text) {
+  static constexpr std::string_view kMinusSign = "\u2212";
   std::string plain = Lower(text);
+  for (auto at = plain.find(kMinusSign); at != std::string::npos; at = plain.find(kMinusSign)) {
+    plain.replace(at, kMinusSign.size(), "-");
+  }
   std::erase_if(plain, [](char c) { return c == ' ' || c == '\t'; });
   return plain;
 }
 
-std::optional<uint32_t> AsIndex(std::string_view digits, std::size_t count, uint32_t first) {
+std::vector<std::string> WordsIn(std::string_view text) {
+  std::istringstream stream{Lower(text)};
+  return {std::istream_iterator<std::string>(stream), {}};
+}
+
+bool HasDigit(std::string_view text) {
+  return text.find_first_of("0123456789") != std::string_view::npos;
+}
+
+/// Whether the text has each of the words. A bare number is too easily meant otherwise.
+bool HasWords(const std::string &text, const std::vector<std::string> &wanted) {
+  const std::vector<std::string> words = WordsIn(text);
+  return !wanted.empty() && std::all_of(wanted.begin(), wanted.end(), [&](const auto &word) {
+    return !NumberIn<uint64_t>(word) && std::find(words.begin(), words.end(), word) != words.end();
+  });
+}
+
+std::optional<uint32_t> AsIndex(std::string_view digits, std::size_t count) {
   const auto number = NumberIn<uint32_t>(digits);
-  if (!number || *number < first || *number - first >= count) return std::nullopt;
-  return *number - first;
+  if (!number || *number < 1 || *number > count) return std::nullopt;
+  return *number - 1;
 }
 
 /// The choices whose text, made plain, satisfies the test; a text that stands twice counts once.
@@ -46,7 +72,7 @@ std::vector<uint32_t> Matching(const std::vector<std::string> &choices, const Te
   std::vector<std::string> seen;
   for (uint32_t index = 0; index < choices.size(); ++index) {
     const std::string plain = Plain(choices[index]);
-    if (!test(plain) || std::find(seen.begin(), seen.end(), plain) != seen.end()) continue;
+    if (!test(choices[index]) || std::find(seen.begin(), seen.end(), plain) != seen.end()) continue;
     found.push_back(index);
     seen.push_back(plain);
   }
@@ -66,6 +92,25 @@ std::string Listed(const std::vector<std::string> &texts) {
   quoted.reserve(texts.size());
   for (const std::string &text : texts) quoted.push_back(Quoted(text));
   return Joined(quoted);
+}
+
+/// The letters and digits of a text, in lower case.
+std::string Bare(std::string_view text) {
+  std::string bare = Lower(text);
+  std::erase_if(bare, [](unsigned char c) { return std::isalnum(c) == 0; });
+  return bare;
+}
+
+/// The choice that the user most likely meant: the one that begins so but for dashes and the like,
+/// else, as numbers are seldom mistyped, the one that is spelled almost so.
+std::optional<std::string> MeantChoice(std::string_view given,
+                                       const std::vector<std::string> &choices) {
+  const std::string bare = Bare(given);
+  const auto begun = Matching(choices, [&bare](const std::string &text) {
+    return !bare.empty() && Bare(text).starts_with(bare);
+  });
+  if (begun.size() == 1) return choices[begun.front()];
+  return HasDigit(given) ? std::nullopt : Nearest(given, choices);
 }
 
 /// The served model that the user most likely meant, with or without the name of the family.
@@ -104,25 +149,37 @@ std::optional<std::string> Nearest(std::string_view given,
 }
 
 uint32_t ChoiceNamed(std::string_view given, const std::vector<std::string> &choices,
-                     std::string_view title, uint32_t first) {
+                     std::string_view title) {
   const std::string wanted = Plain(given);
-  const auto exact = Matching(choices, [&](const std::string &text) { return text == wanted; });
+  const auto exact =
+      Matching(choices, [&](const std::string &text) { return Plain(text) == wanted; });
   if (!exact.empty()) return exact.front();
-  if (const auto index = AsIndex(wanted, choices.size(), first)) return *index;
+  if (const auto index = AsIndex(wanted, choices.size())) return *index;
 
-  const auto begun = Matching(choices, [&](const std::string &text) {
-    return !wanted.empty() && text.starts_with(wanted);
+  auto found = Matching(choices, [&](const std::string &text) {
+    return !wanted.empty() && Plain(text).starts_with(wanted);
   });
-  if (begun.size() == 1) return begun.front();
-  if (begun.empty()) {
+  if (found.empty()) {
+    found =
+        Matching(choices, [&](const std::string &text) { return HasWords(text, WordsIn(given)); });
+  }
+  if (found.size() == 1) return found.front();
+  if (found.empty()) {
+    const auto meant = MeantChoice(given, choices);
     throw Failure{ExitCode::kRefused, Quoted(given) + " is no " + std::string(title),
-                  "choose one of " + Listed(choices) + ", or a number from " +
-                      std::to_string(first) + " to " + std::to_string(first + choices.size() - 1),
+                  (meant ? "did you mean " + Quoted(*meant) + "? Otherwise " : "") +
+                      "choose one of " + Listed(choices) + ", or a number from 1 to " +
+                      std::to_string(choices.size()),
                   choices};
   }
-  const std::vector<std::string> candidates = TextsOf(begun, choices);
+  const std::vector<std::string> candidates = TextsOf(found, choices);
   throw Failure{ExitCode::kRefused, Quoted(given) + " could be more than one " + std::string(title),
                 "write a little more of it: " + Listed(candidates), candidates};
+}
+
+const client::Model &UnnamedModel() {
+  const client::Model *agreed = client::AgreedModel(client::ConnectedMixers());
+  return agreed == nullptr ? client::DefaultModel() : *agreed;
 }
 
 const client::Model &ModelNamed(const std::string &given) {
@@ -160,8 +217,12 @@ int32_t ChannelNamed(const std::string &given, const client::SettingKind &kind,
 }
 
 int32_t LanguageNamed(std::string_view given) {
-  if (given == std::to_string(client::kSystemLanguage)) return client::kSystemLanguage;
   const auto languages = client::Languages();
+  // The numbers are those of the library, from 0.
+  const auto number = NumberIn<int32_t>(given);
+  if (number == client::kSystemLanguage) return client::kSystemLanguage;
+  if (number && *number >= 0 && static_cast<std::size_t>(*number) < languages.size())
+    return *number;
   const auto coded = std::find_if(
       languages.begin(), languages.end(),
       [given](const client::Language &language) { return Lower(language.code) == Lower(given); });

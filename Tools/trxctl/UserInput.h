@@ -25,17 +25,23 @@ std::optional<Integer> NumberIn(std::string_view text, int base = 10) {
   return number;
 }
 
-/// Finds the choice that the user named: by its text, by its index, or by an unambiguous beginning
-/// of its text, in this order. Case and blanks do not count, so that -10db names "-10 dB". Throws
-/// Failure when it names none or several.
+/// Finds the choice that the user named: by its text, by its number, by an unambiguous beginning of
+/// its text, or by words that only its text has, in this order. Case and blanks do not count, so
+/// that -10db names "-10 dB", and a minus sign is as good as a dash. Throws Failure when it names
+/// none or several.
+///
+/// People count from 1, and only digits alone are a number: -10 is the beginning of a text.
 ///
 /// @param given    what the user typed.
 /// @param choices  the texts of all choices, by index.
 /// @param title    what a choice is called in a sentence.
-/// @param first    the number of the first choice, as people count them.
 /// @return the index of the choice, counted from 0.
 uint32_t ChoiceNamed(std::string_view given, const std::vector<std::string> &choices,
-                     std::string_view title, uint32_t first = 0);
+                     std::string_view title);
+
+/// The model of the connected mixers, if they agree on one, else the default: what is meant when
+/// the user names none.
+const client::Model &UnnamedModel();
 
 /// The model that the user named. Throws Failure for none, for several, and for one that has no
 /// settings.

@@ -1,7 +1,11 @@
 #include "Watch.h"
 
+#include <algorithm>
+#include <array>
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <deque>
 #include <memory>
 #include <optional>
@@ -9,6 +13,7 @@
 #include "UserInput.h"
 #include "WatchLoop.h"
 #include "Words.h"
+#include "client/MixerWatch.h"
 #include "client/SessionBus.h"
 #include "client/Settings.h"
 
@@ -23,6 +28,7 @@ struct Request {
   std::int64_t count = 0;
   /// 0: no end.
   double seconds = 0;
+  bool hasTimestamps = false;
 };
 
 /// One announced change.
@@ -57,15 +63,21 @@ std::optional<Clock::time_point> Deadline(double seconds) {
          std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds));
 }
 
-void PrintChange(const Output &output, const Change &change) {
-  const client::Setting &setting = change.setting;
-  Json json{{"event", "change"}};
-  json.update(HeadingAsJson(setting));
-  json.update(ChoiceAsJson(setting, change.index));
-  output.Print(std::string(setting.model->name) + ' ' + TitleOf(setting) + ": " +
-                   setting.TextOf(change.index).value_or("choice " + std::to_string(change.index)) +
-                   '\n',
-               json);
+/// The time of day with its zone, to the millisecond.
+std::string TimeNow() {
+  const auto now = std::chrono::system_clock::now();
+  const std::time_t seconds = std::chrono::system_clock::to_time_t(now);
+  const auto milliseconds =
+      std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count() % 1000;
+  std::tm local{};
+  localtime_r(&seconds, &local);
+  std::array<char, 32> date{};
+  std::array<char, 16> zone{};
+  std::array<char, 8> fraction{};
+  std::strftime(date.data(), date.size(), "%Y-%m-%dT%H:%M:%S", &local);
+  std::strftime(zone.data(), zone.size(), "%z", &local);
+  std::snprintf(fraction.data(), fraction.size(), ".%03d", static_cast<int>(milliseconds));
+  return std::string(date.data()) + fraction.data() + zone.data();
 }
 
 /// Waits for announcements and prints them, until it has seen enough or is told to end.
@@ -79,21 +91,33 @@ class Watcher {
   void Run() {
     PrintStart();
     while (!SeenEnough()) {
-      switch (loop_->Wait(deadline_)) {
+      // A deadline of the loop's own only serves to try the bus again.
+      switch (loop_->Wait(NextLook(), {mixers_.Descriptor(), bus_.Descriptor()})) {
         case Waited::kForDelivery:
           PrintDelivered();
+          break;
+        case Waited::kForOthers:
+          looksLeft_ = kLooksAtMixers;
+          PrintPlugged();
+          PrintBus();
           break;
         case Waited::kForEndSignal:
           return;
         case Waited::kForReader:
           ThrowReaderGone();
         case Waited::kForTime:
-          ThrowTimedOut();
+          if (deadline_ && Clock::now() >= *deadline_) ThrowTimedOut();
+          if (looksLeft_ > 0) --looksLeft_;
+          PrintPlugged();
+          PrintBus();
+          break;
       }
     }
   }
 
  private:
+  static constexpr int kLooksAtMixers = 20;
+
   void Subscribe(const client::Model &model) {
     models_.emplace_back(model.name);
     for (const client::SettingKind &kind : client::SettingKinds()) {
@@ -105,23 +129,74 @@ class Watcher {
   }
 
   void PrintStart() const {
-    const std::optional<bool> bus = client::HasSessionBus();
+    const bool isNeeded = busState_ != client::SessionBusState::kNotNeeded;
     Json json{{"event", "watching"}, {"models", models_}};
-    if (bus) json["session_bus"] = *bus;
+    if (isNeeded) json["session_bus"] = !IsBusMissing();
     output_.Print("Watching " + Joined(models_) + "; end with Ctrl-C.\n", json);
-    if (bus && !*bus) {
+    if (IsBusMissing()) {
       output_.Note(
           "There is no session bus, so no change can be seen yet; waiting for one.\n"
           "hint: run trxctl in a desktop session, or everything together under dbus-run-session");
     }
   }
 
+  void PrintChange(const Change &change) const {
+    const client::Setting &setting = change.setting;
+    Json json{{"event", "change"}};
+    json.update(HeadingAsJson(setting));
+    json.update(ChoiceAsJson(setting, change.index));
+    const std::string text = setting.TextOf(change.index)
+                                 .value_or("choice number " + std::to_string(change.index + 1LL));
+    PrintLine(std::string(setting.model->name) + ' ' + TitleOf(setting) + ": " + text,
+              std::move(json));
+  }
+
   bool SeenEnough() const { return request_.count != 0 && printed_ >= request_.count; }
 
   void PrintDelivered() {
     for (; !queue_.empty() && !SeenEnough(); queue_.pop_front(), ++printed_) {
-      PrintChange(output_, queue_.front());
+      PrintChange(queue_.front());
     }
+  }
+
+  /// When to wake up without a reason: at the end, to look for a bus that is gone, or for a mixer
+  /// whose device file was there before it could be seen.
+  std::optional<Clock::time_point> NextLook() const {
+    constexpr std::chrono::milliseconds kPause{250};
+    if (!IsBusMissing() && looksLeft_ == 0) return deadline_;
+    const Clock::time_point next = Clock::now() + kPause;
+    return deadline_ ? std::min(*deadline_, next) : next;
+  }
+
+  bool IsBusMissing() const {
+    return busState_ == client::SessionBusState::kMissing ||
+           busState_ == client::SessionBusState::kNoAnswer;
+  }
+
+  void PrintPlugged() {
+    for (const client::PlugEvent &event : mixers_.Take()) {
+      const std::string what = event.isPlugged ? "plugged in" : "unplugged";
+      Json json{{"event", event.isPlugged ? "plugged" : "unplugged"}};
+      json.update(MixerAsJson(event.mixer));
+      PrintLine(DescribeWithSerial(event.mixer) + ": " + what, std::move(json));
+    }
+  }
+
+  void PrintBus() {
+    const bool wasMissing = IsBusMissing();
+    busState_ = bus_.State();
+    if (IsBusMissing() == wasMissing) return;
+    PrintLine(IsBusMissing() ? "The session bus is gone, so no change can be seen; waiting for it."
+                             : "The session bus is back.",
+              {{"event", "session_bus"}, {"reached", !IsBusMissing()}});
+  }
+
+  /// Prints one event, with the time if that is wanted.
+  void PrintLine(const std::string &text, Json json) const {
+    if (!request_.hasTimestamps) return output_.Print(text + '\n', json);
+    const std::string now = TimeNow();
+    json["time"] = now;
+    output_.Print(now + "  " + text + '\n', json);
   }
 
   [[noreturn]] void ThrowTimedOut() const {
@@ -131,19 +206,22 @@ class Watcher {
         "give more time with --timeout, or leave it out to wait without end"};
   }
 
-  [[noreturn]] static void ThrowReaderGone() {
-    throw Failure{ExitCode::kOutputFailed, "cannot write the output: its reader is gone",
-                  "end with --count when only the first changes are wanted"};
-  }
+  // Programs end quietly when nobody reads on.
+  [[noreturn]] static void ThrowReaderGone() { throw Failure{ExitCode::kOutputFailed, "", ""}; }
 
   const Output &output_;
   const Request request_;
   const std::optional<Clock::time_point> deadline_;
   const std::unique_ptr<WatchLoop> loop_ = WatchLoop::Make();
+  client::MixerWatch mixers_;
+  client::SessionBusWatch bus_;
+  client::SessionBusState busState_ = bus_.State();
   std::vector<std::string> models_;
   std::deque<Change> queue_;
   std::deque<Subscription> subscriptions_;
   std::int64_t printed_ = 0;
+  /// How often mixers are looked for once more.
+  int looksLeft_ = 0;
 };
 
 std::string RefusedUnless(bool isGood, const std::string &text, const std::string &noun) {
@@ -173,8 +251,8 @@ Command MakeWatch(CLI::App &program) {
   CLI::App *app = program.add_subcommand("watch", "Print each change of a setting as it happens");
   app->footer(
       std::string(
-          "Changes made by any program are seen, one line each; all models are watched, or\n"
-          "only the one named with --model.\n"
+          "Changes made by any program are seen, one line each, and mixers that are plugged\n"
+          "in or unplugged. All models are watched, or only the one named with --model.\n"
           "\n"
           "Examples:\n"
           "  trxctl watch                            until Ctrl-C\n"
@@ -190,6 +268,7 @@ Command MakeWatch(CLI::App &program) {
       ->check(PositiveTime())
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast)
       ->type_name("SECONDS");
+  app->add_flag("--timestamps", request->hasTimestamps, "Begin each line with the time");
   return {app, [request](const Session &session) {
             Watcher(session, *request).Run();
             return ExitCode::kDone;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <chrono>
 #include <memory>
 #include <optional>
@@ -11,6 +12,7 @@ enum class Waited {
   kForDelivery,   ///< Something may have been delivered, by calls of the listeners.
   kForEndSignal,  ///< The user or the system asks the program to end.
   kForReader,     ///< The reader of the program's output is gone.
+  kForOthers,     ///< One of the other descriptors is readable.
   kForTime,       ///< The time to wait is over.
 };
 
@@ -27,7 +29,10 @@ class WatchLoop {
   virtual ~WatchLoop() = default;
 
   /// Waits until there is something to do; without a deadline for ever.
-  virtual Waited Wait(const std::optional<Clock::time_point> &deadline) = 0;
+  ///
+  /// @param others  further descriptors to wait for; -1 stands for none.
+  virtual Waited Wait(const std::optional<Clock::time_point> &deadline,
+                      const std::array<int, 2> &others) = 0;
 };
 
 }  // namespace trxctl

@@ -1,11 +1,12 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "client/Mixers.h"
+#include "client/Delivery.h"
 #include "client/Settings.h"
 
 namespace trxctl {
@@ -13,7 +14,7 @@ namespace trxctl {
 /// A text from outside with its control characters replaced, so that it cannot steer the terminal.
 std::string Printable(std::string_view text);
 
-/// A printable text in double quotes.
+/// A printable text in double quotes, shortened when it is long.
 std::string Quoted(std::string_view text);
 
 /// "a", "a, b", "a, b, c".
@@ -41,8 +42,23 @@ std::string TitleOf(const client::Setting &setting);
 /// be named.
 std::string CommandLineFor(const client::Setting &setting, const std::string &words = "");
 
-/// The stored choice as a person reads it, also when it is none of the choices.
+/// "TRX-SELVA (bus 1, address 5), serial 0001".
+std::string DescribeWithSerial(const client::Mixer &mixer);
+
+/// What became of a value at a mixer that did not take it: "refused it".
+std::string OutcomeAsText(const client::MixerResult &result);
+
+/// What to do about a mixer that did not take a value.
+std::string OutcomeHint(const client::MixerResult &result);
+
+/// The text of a choice; its number when it is no choice.
+std::string ChoiceAsText(const client::Setting &setting, int32_t index);
+
+/// The choice in use as a person reads it, marked when it is only the default or no choice.
 std::string CurrentAsText(const client::Setting &setting);
+
+/// What is said of a settings file that cannot be read; nothing of one that can.
+std::optional<std::string> FileWarning(const client::Model &model);
 
 /// What to do about a stored number that is no choice.
 std::string StoreOneHint(const client::Setting &setting);

@@ -26,7 +26,7 @@ namespace trxfuzz {
 namespace {
 
 constexpr std::size_t kMostWords = 20;
-constexpr int kHighestExitCode = 8;
+constexpr int kHighestExitCode = 9;
 constexpr int kOutputFailed = 6;
 
 using Lines = std::vector<std::string>;

@@ -23,12 +23,12 @@ TEST(Choice, WholeTextGoesBeforeTheBeginningOfAnother) {
   EXPECT_EQ(ChoiceNamed("ch 1", kChannels, "MIDI channel"), 0u);
 }
 
-TEST(Choice, WholeTextGoesBeforeAnIndex) {
+TEST(Choice, WholeTextGoesBeforeANumber) {
   EXPECT_EQ(ChoiceNamed("1", {"2", "3", "1"}, "number"), 2u);
 }
 
-TEST(Choice, IndexGoesBeforeTheBeginningOfAText) {
-  EXPECT_EQ(ChoiceNamed("1", {"10 dB", "5 dB"}, "level"), 1u);
+TEST(Choice, NumberGoesBeforeTheBeginningOfAText) {
+  EXPECT_EQ(ChoiceNamed("2", {"20 dB", "5 dB"}, "level"), 1u);
 }
 
 TEST(Choice, TextThatStandsTwiceIsItsFirst) {
@@ -36,9 +36,37 @@ TEST(Choice, TextThatStandsTwiceIsItsFirst) {
   EXPECT_EQ(ChoiceNamed("rec", {"MIC", "REC OUT", "REC OUT"}, "source"), 1u);
 }
 
-TEST(Choice, NumbersCountFromTheFirst) {
-  EXPECT_EQ(ChoiceNamed("1", kChannels, "MIDI channel", 1), 0u);
-  EXPECT_EQ(ChoiceNamed("4", kChannels, "MIDI channel", 1), 3u);
+TEST(Choice, NumbersCountFromOne) {
+  EXPECT_EQ(ChoiceNamed("1", kChannels, "MIDI channel"), 0u);
+  EXPECT_EQ(ChoiceNamed("4", kChannels, "MIDI channel"), 3u);
+}
+
+TEST(Choice, WordThatOneTextHasNamesIt) {
+  const std::vector<std::string> signals{"CH1 Control Tone PHONO", "CH1 Control Tone LINE"};
+  EXPECT_EQ(ChoiceNamed("phono", signals, "signal"), 0u);
+  EXPECT_EQ(ChoiceNamed("line tone", signals, "signal"), 1u);
+  EXPECT_EQ(FailureOf("tone", signals).choices, signals);
+}
+
+TEST(Choice, BareNumberIsNoWord) {
+  EXPECT_EQ(FailureOf("10", {"A 10", "B 20"}).message, "\"10\" is no MIDI channel");
+}
+
+TEST(Choice, MinusSignIsAsGoodAsADash) {
+  EXPECT_EQ(ChoiceNamed("\u221210", {"-5 dB", "-10 dB"}, "level"), 1u);
+}
+
+TEST(Choice, TextThatIsMeantIsNamed) {
+  const std::vector<std::string> levels{"-5 dB", "-10 dB", "-19 dB"};
+  EXPECT_EQ(
+      FailureOf("10", levels).hint,
+      "did you mean \"-10 dB\"? Otherwise choose one of \"-5 dB\", \"-10 dB\", \"-19 dB\", or a "
+      "number from 1 to 3");
+}
+
+TEST(Choice, LongTextIsShortenedWhenItIsRepeated) {
+  const Failure failure = FailureOf(std::string(150, 'x'), kChannels);
+  EXPECT_EQ(failure.message, '"' + std::string(100, 'x') + "...\" is no MIDI channel");
 }
 
 TEST(Choice, BeginningOfSeveralTextsNamesThem) {
@@ -52,7 +80,7 @@ TEST(Choice, NumberBeyondTheListNamesTheRange) {
   const Failure failure = FailureOf("99999999999999999999", kChannels);
   EXPECT_EQ(failure.code, ExitCode::kRefused);
   EXPECT_EQ(failure.hint,
-            "choose one of \"CH 1\", \"CH 2\", \"CH 10\", \"CH 11\", or a number from 0 to 3");
+            "choose one of \"CH 1\", \"CH 2\", \"CH 10\", \"CH 11\", or a number from 1 to 4");
 }
 
 }  // namespace

@@ -111,7 +111,8 @@ class HostTest(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.config = pathlib.Path(folder.name)
         self.env = dict(os.environ, XDG_CONFIG_HOME=str(self.config), TERM="xterm", LC_ALL="C.UTF-8")
-        self.env.pop("NO_COLOR", None)
+        for variable in ("NO_COLOR", "TRXCTL_MODEL"):
+            self.env.pop(variable, None)
         for unit in (1, 2):
             self.mixer("clear", unit)
         self.mixer("log", "clear")
@@ -137,6 +138,12 @@ class HostTest(unittest.TestCase):
         self.assertEqual((result.code, result.err), (0, ""), result)
         return result
 
+    def done_with_notes(self, *words, **options):
+        """Runs trxctl, which must succeed; what it says on standard error is the caller's."""
+        result = self.run_host(*words, **options)
+        self.assertEqual(result.code, 0, result)
+        return result
+
     def assert_fails(self, code, words, message, hint, **options):
         """Runs trxctl, which must fail with exactly these two lines and no output."""
         result = self.run_host(*words, **options)
@@ -155,6 +162,11 @@ class HostTest(unittest.TestCase):
     def unplug_all(self):
         self.unplug(1)
         self.unplug(2)
+
+    def described(self, unit):
+        """A plugged unit as trxctl names it."""
+        bus, address = self.place(unit)
+        return f"TRX-SELVA (bus {bus}, address {address}), serial SIM{unit:05}"
 
     def place(self, unit):
         """Bus and address of a plugged unit, as the desk itself has them."""

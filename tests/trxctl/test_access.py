@@ -16,9 +16,9 @@ class Access(HostTest):
 
     def assert_kept_away(self, kind, reason, hint):
         self.keep_away(kind)
-        bus, address = min(self.place(1), self.place(2))
+        first = min((1, 2), key=self.place)
         self.assert_fails(7, ["boost", "--again"],
-                          f"nothing was sent: TRX-SELVA (bus {bus}, address {address}) "
+                          f"nothing was sent: {self.described(first)}, "
                           f"may not be opened ({reason})", hint, unprivileged=True)
         self.assert_nothing_sent()
         self.assertIn(f"hint: {hint}\n", self.done(unprivileged=True).out)
@@ -34,7 +34,10 @@ class Access(HostTest):
 
     def test_settings_are_stored_all_the_same(self):
         self.keep_away("deny")
-        self.assertEqual(self.done("boost", "-10", "--json", unprivileged=True).json["sent_to"], 0)
+        result = self.run_host("boost", "-10", "--json", unprivileged=True)
+        self.assertEqual((result.code, result.json["sent_to"]), (7, 0))
+        self.assertEqual([mixer["result"] for mixer in result.json["mixers"]],
+                         ["no_permission", "no_permission"])
         self.assertEqual(self.stored(), {"MaxLevel": 1})
 
 

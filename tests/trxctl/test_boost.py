@@ -6,21 +6,29 @@ from host import LEVELS, HostTest
 
 HINT_OTHER = "plug the mixer out and in again, then try again"
 CHOICES_HINT = ('choose one of "-5 dB", "-10 dB", "-15 dB", "-19 dB", '
-                "or a number from 0 to 3")
+                "or a number from 1 to 4")
 
 
 class Listing(HostTest):
     def test_nothing_stored_shows_the_quietest_level_as_current(self):
         self.assertEqual(self.done("boost").out,
-                         "TRX-SELVA boost level: -19 dB\n"
-                         "  0  -5 dB\n"
-                         "  1  -10 dB\n"
-                         "  2  -15 dB\n"
-                         "* 3  -19 dB\n")
+                         "TRX-SELVA boost level: -19 dB (default)\n"
+                         "  1  -5 dB\n"
+                         "  2  -10 dB\n"
+                         "  3  -15 dB\n"
+                         "* 4  -19 dB\n")
+
+    def test_stored_level_is_told_from_the_default(self):
+        self.assertEqual(self.done("boost", "--json").json["current"],
+                         {"index": 3, "text": "-19 dB", "stored": False})
+        self.store({"MaxLevel": 3})
+        self.assertIn("boost level: -19 dB\n", self.done("boost").out)
+        self.assertEqual(self.done("boost", "--json").json["current"],
+                         {"index": 3, "text": "-19 dB", "stored": True})
 
     def test_marks_the_stored_level(self):
         self.store({"MaxLevel": 1})
-        self.assertIn("* 1  -10 dB\n  2  -15 dB\n", self.done("boost").out)
+        self.assertIn("* 2  -10 dB\n  3  -15 dB\n", self.done("boost").out)
 
     def test_json(self):
         self.store({"MaxLevel": 2})
@@ -28,7 +36,7 @@ class Listing(HostTest):
             "model": "TRX-SELVA",
             "setting": "boost",
             "settable": True,
-            "current": {"index": 2, "text": "-15 dB"},
+            "current": {"index": 2, "text": "-15 dB", "stored": True},
             "choices": [{"index": index, "text": text} for index, text in enumerate(LEVELS)]})
 
     def test_listing_sends_and_stores_nothing(self):
@@ -50,7 +58,7 @@ class Listing(HostTest):
         for number in (4, -1):
             self.store({"MaxLevel": number})
             self.assertEqual(self.done("boost", "--json").json["current"],
-                             {"index": number, "text": None})
+                             {"index": number, "text": None, "stored": True})
 
 
 class Setting(HostTest):
@@ -73,7 +81,10 @@ class Setting(HostTest):
 
     def test_by_index(self):
         for index in range(4):
-            self.assert_sets([str(index)], index)
+            self.assert_sets([str(index + 1)], index)
+
+    def test_with_a_minus_sign(self):
+        self.assert_sets(["\u221210"], 1)
 
     def test_by_beginning(self):
         self.assert_sets(["-5"], 0)
@@ -104,14 +115,15 @@ class Setting(HostTest):
 
     def test_keeps_what_other_programs_stored(self):
         self.store({"MaxLevel": 3, "Output1": 7, "Theirs": "kept"})
-        self.done("boost", "0")
+        self.done("boost", "1")
         self.assertEqual(self.stored(), {"MaxLevel": 0, "Output1": 7, "Theirs": "kept"})
 
     def test_without_a_mixer_says_so_and_stores_all_the_same(self):
         self.unplug_all()
-        self.assertEqual(self.done("boost", "-10").out,
-                         "TRX-SELVA boost level set to -10 dB.\n"
-                         "No mixer is connected; the setting is stored all the same.\n"
+        result = self.done_with_notes("boost", "-10")
+        self.assertEqual(result.out, "TRX-SELVA boost level set to -10 dB.\n"
+                                     "No mixer is connected; the setting is stored all the same.\n")
+        self.assertEqual(result.err,
                          "hint: once a mixer is connected, send it with: trxctl boost --again\n")
         self.assertEqual(self.stored(), {"MaxLevel": 1})
 
@@ -119,34 +131,52 @@ class Setting(HostTest):
         self.unplug_all()
         self.assertEqual(self.done("boost", "-10", "--json").json, {
             "model": "TRX-SELVA", "setting": "boost", "action": "set", "index": 1,
-            "text": "-10 dB", "connected": False, "sent_to": 0, "mixers": []})
+            "text": "-10 dB", "stored": True, "connected": False, "sent_to": 0, "mixers": [],
+            "announced": True})
 
-    def test_refused_mixer_is_named_and_the_other_reached(self):
+    def assert_not_taken_by_first(self, reason, outcome, accessible):
+        """One mixer does not take it: it is named, counted out, and the other is reached."""
+        result = self.run_host("boost", "-15")
+        self.assertEqual((result.code, result.out), (9, "TRX-SELVA boost level set to -15 dB.\n"
+                                                        "Sent to 1 of 2 connected mixers.\n"))
+        self.assertTrue(result.err.startswith(
+            f"trxctl: error: {self.described(1)}, {reason}; the setting is stored\nhint: "), result)
+        answer = self.run_host("boost", "-15", "--json")
+        self.assertEqual((answer.code, answer.err), (9, ""))
+        self.assertEqual((answer.json["sent_to"], answer.json["error"]["kind"]), (1, "partly_sent"))
+        results = {(mixer["bus"], mixer["address"]): (mixer["result"], mixer["accessible"])
+                   for mixer in answer.json["mixers"]}
+        self.assertEqual(results, {self.place(1): (outcome, accessible),
+                                   self.place(2): ("taken", True)})
+        self.assertEqual(self.stored(), {"MaxLevel": 2})
+
+    def test_mixer_that_stalls(self):
+        self.mixer("fault", 1, "stall")
+        self.assert_not_taken_by_first("refused it", "refused", True)
+
+    def test_mixer_that_does_not_open(self):
         self.mixer("fault", 1, "refuse")
-        lines = self.done("boost", "-15").out.splitlines()
-        self.assertEqual(lines[1], "Sent to 1 of 2 connected mixers.")
-        bus, address = self.place(1)
-        self.assertEqual(lines[2:],
-                         [f"Not sent to TRX-SELVA (bus {bus}, address {address}), "
-                          "which may not be opened: No such device or address",
-                          "hint: " + HINT_OTHER])
-        self.assertEqual(self.levels_sent(), [(2, "0100")])
-
-    def test_refused_mixer_json(self):
-        self.mixer("fault", 2, "refuse")
-        result = self.done("boost", "-15", "--json").json
-        self.assertEqual((result["connected"], result["sent_to"]), (True, 1))
-        by_place = {(mixer["bus"], mixer["address"]): mixer for mixer in result["mixers"]}
-        self.assertEqual(by_place[self.place(2)]["accessible"], False)
-        self.assertEqual(by_place[self.place(2)]["reason"], "No such device or address")
-        self.assertEqual(by_place[self.place(1)]["accessible"], True)
-        self.assertNotIn("reason", by_place[self.place(1)])
+        self.assert_not_taken_by_first("may not be opened (No such device or address)", "gone",
+                                       False)
+        self.assertEqual(self.levels_sent(), [(2, "0100"), (2, "0100")])
 
     def test_all_refused_is_stored_all_the_same(self):
-        self.mixer("fault", 1, "refuse")
-        self.mixer("fault", 2, "refuse")
-        self.assertIn("Sent to 0 of 2 connected mixers.\n", self.done("boost", "-15").out)
-        self.assertEqual(self.stored(), {"MaxLevel": 2})
+        for unit in (1, 2):
+            self.mixer("fault", unit, "refuse")
+        result = self.run_host("boost", "-10")
+        self.assertEqual((result.code, result.out), (7, "TRX-SELVA boost level set to -10 dB.\n"
+                                                        "Sent to 0 of 2 connected mixers.\n"))
+        self.assertIn("; the setting is stored\n", result.err)
+        self.assertEqual(self.stored(), {"MaxLevel": 1})
+
+    def test_dry_run_sends_and_stores_nothing(self):
+        self.assertEqual(self.done("boost", "-10", "--dry-run").out,
+                         "TRX-SELVA boost level would be sent: -10 dB.\n"
+                         "Connected mixers: 2. Nothing was sent or stored.\n")
+        answer = self.done("boost", "-10", "--dry-run", "--json").json
+        self.assertEqual((answer["dry_run"], answer["index"], len(answer["mixers"])), (True, 1, 2))
+        self.assert_nothing_sent()
+        self.assertIsNone(self.stored())
 
 
 class Refusing(HostTest):
@@ -162,8 +192,13 @@ class Refusing(HostTest):
                             'write a little more of it: "-5 dB", "-10 dB", "-15 dB", "-19 dB"')
 
     def test_unknown_words(self):
-        for word in ("loud", "-20 dB", "10 dB", "4", "-0", "1.0", "0x1", ""):
+        for word in ("loud", "-20 dB", "0", "7", "-0", "0x1", ""):
             self.assert_refused([word], f'"{word}" is no boost level', CHOICES_HINT)
+
+    def test_names_what_was_probably_meant(self):
+        for word, meant in (("10", "-10 dB"), ("10 dB", "-10 dB"), ("5", "-5 dB")):
+            self.assert_refused([word], f'"{word}" is no boost level',
+                                f'did you mean "{meant}"? Otherwise {CHOICES_HINT}')
 
     def test_number_beyond_all_numbers(self):
         self.assert_refused(["99999999999999999999"],
@@ -181,12 +216,17 @@ class Refusing(HostTest):
 
     def test_settings_that_cannot_be_stored(self):
         (self.config / "orvikaudio").write_text("a file where the folder should be")
-        self.assert_fails(8, ["boost", "-10"],
-                          "the boost level was sent to 2 mixers, but could not be stored",
-                          "the folder orvikaudio in ~/.config (or in $XDG_CONFIG_HOME) "
-                          "must be writable")
-        self.assertEqual(self.run_host("boost", "-10", "--json").json["error"]["kind"],
-                         "not_stored")
+        result = self.run_host("boost", "-10")
+        self.assertEqual((result.code, result.out), (8, "TRX-SELVA boost level set to -10 dB.\n"
+                                                        "Sent to 2 of 2 connected mixers.\n"))
+        self.assertEqual(result.err,
+                         "trxctl: error: the boost level could not be stored: "
+                         f"{self.config}/orvikaudio: Not a directory\n"
+                         "hint: trxctl diagnose tells what is wrong and what to do\n")
+        answer = self.run_host("boost", "-10", "--json").json
+        self.assertEqual((answer["error"]["kind"], answer["stored"], answer["sent_to"]),
+                         ("not_stored", False, 2))
+        self.assertEqual(len(answer["mixers"]), 2)
 
 
 class Again(HostTest):
@@ -205,8 +245,8 @@ class Again(HostTest):
 
     def test_json(self):
         result = self.done("boost", "--again", "--json").json
-        self.assertEqual(list(result), ["model", "setting", "action", "index", "text", "connected",
-                                        "sent_to", "mixers"])
+        self.assertEqual(list(result), ["model", "setting", "action", "index", "text", "stored",
+                                        "connected", "sent_to", "mixers"])
         self.assertEqual((result["action"], result["index"], result["sent_to"]), ("again", 3, 2))
 
     def test_without_a_mixer(self):
@@ -219,16 +259,18 @@ class Again(HostTest):
     def test_all_mixers_refused(self):
         self.mixer("fault", 1, "refuse")
         self.mixer("fault", 2, "refuse")
-        bus, address = min(self.place(1), self.place(2))
+        first = min((1, 2), key=self.place)
         self.assert_fails(7, ["boost", "--again"],
-                          f"nothing was sent: TRX-SELVA (bus {bus}, address {address}) "
+                          f"nothing was sent: {self.described(first)}, "
                           "may not be opened (No such device or address)", HINT_OTHER)
         self.assertEqual(self.run_host("boost", "--again", "--json").json["error"]["kind"],
                          "no_access")
 
     def test_one_mixer_refused(self):
         self.mixer("fault", 1, "refuse")
-        self.assertIn("Sent to 1 of 2 connected mixers.\n", self.done("boost", "--again").out)
+        result = self.run_host("boost", "--again")
+        self.assertEqual(result.code, 9)
+        self.assertIn("Sent to 1 of 2 connected mixers.\n", result.out)
 
     def test_stored_number_out_of_range_is_not_sent(self):
         self.store({"MaxLevel": 7})

@@ -4,8 +4,8 @@ import unittest
 
 from host import HostTest
 
-COMMANDS = ["input", "output", "boost", "midi", "status", "watch", "reapply", "profile", "diagnose",
-            "versions", "models"]
+COMMANDS = ["input", "output", "boost", "midi", "status", "watch", "reapply", "reset", "profile",
+            "diagnose", "versions", "models"]
 
 
 class Help(HostTest):
@@ -14,7 +14,7 @@ class Help(HostTest):
         for line in ("Usage: trxctl [OPTIONS] [COMMAND]\n",
                      "  boost             Show or set the boost level",
                      "  watch             Print each change",
-                     "  --model NAME      The mixer model (default: TRX-SELVA)\n",
+                     "  --model NAME      The mixer model (default: that of the mixers)\n",
                      '  trxctl boost "-10 dB"            set it on every connected mixer\n',
                      "  0  done\n",
                      "  1  the system did not give what the program needs\n",
@@ -23,8 +23,9 @@ class Help(HostTest):
                      "  4  no mixer is connected and nothing could be done without one\n",
                      "  5  the time given with --timeout is over\n",
                      "  6  the output could not be written\n",
-                     "  7  mixers are connected, but this user may open none of them\n",
-                     "  8  the setting could not be stored\n"):
+                     "  7  mixers are connected, but none of them could be opened\n",
+                     "  8  the setting could not be stored\n",
+                     "  9  a connected mixer did not take it\n"):
             self.assertIn(line, text)
 
     def test_fits_a_terminal(self):
@@ -44,6 +45,10 @@ class Help(HostTest):
     def test_changes_nothing(self):
         self.done("boost", "-10", "--help")
         self.assert_nothing_sent()
+
+    def test_as_a_command(self):
+        self.assertEqual(self.done("help").out, self.done("--help").out)
+        self.assertEqual(self.done("help", "boost").out, self.done("boost", "--help").out)
 
     def test_json(self):
         self.assertEqual(self.done("--json", "--help").json, {"help": self.done("--help").out})
@@ -75,6 +80,17 @@ class NotUnderstood(HostTest):
     def test_option_of_another_command_is_not_suggested(self):
         self.assert_fails(2, ["boost", "--conut", "1"], 'unknown option "--conut"',
                           "see trxctl boost --help")
+
+    def test_word_before_a_command(self):
+        self.assert_fails(2, ["set", "boost", "1"], 'unknown command "set"',
+                          "did you mean trxctl boost 1?")
+        self.assert_nothing_sent()
+
+    def test_flag_with_a_value(self):
+        for word, flag in (("--json=true", "--json"), ("--json=", "--json"),
+                           ("--again=no", "--again")):
+            self.assert_fails(2, ["boost", word], f"{flag} takes no value", f"write {flag} alone")
+        self.assert_nothing_sent()
 
     def test_word_too_many(self):
         self.assert_fails(2, ["watch", "boost"], '"boost" is not expected after "watch"',

@@ -17,9 +17,9 @@ class Candidates(HostTest):
     def test_commands(self):
         commands = self.candidates("")
         self.assertEqual(commands[:4], ["input", "output", "boost", "midi"])
-        self.assertEqual(commands[-7:], ["status", "watch", "reapply", "profile", "diagnose",
-                                         "versions", "models"])
-        self.assertEqual(self.candidates("--json", "re"), ["reapply"])
+        self.assertEqual(commands[-8:], ["status", "watch", "reapply", "reset", "profile",
+                                         "diagnose", "versions", "models"])
+        self.assertEqual(self.candidates("--json", "re"), ["reapply", "reset"])
 
     def test_commands_say_what_they_are(self):
         self.assertEqual(self.done("complete", "bo").out,
@@ -30,9 +30,9 @@ class Candidates(HostTest):
         self.assertEqual(self.candidates("boost", "--model", "trx-l"), ["TRX-LUMEN"])
 
     def test_options(self):
-        self.assertEqual(self.candidates("watch", "--t"), ["--timeout"])
-        self.assertEqual(self.candidates("output", "1", "--d"), ["--default"])
-        self.assertEqual(self.candidates("boost", "--d"), [])
+        self.assertEqual(self.candidates("watch", "--t"), ["--timeout", "--timestamps"])
+        self.assertEqual(self.candidates("output", "1", "--d"), ["--dry-run", "--default"])
+        self.assertEqual(self.candidates("boost", "--d"), ["--dry-run"])
 
     def test_languages(self):
         self.assertEqual(self.candidates("input", "1", "0", "--language", "ger"), ["German"])

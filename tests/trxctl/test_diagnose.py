@@ -130,7 +130,8 @@ class Diagnose(HostTest):
 
     def test_no_answer(self):
         self.mixer("fault", 1, "stall")
-        self.assert_problem(self.diagnose(1)["answer"], "failed", "does not answer",
+        self.assert_problem(self.diagnose(1)["answer"], "failed",
+                            f"{self.described(1)}, refuses a request",
                             "switch the mixer off and on again")
 
     def test_no_session_bus(self):
@@ -142,7 +143,8 @@ class Diagnose(HostTest):
     def test_folder_that_may_not_be_made(self):
         options = self.as_nobody()
         self.config.chmod(0o555)
-        self.assert_problem(self.diagnose(8, **options)["Preferences folder"], "not_stored",
+        # Nor is the bus for anybody else, so that is the first problem.
+        self.assert_problem(self.diagnose(1, **options)["Preferences folder"], "not_stored",
                             f"{self.config}: Permission denied", "make that folder writable")
 
     def test_file_in_the_place_of_the_folder(self):
@@ -205,11 +207,26 @@ class Diagnose(HostTest):
     def test_what_was_not_looked_into_is_not_called_in_good_order(self):
         self.store({"MaxLevel": 1}, "TRX-VOLT")
         self.store({})
-        for contents in (b"bplist00" + b"garbage" * 10, b"garbage" * 10_000,
-                         plistlib.dumps({"MaxLevel": 3})):
+        for contents in (b"bplist00" + b"garbage" * 10, b"garbage" * 10_000):
             self.settings_file().write_bytes(contents)
             self.assertEqual(self.files(),
                              "1 file in good order, 1 file without effect on any setting")
+
+    def test_default_that_is_stored_is_in_good_order(self):
+        self.store({"MaxLevel": 3})
+        self.assertEqual(self.files(), "1 file in good order")
+
+    def test_stored_number_that_is_no_choice(self):
+        self.store({"MaxLevel": 9})
+        self.assert_problem(self.diagnose(1)["settings files"], "failed",
+                            f"{self.settings_file()}: the boost level stored is 9, "
+                            "which is no boost level", 'choose one: trxctl boost "-19 dB"')
+
+    def test_probe_leaves_nothing_behind(self):
+        self.store({"MaxLevel": 1})
+        self.diagnose(0)
+        self.assertEqual([file.name for file in self.settings_file().parent.iterdir()],
+                         [self.settings_file().name])
 
     def test_settings_without_a_configuration_variable(self):
         self.env.pop("XDG_CONFIG_HOME")

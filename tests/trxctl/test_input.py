@@ -30,23 +30,24 @@ class Listing(HostTest):
         self.store({"Output1": 7})
         self.assertEqual(self.done("input").out,
                          "TRX-SELVA input audio\n"
-                         "  channel 1  CH1 Control Tone PHONO\n"
+                         "  channel 1  CH1 Control Tone PHONO (default)\n"
                          "  channel 2  REC OUT\n"
-                         "  channel 3  REC OUT\n")
+                         "  channel 3  REC OUT (default)\n")
 
     def test_one_channel(self):
         self.store({"Output1": 7})
         self.assertEqual(self.done("input", "2").out,
                          "TRX-SELVA input audio channel 2: REC OUT\n" +
-                         "".join(f"  {index}  {text}\n" for index, text in enumerate(SECOND[:7])) +
-                         "* 7  REC OUT\n")
+                         "".join(f"  {index + 1}  {text}\n"
+                                 for index, text in enumerate(SECOND[:7])) +
+                         "* 8  REC OUT\n")
 
     def test_choices_of_each_channel_in_json(self):
         listed = self.done("input", "--json").json
         self.assertEqual(list(listed), ["model", "setting", "settable", "channels"])
         for channel, (entry, texts) in enumerate(zip(listed["channels"], (FIRST, SECOND, THIRD))):
             self.assertEqual(entry, {
-                "channel": channel + 1, "current": {"index": 0, "text": texts[0]},
+                "channel": channel + 1, "current": {"index": 0, "text": texts[0], "stored": False},
                 "choices": [{"index": i, "text": text} for i, text in enumerate(texts)]})
 
     def test_one_channel_in_json(self):
@@ -114,7 +115,11 @@ class Setting(HostTest):
         self.assert_sets(1, ["ch1controltoneline"], 1, "0100")
         self.assert_sets(1, ["cross fader b"], 4, "0108")
         self.assert_sets(3, ["POST CH2"], 2, "0312")
-        self.assert_sets(3, ["6"], 6, "030d")
+        self.assert_sets(3, ["7"], 6, "030d")
+
+    def test_by_a_word_of_it(self):
+        self.assert_sets(1, ["phono"], 0, "0103")
+        self.assert_sets(1, ["fader", "post"], 2, "0106")
 
     def test_says_what_was_set(self):
         self.assertEqual(self.done("input", "2", "rec").out,
@@ -123,8 +128,8 @@ class Setting(HostTest):
 
     def test_json(self):
         self.assertEqual(list(self.done("input", "2", "rec", "--json").json),
-                         ["model", "setting", "channel", "action", "index", "text", "connected",
-                          "sent_to", "mixers"])
+                         ["model", "setting", "channel", "action", "index", "text", "stored",
+                          "connected", "sent_to", "mixers", "announced"])
 
     def test_again(self):
         self.store({"Output1": 7})
@@ -143,7 +148,8 @@ class Setting(HostTest):
 
     def test_without_a_mixer_is_stored_all_the_same(self):
         self.unplug_all()
-        self.assertEqual(self.done("input", "2", "rec").out,
+        result = self.done_with_notes("input", "2", "rec")
+        self.assertEqual(result.out + result.err,
                          "TRX-SELVA input audio channel 2 set to REC OUT.\n"
                          "No mixer is connected; the setting is stored all the same.\n"
                          "hint: once a mixer is connected, send it with: trxctl input 2 --again\n")
@@ -157,10 +163,11 @@ class Warning(HostTest):
             self.mixer("set", unit, "port", 0, 0)
 
     def warning(self, *words):
-        return self.done("input", "1", "0", "--json", *words).json["warning"]
+        return self.done("input", "1", "1", "--json", *words).json["warning"]
 
     def test_stands_behind_the_success_and_is_one(self):
-        lines = self.done("input", "1", "0").out.splitlines()
+        result = self.done_with_notes("input", "1", "1")
+        lines = result.out.splitlines() + result.err.splitlines()
         self.assertEqual(lines[:2], ["TRX-SELVA input audio channel 1 set to "
                                      "CH1 Control Tone PHONO.",
                                      "Sent to 2 of 2 connected mixers."])
@@ -171,7 +178,12 @@ class Warning(HostTest):
     def test_none_when_the_selector_is_right(self):
         for unit in (1, 2):
             self.mixer("set", unit, "selector", 0, 7)
-        self.assertNotIn("warning", self.done("input", "1", "0", "--json").json)
+        self.assertNotIn("warning", self.done("input", "1", "1", "--json").json)
+
+    def test_none_for_a_signal_that_passes_no_selector(self):
+        self.unplug_all()
+        self.assertNotIn("warning", self.done("input", "1", "3", "--json").json)
+        self.assertNotIn("warning", self.done("input", "3", "1", "--json").json)
 
     def test_fits_the_port(self):
         for unit in (1, 2):
@@ -192,7 +204,7 @@ class Warning(HostTest):
             self.assertTrue(self.warning("--language", str(number)), number)
 
     def test_unknown_language_is_refused_before_anything_is_done(self):
-        result = self.run_host("input", "1", "0", "--language", "Latin", "--json")
+        result = self.run_host("input", "1", "1", "--language", "Latin", "--json")
         self.assertEqual((result.code, result.err), (3, ""))
         self.assertEqual(result.json["error"]["message"], '"Latin" is no language')
         self.assertEqual(len(result.json["error"]["choices"]), 12)
@@ -258,9 +270,9 @@ class Refusing(HostTest):
         self.assert_nothing_sent()
 
     def test_unknown_choice(self):
-        error = self.run_host("input", "3", "7", "--json").json["error"]
+        error = self.run_host("input", "3", "8", "--json").json["error"]
         self.assertEqual((error["message"], error["choices"]),
-                         ('"7" is no input audio choice', THIRD))
+                         ('"8" is no input audio choice', THIRD))
 
     def test_beginning_of_several(self):
         self.assert_fails(3, ["input", "1", "cross"],
@@ -279,7 +291,7 @@ class Refusing(HostTest):
         self.assert_nothing_sent()
 
     def test_contradictions(self):
-        self.assert_fails(2, ["input", "1", "0", "--again"], '--again and "0" do not go together',
+        self.assert_fails(2, ["input", "1", "1", "--again"], '--again and "1" do not go together',
                           "leave out all but one of them")
         self.assert_fails(2, ["input", "1", "--raw", "1", "--again"],
                           "--again and --raw do not go together", "leave out all but one of them")

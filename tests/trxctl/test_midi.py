@@ -25,7 +25,7 @@ class Midi(HostTest):
     def test_list_in_json(self):
         self.assertEqual(self.done("midi", "--json", *VOLT).json, {
             "model": "TRX-VOLT", "setting": "midi", "settable": True,
-            "current": {"index": 0, "text": "CH 1"},
+            "current": {"index": 0, "text": "CH 1", "stored": False},
             "choices": [{"index": i, "text": text} for i, text in enumerate(CHANNELS)]})
 
     def test_number_is_that_of_the_channel(self):
@@ -37,7 +37,7 @@ class Midi(HostTest):
 
     def test_by_text(self):
         for word in ("CH 10", "ch10", "ch 10"):
-            self.assertEqual(self.done("midi", word, *VOLT).out,
+            self.assertEqual(self.done_with_notes("midi", word, *VOLT).out,
                              "TRX-VOLT MIDI channel set to CH 10.\n"
                              "Sent to 2 of 2 connected mixers.\n")
 
@@ -50,7 +50,7 @@ class Midi(HostTest):
 
     def test_again(self):
         self.store({"MidiChannel": 3})
-        self.assertIn("MIDI channel sent again: CH 4.\n", self.done("midi", "--again", *VOLT).out)
+        self.assertIn("MIDI channel sent again: CH 4.\n", self.done_with_notes("midi", "--again", *VOLT).out)
         self.assertEqual(self.sent("MIDI channel"), [(1, "0300"), (2, "0300")])
 
     def test_again_reaches_the_first_four_only(self):
@@ -65,7 +65,7 @@ class Midi(HostTest):
         self.unplug_all()
         for number, hint in (("4", "trxctl midi --again --model TRX-VOLT"),
                              ("5", 'trxctl midi "CH 5" --model TRX-VOLT')):
-            self.assertTrue(self.done("midi", number, *VOLT).out.endswith(
+            self.assertTrue(self.done_with_notes("midi", number, *VOLT).err.endswith(
                 f"hint: once a mixer is connected, send it with: {hint}\n"))
 
     def test_other_models(self):
@@ -74,7 +74,7 @@ class Midi(HostTest):
                 continue
             self.assert_fails(3, ["midi", "3", "--model", model], f"{model} has no MIDI channel",
                               "models that have one: TRX-VOLT; name one: "
-                              "trxctl midi --model TRX-VOLT")
+                              "trxctl midi 3 --model TRX-VOLT")
         self.assert_nothing_sent()
 
 

@@ -10,29 +10,29 @@ CHOICES = ["CH1", "CH2", "AUX"]
 class Listing(HostTest):
     def test_all_channels(self):
         self.assertEqual(self.done("output").out,
-                         "TRX-SELVA output audio\n  channel 1  CH1\n  channel 2  CH2\n"
-                         "  channel 3  AUX\n")
+                         "TRX-SELVA output audio\n  channel 1  CH1 (default)\n"
+                         "  channel 2  CH2 (default)\n  channel 3  AUX (default)\n")
 
     def test_one_channel(self):
         self.store({"Input1": 2})
         self.assertEqual(self.done("output", "2").out,
-                         "TRX-SELVA output audio channel 2: AUX\n  0  CH1\n  1  CH2\n* 2  AUX\n")
+                         "TRX-SELVA output audio channel 2: AUX\n  1  CH1\n  2  CH2\n* 3  AUX\n")
 
     def test_json(self):
         self.assertEqual(self.done("output", "3", "--json").json, {
             "model": "TRX-SELVA", "setting": "output", "channel": 3, "settable": True,
-            "current": {"index": 2, "text": "AUX"},
+            "current": {"index": 2, "text": "AUX", "stored": False},
             "choices": [{"index": i, "text": text} for i, text in enumerate(CHOICES)]})
 
     def test_stored_number_out_of_range_has_no_text(self):
         self.store({"Input0": 3})
         listed = self.run_host("output", "1", "--json").json
-        self.assertEqual(listed["current"], {"index": 3, "text": None})
+        self.assertEqual(listed["current"], {"index": 3, "text": None, "stored": True})
 
 
 class Setting(HostTest):
     def test_by_text_by_number_and_by_beginning(self):
-        for word in ("AUX", "aux", "a", "2"):
+        for word in ("AUX", "aux", "a", "3"):
             self.mixer("log", "clear")
             result = self.done("output", "2", word, "--json").json
             self.assertEqual((result["channel"], result["index"], result["text"]), (2, 2, "AUX"))
@@ -59,9 +59,9 @@ class Default(HostTest):
     def test_is_sent_and_not_stored(self):
         self.store({"Input1": 2})
         self.assertEqual(self.done("output", "2", "--default").out,
-                         "TRX-SELVA output audio channel 2 set to its default for the time being: "
-                         "CH2.\nNothing is stored; the stored choice is still AUX. Back to it: "
-                         "trxctl output 2 --again\nSent to 2 of 2 connected mixers.\n")
+                         "TRX-SELVA output audio channel 2 set to its default for now: CH2.\n"
+                         "This holds for now only. Nothing is stored; the stored choice is still "
+                         "AUX. Back to it: trxctl output 2 --again\nSent to 2 of 2 connected mixers.\n")
         self.assertEqual(self.stored(), {"Input1": 2})
         self.assertEqual(self.sent("mixer input"), [(1, "0201"), (2, "0201")])
 
@@ -78,8 +78,10 @@ class Default(HostTest):
         self.assert_fails(4, ["output", "2", "--default"],
                           "no mixer is connected, so nothing was sent",
                           "connect a mixer and switch it on, then try again")
-        self.done("boost", "0")
-        self.assertEqual(watching.json_line()["setting"], "boost")
+        self.run_host("boost", "1")
+        events = [watching.json_line() for _ in range(3)]
+        self.assertEqual([event["event"] for event in events], ["unplugged", "unplugged", "change"])
+        self.assertEqual(events[-1]["setting"], "boost")
 
     def test_needs_a_channel(self):
         self.assert_fails(2, ["output", "--default"], "--default needs a channel",
@@ -100,7 +102,7 @@ class Refusing(HostTest):
         self.assert_fails(3, ["output", "1", "ch"],
                           '"ch" could be more than one output audio choice',
                           'write a little more of it: "CH1", "CH2"')
-        self.assertEqual(self.run_host("output", "1", "3", "--json").json["error"]["choices"],
+        self.assertEqual(self.run_host("output", "1", "4", "--json").json["error"]["choices"],
                          CHOICES)
 
     def test_other_models(self):

@@ -1,4 +1,4 @@
-"""trxctl reapply: everything that is stored, sent once more."""
+"""trxctl reapply and reset: everything that is stored, sent once more or set back."""
 
 import unittest
 
@@ -35,11 +35,12 @@ class Reapply(HostTest):
     def test_says_what_could_not_be_sent_and_why(self):
         self.store({"Output1": 9, "MaxLevel": 1})
         result = self.run_host("reapply")
-        self.assertEqual((result.code, result.err), (3, ""))
+        self.assertEqual((result.code, result.err), (
+            3, "Not sent: input audio channel 2: the stored number 9 is no input audio choice\n"
+               "trxctl: error: not every stored setting can be sent again\n"
+               "hint: choose those anew that were not sent\n"))
         self.assertIn("  boost level: -10 dB\n", result.out)
-        self.assertTrue(result.out.endswith(
-            "Sent to 2 of 2 connected mixers.\nNot sent:\n"
-            "  input audio channel 2: the stored number 9 is no input audio choice\n"), result)
+        self.assertTrue(result.out.endswith("Sent to 2 of 2 connected mixers.\n"), result)
         self.assertEqual(self.sent("mixer output"),
                          [(1, "0103"), (1, "030a"), (2, "0103"), (2, "030a")])
 
@@ -47,33 +48,46 @@ class Reapply(HostTest):
         self.store({"Input1": 5})
         result = self.run_host("reapply", "--json")
         self.assertEqual((result.code, result.err), (3, ""))
-        self.assertEqual(list(result.json),
-                         ["model", "sent", "not_sent", "connected", "sent_to", "mixers"])
+        self.assertEqual(list(result.json), ["model", "sent", "not_sent", "connected", "sent_to",
+                                             "mixers", "error"])
         self.assertEqual([one["setting"] for one in result.json["sent"]][:6],
                          ["input", "input", "input", "output", "output", "boost"])
-        self.assertEqual(result.json["sent"][0], {"setting": "input", "channel": 1, "index": 0,
-                                                  "text": "CH1 Control Tone PHONO"})
+        self.assertEqual(result.json["sent"][0],
+                         {"setting": "input", "channel": 1, "index": 0,
+                          "text": "CH1 Control Tone PHONO", "stored": False})
         self.assertEqual(result.json["not_sent"], [
-            {"setting": "output", "channel": 2, "index": 5, "text": None,
+            {"setting": "output", "channel": 2, "index": 5, "text": None, "stored": True,
              "reason": "the stored number 5 is no output audio choice"}])
 
     def test_midi_channel_that_cannot_be_sent_again(self):
         self.store({"MidiChannel": 9}, "TRX-VOLT")
         result = self.run_host("reapply", *VOLT)
         self.assertEqual(result.code, 3)
-        self.assertIn("  MIDI channel: the stored MIDI channel is CH 10; only CH 1 to CH 4 can be "
-                      "sent again\n", result.out)
+        self.assertIn("Not sent: MIDI channel: the stored MIDI channel is CH 10; only CH 1 to CH 4 "
+                      "can be sent again\n", result.err)
 
-    def test_lists_that_can_only_be_read_are_no_failure(self):
+    def test_what_the_model_cannot_take_is_no_news(self):
         self.store({"MidiChannel": 2}, "TRX-VOLT")
         result = self.done("reapply", "--json", *VOLT).json
         self.assertEqual([one["setting"] for one in result["sent"]][:2], ["boost", "midi"])
-        self.assertEqual([one["reason"] for one in result["not_sent"]],
-                         ["TRX-VOLT takes no choice from the list"] * 3)
+        self.assertEqual(result["not_sent"], [])
         for model in ("TRX-Arden", "TRX-HALDEN", "TRX-LUMEN", "TRX-MORROW"):
-            sent = self.done("reapply", "--json", "--model", model).json["sent"]
-            self.assertEqual([one["setting"] for one in sent if "channel" in one], [], model)
-            self.assertEqual(sent[0]["setting"], "boost", model)
+            answer = self.done("reapply", "--json", "--model", model).json
+            self.assertEqual([one for one in answer["sent"] if "channel" in one], [], model)
+            self.assertEqual((answer["sent"][0]["setting"], answer["not_sent"]), ("boost", []))
+
+    def test_mixer_that_takes_nothing(self):
+        self.mixer("fault", 1, "stall")
+        result = self.run_host("reapply", "--json")
+        self.assertEqual((result.code, result.json["sent_to"], result.json["error"]["kind"]),
+                         (9, 1, "partly_sent"))
+
+    def test_dry_run_sends_nothing(self):
+        self.store({"MaxLevel": 1})
+        text = self.done("reapply", "--dry-run").out
+        self.assertTrue(text.startswith("TRX-SELVA settings that would be sent\n"), text)
+        self.assertIn("  boost level: -10 dB\n", text)
+        self.assert_nothing_sent()
 
     def test_without_a_mixer(self):
         self.unplug_all()
@@ -84,6 +98,36 @@ class Reapply(HostTest):
         for unit in (1, 2):
             self.mixer("fault", unit, "refuse")
         self.assertEqual(self.run_host("reapply", "--json").json["error"]["kind"], "no_access")
+
+
+class Reset(HostTest):
+    def test_sets_back_what_is_stored(self):
+        self.store({"MaxLevel": 1, "Output1": 7})
+        self.assertEqual(self.done("reset", "--yes").out,
+                         "TRX-SELVA settings set back\n"
+                         "  input audio channel 2: REC OUT -> CH2 Control Tone PHONO\n"
+                         "  boost level: -10 dB -> -19 dB\n"
+                         "Sent to 2 of 2 connected mixers.\n")
+        self.assertEqual(self.stored(), {"MaxLevel": 3, "Output1": 0})
+        self.assertEqual(self.levels_sent(), [(1, "0000"), (2, "0000")])
+
+    def test_asks_first(self):
+        self.store({"MaxLevel": 1})
+        self.assert_fails(2, ["reset"], "reset asks first, and there is no terminal to ask on",
+                          "add --yes, or --dry-run to see what would be set back")
+        self.assertEqual(self.stored(), {"MaxLevel": 1})
+
+    def test_dry_run_changes_nothing(self):
+        self.store({"MaxLevel": 1})
+        answer = self.done("reset", "--dry-run", "--json").json
+        self.assertEqual(answer["reset"], [
+            {"setting": "boost", "index": 3, "text": "-19 dB",
+             "before": {"index": 1, "text": "-10 dB"}}])
+        self.assert_nothing_sent()
+        self.assertEqual(self.stored(), {"MaxLevel": 1})
+
+    def test_nothing_to_set_back(self):
+        self.assertEqual(self.done("reset").out, "TRX-SELVA: all settings are at their defaults.\n")
 
 
 if __name__ == "__main__":

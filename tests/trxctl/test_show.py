@@ -13,12 +13,12 @@ class Show(HostTest):
         for line, (bus, address) in zip(lines[1:3], sorted([self.place(1), self.place(2)])):
             self.assertRegex(line, rf"^  TRX-SELVA \(bus {bus}, address {address}\), serial \S+$")
         self.assertEqual(lines[3:12], ["", "TRX-SELVA settings",
-                                       "  input audio channel 1   CH1 Control Tone PHONO",
+                                       "  input audio channel 1   CH1 Control Tone PHONO (default)",
                                        "  input audio channel 2   REC OUT",
-                                       "  input audio channel 3   REC OUT",
-                                       "  output audio channel 1  CH1",
-                                       "  output audio channel 2  CH2",
-                                       "  output audio channel 3  AUX",
+                                       "  input audio channel 3   REC OUT (default)",
+                                       "  output audio channel 1  CH1 (default)",
+                                       "  output audio channel 2  CH2 (default)",
+                                       "  output audio channel 3  AUX (default)",
                                        "  boost level             -10 dB"])
 
     def test_json(self):
@@ -37,19 +37,20 @@ class Show(HostTest):
                          [("input", 1), ("input", 2), ("input", 3), ("output", 1), ("output", 2),
                           ("output", 3), ("boost", None)])
         self.assertEqual(shown["settings"][4],
-                         {"setting": "output", "channel": 2, "index": 1, "text": "CH2"})
-        self.assertEqual(shown["settings"][6], {"setting": "boost", "index": 1, "text": "-10 dB"})
+                         {"setting": "output", "channel": 2, "index": 1, "text": "CH2",
+                          "stored": False})
+        self.assertEqual(shown["settings"][6], {"setting": "boost", "index": 1, "text": "-10 dB", "stored": True})
 
     def test_settings_are_those_of_the_model(self):
         self.store({"MaxLevel": 0}, "TRX-VOLT")
         shown = self.done("--json", "--model", "TRX-VOLT").json
         self.assertEqual((shown["model"], shown["product_id"]), ("TRX-VOLT", 1))
         self.assertEqual(shown["settings"], [
-            {"setting": "input", "channel": 1, "index": 1, "text": "CH1 Timecode CD"},
-            {"setting": "input", "channel": 2, "index": 1, "text": "CH2 Timecode CD"},
-            {"setting": "input", "channel": 3, "index": 5, "text": "REC OUT"},
-            {"setting": "boost", "index": 0, "text": "-5 dB"},
-            {"setting": "midi", "index": 0, "text": "CH 1"}])
+            {"setting": "input", "channel": 1, "index": 1, "text": "CH1 Timecode CD", "stored": False},
+            {"setting": "input", "channel": 2, "index": 1, "text": "CH2 Timecode CD", "stored": False},
+            {"setting": "input", "channel": 3, "index": 5, "text": "REC OUT", "stored": False},
+            {"setting": "boost", "index": 0, "text": "-5 dB", "stored": True},
+            {"setting": "midi", "index": 0, "text": "CH 1", "stored": False}])
 
     def test_no_mixer(self):
         self.unplug_all()
@@ -83,9 +84,17 @@ class Show(HostTest):
 
     def test_stored_number_out_of_range(self):
         self.store({"MaxLevel": 9})
-        self.assertIn("  boost level             9 (stored, but no boost level)\n", self.done().out)
+        self.assertIn("  boost level             9 (stored, but no boost level)\n",
+                      self.done_with_notes().out)
         self.assertEqual(self.done("--json").json["settings"][6],
-                         {"setting": "boost", "index": 9, "text": None})
+                         {"setting": "boost", "index": 9, "text": None, "stored": True})
+
+    def test_settings_file_that_cannot_be_used_is_told(self):
+        self.store({})
+        self.settings_file().write_text("no property list")
+        self.assertEqual(self.done_with_notes().err,
+                         f"warning: {self.settings_file()} cannot be used, so the defaults are "
+                         "shown; trxctl diagnose tells why\n")
 
     def test_sends_nothing_to_the_mixers(self):
         self.done()

@@ -32,13 +32,14 @@ class Status(HostTest):
                          "TRX-SELVA mixer status\n"
                          "  certify level       7\n"
                          "  firmware            258 (0x0102)\n"
-                         "  input selector 1    6\n"
+                         "  input selector 1    6, USB (first port)\n"
                          "  input selector 2    5\n"
                          "  input selector 3    0\n"
-                         "  input selector 4    7\n"
+                         "  input selector 4    7, USB (second port)\n"
                          "  Serato              active\n"
-                         "The firmware is that of the first of 2 mixers, "
-                         "the rest is that of the last.\n")
+                         "Mixers\n" + "".join(f"  {self.described(unit)}: answers\n"
+                                               for unit in sorted((1, 2), key=self.place)) +
+                         "The firmware is that of the first mixer, the rest that of the last.\n")
 
     def test_every_model_tells_what_it_has(self):
         for model, (certify, firmware, selectors, serato) in TELLS.items():
@@ -59,10 +60,16 @@ class Status(HostTest):
     def test_no_answer(self):
         for unit in (1, 2):
             self.mixer("fault", unit, "stall")
-        text = self.done("status").out
-        self.assertIn("  firmware            no answer\n", text)
-        self.assertIn("  Serato              no answer\n", text)
-        self.assertIsNone(self.done("status", "--json").json["serato"])
+        result = self.run_host("status")
+        self.assertEqual(result.code, 1)
+        for line in ("certify level       no answer", "firmware            no answer",
+                     "input selector 1    no answer", "Serato              no answer",
+                     f"{self.described(1)}: refused it", f"{self.described(2)}: refused it"):
+            self.assertIn(f"  {line}\n", result.out)
+        told = self.run_host("status", "--json").json
+        self.assertEqual((told["certify_level"], told["firmware"], told["serato"]), (None,) * 3)
+        self.assertEqual([one["position"] for one in told["input_selectors"]], [None] * 4)
+        self.assertEqual([mixer["result"] for mixer in told["mixers"]], ["refused"] * 2)
 
     def test_position_out_of_range(self):
         for unit in (1, 2):

@@ -36,19 +36,19 @@ class Changes(HostTest):
     def test_prints_each_change_in_order_also_without_a_difference(self):
         watching = self.watch("--json")
         for index in (0, 0, 1, 2, 2, 3):
-            self.done("boost", str(index))
+            self.done("boost", str(index + 1))
         self.assertEqual([watching.json_line()["index"] for _ in range(6)], [0, 0, 1, 2, 2, 3])
 
     def test_two_watchers_both_see_it(self):
         first, second = self.watch(), self.watch()
-        self.done("boost", "0")
+        self.done("boost", "1")
         for watching in (first, second):
             self.assertEqual(watching.line(), "TRX-SELVA boost level: -5 dB")
 
     def test_every_model(self):
         watching = self.watch("--json")
         for index, model in enumerate(MODELS):
-            self.done("boost", str(index % 4), "--model", model)
+            self.run_host("boost", str(index % 4 + 1), "--model", model)
             self.assertEqual(watching.json_line(), {
                 "event": "change", "model": model, "setting": "boost",
                 "index": index % 4, "text": LEVELS[index % 4]})
@@ -56,8 +56,8 @@ class Changes(HostTest):
     def test_only_the_model_named(self):
         watching = self.watch("--model", "trx-volt")
         self.assertEqual(self.started, "Watching TRX-VOLT; end with Ctrl-C.")
-        self.done("boost", "0")
-        self.done("boost", "1", "--model", "TRX-VOLT")
+        self.done("boost", "1")
+        self.run_host("boost", "2", "--model", "TRX-VOLT")
         self.assertEqual(watching.line(), "TRX-VOLT boost level: -10 dB")
 
     def test_settings_with_channels(self):
@@ -91,7 +91,7 @@ class Changes(HostTest):
         self.done("input", "2", "rec")
         self.done("output", "1", "aux")
         self.done("output", "1", "--default")
-        self.done("midi", "10", "--model", "TRX-VOLT")
+        self.run_host("midi", "10", "--model", "TRX-VOLT")
         self.assertEqual([watching.line() for _ in range(4)],
                          ["TRX-SELVA input audio channel 2: REC OUT",
                           "TRX-SELVA output audio channel 1: AUX",
@@ -101,7 +101,7 @@ class Changes(HostTest):
     def test_channel_that_the_model_does_not_have(self):
         watching = self.watch()
         announce("TRX-SELVA OutputAudio Change", ProductID=11, Channel=3, Index=0)
-        self.assertEqual(watching.line(), "TRX-SELVA output audio channel 4: choice 0")
+        self.assertEqual(watching.line(), "TRX-SELVA output audio channel 4: choice number 1")
 
     def test_midi_channel(self):
         watching = self.watch("--json")
@@ -115,12 +115,12 @@ class Changes(HostTest):
         announce("TRX-SELVA BoostLevel Change", ProductID=11, Index=9)
         self.assertEqual(watching.json_line(), {
             "event": "change", "model": "TRX-SELVA", "setting": "boost", "index": 9, "text": None})
-        self.assertEqual(plain.line(), "TRX-SELVA boost level: choice 9")
+        self.assertEqual(plain.line(), "TRX-SELVA boost level: choice number 10")
 
     def test_sending_again_is_no_change(self):
         watching = self.watch()
         self.done("boost", "--again")
-        self.done("boost", "1")
+        self.done("boost", "2")
         self.assertEqual(watching.line(), "TRX-SELVA boost level: -10 dB")
 
     def test_first_json_line_tells_what_is_watched(self):
@@ -142,7 +142,7 @@ class Ending(HostTest):
         watching = self.start_host("watch", "--count", "2")
         watching.line()
         for index in (0, 1, 2):
-            self.done("boost", str(index))
+            self.done("boost", str(index + 1))
         result = watching.end()
         self.assertEqual((result.code, result.err), (0, ""))
         self.assertEqual(result.out.splitlines(),
@@ -176,10 +176,39 @@ class Ending(HostTest):
         watching.line()
         watching.close_output()
         result = watching.end()
-        self.assertEqual(result.code, 6)
-        self.assertEqual(result.err,
-                         "trxctl: error: cannot write the output: its reader is gone\n"
-                         "hint: end with --count when only the first changes are wanted\n")
+        self.assertEqual((result.code, result.err), (6, ""))
+
+
+class Plugging(HostTest):
+    def test_mixers_are_told_when_they_are_unplugged_and_plugged_in(self):
+        plain, watching = self.start_host("watch"), self.start_host("watch", "--json")
+        plain.line()
+        watching.line()
+        gone = self.described(1)
+        bus, address = self.place(1)
+        self.mixer("unplug", 1)
+        self.assertEqual(plain.line(), f"{gone}: unplugged")
+        self.assertEqual(watching.json_line(), {
+            "event": "unplugged", "product": "TRX-SELVA", "bus": bus, "address": address,
+            "serial": "SIM00001"})
+        self.mixer("replug", 1)
+        self.assertEqual(plain.line(), f"{self.described(1)}: plugged in")
+        self.assertEqual(watching.json_line()["event"], "plugged")
+
+
+class Timestamps(HostTest):
+    def test_begin_each_line(self):
+        watching = self.start_host("watch", "--timestamps")
+        watching.line()
+        self.done("boost", "1")
+        self.assertRegex(watching.line(), r"^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}[+-]\d{4}  "
+                                          r"TRX-SELVA boost level: -5 dB$")
+
+    def test_json(self):
+        watching = self.start_host("watch", "--timestamps", "--json")
+        watching.line()
+        self.done("boost", "1")
+        self.assertRegex(watching.json_line()["time"], r"^\d{4}-\d\d-\d\dT")
 
 
 class WithoutBus(HostTest):
@@ -212,14 +241,52 @@ class WithoutBus(HostTest):
         self.addCleanup(bus.terminate)
         bus.stdout.readline()
         deadline = time.monotonic() + PATIENCE
-        while not watching.has_line(0.1) and time.monotonic() < deadline:
-            self.done("boost", "-10")
-        self.assertEqual(watching.line(), "TRX-SELVA boost level: -10 dB")
+        lines = []
+        while "TRX-SELVA boost level: -10 dB" not in lines and time.monotonic() < deadline:
+            self.run_host("boost", "-10")
+            while watching.has_line(0.1):
+                lines.append(watching.line())
+        self.assertEqual(set(lines), {"The session bus is back.", "TRX-SELVA boost level: -10 dB"})
 
     def test_settings_are_set_all_the_same(self):
-        self.done("boost", "-10")
+        result = self.done_with_notes("boost", "-10")
+        self.assertEqual(result.err,
+                         "note: there is no session bus, so no other program was told\n")
+        self.assertIs(self.done("boost", "-10", "--json").json["announced"], False)
         self.assertEqual(self.stored(), {"MaxLevel": 1})
-        self.assertEqual(self.levels_sent(), [(1, "0200"), (2, "0200")])
+        self.assertEqual(self.levels_sent(), [(1, "0200"), (1, "0200"), (2, "0200"), (2, "0200")])
+
+
+class DyingBus(HostTest):
+    def start_bus(self):
+        bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address",
+                                f"--address=unix:path={self.config}/bus"], stdout=subprocess.PIPE)
+        self.addCleanup(bus.stdout.close)
+        self.addCleanup(bus.wait)
+        self.addCleanup(bus.kill)
+        bus.stdout.readline()
+        return bus
+
+    def setUp(self):
+        super().setUp()
+        self.env["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={self.config}/bus"
+
+    def test_watch_tells_when_it_goes_and_comes(self):
+        bus = self.start_bus()
+        watching = self.start_host("watch", "--json")
+        self.assertIs(watching.json_line()["session_bus"], True)
+        bus.kill()
+        self.assertEqual(watching.json_line(), {"event": "session_bus", "reached": False})
+        (self.config / "bus").unlink()
+        self.start_bus()
+        self.assertEqual(watching.json_line(), {"event": "session_bus", "reached": True})
+
+    def test_bus_that_does_not_answer_is_told(self):
+        bus = self.start_bus()
+        bus.send_signal(signal.SIGSTOP)
+        result = self.done_with_notes("boost", "-10")
+        self.assertEqual(result.err,
+                         "note: the session bus does not answer, so no other program was told\n")
 
 
 if __name__ == "__main__":

@@ -3,6 +3,14 @@
 namespace client {
 
 // The system's own centre carries announcements, and it is always there.
-std::optional<bool> HasSessionBus() { return std::nullopt; }
+SessionBusState ReachSessionBus() { return SessionBusState::kNotNeeded; }
+
+SessionBusWatch::SessionBusWatch() = default;
+
+SessionBusWatch::~SessionBusWatch() = default;
+
+int SessionBusWatch::Descriptor() const { return -1; }
+
+SessionBusState SessionBusWatch::State() { return SessionBusState::kNotNeeded; }
 
 }  // namespace client

@@ -12,15 +12,19 @@ NSDictionary *ContentsOf(const std::string &file) {
   return path == nil ? nil : [NSDictionary dictionaryWithContentsOfFile:path];
 }
 
-}  // namespace
-
-std::optional<std::string> SettingsFolder() {
-  const AutoreleasePool pool;
-  NSArray *const folders =
-      NSSearchPathForDirectoriesInDomains(NSLibraryDirectory, NSUserDomainMask, YES);
-  if ([folders count] == 0) return std::nullopt;
-  return CharactersOf([[folders objectAtIndex:0] stringByAppendingPathComponent:@"Preferences"]);
+std::vector<std::string> NumberKeysOf(NSDictionary *dictionary) {
+  std::vector<std::string> keys;
+  NSEnumerator *const enumerator = [dictionary keyEnumerator];
+  for (id key = [enumerator nextObject]; key != nil; key = [enumerator nextObject]) {
+    id value = [dictionary objectForKey:key];
+    const bool isNumber =
+        [value isKindOfClass:[NSNumber class]] || [value isKindOfClass:[NSString class]];
+    if (isNumber) keys.push_back(CharactersOf([key description]).value_or(""));
+  }
+  return keys;
 }
+
+}  // namespace
 
 FileState StateOfFile(const std::string &file) {
   const AutoreleasePool pool;
@@ -29,7 +33,9 @@ FileState StateOfFile(const std::string &file) {
   if (![files fileExistsAtPath:PathOf(file) isDirectory:&isFolder]) return {};
   if (isFolder) return {true, FileProblem::kNoFile};
   if (![files isReadableFileAtPath:PathOf(file)]) return {true, FileProblem::kUnreadable};
-  return {true, ContentsOf(file) == nil ? FileProblem::kNoList : FileProblem::kNone};
+  NSDictionary *const contents = ContentsOf(file);
+  if (contents == nil) return {true, FileProblem::kNoList};
+  return {true, FileProblem::kNone, 0, NumberKeysOf(contents)};
 }
 
 }  // namespace client

@@ -47,6 +47,7 @@ Check CheckAccess(const Mixer &mixer, int refusal) {
   Check check{.part = CheckedPart::kAccess, .mixers = {mixer}, .reason = refusal};
   if (refusal == EACCES || refusal == EPERM) {
     check.names = FoldersWithRule(UdevRuleFolders());
+    check.path = RuleBesideProgram();
     check.finding = check.names.empty() ? Finding::kNoRule : Finding::kRuleWithoutEffect;
   } else if (refusal == EBUSY) {
     check.finding = Finding::kHeld;
@@ -72,7 +73,9 @@ std::vector<Check> CheckMixers() {
     if (checks.back().IsGood()) checks.push_back(CheckAccess(mixer, refusal));
     canBeAsked = canBeAsked || refusal == 0;
   }
-  if (canBeAsked) checks.push_back(CheckAnswer());
+  if (!canBeAsked) return checks;
+  const std::vector<Check> answers = CheckAnswers();
+  checks.insert(checks.end(), answers.begin(), answers.end());
   return checks;
 }
 

@@ -9,8 +9,6 @@
 #include <type_traits>
 
 #include <plist/plist.h>
-#include <pwd.h>
-#include <unistd.h>
 
 namespace client {
 namespace {
@@ -26,44 +24,66 @@ constexpr std::string_view kBinaryMagic = "bplist00";
 /// The first bytes of a binary list and its trailer, with an object and its offset between them.
 constexpr std::size_t kSmallestBinary = 8 + 2 + 32;
 
-std::optional<std::string> Absolute(const char *path) {
-  if (path == nullptr || *path != '/') return std::nullopt;
-  return path;
-}
-
-std::optional<std::string> ConfigurationFolder() {
-  if (auto folder = Absolute(std::getenv("XDG_CONFIG_HOME"))) return folder;
-  auto home = Absolute(std::getenv("HOME"));
-  const passwd *account = home ? nullptr : getpwuid(getuid());
-  if (account != nullptr) home = Absolute(account->pw_dir);
-  if (!home) return std::nullopt;
-  return *home + "/.config";
-}
-
 struct PlistFree {
   void operator()(void *node) const { plist_free(node); }
 };
 
-/// As far as it can be told at no risk.
-bool MayBeDictionary(const std::string &contents) {
+/// Whether the library takes a value for a number.
+bool IsNumber(plist_t value) {
+  switch (plist_get_node_type(value)) {
+    case PLIST_BOOLEAN:
+    case PLIST_UINT:
+    case PLIST_REAL:
+      return true;
+    case PLIST_STRING:
+      break;
+    default:
+      return false;
+  }
+  const std::string text = plist_get_string_ptr(value, nullptr);
+  char *end = nullptr;
+  std::strtoll(text.c_str(), &end, 10);
+  return !text.empty() && *end == '\0';
+}
+
+std::vector<std::string> NumberKeysOf(plist_t dictionary) {
+  std::vector<std::string> keys;
+  plist_dict_iter iterator = nullptr;
+  plist_dict_new_iter(dictionary, &iterator);
+  for (;;) {
+    char *key = nullptr;
+    plist_t value = nullptr;
+    plist_dict_next_item(dictionary, iterator, &key, &value);
+    if (value == nullptr) break;
+    if (IsNumber(value)) keys.emplace_back(key);
+    std::free(key);
+  }
+  std::free(iterator);
+  return keys;
+}
+
+/// As far as it can be told without risk.
+FileState StateOfContents(const std::string &contents) {
+  FileState state{.exists = true};
   // A binary list can name an object many times over, and the parser would copy it each time.
-  if (contents.starts_with(kBinaryMagic)) return contents.size() >= kSmallestBinary;
-  if (contents.size() > kLargestParsed) return true;
+  if (contents.starts_with(kBinaryMagic)) {
+    if (contents.size() < kSmallestBinary) state.problem = FileProblem::kNoList;
+    return state;
+  }
+  if (contents.size() > kLargestParsed) return state;
   plist_t root = nullptr;
   plist_from_xml(contents.data(), static_cast<uint32_t>(contents.size()), &root);
   const std::unique_ptr<std::remove_pointer_t<plist_t>, PlistFree> owner(root);
-  return root != nullptr && plist_get_node_type(root) == PLIST_DICT;
+  if (root == nullptr || plist_get_node_type(root) != PLIST_DICT) {
+    state.problem = FileProblem::kNoList;
+  } else {
+    state.keys = NumberKeysOf(root);
+  }
+  return state;
 }
 
 }  // namespace
 
-std::optional<std::string> SettingsFolder() {
-  const auto configuration = ConfigurationFolder();
-  if (!configuration) return std::nullopt;
-  return *configuration + "/orvikaudio/Preferences";
-}
-
-// A large or a binary list is not looked into.
 FileState StateOfFile(const std::string &file) {
   std::error_code error;
   const auto status = std::filesystem::status(file, error);
@@ -72,8 +92,7 @@ FileState StateOfFile(const std::string &file) {
   if (std::filesystem::file_size(file, error) > kLargestRead) return {true, FileProblem::kTooLarge};
   std::ifstream stream(file, std::ios::binary);
   if (!stream) return {true, FileProblem::kUnreadable, errno};
-  const std::string contents{std::istreambuf_iterator<char>(stream), {}};
-  return {true, MayBeDictionary(contents) ? FileProblem::kNone : FileProblem::kNoList};
+  return StateOfContents({std::istreambuf_iterator<char>(stream), {}});
 }
 
 }  // namespace client

@@ -1,6 +1,7 @@
 #include "UdevRule.h"
 
 #include <array>
+#include <filesystem>
 
 #include <unistd.h>
 
@@ -20,6 +21,17 @@ std::vector<std::string> FoldersWithRule(std::span<const std::string_view> folde
     if (access(file.c_str(), F_OK) == 0) found.emplace_back(folder);
   }
   return found;
+}
+
+std::string RuleBesideProgram() {
+  std::error_code error;
+  const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+  const auto prefix = program.parent_path().parent_path();
+  for (const char *folder : {"lib/udev/rules.d", "packaging"}) {
+    const auto file = prefix / folder / kUdevRule;
+    if (std::filesystem::exists(file, error)) return file.string();
+  }
+  return std::string(kUdevRule);
 }
 
 }  // namespace client

@@ -16,4 +16,7 @@ std::span<const std::string_view> UdevRuleFolders();
 /// Those of the folders in which the rule is installed.
 std::vector<std::string> FoldersWithRule(std::span<const std::string_view> folders);
 
+/// The rule that was installed, or built, with this program; its name alone when it is not there.
+std::string RuleBesideProgram();
+
 }  // namespace client

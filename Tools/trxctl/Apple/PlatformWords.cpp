@@ -3,7 +3,6 @@
 namespace trxctl {
 
 const PlatformWords kPlatformWords{
-    .notStored = "the folder Preferences in ~/Library must be writable",
     .withoutHome = "log in as a user with a home folder",
     .withoutVersionFiles =
         "install the framework again; only on macOS 10.11 to 10.15 the library finds its files "

@@ -54,7 +54,8 @@ class RunLoop : public WatchLoop {
     sigprocmask(SIG_BLOCK, &signals, nullptr);
   }
 
-  Waited Wait(const std::optional<Clock::time_point> &deadline) override {
+  Waited Wait(const std::optional<Clock::time_point> &deadline,
+              const std::array<int, 2> & /*others*/) override {
     if (IsEndAsked()) return Waited::kForEndSignal;
     if (IsReaderGone()) return Waited::kForReader;
     const Seconds left = deadline ? Seconds(*deadline - Clock::now()) : kTurn;

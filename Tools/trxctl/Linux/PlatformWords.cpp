@@ -3,7 +3,6 @@
 namespace trxctl {
 
 const PlatformWords kPlatformWords{
-    .notStored = "the folder orvikaudio in ~/.config (or in $XDG_CONFIG_HOME) must be writable",
     .withoutHome = "set HOME or XDG_CONFIG_HOME to a folder of this user",
     .withoutVersionFiles =
         "install the library again, or let TRX_SYSTEM_ROOT name the folder where they are",

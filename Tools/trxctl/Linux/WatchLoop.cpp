@@ -59,12 +59,15 @@ class DescriptorLoop : public WatchLoop {
     }
   }
 
-  Waited Wait(const std::optional<Clock::time_point> &deadline) override {
+  Waited Wait(const std::optional<Clock::time_point> &deadline,
+              const std::array<int, 2> &others) override {
     for (;;) {
-      std::array<pollfd, 3> wait{{{descriptor_, POLLIN, 0},
+      std::array<pollfd, 5> wait{{{descriptor_, POLLIN, 0},
                                   {signals_.Descriptor(), POLLIN, 0},
                                   // No events: wakes up only when the reader of our output is gone.
-                                  {STDOUT_FILENO, 0, 0}}};
+                                  {STDOUT_FILENO, 0, 0},
+                                  {others[0], POLLIN, 0},
+                                  {others[1], POLLIN, 0}}};
       const int ready = poll(wait.data(), wait.size(), MillisecondsUntil(deadline));
       if (ready < 0 && errno != EINTR) ThrowCannotWait(errno);
       if (wait[1].revents != 0) return Waited::kForEndSignal;
@@ -73,6 +76,7 @@ class DescriptorLoop : public WatchLoop {
         ORV_DispatchNotifications();
         return Waited::kForDelivery;
       }
+      if (wait[3].revents != 0 || wait[4].revents != 0) return Waited::kForOthers;
       if (ready == 0 && MillisecondsUntil(deadline) == 0) return Waited::kForTime;
     }
   }

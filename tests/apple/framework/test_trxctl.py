@@ -81,10 +81,10 @@ class TrxctlTest(unittest.TestCase):
 class Settings(TrxctlTest):
     def test_choice_reaches_the_mixers_and_the_settings_file(self):
         self.plug(2)
-        self.assertEqual(self.trxctl("boost", "1"), (
+        self.assertEqual(self.trxctl("boost", "2"), (
             0,
             "TRX-SELVA boost level set to -10 dB.\n"
-            "Sent; the system does not tell to how many mixers.\n", ""))
+            "Sent to 2 of 2 connected mixers.\n", ""))
         self.assertEqual(self.log().count("wValue 0200  wIndex 8003  wLength 0"), 2)
         with open(self.settings, "rb") as file:
             self.assertEqual(plistlib.load(file), {"MaxLevel": 1})
@@ -93,12 +93,14 @@ class Settings(TrxctlTest):
         self.plug(1)
         self.settings.parent.rmdir()
         self.settings.parent.touch()
-        code, out, err = self.trxctl("boost", "1")
-        self.assertEqual((code, out), (8, ""))
+        code, out, err = self.trxctl("boost", "2")
+        self.assertEqual((code, out), (8, "TRX-SELVA boost level set to -10 dB.\n"
+                                          "Sent to 1 of 1 connected mixer.\n"))
         # Before it stands what GNUstep itself has to say.
         self.assertTrue(err.endswith(
-            "trxctl: error: the boost level was sent, but could not be stored\n"
-            "hint: the folder Preferences in ~/Library must be writable\n"), err)
+            "trxctl: error: the boost level could not be stored: "
+            f"{self.settings.parent}: Not a directory\n"
+            "hint: trxctl diagnose tells what is wrong and what to do\n"), err)
 
     def test_settings_are_shown_without_a_mixer(self):
         self.plug(0)
@@ -107,13 +109,13 @@ class Settings(TrxctlTest):
             "No mixer is connected.\n"
             "\n"
             "TRX-SELVA settings\n"
-            "  input audio channel 1   CH1 Control Tone PHONO\n"
-            "  input audio channel 2   CH2 Control Tone PHONO\n"
-            "  input audio channel 3   REC OUT\n"
-            "  output audio channel 1  CH1\n"
-            "  output audio channel 2  CH2\n"
-            "  output audio channel 3  AUX\n"
-            "  boost level             -19 dB\n", ""))
+            "  input audio channel 1   CH1 Control Tone PHONO (default)\n"
+            "  input audio channel 2   CH2 Control Tone PHONO (default)\n"
+            "  input audio channel 3   REC OUT (default)\n"
+            "  output audio channel 1  CH1 (default)\n"
+            "  output audio channel 2  CH2 (default)\n"
+            "  output audio channel 3  AUX (default)\n"
+            "  boost level             -19 dB (default)\n", ""))
 
     def test_mixers_are_seen_but_not_told_apart(self):
         self.plug(2)
@@ -145,7 +147,7 @@ class Watch(TrxctlTest):
         watch, start = self.watch("--count", "1", "--timeout", str(PATIENCE))
         self.assertEqual(start, "Watching TRX-Arden, TRX-VOLT, TRX-HALDEN, TRX-LUMEN, TRX-MORROW,"
                                 " TRX-SELVA; end with Ctrl-C.\n")
-        self.assertEqual(self.trxctl("boost", "1")[0], 0)
+        self.assertEqual(self.trxctl("boost", "2")[0], 0)
         out, err = watch.communicate(timeout=PATIENCE)
         self.assertEqual((watch.returncode, out, err),
                          (0, "TRX-SELVA boost level: -10 dB\n", ""))
