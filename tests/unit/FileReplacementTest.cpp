@@ -497,6 +497,23 @@ TEST_F(FileReplacement, WhoseUnfinishedFileWasRemovedStartsAgain) {
   ExpectNothingBeside();
 }
 
+// As on a file system that gives a file another inode number whenever it is asked.
+TEST_F(FileReplacement, OfAFileThatAlwaysLooksChangedIsDoneNevertheless) {
+  WriteBytes(path_, "old");
+  SteppedProcess writer(Adding("a", kSystems.front()));
+  // Another program's file beside it does not count as a writer's.
+  WriteBytes(folder_ / ".settings.new.swp", "");
+  int attempts = 0;
+  while (StepToCall(writer, SYS_linkat)) {
+    ++attempts;
+    Edit("old");
+  }
+  EXPECT_EQ(attempts, 25);
+  EXPECT_TRUE(writer.RunToEnd());
+  EXPECT_EQ(ReadBytes(path_), "olda");
+  EXPECT_THAT(folder_.Names(), ElementsAre(".settings.new.swp", "settings"));
+}
+
 TEST_F(FileReplacement, ThatPutsAnEditBackLosesNothingOfALaterOneEither) {
   bool isAtWork = true;
   for (int more = 1; isAtWork && !HasFailure(); ++more) {

@@ -24,7 +24,8 @@
 //
 // On file systems without files that have no name, the new file has a name from the start, and a
 // lock that ends with its writer and shows others whether it is still running. Where files cannot
-// be exchanged, step 4 is a rename, and only an editor's change between 3 and 4 can be lost.
+// be exchanged, step 4 is a rename, and only an editor's change between 3 and 4 can be lost. Where
+// files cannot be told apart, step 3 is left out as well.
 #include "FileReplacement.h"
 
 #include <algorithm>
@@ -62,7 +63,17 @@ constexpr mode_t kOwnerOnly = 0600;
 // Each attempt after the first means that another program has changed the file.
 constexpr int kMostAttempts = 2000;
 
-enum class Result { kReplaced, kOvertaken, kFailed };
+// Some file systems give one file another number or time whenever they are asked. So many attempts
+// in a row in which the file looked changed, with the same contents and no other writer's file
+// beside it, mean that this is one.
+constexpr int kMostFalseChanges = 24;
+
+enum class Result {
+  kReplaced,
+  kOvertaken,
+  kChanged,  // overtaken, but no other writer was seen
+  kFailed
+};
 
 // --- The place of the file -----------------------------------------------------------------------
 
@@ -72,7 +83,8 @@ bool MayFollow(const struct stat &link, const struct stat &target) {
   return link.st_uid == target.st_uid || link.st_uid == geteuid() || link.st_uid == 0;
 }
 
-// Whether a folder is behind a link that must not be followed.
+// Whether a folder is behind a link that must not be followed. The links are looked at before the
+// folder is opened or made: a user who replaces a folder by a link between the two is not noticed.
 bool IsBehindForeignLink(const std::string &folder) {
   struct stat link = {};
   struct stat target = {};
@@ -123,6 +135,7 @@ struct Place {
 
   File folder;
   std::string name;
+  bool tellsFilesApart = true;
 };
 
 // The file that was found there and will be replaced.
@@ -378,22 +391,29 @@ std::optional<std::vector<std::string>> NamesIn(int folder) {
   }
 }
 
-// Includes the files of killed writers and of running ones, which then start again. False when
-// there may be others.
-bool TakeAwayAllBut(const std::string &own, const Place &place) {
+enum class Others { kNone, kSome, kUnknown };
+
+// Includes the files of killed writers and of running ones, which then start again.
+Others TakeAwayAllBut(const std::string &own, const Place &place) {
   const std::string beside = place.Beside();
   const auto names = NamesIn(place.Folder());
-  if (!names) return false;
+  if (!names) return Others::kUnknown;
+  Others others = Others::kNone;
   for (const std::string &name : *names) {
     if (!name.starts_with(beside) || name == own) continue;
     const std::string_view rest = std::string_view(name).substr(beside.size());
     const std::string_view kind = rest.substr(0, kAnnounced.size());
-    if (kind == kUnfinished) RemoveUnlessAlive(place, name);
-    if (kind != kAnnounced && kind != kTaken) continue;
     const auto announcement = AnnouncementIn(rest.substr(kind.size()));
-    if (announcement) TakeAway(place, *announcement, name);
+    if (kind == kUnfinished) {
+      RemoveUnlessAlive(place, name);
+    } else if ((kind == kAnnounced || kind == kTaken) && announcement) {
+      TakeAway(place, *announcement, name);
+    } else {
+      continue;
+    }
+    others = Others::kSome;
   }
-  return true;
+  return others;
 }
 
 // --- Taking the old file's place -----------------------------------------------------------------
@@ -444,22 +464,24 @@ Result ReplaceWithoutExchange(const Place &place, const Announcement &announceme
 
 Result Exchange(const Place &place, const OldFile &old, const Announcement &announcement) {
   const std::string announced = announcement.Name(place, kAnnounced);
-  if (!TakeAwayAllBut(announced, place)) {
-    unlinkat(place.Folder(), announced.c_str(), 0);
-    return Result::kFailed;
+  const auto result = [&](Result reached) {
+    if (reached != Result::kReplaced) unlinkat(place.Folder(), announced.c_str(), 0);
+    return reached;
+  };
+  const Others others = TakeAwayAllBut(announced, place);
+  if (others == Others::kUnknown) return result(Result::kFailed);
+  if (!place.tellsFilesApart) return result(ReplaceByRename(place, announcement));
+  if (!IsStillThere(place, old)) {
+    return result(others == Others::kNone ? Result::kChanged : Result::kOvertaken);
   }
-  const bool isSame = IsStillThere(place, old);
   const unsigned how = HasPlace(old) ? RENAME_EXCHANGE : RENAME_NOREPLACE;
-  if (isSame && Rename(place, announced, place.name, how)) {
-    if (!HasPlace(old)) return Result::kReplaced;
-    // Another writer may already have done this, and then the old file is not known.
-    const Found found = Settle(place, announcement, announced);
-    return found == Found::kOldFile ? Result::kReplaced : Result::kOvertaken;
+  if (!Rename(place, announced, place.name, how)) {
+    return result(ReplaceWithoutExchange(place, announcement, errno));
   }
-  const Result result =
-      isSame ? ReplaceWithoutExchange(place, announcement, errno) : Result::kOvertaken;
-  if (result != Result::kReplaced) unlinkat(place.Folder(), announced.c_str(), 0);
-  return result;
+  if (!HasPlace(old)) return Result::kReplaced;
+  // Another writer may already have done this, and then the old file is not known.
+  const Found found = Settle(place, announcement, announced);
+  return found == Found::kOldFile ? Result::kReplaced : Result::kOvertaken;
 }
 
 // --- The new file --------------------------------------------------------------------------------
@@ -509,7 +531,7 @@ std::optional<Result> ReplaceByUnnamedFile(const Place &place, const OldFile &ol
   if (!announcement) return Result::kFailed;
   // Without an old file, one step is enough: linking fails if the name exists.
   const std::string name = HasPlace(old) ? announcement->Name(place, kAnnounced) : place.name;
-  if (!HasPlace(old) && !TakeAwayAllBut("", place)) return Result::kFailed;
+  if (!HasPlace(old) && TakeAwayAllBut("", place) == Others::kUnknown) return Result::kFailed;
   switch (const int error = GiveName(file.Descriptor(), place, name)) {
     case 0:
       return HasPlace(old) ? Exchange(place, old, *announcement) : Result::kReplaced;
@@ -555,16 +577,26 @@ std::optional<std::string> Changed(const OldFile &old, const ContentsChange &cha
   return old.outcome == ReadOutcome::kRead ? change(old.contents) : change(std::nullopt);
 }
 
-Result TryToChange(const std::string &path, std::size_t most, const ContentsChange &change) {
+// Changes of the file in a row that may be false.
+struct FalseChanges {
+  std::string contents;
+  int count = 0;
+};
+
+Result TryToChange(const std::string &path, std::size_t most, const ContentsChange &change,
+                   FalseChanges &changes) {
   Place place(path);
   if (!place.folder.IsOpen()) return Result::kFailed;
   const OldFile old = FindOldFile(path, most, place);
+  if (old.contents != changes.contents) changes = {old.contents};
+  place.tellsFilesApart = changes.count < kMostFalseChanges;
   const std::optional<std::string> contents = Changed(old, change);
   if (!contents) return Result::kFailed;
   std::optional<Result> result = ReplaceByUnnamedFile(place, old, *contents);
   if (!result) result = ReplaceByNamedFile(place, old, *contents);
   // A power cut must not undo the new name either.
   if (*result == Result::kReplaced) fsync(place.Folder());
+  changes.count = *result == Result::kChanged ? changes.count + 1 : 0;
   return *result;
 }
 
@@ -577,9 +609,12 @@ void LetOthersFinish(int attempt) {
 }  // namespace
 
 bool ChangeFileContents(const std::string &path, std::size_t most, const ContentsChange &change) {
+  FalseChanges changes;
   for (int attempt = 1; attempt <= kMostAttempts; ++attempt) {
-    const Result result = TryToChange(path, most, change);
-    if (result != Result::kOvertaken) return result == Result::kReplaced;
+    const Result result = TryToChange(path, most, change, changes);
+    if (result == Result::kReplaced || result == Result::kFailed) {
+      return result == Result::kReplaced;
+    }
     LetOthersFinish(attempt);
   }
   return false;
