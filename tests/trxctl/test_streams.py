@@ -10,6 +10,32 @@ HINT = "the command itself may have been carried out; look at where the output g
 ESCAPE = "\033["
 
 
+class Waiting(HostTest):
+    """What a person at a terminal sees while a mixer does not answer."""
+
+    def test_tells_what_it_waits_for(self):
+        self.mixer("fault", 1, "no-reply")
+        self.unplug(2)
+        ours, its = pty.openpty()
+        try:
+            result = self.run_host("boost", "-10", stderr=its)
+            shown = os.read(ours, 65536).decode()
+        finally:
+            os.close(ours)
+            os.close(its)
+        self.assertEqual(result.code, 9)
+        bus, address = self.place(1)
+        self.assertRegex(shown, rf"^\rWaiting for TRX-SELVA \(bus {bus}, address {address}\), for \d "
+                                r"s at most\033\[K")
+        # Nothing of it stays.
+        self.assertIn("\r\033[K", shown)
+        self.assertIn(f"{self.described(1)}, did not answer", shown)
+
+    def test_says_nothing_where_nobody_sees_it(self):
+        self.mixer("fault", 1, "no-reply")
+        self.assertNotIn("Waiting", self.run_host("boost", "-10").err)
+
+
 class Failing(HostTest):
     def assert_output_fails(self, words, reason, **options):
         result = self.run_host(*words, **options)
