@@ -30,7 +30,7 @@ class Desk(unittest.TestCase):
         sources = cls.root.path / "tmp/consumer"
         shutil.copytree(PROJECT / "tests/installation/packages/consumer", sources)
         subprocess.run([sys.executable, "-B", PROJECT / "tests/installation/hosts/extract_example.py",
-                        PROJECT / "include/TRX-SELVASetup/TRX-SELVASetup.h", sources / "host.c"], check=True)
+                        PROJECT / "README.md", sources / "host.c"], check=True)
         cls.root.run("chown", "--recursive", USER, "/tmp/consumer")
 
     def as_user(self, script):
