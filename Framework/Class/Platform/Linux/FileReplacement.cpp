@@ -462,22 +462,38 @@ Result ReplaceWithoutExchange(const Place &place, const Announcement &announceme
   return SaysUnsupported(error) ? ReplaceByRename(place, announcement) : Result::kFailed;
 }
 
-Result Exchange(const Place &place, const OldFile &old, const Announcement &announcement) {
-  const std::string announced = announcement.Name(place, kAnnounced);
-  const auto result = [&](Result reached) {
-    if (reached != Result::kReplaced) unlinkat(place.Folder(), announced.c_str(), 0);
-    return reached;
-  };
+// Removes a writer's announced file, also when memory runs out, unless it was exchanged.
+class Withdrawal {
+ public:
+  Withdrawal(const Place &place, const std::string &announced)
+      : place_(place), announced_(announced) {}
+  Withdrawal(const Withdrawal &) = delete;
+  Withdrawal &operator=(const Withdrawal &) = delete;
+  ~Withdrawal() {
+    if (!isCancelled_) unlinkat(place_.Folder(), announced_.c_str(), 0);
+  }
+  void Cancel() { isCancelled_ = true; }
+
+ private:
+  const Place &place_;
+  const std::string &announced_;
+  bool isCancelled_ = false;
+};
+
+Result Exchange(const Place &place, const OldFile &old, const Announcement &announcement,
+                const std::string &announced) {
+  Withdrawal withdrawal(place, announced);
   const Others others = TakeAwayAllBut(announced, place);
-  if (others == Others::kUnknown) return result(Result::kFailed);
-  if (!place.tellsFilesApart) return result(ReplaceByRename(place, announcement));
+  if (others == Others::kUnknown) return Result::kFailed;
+  if (!place.tellsFilesApart) return ReplaceByRename(place, announcement);
   if (!IsStillThere(place, old)) {
-    return result(others == Others::kNone ? Result::kChanged : Result::kOvertaken);
+    return others == Others::kNone ? Result::kChanged : Result::kOvertaken;
   }
   const unsigned how = HasPlace(old) ? RENAME_EXCHANGE : RENAME_NOREPLACE;
   if (!Rename(place, announced, place.name, how)) {
-    return result(ReplaceWithoutExchange(place, announcement, errno));
+    return ReplaceWithoutExchange(place, announcement, errno);
   }
+  withdrawal.Cancel();
   if (!HasPlace(old)) return Result::kReplaced;
   // Another writer may already have done this, and then the old file is not known.
   const Found found = Settle(place, announcement, announced);
@@ -534,7 +550,7 @@ std::optional<Result> ReplaceByUnnamedFile(const Place &place, const OldFile &ol
   if (!HasPlace(old) && TakeAwayAllBut("", place) == Others::kUnknown) return Result::kFailed;
   switch (const int error = GiveName(file.Descriptor(), place, name)) {
     case 0:
-      return HasPlace(old) ? Exchange(place, old, *announcement) : Result::kReplaced;
+      return HasPlace(old) ? Exchange(place, old, *announcement, name) : Result::kReplaced;
     case EEXIST:
       return Result::kOvertaken;
     default:
@@ -550,8 +566,9 @@ Result ReplaceByNamedFile(const Place &place, const OldFile &old, std::string_vi
   if (!ShowLife(file.Descriptor())) return Result::kOvertaken;
   if (Fill(file.Descriptor(), place, old, contents)) {
     const auto announcement = Announce(file.Descriptor(), old);
-    if (announcement && Rename(place, name, announcement->Name(place, kAnnounced))) {
-      return Exchange(place, old, *announcement);
+    const std::string announced = announcement ? announcement->Name(place, kAnnounced) : "";
+    if (announcement && Rename(place, name, announced)) {
+      return Exchange(place, old, *announcement, announced);
     }
     // Another writer took it for abandoned.
     if (announcement && errno == ENOENT) return Result::kOvertaken;
