@@ -19,7 +19,10 @@ std::optional<std::string> Nearest(std::string_view given,
 template <typename Integer>
 std::optional<Integer> NumberIn(std::string_view text, int base = 10) {
   Integer number{};
+  // cppcheck takes the text of a caller for gone, though it outlives the call.
+  // cppcheck-suppress invalidLifetime
   const char *end = text.data() + text.size();
+  // cppcheck-suppress invalidLifetime
   const auto [rest, error] = std::from_chars(text.data(), end, number, base);
   if (error != std::errc() || rest != end) return std::nullopt;
   return number;
