@@ -13,11 +13,11 @@ namespace trxctl {
 /// What every command is run with.
 struct Session {
   const client::Model &model;
-  /// False when the command line names no model and the default is used.
+  /// False when --model names none, whether TRXCTL_MODEL does or not.
   bool isModelGiven;
   const Output &output;
 
-  /// The models that a command is about that looks at all of them unless one is named.
+  /// The models that a command is about that looks at all of them unless --model names one.
   std::vector<const client::Model *> Models() const {
     return isModelGiven ? std::vector{&model} : client::ServedModels();
   }

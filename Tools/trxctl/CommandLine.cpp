@@ -112,7 +112,8 @@ class Program {
  private:
   ExitCode RunChosen(const Output &output) const {
     const std::optional<std::string> model = model_ ? model_ : ModelOfEnvironment();
-    const Session session{model ? ModelNamed(*model) : UnnamedModel(), model.has_value(), output};
+    // The variable is a preference: it must not keep a profile of another model from being loaded.
+    const Session session{model ? ModelNamed(*model) : UnnamedModel(), model_.has_value(), output};
     const auto chosen = std::find_if(commands_.begin(), commands_.end(),
                                      [](const Command &command) { return command.app->parsed(); });
     if (chosen != commands_.end()) return chosen->run(session);

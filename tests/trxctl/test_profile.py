@@ -348,6 +348,15 @@ class Loading(ProfileTest):
                          "leave out --model: a profile is loaded for its own model")
         self.done("profile", "load", "gig", "--model", "selva")
 
+    def test_variable_for_the_model_does_not_decide_for_a_profile(self):
+        self.env["TRXCTL_MODEL"] = "volt"
+        self.assertEqual(self.done("profile", "show", "gig", "--json").json["model"], "TRX-SELVA")
+        listed = self.done("profile", "list", "--json").json["profiles"]
+        self.assertIn(("gig", "TRX-SELVA"), [(one["profile"], one["model"]) for one in listed])
+        self.assertEqual(self.done("profile", "load", "gig", "--json").json["model"], "TRX-SELVA")
+        self.assertEqual(self.stored(), CHOSEN)
+        self.assertIsNone(self.stored("TRX-VOLT"))
+
     def test_settings_of_another_model(self):
         self.save("volt", {"MidiChannel": 9, "MaxLevel": 0}, "TRX-VOLT")
         self.store({"MidiChannel": 1}, "TRX-VOLT")
