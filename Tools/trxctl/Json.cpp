@@ -68,4 +68,10 @@ Json DeliveryAsJson(const client::Delivery &delivery) {
   return json;
 }
 
+Json ResultAsJson(const client::SendResult &result) {
+  Json json{{"status", result.status}};
+  json.update(DeliveryAsJson(result.delivery));
+  return json;
+}
+
 }  // namespace trxctl

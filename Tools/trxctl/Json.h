@@ -31,4 +31,7 @@ Json AccessAsJson(const client::MixerResult &result);
 /// The members "connected", "sent_to" and "mixers", each mixer with its result.
 Json DeliveryAsJson(const client::Delivery &delivery);
 
+/// The member "status", as the library answered, and those of the delivery.
+Json ResultAsJson(const client::SendResult &result);
+
 }  // namespace trxctl

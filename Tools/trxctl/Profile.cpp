@@ -208,7 +208,7 @@ class LoadReport {
     const client::Delivery &delivery = sent.result.delivery;
     Json entry = ChoiceOf(choice);
     entry["stored"] = sent.result.isStored;
-    entry.update(DeliveryAsJson(delivery));
+    entry.update(ResultAsJson(sent.result));
     if (client::IsWarningFor(choice.setting, sent.result, choice.index)) {
       const std::string warning = WarningOf(choice.setting);
       warnings_.Add(warning, TitleOf(choice.setting));

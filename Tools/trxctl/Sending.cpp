@@ -38,10 +38,10 @@ Answer Planned(const client::Setting &setting, std::string_view action, const st
   return answer;
 }
 
-void AddDelivery(Answer &answer, const client::Setting &setting, const client::Delivery &delivery) {
-  answer.json.update(DeliveryAsJson(delivery));
-  answer.text += DeliveryAsText(delivery);
-  const std::vector<std::string> warnings = OtherModelWarnings(*setting.model, delivery);
+void AddResult(Answer &answer, const client::Setting &setting, const client::SendResult &result) {
+  answer.json.update(ResultAsJson(result));
+  answer.text += DeliveryAsText(result.delivery);
+  const std::vector<std::string> warnings = OtherModelWarnings(*setting.model, result.delivery);
   answer.notes.insert(answer.notes.end(), warnings.begin(), warnings.end());
 }
 
@@ -173,7 +173,7 @@ ExitCode SetChoice(const Session &session, const client::Setting &setting, const
   Answer answer = Started(setting, "set", "set to " + ChoiceAsText(setting, choice));
   answer.json.update(ChoiceAsJson(setting, choice));
   answer.json["stored"] = result.isStored;
-  AddDelivery(answer, setting, result.delivery);
+  AddResult(answer, setting, result);
   if (!result.delivery.isConnected) {
     answer.text += std::string("No mixer is connected; the setting is ") +
                    (result.isStored ? "stored all the same.\n" : "not stored either.\n");
@@ -229,7 +229,7 @@ ExitCode SendAgain(const Session &session, const client::Setting &setting,
   RequireReachable(result.delivery, kNothingSent);
   Answer answer = Started(setting, "again", "sent again: " + CurrentAsText(setting));
   answer.json.update(CurrentAsJson(setting));
-  AddDelivery(answer, setting, result.delivery);
+  AddResult(answer, setting, result);
   answer.failure = DeliveryFailure(result.delivery);
   return session.output.Print(answer);
 }
@@ -252,7 +252,7 @@ ExitCode SendDefault(const Session &session, const client::Setting &setting,
                  '\n';
   answer.json.update(ChoiceAsJson(setting, standard));
   answer.json["stored"] = ChoiceAsJson(setting, setting.Current());
-  AddDelivery(answer, setting, result.delivery);
+  AddResult(answer, setting, result);
   AddAnnouncement(answer);
   answer.failure = DeliveryFailure(result.delivery);
   return session.output.Print(answer);
@@ -279,7 +279,7 @@ ExitCode SendRaw(const Session &session, const client::Setting &setting, const s
   answer.text += "Nothing is stored.\n";
   answer.json["source"] = source;
   answer.json["group"] = group;
-  AddDelivery(answer, setting, result.delivery);
+  AddResult(answer, setting, result);
   if (result.status == ORV_SUCCESS_WITH_WARNING) AddWarning(answer, setting, options.language);
   answer.failure = DeliveryFailure(result.delivery);
   return session.output.Print(answer);

@@ -131,8 +131,8 @@ class Setting(HostTest):
         self.unplug_all()
         self.assertEqual(self.done("boost", "-10", "--json").json, {
             "model": "TRX-SELVA", "setting": "boost", "action": "set", "index": 1,
-            "text": "-10 dB", "stored": True, "connected": False, "sent_to": 0, "mixers": [],
-            "announced": True})
+            "text": "-10 dB", "stored": True, "status": 100, "connected": False, "sent_to": 0,
+            "mixers": [], "announced": True})
 
     def assert_not_taken_by_first(self, reason, outcome, accessible):
         """One mixer does not take it: it is named, counted out, and the other is reached."""
@@ -246,7 +246,7 @@ class Again(HostTest):
     def test_json(self):
         result = self.done("boost", "--again", "--json").json
         self.assertEqual(list(result), ["model", "setting", "action", "index", "text", "stored",
-                                        "connected", "sent_to", "mixers"])
+                                        "status", "connected", "sent_to", "mixers"])
         self.assertEqual((result["action"], result["index"], result["sent_to"]), ("again", 3, 2))
 
     def test_without_a_mixer(self):

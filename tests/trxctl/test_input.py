@@ -129,7 +129,7 @@ class Setting(HostTest):
     def test_json(self):
         self.assertEqual(list(self.done("input", "2", "rec", "--json").json),
                          ["model", "setting", "channel", "action", "index", "text", "stored",
-                          "connected", "sent_to", "mixers", "announced"])
+                          "status", "connected", "sent_to", "mixers", "announced"])
 
     def test_again(self):
         self.store({"Output1": 7})
@@ -178,12 +178,21 @@ class Warning(HostTest):
     def test_none_when_the_selector_is_right(self):
         for unit in (1, 2):
             self.mixer("set", unit, "selector", 0, 7)
-        self.assertNotIn("warning", self.done("input", "1", "1", "--json").json)
+        answer = self.done("input", "1", "1", "--json").json
+        self.assertNotIn("warning", answer)
+        self.assertEqual(answer["status"], 100)
 
     def test_none_for_a_signal_that_passes_no_selector(self):
         self.unplug_all()
-        self.assertNotIn("warning", self.done("input", "1", "3", "--json").json)
-        self.assertNotIn("warning", self.done("input", "3", "1", "--json").json)
+        for channel, choice in (("1", "3"), ("3", "1")):
+            answer = self.done("input", channel, choice, "--json").json
+            self.assertNotIn("warning", answer)
+            # Programs get the library's answer as it is.
+            self.assertEqual(answer["status"], 101)
+
+    def test_json_has_the_status_of_the_library(self):
+        self.assertEqual(self.done("input", "1", "1", "--json").json["status"], 101)
+        self.assertEqual(self.done("input", "1", "--raw", "3", "--json").json["status"], 101)
 
     def test_fits_the_port(self):
         for unit in (1, 2):

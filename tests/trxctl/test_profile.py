@@ -288,9 +288,9 @@ class Loading(ProfileTest):
         self.assertEqual(len(result["settings"]), 7)
         boost = result["settings"][6]
         self.assertEqual({name: boost[name] for name in ("setting", "index", "text", "stored",
-                                                         "connected", "sent_to")},
+                                                         "status", "connected", "sent_to")},
                          {"setting": "boost", "index": 1, "text": "-10 dB", "stored": True,
-                          "connected": True, "sent_to": 2})
+                          "status": 100, "connected": True, "sent_to": 2})
         self.assertEqual(len(boost["mixers"]), 2)
 
     def test_a_mixer_that_does_not_take_it_is_not_counted(self):
