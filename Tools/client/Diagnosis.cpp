@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <optional>
 
 #include "Delivery.h"
 #include "MixerChecks.h"
@@ -32,6 +33,8 @@ Finding FindingFor(FileProblem problem) {
       return Finding::kFileIsNone;
     case FileProblem::kTooLarge:
       return Finding::kFileTooLarge;
+    case FileProblem::kTooDeep:
+      return Finding::kFileTooDeep;
     case FileProblem::kUnreadable:
       return Finding::kFileUnreadable;
     case FileProblem::kNoList:
@@ -68,6 +71,20 @@ Check CheckFiles(const std::vector<const Model *> &models) {
     if (state.exists) ++(IsAnythingStored(*model) ? check.count : check.otherCount);
   }
   return check;
+}
+
+/// The first settings file with others beside it that the library has kept; nothing for none.
+std::optional<Check> CheckKeptFiles(const std::vector<const Model *> &models) {
+  for (const Model *model : models) {
+    const std::string path = SettingsFileOf(*model).value_or("");
+    const std::vector<std::string> kept = KeptBeside(path);
+    if (kept.empty()) continue;
+    return Check{.part = CheckedPart::kSettingsFiles,
+                 .finding = Finding::kFileKept,
+                 .path = path,
+                 .names = kept};
+  }
+  return std::nullopt;
 }
 
 Check CheckInstallation() {
@@ -138,6 +155,7 @@ std::vector<Check> Diagnose(const std::vector<const Model *> &models) {
   }
   checks.push_back(CheckFolder());
   checks.push_back(CheckFiles(models));
+  if (const auto kept = CheckKeptFiles(models)) checks.push_back(*kept);
   checks.push_back(CheckInstallation());
   return checks;
 }

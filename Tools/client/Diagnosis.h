@@ -44,9 +44,11 @@ enum class Finding {
   kNoFolder,           ///< path: the settings folder; obstacle: what stands in its place; reason.
   kFileIsNone,         ///< path: the settings file.
   kFileTooLarge,       ///< path
+  kFileTooDeep,        ///< path
   kFileUnreadable,     ///< path; reason, where the system gives one.
   kFileIsNoList,       ///< path
   kNoChoice,           ///< path; settings: those whose stored number is no choice.
+  kFileKept,           ///< path: the settings file; names: files kept beside it, as unreadable.
   kNoLibraryVersion,
   kNoPackageVersion,
 };
@@ -63,7 +65,8 @@ struct Check {
   int reason = 0;
   Outcome outcome = Outcome::kDone;
   std::vector<Setting> settings = {};
-  /// Names that belong to the finding: other products, folders with the rule, versions.
+  /// Names that belong to the finding: other products, folders with the rule, kept files,
+  /// versions.
   std::vector<std::string> names = {};
   /// What was counted: USB devices, settings files in use.
   std::size_t count = 0;

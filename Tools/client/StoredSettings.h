@@ -13,6 +13,7 @@ enum class FileProblem {
   kNone,        ///< It can be read, or there is none.
   kNoFile,      ///< Something else stands in its place, such as a folder.
   kTooLarge,    ///< It is larger than the library reads.
+  kTooDeep,     ///< Its lists are nested deeper than the library reads.
   kUnreadable,  ///< The system does not let it be read.
   kNoList,      ///< It is no property list with a dictionary in it.
 };
@@ -34,6 +35,9 @@ std::optional<std::string> SettingsFileOf(const Model &model);
 
 /// Looks at a settings file.
 FileState StateOfFile(const std::string &file);
+
+/// The files that the library has kept beside a settings file, as this user might not read them.
+std::vector<std::string> KeptBeside(const std::string &file);
 
 /// Why a file could not be written to a folder just now, as the system says it; 0 when it could.
 /// Nothing is left behind.

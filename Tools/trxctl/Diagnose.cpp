@@ -107,6 +107,8 @@ struct Verdict {
 
 Verdict VerdictOf(const Check &check) {
   static const std::string kCountsAsNotStored = "its settings count as not stored; remove it";
+  static const std::string kKeepsFromStoring =
+      "its settings count as not stored, and nothing is stored in its place; remove it";
   switch (check.finding) {
     case Finding::kGood:
       break;
@@ -170,7 +172,10 @@ Verdict VerdictOf(const Check &check) {
     case Finding::kFileIsNone:
       return {ExitCode::kFailed, PathOf(check) + ": is no file", kCountsAsNotStored};
     case Finding::kFileTooLarge:
-      return {ExitCode::kFailed, PathOf(check) + ": is too large for settings", kCountsAsNotStored};
+      return {ExitCode::kFailed, PathOf(check) + ": is too large for settings", kKeepsFromStoring};
+    case Finding::kFileTooDeep:
+      return {ExitCode::kFailed, PathOf(check) + ": its lists are nested too deeply for settings",
+              kKeepsFromStoring};
     case Finding::kFileUnreadable:
       return {
           ExitCode::kFailed,
@@ -187,6 +192,12 @@ Verdict VerdictOf(const Check &check) {
                   std::string(first.kind->choice),
               StoreOneHint(first)};
     }
+    case Finding::kFileKept:
+      return {
+          ExitCode::kFailed,
+          "earlier settings that could not be read are kept in " + Printable(Joined(check.names)),
+          "to use them again, make the file readable for this user and rename it to " +
+              PathOf(check) + "; otherwise remove it"};
     case Finding::kNoLibraryVersion:
     case Finding::kNoPackageVersion:
       return {ExitCode::kFailed,

@@ -189,8 +189,31 @@ class Diagnose(HostTest):
         self.store({"MaxLevel": 0})
         self.grow(4 * 1024 * 1024 + 1)
         self.assertEqual(self.level(), 3)
-        self.assert_problem(self.diagnose(1)["settings files"], "failed",
-                            "is too large for settings", "remove it")
+        self.assert_keeps_from_storing("is too large for settings")
+
+    def assert_keeps_from_storing(self, message):
+        """Nothing is read from the settings file or stored, and diagnose says why."""
+        before = self.settings_file().read_bytes()
+        self.assertEqual(self.level(), 3)
+        self.assertEqual(self.run_host("boost", "-10").code, 8)
+        self.assertEqual(self.settings_file().read_bytes(), before)
+        self.assert_problem(self.diagnose(1)["settings files"], "failed", message,
+                            "nothing is stored in its place; remove it")
+
+    def store_levels(self, count):
+        """Stores a list with so many dictionaries and arrays in one another."""
+        inner = 1
+        for level in range(count - 1):
+            inner = [inner] if level % 2 == 0 else {"inner": inner}
+        self.store({"MaxLevel": 0, "Theirs": inner})
+
+    def test_list_that_is_nested_as_deep_as_the_library_reads(self):
+        self.store_levels(126)
+        self.assertEqual((self.level(), self.files()), (0, "1 file in good order"))
+
+    def test_list_that_is_nested_too_deeply_for_the_library(self):
+        self.store_levels(127)
+        self.assert_keeps_from_storing("its lists are nested too deeply for settings")
 
     def test_binary_list_that_the_library_reads(self):
         self.store({})
@@ -245,6 +268,25 @@ class Diagnose(HostTest):
         self.settings_file().chmod(0)
         self.assert_problem(self.diagnose(1, **self.as_nobody())["settings files"], "failed",
                             "cannot be read: Permission denied", "readable for this user")
+
+    def test_unreadable_settings_that_were_kept(self):
+        self.store({"MaxLevel": 0, "Output1": 7})
+        for folder in (self.config / "orvikaudio", self.config / "orvikaudio/Preferences"):
+            folder.chmod(0o777)
+        options = self.as_nobody()
+        for _ in range(2):
+            self.settings_file().chmod(0)
+            self.run_host("boost", "-10", **options)
+        file = self.settings_file()
+        kept = [f"{file}.unreadable", f"{file}.unreadable-2"]
+        self.assertEqual(sorted(map(str, file.parent.iterdir())), [str(file), *kept])
+        self.assertEqual(self.stored(), {"MaxLevel": 1})
+        self.assert_problem(self.diagnose(1, **options)["settings files"], "failed",
+                            f"are kept in {kept[0]}, {kept[1]}", f"rename it to {file}")
+        self.assertIn("1 file in good order", self.run_host("diagnose", **options).out)
+        for name in kept:
+            os.unlink(name)
+        self.assertEqual(self.diagnose(0)["settings files"]["message"], "1 file in good order")
 
     def test_folder_in_the_place_of_a_settings_file(self):
         self.settings_file().mkdir(parents=True)

@@ -19,6 +19,10 @@ constexpr std::uintmax_t kLargestRead = std::uintmax_t{4} << 20;
 /// The parser descends once a level, so what is much larger than settings are is not given to it.
 constexpr std::size_t kLargestParsed = 65536;
 
+/// Nor does it read a list with more levels than this: of its tags, which may be 128 deep, <plist>
+/// and an innermost key are none.
+constexpr int kDeepestRead = 126;
+
 constexpr std::string_view kBinaryMagic = "bplist00";
 
 /// The first bytes of a binary list and its trailer, with an object and its offset between them.
@@ -62,6 +66,38 @@ std::vector<std::string> NumberKeysOf(plist_t dictionary) {
   return keys;
 }
 
+struct Free {
+  void operator()(void *memory) const { std::free(memory); }
+};
+
+bool IsDeeperThan(int levels, plist_t node);
+
+bool HasMemberDeeperThan(int levels, plist_t dictionary) {
+  plist_dict_iter raw = nullptr;
+  plist_dict_new_iter(dictionary, &raw);
+  const std::unique_ptr<void, Free> iterator(raw);
+  for (;;) {
+    plist_t value = nullptr;
+    plist_dict_next_item(dictionary, raw, nullptr, &value);
+    if (value == nullptr) return false;
+    if (IsDeeperThan(levels, value)) return true;
+  }
+}
+
+/// Whether dictionaries and arrays are nested in more levels.
+bool IsDeeperThan(int levels, plist_t node) {
+  if (plist_get_node_type(node) == PLIST_DICT) {
+    return plist_dict_get_size(node) != 0 && (levels == 0 || HasMemberDeeperThan(levels - 1, node));
+  }
+  if (plist_get_node_type(node) != PLIST_ARRAY) return false;
+  const uint32_t size = plist_array_get_size(node);
+  if (size != 0 && levels == 0) return true;
+  for (uint32_t index = 0; index < size; ++index) {
+    if (IsDeeperThan(levels - 1, plist_array_get_item(node, index))) return true;
+  }
+  return false;
+}
+
 /// As far as it can be told without risk.
 FileState StateOfContents(const std::string &contents) {
   FileState state{.exists = true};
@@ -76,6 +112,8 @@ FileState StateOfContents(const std::string &contents) {
   const std::unique_ptr<std::remove_pointer_t<plist_t>, PlistFree> owner(root);
   if (root == nullptr || plist_get_node_type(root) != PLIST_DICT) {
     state.problem = FileProblem::kNoList;
+  } else if (IsDeeperThan(kDeepestRead, root)) {
+    state.problem = FileProblem::kTooDeep;
   } else {
     state.keys = NumberKeysOf(root);
   }
