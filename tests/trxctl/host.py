@@ -132,6 +132,20 @@ class HostTest(unittest.TestCase):
         self.addCleanup(running.stop)
         return running
 
+    def bus_address(self):
+        """Where a session bus of the test's own listens."""
+        return f"unix:path={self.config}/bus"
+
+    def start_bus(self):
+        """Starts a session bus of the test's own, which it may stop or kill."""
+        bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address",
+                                f"--address={self.bus_address()}"], stdout=subprocess.PIPE)
+        self.addCleanup(bus.stdout.close)
+        self.addCleanup(bus.wait)
+        self.addCleanup(bus.kill)
+        bus.stdout.readline()
+        return bus
+
     def done(self, *words, **options):
         """Runs trxctl, which must succeed and say nothing on standard error."""
         result = self.run_host(*words, **options)

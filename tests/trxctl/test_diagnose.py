@@ -3,6 +3,7 @@
 import os
 import pathlib
 import plistlib
+import signal
 import unittest
 
 from host import HostTest
@@ -139,6 +140,12 @@ class Diagnose(HostTest):
         self.env["XDG_RUNTIME_DIR"] = str(self.config)
         self.assert_problem(self.diagnose(1)["session bus"], "failed", "there is none",
                             "dbus-run-session")
+
+    def test_session_bus_that_hangs(self):
+        self.env["DBUS_SESSION_BUS_ADDRESS"] = self.bus_address()
+        self.start_bus().send_signal(signal.SIGSTOP)
+        self.assert_problem(self.diagnose(1)["session bus"], "failed", "it does not answer",
+                            "log out and in again")
 
     def test_folder_that_may_not_be_made(self):
         options = self.as_nobody()

@@ -1,4 +1,4 @@
-"""trxctl reapply and reset: everything that is stored, sent once more or set back."""
+"""trxctl reapply: everything that is stored, sent once more."""
 
 import unittest
 
@@ -98,36 +98,6 @@ class Reapply(HostTest):
         for unit in (1, 2):
             self.mixer("fault", unit, "refuse")
         self.assertEqual(self.run_host("reapply", "--json").json["error"]["kind"], "no_access")
-
-
-class Reset(HostTest):
-    def test_sets_back_what_is_stored(self):
-        self.store({"MaxLevel": 1, "Output1": 7})
-        self.assertEqual(self.done("reset", "--yes").out,
-                         "TRX-SELVA settings set back\n"
-                         "  input audio channel 2: REC OUT -> CH2 Control Tone PHONO\n"
-                         "  boost level: -10 dB -> -19 dB\n"
-                         "Sent to 2 of 2 connected mixers.\n")
-        self.assertEqual(self.stored(), {"MaxLevel": 3, "Output1": 0})
-        self.assertEqual(self.levels_sent(), [(1, "0000"), (2, "0000")])
-
-    def test_asks_first(self):
-        self.store({"MaxLevel": 1})
-        self.assert_fails(2, ["reset"], "reset asks first, and there is no terminal to ask on",
-                          "add --yes, or --dry-run to see what would be set back")
-        self.assertEqual(self.stored(), {"MaxLevel": 1})
-
-    def test_dry_run_changes_nothing(self):
-        self.store({"MaxLevel": 1})
-        answer = self.done("reset", "--dry-run", "--json").json
-        self.assertEqual(answer["reset"], [
-            {"setting": "boost", "index": 3, "text": "-19 dB",
-             "before": {"index": 1, "text": "-10 dB"}}])
-        self.assert_nothing_sent()
-        self.assertEqual(self.stored(), {"MaxLevel": 1})
-
-    def test_nothing_to_set_back(self):
-        self.assertEqual(self.done("reset").out, "TRX-SELVA: all settings are at their defaults.\n")
 
 
 if __name__ == "__main__":

@@ -234,12 +234,7 @@ class WithoutBus(HostTest):
         watching = self.start_host("watch")
         watching.line()
         # Where a login session has its bus, and this one had none until now.
-        bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address",
-                                f"--address=unix:path={self.config}/bus"], stdout=subprocess.PIPE)
-        self.addCleanup(bus.stdout.close)
-        self.addCleanup(bus.wait)
-        self.addCleanup(bus.terminate)
-        bus.stdout.readline()
+        self.start_bus()
         deadline = time.monotonic() + PATIENCE
         lines = []
         while "TRX-SELVA boost level: -10 dB" not in lines and time.monotonic() < deadline:
@@ -258,18 +253,9 @@ class WithoutBus(HostTest):
 
 
 class DyingBus(HostTest):
-    def start_bus(self):
-        bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address",
-                                f"--address=unix:path={self.config}/bus"], stdout=subprocess.PIPE)
-        self.addCleanup(bus.stdout.close)
-        self.addCleanup(bus.wait)
-        self.addCleanup(bus.kill)
-        bus.stdout.readline()
-        return bus
-
     def setUp(self):
         super().setUp()
-        self.env["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={self.config}/bus"
+        self.env["DBUS_SESSION_BUS_ADDRESS"] = self.bus_address()
 
     def test_watch_tells_when_it_goes_and_comes(self):
         bus = self.start_bus()
