@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 namespace client {
 
 /// Whether this process reaches the session bus. Without one nothing is announced; the library
@@ -29,8 +31,9 @@ class SessionBusWatch {
   SessionBusState State();
 
  private:
-  /// The connection of the platform; null while there is none.
-  void *bus_ = nullptr;
+  /// What the platform needs for it.
+  struct Connection;
+  std::unique_ptr<Connection> connection_;
 };
 
 }  // namespace client

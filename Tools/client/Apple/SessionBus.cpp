@@ -5,6 +5,8 @@ namespace client {
 // The system's own centre carries announcements, and it is always there.
 SessionBusState ReachSessionBus() { return SessionBusState::kNotNeeded; }
 
+struct SessionBusWatch::Connection {};
+
 SessionBusWatch::SessionBusWatch() = default;
 
 SessionBusWatch::~SessionBusWatch() = default;

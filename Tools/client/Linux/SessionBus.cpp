@@ -47,17 +47,20 @@ SessionBusState ReachSessionBus() {
   return Connect(bus);
 }
 
-SessionBusWatch::SessionBusWatch() { State(); }
+struct SessionBusWatch::Connection {
+  Bus bus;  // null while the bus is not reached
+};
 
-SessionBusWatch::~SessionBusWatch() { Bus(static_cast<sd_bus *>(bus_)).reset(); }
+SessionBusWatch::SessionBusWatch() : connection_(std::make_unique<Connection>()) { State(); }
+
+SessionBusWatch::~SessionBusWatch() = default;
 
 int SessionBusWatch::Descriptor() const {
-  return bus_ == nullptr ? -1 : sd_bus_get_fd(static_cast<sd_bus *>(bus_));
+  return connection_->bus ? sd_bus_get_fd(connection_->bus.get()) : -1;
 }
 
 SessionBusState SessionBusWatch::State() {
-  Bus bus(static_cast<sd_bus *>(bus_));
-  bus_ = nullptr;
+  Bus &bus = connection_->bus;
   SessionBusState state = SessionBusState::kReached;
   int processed = bus ? 1 : -1;
   while (processed > 0) processed = sd_bus_process(bus.get(), nullptr);
@@ -65,7 +68,7 @@ SessionBusState SessionBusWatch::State() {
     bus.reset();
     state = Connect(bus);
   }
-  if (state == SessionBusState::kReached) bus_ = bus.release();
+  if (state != SessionBusState::kReached) bus.reset();
   return state;
 }
 
