@@ -43,7 +43,7 @@ std::string Message(const std::string &action, const UsbDevice &device, unsigned
                                     {"DEVTYPE", "usb_device"},
                                     {"DEVNAME", device.NodePath()},
                                     {"SEQNUM", std::to_string(number)}}) {
-    properties += name + '=' + value + '\0';
+    properties.append(name).append("=").append(value).push_back('\0');
   }
   MessageHeader header;
   header.propertiesLength = static_cast<std::uint32_t>(properties.size());
