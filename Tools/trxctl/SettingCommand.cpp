@@ -132,7 +132,7 @@ std::string Examples(const client::SettingKind &kind) {
   std::string text;
   for (auto &[line, about] : lines) {
     line.resize(width + 2, ' ');
-    text += "  " + line + about + '\n';
+    text.append("  ").append(line).append(about).push_back('\n');
   }
   return text;
 }
