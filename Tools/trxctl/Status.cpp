@@ -45,7 +45,7 @@ void AddFirmware(Answer &answer, const client::MixerStatus &status, bool isTold)
 
 /// A position in words, where they are known.
 std::string PositionAsText(const client::Model &model, const client::SelectorPosition &selector) {
-  const std::string number = std::to_string(selector.position);
+  std::string number = std::to_string(selector.position);
   if (!selector.isValid) return number + " (no position)";
   if (model.id == ORV_PRODUCT_TRX_SELVA && selector.position == 6) return "6, USB (first port)";
   if (model.id == ORV_PRODUCT_TRX_SELVA && selector.position == 7) return "7, USB (second port)";
