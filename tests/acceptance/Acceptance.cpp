@@ -65,14 +65,14 @@ std::optional<Settings> Parse(std::string_view text) {
 }  // namespace
 
 std::optional<Settings> Acceptance::SettingsOf(const std::string &modelDisplayName) {
-  std::ifstream file(rig().SettingsFile(modelDisplayName), std::ios::binary);
+  std::ifstream file(rig_->SettingsFile(modelDisplayName), std::ios::binary);
   if (!file) return std::nullopt;
   const std::string contents{std::istreambuf_iterator<char>(file), {}};
   return Parse(contents);
 }
 
 void Acceptance::PutSettingsFile(const std::string &modelDisplayName, const std::string &contents) {
-  const fs::path path = rig().SettingsFile(modelDisplayName);
+  const fs::path path = rig_->SettingsFile(modelDisplayName);
   fs::create_directories(path.parent_path());
   std::ofstream file(path, std::ios::binary);
   file << contents;
@@ -84,7 +84,7 @@ void Acceptance::PutSettings(const std::string &modelDisplayName, const std::str
 }
 
 std::vector<std::string> Acceptance::ListLibrary() {
-  const fs::path folder = rig().LibraryFolder();
+  const fs::path folder = rig_->LibraryFolder();
   if (!fs::exists(folder)) return {};
   if (fs::is_empty(folder)) return {"./"};
   std::vector<std::string> names;
@@ -106,16 +106,16 @@ std::vector<std::string> Acceptance::LibraryListing() {
 }
 
 void Acceptance::ExpectNothingHappened() {
-  EXPECT_EQ(rig().WireLog(), std::vector<std::string>());
+  EXPECT_EQ(rig_->WireLog(), std::vector<std::string>());
   EXPECT_EQ(LibraryListing(), std::vector<std::string>());
-  EXPECT_EQ(rig().TakeAnnouncements(0), std::vector<Announcement>());
+  EXPECT_EQ(rig_->TakeAnnouncements(0), std::vector<Announcement>());
 }
 
 bool Acceptance::RunEventLoopUntil(const std::function<bool()> &isDone) {
   const auto deadline = Clock::now() + kPatience;
   while (!isDone()) {
     if (Clock::now() >= deadline) return false;
-    rig().RunEventLoop(kStep);
+    rig_->RunEventLoop(kStep);
   }
   return true;
 }

@@ -14,6 +14,7 @@
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
+#include "../support/Constants.h"
 #include "Rig.h"
 #include "Texts.h"
 
@@ -30,7 +31,7 @@ using Settings = std::map<std::string, std::string>;
 /// A case with its own rig.
 class Acceptance : public testing::Test {
  protected:
-  Rig &rig() { return *rig_; }
+  std::unique_ptr<Rig> rig_ = MakeRig();
 
   /// The entries of a model's settings file, given by its display name; nothing when it is missing
   /// or is no XML property list with a dictionary at its root.
@@ -53,7 +54,7 @@ class Acceptance : public testing::Test {
 
   /// Plugs in a working stranger after all other units. A platform may ask every device to open a
   /// unit: a last device that fails would make all openings fail.
-  void PlugSomethingHealthyBehind() { rig().PlugStranger(Stranger::kUnrelated); }
+  void PlugSomethingHealthyBehind() { rig_->PlugStranger(Stranger::kUnrelated); }
 
   /// Runs the event loop until `isDone`, at most a minute. Returns whether it is done.
   bool RunEventLoopUntil(const std::function<bool()> &isDone);
@@ -61,7 +62,6 @@ class Acceptance : public testing::Test {
  private:
   std::vector<std::string> ListLibrary();
 
-  std::unique_ptr<Rig> rig_ = MakeRig();
   std::vector<std::string> libraryAtStart_ = ListLibrary();
 };
 

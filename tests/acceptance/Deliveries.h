@@ -1,6 +1,7 @@
 // The callback calls in this process.
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <ostream>
 #include <string>
@@ -16,7 +17,7 @@ struct Call {
   std::int32_t channel = -1;  ///< -1: the kind has no channel.
   std::int32_t index = -1;
 
-  bool operator==(const Call &) const = default;
+  auto operator<=>(const Call &) const = default;
 };
 
 /// How a call is printed when an expectation fails.
@@ -39,14 +40,18 @@ class Deliveries : public Acceptance {
   /// @}
 
   /// All calls so far.
-  static std::vector<Call> &Calls() { return calls_; }
+  static std::vector<Call> &Calls();
 
   /// Runs the event loop until everything that this process and the rig have announced is
-  /// delivered. Returns the calls since the last time. Makes announcements for TRX-MORROW.
-  std::vector<Call> DeliverAll();
+  /// delivered, and until callbacks have run `count` times. Returns the calls since the last time.
+  /// Makes announcements for TRX-MORROW.
+  std::vector<Call> DeliverAll(std::size_t count = 0);
+
+  /// Delivers everything. Whether it makes exactly these calls: in this order where the platform
+  /// keeps the order between two names.
+  testing::AssertionResult Delivered(const std::vector<Call> &expected);
 
  private:
-  static std::vector<Call> calls_;
   bool hasMark_ = false;
 };
 

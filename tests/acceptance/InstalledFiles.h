@@ -21,7 +21,7 @@ class InstalledFiles : public Acceptance {
  protected:
   /// Installs a file; `path` is the absolute path under which it is known.
   void InstallFile(const std::string &path, const std::string &contents) {
-    const std::filesystem::path place = rig().SystemRoot() + path;
+    const std::filesystem::path place = rig_->SystemRoot() + path;
     std::filesystem::create_directories(place.parent_path());
     std::ofstream file(place, std::ios::binary);
     file << contents;
@@ -40,7 +40,7 @@ class InstalledFiles : public Acceptance {
 
   /// Adds the links of a framework to a folder whose files are installed.
   void LinkResources(const std::string &framework) {
-    const std::string folder = rig().SystemRoot() + framework;
+    const std::string folder = rig_->SystemRoot() + framework;
     std::filesystem::create_directory_symlink("A", folder + "/Versions/Current");
     std::filesystem::create_directory_symlink("Versions/Current/Resources", folder + "/Resources");
   }
@@ -49,7 +49,7 @@ class InstalledFiles : public Acceptance {
   template <typename Call>
   bool IsOpenedBy(const std::string &path, Call call) {
     const int watch = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
-    EXPECT_NE(inotify_add_watch(watch, (rig().SystemRoot() + path).c_str(), IN_OPEN), -1);
+    EXPECT_NE(inotify_add_watch(watch, (rig_->SystemRoot() + path).c_str(), IN_OPEN), -1);
     call();
     inotify_event event = {};
     const bool isOpened = read(watch, &event, sizeof event) == ssize_t{sizeof event};
@@ -58,7 +58,7 @@ class InstalledFiles : public Acceptance {
   }
 
   void Uninstall(const std::string &path) {
-    std::filesystem::remove_all(rig().SystemRoot() + path);
+    std::filesystem::remove_all(rig_->SystemRoot() + path);
   }
 };
 

@@ -34,8 +34,8 @@ class RequestReports : public Acceptance {
   /// Plugs in mixers, so that reports are about units with a number.
   void PlugMixers(int count) {
     for (int i = 0; i < count; ++i) {
-      const int unit = rig().PlugMixer();
-      places_[unit] = rig().PlaceOf(unit);
+      const int unit = rig_->PlugMixer();
+      places_[unit] = rig_->PlaceOf(unit);
     }
   }
 

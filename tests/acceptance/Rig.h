@@ -113,7 +113,9 @@ class Rig {
   /// Waits at most a minute until `count` announcements have arrived since the last call. Then
   /// returns all that have arrived, whether fewer or more.
   virtual std::vector<Announcement> TakeAnnouncements(std::size_t count) = 0;
-  /// Announces as another program would. These announcements stay in order.
+  /// Whether announcements with two names stay in order.
+  virtual bool KeepsOrderBetweenNames() { return true; }
+  /// Announces as another program would. Announcements with one name stay in order.
   virtual void Announce(const Announcement &announcement) = 0;
   /// Sends the same in every form that resembles an announcement and is not one. Returns how
   /// many.

@@ -10,18 +10,17 @@
 namespace trxtest {
 
 /// A case about setters. Each of these expectations plugs in the unit that it needs and must be the
-/// first step of the case. The setter runs on its own thread, so that its effects can be checked
-/// while it is blocked.
+/// first step of the case.
 class SetterOrder : public Acceptance {
  protected:
   using Setter = std::function<StatusCode()>;
 
-  /// Expects that the unit gets `sent` before anything is stored or announced.
-  void ExpectUnitToldFirst(const Setter &set, const std::string &sent);
+  /// Expects that a setter sends `sent` before it stores, and announces only after that.
+  void ExpectSentStoredAnnounced(const Setter &set, const std::string &sent);
 
-  /// Expects that `stored` is in a model's settings file before the change is announced.
-  void ExpectStoredBeforeAnnounced(const Setter &set, const std::string &modelDisplayName,
-                                   const Settings &stored);
+  /// Expects that the unit gets `sent` before anything is stored or announced. For setters that
+  /// store nothing.
+  void ExpectSentBeforeAnnounced(const Setter &set, const std::string &sent);
 
   /// Expects that a setter of TRX-SELVA sends `sent`, stores and announces, and reads the
   /// selectors only after that. `stored` is nothing for a setter that stores nothing.

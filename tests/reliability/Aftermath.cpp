@@ -12,7 +12,7 @@ std::string selva = "selva";
 
 constexpr std::uint32_t kAreYouThere = 3;
 
-void SetLevel(std::uint32_t index) { EXPECT_EQ(ORV_SetBoostLevelIndex(11, index), 100); }
+void SetLevel(std::uint32_t index) { EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, index), kSuccess); }
 
 }  // namespace
 
@@ -32,7 +32,7 @@ Settings Aftermath::Level(int index) {
 }
 
 void Aftermath::Register() {
-  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
 }
 
 void Aftermath::ExpectRegistrationHolds() {

@@ -23,19 +23,19 @@ class BusStorm : public Aftermath {};
 TEST_F(BusStorm, KilledAndRestartedInTheMiddleTheBusLosesNoRegistration) {
   constexpr int kRestarts = 4;
   constexpr std::size_t kHeard = 20;
-  rig().PlugMixer();
+  rig_->PlugMixer();
   Register();
-  const auto listener = rig().StartHost();
+  const auto listener = rig_->StartHost();
   ASSERT_EQ(listener->Ask("register BoostLevel 11 listener"), "100");
-  const auto poster = rig().StartHost();
-  const auto other = rig().StartHost();
+  const auto poster = rig_->StartHost();
+  const auto other = rig_->StartHost();
   for (int restart = 0; restart < kRestarts; ++restart) {
     SCOPED_TRACE(restart);
     poster->Begin("levels 11 300");
     other->Begin("levels 11 300");
     ASSERT_TRUE(RunEventLoopUntil([] { return Calls().size() >= kHeard; }));
-    rig().StopNotificationService();
-    rig().StartNotificationService();
+    rig_->StopNotificationService();
+    rig_->StartNotificationService();
     EXPECT_EQ(poster->Answer(), "100");
     EXPECT_EQ(other->Answer(), "100");
     Calls().clear();
@@ -48,7 +48,7 @@ TEST_F(BusStorm, KilledAndRestartedInTheMiddleTheBusLosesNoRegistration) {
   EXPECT_EQ(LibraryListing(), kOnlyTheFile);
   ExpectRegistrationHolds();
   ASSERT_TRUE(WaitUntil([&] {
-    EXPECT_EQ(ORV_SetBoostLevelIndex(11, 3), 100);
+    EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 3), kSuccess);
     return !listener->TakeCalls(1).empty();
   }));
 }
@@ -110,13 +110,13 @@ class StingyBus : public Aftermath {
 std::string StingyBus::lumen = "lumen";
 
 TEST_F(StingyBus, IsAskedAgainForWhatItRefused) {
-  rig().StopNotificationService();
+  rig_->StopNotificationService();
   LimitedBus bus(1);
   Register();
   ExpectRegistrationHolds();
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(6, IndexB, &lumen), 100);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(6, 1), 100);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kLumen, IndexB, &lumen), kSuccess);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kLumen, 1), kSuccess);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 2), kSuccess);
   ASSERT_TRUE(RunEventLoopUntil([] { return !Calls().empty(); }));
   ASSERT_EQ(Calls(), (CallList{{"A selva", -1, 2}})) << "nothing was refused";
   bus.Grant(100);
@@ -125,14 +125,14 @@ TEST_F(StingyBus, IsAskedAgainForWhatItRefused) {
   Calls().clear();
   ASSERT_TRUE(RunEventLoopUntil([&] {
     if (looks++ % 10 == 0) {
-      EXPECT_EQ(ORV_SetBoostLevelIndex(6, 3), 100);
+      EXPECT_EQ(ORV_SetBoostLevelIndex(kLumen, 3), kSuccess);
     }
     return !Calls().empty();
   })) << "what was refused is not asked for again";
   EXPECT_EQ(Calls().front(), (Call{"B lumen", -1, 3}));
   Calls().clear();
-  ASSERT_EQ(ORV_SetBoostLevelIndex(6, 0), 100);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kLumen, 0), kSuccess);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
   ASSERT_TRUE(RunEventLoopUntil([] {
     return !Calls().empty() && Calls().back() == Call{"A selva", -1, 0};
   }));

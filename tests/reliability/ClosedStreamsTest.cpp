@@ -70,30 +70,30 @@ class ClosedStreams : public Aftermath {
     }
     EXPECT_TRUE(child.RunToEnd());
     EXPECT_GT(uses, 5);
-    EXPECT_EQ(requests > 0, !rig().WireLog().empty());
+    EXPECT_EQ(requests > 0, !rig_->WireLog().empty());
   }
 };
 
 TEST_F(ClosedStreams, AreNotReplacedByWhatTheLibraryWritesTo) {
-  rig().PlugMixer();
+  rig_->PlugMixer();
   PutLevelThree();
   ExpectNothingInTheirPlace([] {
     Register();
     std::int32_t descriptor = -1;
-    EXPECT_EQ(ORV_GetNotificationDescriptor(&descriptor), 100);
+    EXPECT_EQ(ORV_GetNotificationDescriptor(&descriptor), kSuccess);
     EXPECT_GT(descriptor, 2);
-    EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
-    EXPECT_EQ(ORV_DispatchNotifications(), 100);
+    EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
+    EXPECT_EQ(ORV_DispatchNotifications(), kSuccess);
   });
   EXPECT_EQ(SettingsOf("TRX-SELVA"), Level(1));
-  EXPECT_EQ(rig().WireLog().size(), 1U);
+  EXPECT_EQ(rig_->WireLog().size(), 1U);
 }
 
 TEST_F(ClosedStreams, AreNotReplacedWhereFilesNeedANameEither) {
   PutLevelThree();
   ExpectNothingInTheirPlace([] {
     GiveUpUnnamedFiles();
-    EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+    EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   });
   EXPECT_EQ(SettingsOf("TRX-SELVA"), Level(1));
   EXPECT_EQ(LibraryListing(), kOnlyTheFile);

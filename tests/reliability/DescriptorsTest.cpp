@@ -52,21 +52,21 @@ class Descriptors : public Aftermath {
   // One call of each kind that needs descriptors.
   static void CallEverything() {
     Register();
-    EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
-    EXPECT_EQ(ORV_SetUSBInputAudio(11, 0, 4), 100);
-    EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(11), 100);
+    EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
+    EXPECT_EQ(ORV_SetUSBInputAudio(kSelva, 0, 4), kSuccess);
+    EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(kSelva), kSuccess);
     std::int32_t level = -77;
-    EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(11, &level), 100);
+    EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(kSelva, &level), kSuccess);
     EXPECT_TRUE(level == 3 || level == 1) << level;
-    const StatusCode connection = ORV_IsUSBConnection(11);
-    EXPECT_TRUE(connection == 103 || connection == 104) << connection;
+    const StatusCode connection = ORV_IsUSBConnection(kSelva);
+    EXPECT_TRUE(connection == kConnected || connection == kNotConnected) << connection;
     std::uint32_t certify = 77;
-    EXPECT_EQ(ORV_GetMixerCertifyLevel(11, &certify), 100);
+    EXPECT_EQ(ORV_GetMixerCertifyLevel(kSelva, &certify), kSuccess);
     EXPECT_TRUE(certify == 0 || certify == 1) << certify;
     std::int32_t descriptor = -77;
-    EXPECT_EQ(ORV_GetNotificationDescriptor(&descriptor), 100);
+    EXPECT_EQ(ORV_GetNotificationDescriptor(&descriptor), kSuccess);
     EXPECT_GE(descriptor, -1);
-    EXPECT_EQ(ORV_DispatchNotifications(), 100);
+    EXPECT_EQ(ORV_DispatchNotifications(), kSuccess);
   }
 
   void ExpectFileWhole() {
@@ -78,7 +78,7 @@ class Descriptors : public Aftermath {
 };
 
 TEST_F(Descriptors, HoweverFewAreLeftEveryCallAnswersAndLaterEverythingWorks) {
-  rig().PlugMixer();
+  rig_->PlugMixer();
   for (int left = 0; left <= kPlenty; ++left) {
     SCOPED_TRACE(left);
     PutLevelThree();
@@ -103,9 +103,9 @@ TEST_F(Descriptors, AChildForkedWhileTheyWereFewHasNoneOfItsParentsRegistrations
     }
     ExpectQuietSuccess([this] {
       std::string halden = "halden";
-      EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(5, IndexB, &halden), 100);
-      EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
-      EXPECT_EQ(ORV_SetBoostLevelIndex(5, 2), 100);
+      EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kHalden, IndexB, &halden), kSuccess);
+      EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
+      EXPECT_EQ(ORV_SetBoostLevelIndex(kHalden, 2), kSuccess);
       EXPECT_TRUE(RunEventLoopUntil([] { return !Calls().empty(); }));
       EXPECT_EQ(Calls(), (std::vector<Call>{{"B halden", -1, 2}}));
     });
@@ -148,7 +148,7 @@ bool StepToDescriptor(SteppedProcess &child, int n) {
 }
 
 TEST_F(Descriptors, MissingAtAnyOneMomentCostNothingThatWasThere) {
-  rig().PlugMixer();
+  rig_->PlugMixer();
   const rlimit all = Limit();
   const rlimit none = {0, all.rlim_max};
   int moments = 0;

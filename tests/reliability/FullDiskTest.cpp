@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include "Aftermath.h"
+#include "WireLines.h"
 
 namespace trxtest {
 namespace {
@@ -21,13 +22,13 @@ class FullDisk : public Aftermath {
  protected:
   FullDisk() {
     HaveOwnMounts();
-    fs::create_directories(rig().LibraryFolder());
+    fs::create_directories(rig_->LibraryFolder());
   }
 
   // Leaves this many free blocks of a file system in memory.
   void FillUpTo(std::uintmax_t blocksLeft) {
     struct statvfs status = {};
-    ASSERT_EQ(statvfs(rig().LibraryFolder().c_str(), &status), 0);
+    ASSERT_EQ(statvfs(rig_->LibraryFolder().c_str(), &status), 0);
     ASSERT_GE(status.f_bfree, blocksLeft);
     const std::string bytes((status.f_bfree - blocksLeft) * status.f_bsize, 'x');
     std::ofstream filler(Filler(), std::ios::binary);
@@ -42,32 +43,31 @@ class FullDisk : public Aftermath {
   }
 
   void MakeRoom() {
-    for (const auto &entry : fs::directory_iterator(rig().LibraryFolder())) {
+    for (const auto &entry : fs::directory_iterator(rig_->LibraryFolder())) {
       if (entry.path().string().starts_with(Filler())) fs::remove(entry.path());
     }
   }
 
-  std::string Filler() { return rig().LibraryFolder() + "/filler"; }
+  std::string Filler() { return rig_->LibraryFolder() + "/filler"; }
 
   // The setter returns, sends and announces as usual.
   void ExpectSetButNotStored(int unit, const std::optional<Settings> &stored) {
     const Lines before = LibraryListing();
-    rig().ClearWireLog();
-    EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
-    EXPECT_EQ(rig().WireLog(), (Lines{"unit " + std::to_string(unit) +
-                                      " OUT 40 03 wValue 0200 wIndex 8003 wLength 0 -> 0 bytes"}));
+    rig_->ClearWireLog();
+    EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
+    EXPECT_EQ(rig_->WireLog(), Lines{Sent(unit, "0200", "8003")});
     EXPECT_EQ(SettingsOf("TRX-SELVA"), stored);
     EXPECT_EQ(LibraryListing(), before);
-    EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 1)});
+    EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", kSelva, 1)});
     std::int32_t level = -77;
-    EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(11, &level), 100);
+    EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(kSelva, &level), kSuccess);
     EXPECT_EQ(level, 3);
   }
 };
 
 TEST_F(FullDisk, LeavesTheOldFileWholeAndNothingBesideIt) {
-  const Mount memory = Mount::Memory(rig().LibraryFolder(), "size=256k");
-  const int unit = rig().PlugMixer();
+  const Mount memory = Mount::Memory(rig_->LibraryFolder(), "size=256k");
+  const int unit = rig_->PlugMixer();
   Register();
   // Three blocks of text, with room for none, one or two of them.
   const std::string text(9000, 'o');
@@ -80,35 +80,35 @@ TEST_F(FullDisk, LeavesTheOldFileWholeAndNothingBesideIt) {
     MakeRoom();
   }
   PutLevelThree();
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   EXPECT_EQ(SettingsOf("TRX-SELVA"), Level(1));
   EXPECT_EQ(LibraryListing(), kOnlyTheFile);
   ExpectRegistrationHolds();
 }
 
 TEST_F(FullDisk, WithoutRoomForOneMoreNameLeavesTheOldFileWhole) {
-  const Mount memory = Mount::Memory(rig().LibraryFolder(), "size=256k,nr_inodes=16");
-  const int unit = rig().PlugMixer();
+  const Mount memory = Mount::Memory(rig_->LibraryFolder(), "size=256k,nr_inodes=16");
+  const int unit = rig_->PlugMixer();
   PutLevelThree();
   TakeAllNames();
   ExpectSetButNotStored(unit, Level(3));
   MakeRoom();
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   EXPECT_EQ(SettingsOf("TRX-SELVA"), Level(1));
   EXPECT_EQ(LibraryListing(), kOnlyTheFile);
 }
 
 TEST_F(FullDisk, LeavesNothingWhereNothingWas) {
-  const Mount memory = Mount::Memory(rig().LibraryFolder(), "size=256k,nr_inodes=16");
-  const int unit = rig().PlugMixer();
+  const Mount memory = Mount::Memory(rig_->LibraryFolder(), "size=256k,nr_inodes=16");
+  const int unit = rig_->PlugMixer();
   TakeAllNames();
   ExpectSetButNotStored(unit, std::nullopt);
   MakeRoom();
-  fs::create_directory(rig().LibraryFolder() + "/Preferences");
+  fs::create_directory(rig_->LibraryFolder() + "/Preferences");
   FillUpTo(0);
   ExpectSetButNotStored(unit, std::nullopt);
   MakeRoom();
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>1</integer>"}}));
   EXPECT_EQ(LibraryListing(), kOnlyTheFile);
 }
@@ -116,26 +116,26 @@ TEST_F(FullDisk, LeavesNothingWhereNothingWas) {
 class ReadOnlyFolder : public FullDisk {};
 
 TEST_F(ReadOnlyFolder, LeavesTheOldFile) {
-  const int unit = rig().PlugMixer();
+  const int unit = rig_->PlugMixer();
   Register();
   PutLevelThree();
   {
-    const Mount readOnly = Mount::ReadOnly(rig().LibraryFolder() + "/Preferences");
+    const Mount readOnly = Mount::ReadOnly(rig_->LibraryFolder() + "/Preferences");
     ExpectSetButNotStored(unit, Level(3));
   }
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   EXPECT_EQ(SettingsOf("TRX-SELVA"), Level(1));
   EXPECT_EQ(LibraryListing(), kOnlyTheFile);
   ExpectRegistrationHolds();
 }
 
 TEST_F(ReadOnlyFolder, GetsNoSettings) {
-  const int unit = rig().PlugMixer();
+  const int unit = rig_->PlugMixer();
   {
-    const Mount readOnly = Mount::ReadOnly(rig().LibraryFolder());
+    const Mount readOnly = Mount::ReadOnly(rig_->LibraryFolder());
     ExpectSetButNotStored(unit, std::nullopt);
   }
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   EXPECT_EQ(LibraryListing(), kOnlyTheFile);
 }
 

@@ -37,8 +37,8 @@ bool Contains(const Lines &lines, const std::string &line) {
   return std::find(lines.begin(), lines.end(), line) != lines.end();
 }
 
-void SetOne() { EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100); }
-void SetTwo() { EXPECT_EQ(ORV_SetBoostLevelIndex(11, 2), 100); }
+void SetOne() { EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess); }
+void SetTwo() { EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 2), kSuccess); }
 
 class KilledWriter : public Deliveries {
  protected:
@@ -68,7 +68,7 @@ class KilledWriter : public Deliveries {
       ++tally.moments;
       const std::optional<Settings> found = SettingsOf("TRX-SELVA");
       EXPECT_TRUE(found == oldFile || found == newFile) << "torn or lost at moment " << moment;
-      EXPECT_TRUE(found || !fs::exists(rig().SettingsFile("TRX-SELVA"))) << "moment " << moment;
+      EXPECT_TRUE(found || !fs::exists(rig_->SettingsFile("TRX-SELVA"))) << "moment " << moment;
       ++(found == oldFile ? tally.oldFiles : tally.newFiles);
       for (const std::string &name : LibraryListing()) {
         if (!Contains(kNothingElse, name) && !Contains(kBeforeTheFile, name)) {
@@ -104,13 +104,13 @@ class KilledWriter : public Deliveries {
   void ExpectRegistrationsHold() {
     DeliverAll();
     SetTwo();
-    EXPECT_EQ(DeliverAll(), (std::vector<Call>{{"A selva", -1, 2}}));
+    EXPECT_TRUE(Delivered({{"A selva", -1, 2}}));
   }
 };
 
 TEST_F(KilledWriter, LeavesTheOldFileOrTheNewOneAndNothingAfterTheNextWrite) {
-  rig().PlugMixer();
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  rig_->PlugMixer();
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   const Tally tally = KillAtEveryMoment([this] { PutOldFile(); }, SetOne, kOld, kNew,
                                         [this] { ExpectNextWriteLeavesOnlyTheFile(); });
   EXPECT_GT(tally.moments, kFewestMoments);
@@ -122,7 +122,7 @@ TEST_F(KilledWriter, LeavesTheOldFileOrTheNewOneAndNothingAfterTheNextWrite) {
 
 TEST_F(KilledWriter, LeavesNothingWhenItWasTheFirst) {
   const Tally tally =
-      KillAtEveryMoment([this] { fs::remove_all(rig().LibraryFolder()); }, SetOne, std::nullopt,
+      KillAtEveryMoment([this] { fs::remove_all(rig_->LibraryFolder()); }, SetOne, std::nullopt,
                         Settings{{"MaxLevel", "<integer>1</integer>"}}, [] {});
   EXPECT_GT(tally.moments, kFewestMoments);
   EXPECT_GT(tally.oldFiles, 0);
@@ -159,7 +159,7 @@ TEST_F(KilledWriter, TakesNothingOfAnotherWithIt) {
     PutOldFile();
     SteppedProcess child(SetOne);
     isAtWork = child.StepTo(++moments).has_value();
-    SteppedProcess another([] { EXPECT_EQ(ORV_SetUSBOutputAudio(11, 1, 2), 100); });
+    SteppedProcess another([] { EXPECT_EQ(ORV_SetUSBOutputAudio(kSelva, 1, 2), kSuccess); });
     EXPECT_TRUE(another.RunToEnd());
     // As far as it would have come alone, and no further.
     if (isAtWork && child.StepTo(kFewestMoments)) child.Kill();

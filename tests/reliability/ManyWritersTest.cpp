@@ -51,15 +51,15 @@ std::string InXml(std::uint32_t index) {
 bool Set(const Writer &writer, std::uint32_t index) {
   switch (writer.kind) {
     case Kind::kBoost:
-      return ORV_SetBoostLevelIndex(11, index) == 100;
+      return ORV_SetBoostLevelIndex(kSelva, index) == kSuccess;
     case Kind::kOutput:
-      return ORV_SetUSBOutputAudio(11, writer.channel, index) == 100;
+      return ORV_SetUSBOutputAudio(kSelva, writer.channel, index) == kSuccess;
     case Kind::kInput:
       break;
   }
   // With a warning for some of the choices.
-  const StatusCode status = ORV_SetUSBInputAudio(11, writer.channel, index);
-  return status == 100 || status == 101;
+  const StatusCode status = ORV_SetUSBInputAudio(kSelva, writer.channel, index);
+  return status == kSuccess || status == kSuccessWithWarning;
 }
 
 // Whether the library reads this value. It has no function for some of them.
@@ -67,13 +67,13 @@ bool IsReported(const Writer &writer, std::uint32_t index) {
   std::int32_t stored = -77;
   switch (writer.kind) {
     case Kind::kBoost:
-      ORV_GetCurrentBoostLevelIndex(11, &stored);
+      ORV_GetCurrentBoostLevelIndex(kSelva, &stored);
       break;
     case Kind::kInput:
-      ORV_GetCurrentUSBInputAudioIndex(11, writer.channel, &stored);
+      ORV_GetCurrentUSBInputAudioIndex(kSelva, writer.channel, &stored);
       break;
     case Kind::kOutput:
-      ORV_GetCurrentUSBOutputAudioIndex(11, writer.channel, &stored);
+      ORV_GetCurrentUSBOutputAudioIndex(kSelva, writer.channel, &stored);
       break;
   }
   return stored == static_cast<std::int32_t>(index);
@@ -86,7 +86,7 @@ std::uint32_t IndexOf(const Writer &writer, int round) {
 class ManyWriters : public Aftermath {
  protected:
   // Announcements are ignored here.
-  void SetUp() override { rig().StopNotificationService(); }
+  void SetUp() override { rig_->StopNotificationService(); }
 
   bool IsInFile(const Writer &writer, std::uint32_t index) {
     const std::optional<Settings> settings = SettingsOf("TRX-SELVA");
@@ -131,7 +131,7 @@ class ManyWriters : public Aftermath {
     EXPECT_EQ(LibraryListing(), kOnlyTheFile);
   }
 
-  void MakeLibraryFolder() { fs::create_directories(rig().LibraryFolder()); }
+  void MakeLibraryFolder() { fs::create_directories(rig_->LibraryFolder()); }
 };
 
 TEST_F(ManyWriters, LoseNothing) { ExpectNothingLost(SetsOfEach(250)); }
@@ -139,7 +139,7 @@ TEST_F(ManyWriters, LoseNothing) { ExpectNothingLost(SetsOfEach(250)); }
 TEST_F(ManyWriters, LoseNothingInMemory) {
   HaveOwnMounts();
   MakeLibraryFolder();
-  const Mount memory = Mount::Memory(rig().LibraryFolder(), "size=1m");
+  const Mount memory = Mount::Memory(rig_->LibraryFolder(), "size=1m");
   ExpectNothingLost(SetsOfEach(250));
 }
 
@@ -147,7 +147,7 @@ TEST_F(ManyWriters, LoseNothingOnADisk) {
   if (geteuid() != 0) GTEST_SKIP() << "only root can mount a disk";
   HaveOwnMounts();
   MakeLibraryFolder();
-  const Mount disk = Mount::NewDisk(rig().LibraryFolder());
+  const Mount disk = Mount::NewDisk(rig_->LibraryFolder());
   ExpectNothingLost(SetsOfEach(25));
 }
 
@@ -156,7 +156,7 @@ TEST_F(ManyWriters, LoseNothingOnAnOverlay) {
   MakeLibraryFolder();
   // At first the file is in the lower layer, as in a container's image.
   PutLevelThree();
-  const Mount overlay = Mount::Overlay(rig().LibraryFolder());
+  const Mount overlay = Mount::Overlay(rig_->LibraryFolder());
   ExpectNothingLost(SetsOfEach(250));
 }
 

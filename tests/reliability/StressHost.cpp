@@ -31,13 +31,15 @@
 #include <TRX-SELVASetup/EventLoop.h>
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
+#include "../support/Constants.h"
+
 namespace {
+
+using namespace trxtest;  // the constants of the header
 
 constexpr std::size_t kPosters = 8;
 
-constexpr std::array<ProductId, 6> kModels = {0, 1, 5, 6, 8, 11};
-constexpr ProductId kVolt = 1;
-constexpr ProductId kSelva = 11;
+constexpr std::array<ProductId, 6> kModels = {kArden, kVolt, kHalden, kLumen, kMorrow, kSelva};
 
 enum class Family { kBoost, kMidi, kInput, kOutput };
 
@@ -190,7 +192,8 @@ int Post(std::size_t poster) {
     const Choice &choice = sequence.Next();
     const StatusCode status = Set(choice);
     // Only the input routing may give a warning.
-    const bool isWell = status == 100 || (status == 101 && choice.family == Family::kInput);
+    const bool isWell =
+        status == kSuccess || (status == kSuccessWithWarning && choice.family == Family::kInput);
     if (!isWell) complaint.Add(Shown(choice) + " is answered with " + std::to_string(status));
     ++count;
   }
@@ -239,13 +242,13 @@ void OutputChanged(std::int32_t channel, std::int32_t index, void *context) {
 void RegisterForEverything() {
   static std::array<ProductId, 6> contexts = kModels;
   for (ProductId &product : contexts) {
-    if (ORV_RegisterBoostLevelChangedCallback(product, BoostChanged, &product) != 100 ||
-        ORV_RegisterInputAudioChangedCallback(product, InputChanged, &product) != 100 ||
-        ORV_RegisterOutputAudioChangedCallback(product, OutputChanged, &product) != 100) {
+    if (ORV_RegisterBoostLevelChangedCallback(product, BoostChanged, &product) != kSuccess ||
+        ORV_RegisterInputAudioChangedCallback(product, InputChanged, &product) != kSuccess ||
+        ORV_RegisterOutputAudioChangedCallback(product, OutputChanged, &product) != kSuccess) {
       observed.Add("a registration is refused");
     }
   }
-  if (ORV_RegisterMidiChannelChangedCallback(kVolt, MidiChanged, &contexts[1]) != 100) {
+  if (ORV_RegisterMidiChannelChangedCallback(kVolt, MidiChanged, &contexts[1]) != kSuccess) {
     observed.Add("a registration is refused");
   }
 }
@@ -269,7 +272,7 @@ int Watch() {
 
 void Expect(const char *what, StatusCode status, std::int32_t value, std::int32_t limit,
             Complaint &complaint) {
-  if (status == 100 && value >= 0 && value < limit) return;
+  if (status == kSuccess && value >= 0 && value < limit) return;
   complaint.Add(std::string(what) + " is " + std::to_string(value) + ", with status " +
                 std::to_string(status));
 }

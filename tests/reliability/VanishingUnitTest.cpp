@@ -35,17 +35,17 @@ class VanishingUnit : public Aftermath {
   // then `afterwards` checks. Returns how often the mixer was unplugged.
   int UnplugAtEveryMoment(const std::function<void()> &call,
                           const std::function<void()> &afterwards) {
-    const int unit = rig().PlugMixer();
+    const int unit = rig_->PlugMixer();
     for (int moment = 0; moment < kMostMoments; ++moment) {
       SCOPED_TRACE(moment);
-      rig().ClearWireLog();
+      rig_->ClearWireLog();
       SteppedProcess child(call);
       const bool isAtWork = StepToLook(child, moment + 1);
-      if (isAtWork) rig().Unplug(unit);
+      if (isAtWork) rig_->Unplug(unit);
       EXPECT_TRUE(child.RunToEnd());
       afterwards();
       if (!isAtWork || HasFailure()) return moment;
-      rig().Replug(unit);
+      rig_->Replug(unit);
     }
     ADD_FAILURE() << "the child never ends";
     return 0;
@@ -59,7 +59,7 @@ class VanishingUnit : public Aftermath {
   }
 
   std::ptrdiff_t RequestsTo(int unit) {
-    const Lines wire = rig().WireLog();
+    const Lines wire = rig_->WireLog();
     return std::count_if(wire.begin(), wire.end(), [&](const std::string &line) {
       return line.starts_with("unit " + std::to_string(unit) + " ");
     });
@@ -67,16 +67,16 @@ class VanishingUnit : public Aftermath {
 };
 
 TEST_F(VanishingUnit, ASetterStoresAndAnnouncesAsEver) {
-  rig().PlugMixer();
+  rig_->PlugMixer();
   Register();
   PutLevelThree();
   int timesTold = 0;
   const int moments = UnplugAtEveryMoment(
-      [] { EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100); },
+      [] { EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess); },
       [&] {
         EXPECT_EQ(SettingsOf("TRX-SELVA"), Level(1));
         EXPECT_EQ(LibraryListing(), kOnlyTheFile);
-        EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 1)});
+        EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", kSelva, 1)});
         EXPECT_EQ(RequestsTo(1), 1) << "of the mixer that stays";
         EXPECT_LE(RequestsTo(2), 1);
         timesTold += RequestsTo(2) == 1 ? 1 : 0;
@@ -91,12 +91,12 @@ TEST_F(VanishingUnit, ASetterStoresAndAnnouncesAsEver) {
 TEST_F(VanishingUnit, ARoutingSetterAnswersThatItWorkedOrThatAWarningApplies) {
   const int moments = UnplugAtEveryMoment(
       [] {
-        const StatusCode status = ORV_SetUSBInputAudio(11, 1, 0);
-        EXPECT_TRUE(status == 100 || status == 101) << status;
+        const StatusCode status = ORV_SetUSBInputAudio(kSelva, 1, 0);
+        EXPECT_TRUE(status == kSuccess || status == kSuccessWithWarning) << status;
       },
       [this] {
         EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"Output1", "<integer>0</integer>"}}));
-        EXPECT_EQ(rig().TakeAnnouncements(1).size(), 1U);
+        EXPECT_EQ(rig_->TakeAnnouncements(1).size(), 1U);
       });
   EXPECT_GT(moments, 15);
 }
@@ -105,7 +105,7 @@ TEST_F(VanishingUnit, AQueryGivesWhatTheMixerSaidOrZero) {
   const int moments = UnplugAtEveryMoment(
       [] {
         std::uint32_t certify = 77;
-        EXPECT_EQ(ORV_GetMixerCertifyLevel(11, &certify), 100);
+        EXPECT_EQ(ORV_GetMixerCertifyLevel(kSelva, &certify), kSuccess);
         EXPECT_TRUE(certify == 0 || certify == 1) << certify;
       },
       [] {});
@@ -116,12 +116,12 @@ TEST_F(VanishingUnit, AQueryThatKnowsABadReplyRefusesOrLeavesTheResultAlone) {
   const int moments = UnplugAtEveryMoment(
       [] {
         std::uint32_t serato = 77;
-        const StatusCode status = ORV_GetMixerSeratoActiveStatus(11, &serato);
-        EXPECT_TRUE((status == 100 && (serato == 0 || serato == 77)) ||
-                    (status == 102 && serato == 77))
+        const StatusCode status = ORV_GetMixerSeratoActiveStatus(kSelva, &serato);
+        EXPECT_TRUE((status == kSuccess && (serato == 0 || serato == 77)) ||
+                    (status == kBadArgument && serato == 77))
             << status << ' ' << serato;
-        const StatusCode connection = ORV_IsUSBConnection(11);
-        EXPECT_TRUE(connection == 103 || connection == 104) << connection;
+        const StatusCode connection = ORV_IsUSBConnection(kSelva);
+        EXPECT_TRUE(connection == kConnected || connection == kNotConnected) << connection;
       },
       [] {});
   EXPECT_GT(moments, 5);

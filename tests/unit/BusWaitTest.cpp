@@ -14,6 +14,7 @@
 
 #include <TRX-SELVASetup/EventLoop.h>
 
+#include "Constants.h"
 #include "NotificationCentre.h"
 #include "PrivateSessionBus.h"
 #include "WatchedSystem.h"
@@ -41,7 +42,7 @@ std::string Observe() {
 
 void Post(const std::string &name) { orv::PostNotification(name, {}, orv::Delivery::kPlain); }
 
-void Dispatch() { EXPECT_EQ(ORV_DispatchNotifications(), 100); }
+void Dispatch() { EXPECT_EQ(ORV_DispatchNotifications(), kSuccess); }
 
 // Runs the event loop as a host does.
 bool RunEventLoopUntil(const std::function<bool()> &isDone) {
@@ -49,7 +50,7 @@ bool RunEventLoopUntil(const std::function<bool()> &isDone) {
   while (!isDone()) {
     if (Clock::now() >= end) return false;
     pollfd loop = {-1, POLLIN, 0};
-    EXPECT_EQ(ORV_GetNotificationDescriptor(&loop.fd), 100);
+    EXPECT_EQ(ORV_GetNotificationDescriptor(&loop.fd), kSuccess);
     if (poll(&loop, 1, 100) > 0) Dispatch();
   }
   return true;

@@ -13,6 +13,7 @@
 #include <TRX-SELVASetup/EventLoop.h>
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
+#include "Constants.h"
 #include "FailingMemory.h"
 #include "MockBus.h"
 #include "PrivateSessionBus.h"
@@ -21,6 +22,14 @@
 
 namespace orv {
 namespace {
+
+using trxtest::kArden;
+using trxtest::kBadArgument;
+using trxtest::kConnected;
+using trxtest::kNotConnected;
+using trxtest::kSelva;
+using trxtest::kSuccess;
+using trxtest::kSuccessWithWarning;
 
 using testing::Each;
 using testing::UnorderedElementsAre;
@@ -59,8 +68,8 @@ class OutOfMemory : public testing::Test {
 };
 
 TEST_F(OutOfMemory, AConnectionIsThenNotSeen) {
-  EXPECT_THAT(AnswersWhileMemoryGrows([] { return ORV_IsUSBConnection(11); }),
-              UnorderedElementsAre(103, 104));
+  EXPECT_THAT(AnswersWhileMemoryGrows([] { return ORV_IsUSBConnection(kSelva); }),
+              UnorderedElementsAre(kConnected, kNotConnected));
 }
 
 TEST_F(OutOfMemory, AUnitIsThenNotOpened) {
@@ -77,27 +86,27 @@ TEST_F(OutOfMemory, AUnitIsThenNotOpened) {
 }
 
 TEST_F(OutOfMemory, ASetterAnswersAsEverAndTheFileIsOldOrNew) {
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 2), kSuccess);
   const auto answers = AnswersWhileMemoryGrows([] {
-    const StatusCode answer = ORV_SetBoostLevelIndex(11, 1);
+    const StatusCode answer = ORV_SetBoostLevelIndex(kSelva, 1);
     MemoryIsBack();
     std::int32_t stored = -1;
-    ORV_GetCurrentBoostLevelIndex(11, &stored);
+    ORV_GetCurrentBoostLevelIndex(kSelva, &stored);
     EXPECT_TRUE(stored == 2 || stored == 1) << stored;
     return answer;
   });
-  EXPECT_THAT(answers, Each(100));
+  EXPECT_THAT(answers, Each(kSuccess));
 }
 
 TEST_F(OutOfMemory, AGetterGivesTheDefault) {
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 2), kSuccess);
   const auto answers = AnswersWhileMemoryGrows([] {
     std::int32_t level = -1;
-    const StatusCode answer = ORV_GetCurrentBoostLevelIndex(11, &level);
+    const StatusCode answer = ORV_GetCurrentBoostLevelIndex(kSelva, &level);
     EXPECT_TRUE(level == 2 || level == 3) << level;
     return answer;
   });
-  EXPECT_THAT(answers, Each(100));
+  EXPECT_THAT(answers, Each(kSuccess));
 }
 
 TEST_F(OutOfMemory, TextsAreThenRefusedAndUntouched) {
@@ -106,21 +115,22 @@ TEST_F(OutOfMemory, TextsAreThenRefusedAndUntouched) {
     const auto answers = AnswersWhileMemoryGrows([&] {
       ORVStringRef text = nullptr;
       const StatusCode answer = function(11, &text);
-      EXPECT_EQ(text != nullptr, answer == 100);
+      EXPECT_EQ(text != nullptr, answer == kSuccess);
       return answer;
     });
-    EXPECT_THAT(answers, UnorderedElementsAre(100, 102));
+    EXPECT_THAT(answers, UnorderedElementsAre(kSuccess, kBadArgument));
   }
   EXPECT_THAT(AnswersWhileMemoryGrows([] {
                 ORVStringRef text = nullptr;
-                return ORV_GetDriverVersionText(11, &text);
+                return ORV_GetDriverVersionText(kSelva, &text);
               }),
-              UnorderedElementsAre(102));
+              UnorderedElementsAre(kBadArgument));
   EXPECT_THAT(AnswersWhileMemoryGrows([] {
                 ORVStringRef text = nullptr;
-                return ORV_GetWarningTextForSetUSBAudioInput(0, 0, 101, 0, &text);
+                return ORV_GetWarningTextForSetUSBAudioInput(kArden, 0, kSuccessWithWarning, 0,
+                                                             &text);
               }),
-              UnorderedElementsAre(100, 102));
+              UnorderedElementsAre(kSuccess, kBadArgument));
 }
 
 void Count(std::int32_t /*index*/, void *counter) { ++*static_cast<int *>(counter); }
@@ -129,19 +139,19 @@ TEST_F(OutOfMemory, RegisteringAndDispatchingAnswerAsEverAndWorkAgainAfterwards)
   const PrivateSessionBus bus;
   int counter = 0;
   EXPECT_THAT(AnswersWhileMemoryGrows(
-                  [&] { return ORV_RegisterBoostLevelChangedCallback(11, Count, &counter); }),
-              UnorderedElementsAre(100));
+                  [&] { return ORV_RegisterBoostLevelChangedCallback(kSelva, Count, &counter); }),
+              UnorderedElementsAre(kSuccess));
   for (int allocations = 0; allocations < 20; ++allocations) {
-    ORV_SetBoostLevelIndex(11, 1);
+    ORV_SetBoostLevelIndex(kSelva, 1);
     MemoryLastsFor(allocations);
-    EXPECT_EQ(ORV_DispatchNotifications(), 100);
+    EXPECT_EQ(ORV_DispatchNotifications(), kSuccess);
     MemoryIsBack();
   }
 
   pollfd loop = {-1, POLLIN, 0};
   ORV_GetNotificationDescriptor(&loop.fd);
   counter = 0;
-  ORV_SetBoostLevelIndex(11, 3);
+  ORV_SetBoostLevelIndex(kSelva, 3);
   for (int turn = 0; counter == 0 && turn < 100; ++turn) {
     poll(&loop, 1, 100);
     ORV_DispatchNotifications();

@@ -25,6 +25,7 @@ class AppleRig : public SimulatedUnits {
   std::string SettingsFile(const std::string &modelDisplayName) override;
   std::string SystemRoot() override;
 
+  bool KeepsOrderBetweenNames() override { return false; }
   std::vector<Announcement> TakeAnnouncements(std::size_t count) override;
   void Announce(const Announcement &announcement) override;
   int AnnounceMisshapen(const Announcement &announcement) override;

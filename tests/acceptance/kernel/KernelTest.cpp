@@ -17,6 +17,7 @@
 #include <unistd.h>
 
 #include "../Acceptance.h"
+#include "../WireLines.h"
 
 namespace trxtest {
 namespace {
@@ -96,9 +97,9 @@ void LoadAudioDriver() {
 
 class Kernel : public Acceptance {
  protected:
-  static std::string Sent(int unit, const std::string &outcome) {
-    return "unit " + std::to_string(unit) + " OUT 40 03 wValue 0200 wIndex 8003 wLength 0 -> " +
-           outcome;
+  // Level 1 in the wire log of a unit.
+  static std::string Taken(int unit, const std::string &outcome = "0 bytes") {
+    return Sent(unit, "0200", "8003", outcome);
   }
 
   static bool IsUnit(const std::string &line, int unit) {
@@ -108,21 +109,21 @@ class Kernel : public Acceptance {
 
 TEST_F(Kernel, APluggedMixerIsADeviceOfTheKernelWithANode) {
   EXPECT_EQ(Mixers().size(), 0U);
-  rig().PlugMixer();
+  rig_->PlugMixer();
   const auto mixers = Mixers();
   ASSERT_EQ(mixers.size(), 1U);
   EXPECT_EQ(fs::canonical(mixers[0]).string().find("/sys/devices/platform/vhci_hcd.0/usb"), 0U);
   struct stat status = {};
   ASSERT_EQ(stat(NodeOf(mixers[0]).c_str(), &status), 0);
   EXPECT_TRUE(S_ISCHR(status.st_mode));
-  EXPECT_EQ(ORV_IsUSBConnection(11), 103);
-  rig().Unplug(1);
+  EXPECT_EQ(ORV_IsUSBConnection(kSelva), kConnected);
+  rig_->Unplug(1);
   EXPECT_EQ(Mixers().size(), 0U);
-  EXPECT_EQ(ORV_IsUSBConnection(11), 104);
+  EXPECT_EQ(ORV_IsUSBConnection(kSelva), kNotConnected);
 }
 
 TEST_F(Kernel, RootHubsAndStrangersAreNoUnits) {
-  rig().PlugStranger(Stranger::kOtherProductOfTheMaker);
+  rig_->PlugStranger(Stranger::kOtherProductOfTheMaker);
   int hubs = 0;
   int strangers = 0;
   for (const fs::directory_entry &entry : fs::directory_iterator(kDevices)) {
@@ -132,32 +133,32 @@ TEST_F(Kernel, RootHubsAndStrangersAreNoUnits) {
   }
   EXPECT_EQ(hubs, 16);
   EXPECT_EQ(strangers, 1);
-  EXPECT_EQ(ORV_IsUSBConnection(11), 104);
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
-  EXPECT_EQ(rig().WireLog(), Lines());
+  EXPECT_EQ(ORV_IsUSBConnection(kSelva), kNotConnected);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
+  EXPECT_EQ(rig_->WireLog(), Lines());
 }
 
 TEST_F(Kernel, AReplugGivesANewDeviceNumberUnderWhichTheUnitIsFound) {
-  rig().PlugMixer();
+  rig_->PlugMixer();
   const std::string before = NodeOf(Mixers().at(0));
-  rig().Unplug(1);
+  rig_->Unplug(1);
   EXPECT_FALSE(fs::exists(before));
-  rig().Replug(1);
+  rig_->Replug(1);
   const std::string after = NodeOf(Mixers().at(0));
   EXPECT_NE(after, before);
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
-  EXPECT_EQ(rig().WireLog(), Lines{Sent(1, "0 bytes")});
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
+  EXPECT_EQ(rig_->WireLog(), Lines{Taken(1)});
 }
 
 TEST_F(Kernel, ARequestOfAUnitThatIsPulledOutEndsWithShutdown) {
-  rig().PlugMixer();
-  rig().SetFault(1, UnitFault::kStaysSilent);
+  rig_->PlugMixer();
+  rig_->SetFault(1, UnitFault::kStaysSilent);
   const Node node(NodeOf(Mixers().at(0)));
   std::array<std::uint8_t, 4> buffer = {};
   int result = 0;
   std::thread request([&] { result = node.Read(buffer, 60'000); });
-  EXPECT_TRUE(WaitUntil([&] { return rig().WireLog().size() == 1; }));
-  rig().Unplug(1);
+  EXPECT_TRUE(WaitUntil([&] { return rig_->WireLog().size() == 1; }));
+  rig_->Unplug(1);
   request.join();
   EXPECT_EQ(result, -ESHUTDOWN);
   EXPECT_EQ(node.Read(buffer, 60'000), -ENODEV);
@@ -166,87 +167,85 @@ TEST_F(Kernel, ARequestOfAUnitThatIsPulledOutEndsWithShutdown) {
 // The kernel may or may not have removed the first when the library looks for the next, so the next
 // one served may be the second or the third.
 TEST_F(Kernel, WhenAUnitIsPulledOutInTheMiddleOfASetTheNextIsServed) {
-  for (int i = 0; i < 3; ++i) rig().PlugMixer();
-  rig().SetFault(1, UnitFault::kStaysSilent);
-  const auto host = rig().StartHost();
+  for (int i = 0; i < 3; ++i) rig_->PlugMixer();
+  rig_->SetFault(1, UnitFault::kStaysSilent);
+  const auto host = rig_->StartHost();
   host->Begin("call ORV_SetBoostLevelIndex 11 1");
-  ASSERT_TRUE(WaitUntil([&] { return rig().WireLog().size() == 1; }));
-  rig().Unplug(1);
+  ASSERT_TRUE(WaitUntil([&] { return rig_->WireLog().size() == 1; }));
+  rig_->Unplug(1);
   EXPECT_EQ(host->Answer(), "100");
-  const Lines reached = rig().WireLog();
+  const Lines reached = rig_->WireLog();
   ASSERT_GE(reached.size(), 2U);
-  EXPECT_EQ(reached[0], Sent(1, "no reply"));
-  EXPECT_TRUE(reached[1] == Sent(2, "0 bytes") || reached[1] == Sent(3, "0 bytes")) << reached[1];
+  EXPECT_EQ(reached[0], Taken(1, "no reply"));
+  EXPECT_TRUE(reached[1] == Taken(2) || reached[1] == Taken(3)) << reached[1];
   EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>1</integer>"}}));
-  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 1)});
-  rig().ClearWireLog();
+  EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", kSelva, 1)});
+  rig_->ClearWireLog();
   EXPECT_EQ(host->Ask("call ORV_SetCurrentBoostLevelIndex 11"), "100");
-  EXPECT_EQ(rig().WireLog(), (Lines{Sent(2, "0 bytes"), Sent(3, "0 bytes")}));
+  EXPECT_EQ(rig_->WireLog(), (Lines{Taken(2), Taken(3)}));
 }
 
 TEST_F(Kernel, AStallIsABrokenPipe) {
-  rig().PlugMixer();
-  rig().SetFault(1, UnitFault::kStalls);
+  rig_->PlugMixer();
+  rig_->SetFault(1, UnitFault::kStalls);
   std::array<std::uint8_t, 4> buffer = {};
   EXPECT_EQ(Node(NodeOf(Mixers().at(0))).Read(buffer, 60'000), -EPIPE);
   std::uint32_t level = 77;
-  EXPECT_EQ(ORV_GetMixerCertifyLevel(11, &level), 100);
+  EXPECT_EQ(ORV_GetMixerCertifyLevel(kSelva, &level), kSuccess);
   EXPECT_EQ(level, 0U);
 }
 
 TEST_F(Kernel, ASilentUnitIsGivenUpAfterTheTimeOfTheRequestAndAnswersTheNext) {
-  rig().PlugMixer();
-  rig().SetFault(1, UnitFault::kStaysSilent);
+  rig_->PlugMixer();
+  rig_->SetFault(1, UnitFault::kStaysSilent);
   const Node node(NodeOf(Mixers().at(0)));
   std::array<std::uint8_t, 4> buffer = {};
   EXPECT_EQ(node.Read(buffer, 300), -ETIMEDOUT);
-  rig().ClearFaults(1);
+  rig_->ClearFaults(1);
   EXPECT_EQ(node.Read(buffer, 60'000), 4);
   EXPECT_EQ(buffer, (std::array<std::uint8_t, 4>{0, 0, 0, 1}));
 }
 
 TEST_F(Kernel, AShortReplyLeavesTheRestOfTheBuffer) {
-  rig().PlugMixer();
-  rig().SetCertifyLevel(1, 0x01020304);
-  rig().SetShortReplies(1, 3);
+  rig_->PlugMixer();
+  rig_->SetCertifyLevel(1, 0x01020304);
+  rig_->SetShortReplies(1, 3);
   std::array<std::uint8_t, 4> buffer = {0xEE, 0xEE, 0xEE, 0xEE};
   EXPECT_EQ(Node(NodeOf(Mixers().at(0))).Read(buffer, 60'000), 3);
   EXPECT_EQ(buffer, (std::array<std::uint8_t, 4>{0x01, 0x02, 0x03, 0xEE}));
 }
 
 TEST_F(Kernel, AnOrdinaryUserReachesTheUnitsWhoseNodesLetHimIn) {
-  rig().PlugMixer();
-  rig().PlugMixer();
-  rig().SetFault(1, UnitFault::kNotPermitted);
-  const auto host = rig().StartHost();
+  rig_->PlugMixer();
+  rig_->PlugMixer();
+  rig_->SetFault(1, UnitFault::kNotPermitted);
+  const auto host = rig_->StartHost();
   ASSERT_EQ(host->Ask("give-up root"), "done");
   EXPECT_EQ(host->Ask("call ORV_IsUSBConnection 11"), "103");
   EXPECT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 1"), "100");
-  EXPECT_EQ(rig().WireLog(), Lines{Sent(2, "0 bytes")});
-  rig().ClearFaults(1);
+  EXPECT_EQ(rig_->WireLog(), Lines{Taken(2)});
+  rig_->ClearFaults(1);
   EXPECT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 1"), "100");
-  EXPECT_EQ(rig().WireLog(), (Lines{Sent(2, "0 bytes"), Sent(1, "0 bytes"), Sent(2, "0 bytes")}));
+  EXPECT_EQ(rig_->WireLog(), (Lines{Taken(2), Taken(1), Taken(2)}));
 }
 
 TEST_F(Kernel, AnInterfaceThatAProgramHasClaimedStaysItsOwn) {
-  rig().PlugMixer();
+  rig_->PlugMixer();
   const fs::path device = Mixers().at(0);
   const Node driver(NodeOf(device));
   ASSERT_TRUE(driver.ClaimInterface(0));
   ASSERT_EQ(DriverOf(device, 0), "usbfs");
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   std::uint32_t level = 77;
-  EXPECT_EQ(ORV_GetMixerCertifyLevel(11, &level), 100);
+  EXPECT_EQ(ORV_GetMixerCertifyLevel(kSelva, &level), kSuccess);
   EXPECT_EQ(level, 1U);
   EXPECT_EQ(DriverOf(device, 0), "usbfs");
-  EXPECT_EQ(rig().WireLog(), (Lines{Sent(1, "0 bytes"),
-                                    "unit 1 IN c0 00 wValue 0000 wIndex 8007 wLength 4 -> 4 "
-                                    "bytes 00 00 00 01"}));
+  EXPECT_EQ(rig_->WireLog(), (Lines{Taken(1), Asked(1, "8007", 4, "4 bytes 00 00 00 01")}));
 }
 
 TEST_F(Kernel, TheAudioDriverStaysBound) {
   LoadAudioDriver();
-  rig().PlugMixer();
+  rig_->PlugMixer();
   const fs::path device = Mixers().at(0);
   const auto isBound = [&device](unsigned interface) {
     return DriverOf(device, interface) == "snd-usb-audio";
@@ -254,9 +253,9 @@ TEST_F(Kernel, TheAudioDriverStaysBound) {
   for (const unsigned interface : {0U, 1U, 2U}) {
     ASSERT_TRUE(WaitUntil([&] { return isBound(interface); })) << interface;
   }
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   std::uint32_t level = 77;
-  EXPECT_EQ(ORV_GetMixerCertifyLevel(11, &level), 100);
+  EXPECT_EQ(ORV_GetMixerCertifyLevel(kSelva, &level), kSuccess);
   EXPECT_EQ(level, 1U);
   for (const unsigned interface : {0U, 1U, 2U}) EXPECT_TRUE(isBound(interface)) << interface;
 }

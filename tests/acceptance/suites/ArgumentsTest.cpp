@@ -45,8 +45,9 @@ bool Contains(const Accepted &accepted, ProductId product, std::int32_t channel 
   return place < model->second.size() && index < model->second[place];
 }
 
-const Accepted kAllSix = {{0, {1}}, {1, {1}}, {5, {1}}, {6, {1}}, {8, {1}}, {11, {1}}};
-const Accepted kSelva = {{11, {1}}};
+const Accepted kAllSix = {{kArden, {1}}, {kVolt, {1}},   {kHalden, {1}},
+                          {kLumen, {1}}, {kMorrow, {1}}, {kSelva, {1}}};
+const Accepted kSelvaOnly = {{kSelva, {1}}};
 
 // The value of a result variable before the call.
 constexpr std::int32_t kBefore = -1234567;
@@ -86,9 +87,9 @@ class Arguments : public InstalledFiles {
     for (const ProductId product : kAllProducts) {
       const bool isAccepted = Contains(accepted, product);
       Result result = before;
-      sweep.Expect(function(product, &result), isAccepted ? 100 : 102, name, product);
+      sweep.Expect(function(product, &result), isAccepted ? kSuccess : kBadArgument, name, product);
       sweep.Expect(result, isAccepted ? handedOut : refused, name, product);
-      sweep.Expect(function(product, nullptr), 102, name, product, "null");
+      sweep.Expect(function(product, nullptr), kBadArgument, name, product, "null");
     }
   }
 
@@ -102,11 +103,11 @@ class Arguments : public InstalledFiles {
         const bool isAccepted = Contains(accepted, product, channel);
         Result result = before;
         sweep.Expect(function(product, static_cast<Channel>(channel), &result),
-                     isAccepted ? 100 : 102, name, product, channel);
+                     isAccepted ? kSuccess : kBadArgument, name, product, channel);
         sweep.Expect(result, isAccepted ? Result{resultOf(product, channel)} : before, name,
                      product, channel);
-        sweep.Expect(function(product, static_cast<Channel>(channel), nullptr), 102, name, product,
-                     channel, "null");
+        sweep.Expect(function(product, static_cast<Channel>(channel), nullptr), kBadArgument, name,
+                     product, channel, "null");
       }
     }
   }
@@ -121,19 +122,19 @@ class Arguments : public InstalledFiles {
         for (const std::uint32_t index : places.indexes) {
           const bool isAccepted = Contains(accepted, product, channel, index);
           ORVStringRef text = BeforeText();
-          sweep.Expect(call(product, channel, index, &text), isAccepted ? 100 : 102, name, product,
-                       channel, index);
+          sweep.Expect(call(product, channel, index, &text), isAccepted ? kSuccess : kBadArgument,
+                       name, product, channel, index);
           sweep.Expect(text != BeforeText(), isAccepted, name, product, channel, index);
-          sweep.Expect(call(product, channel, index, nullptr), 102, name, product, channel, index,
-                       "null");
+          sweep.Expect(call(product, channel, index, nullptr), kBadArgument, name, product, channel,
+                       index, "null");
         }
       }
     }
   }
 
-  // Calls setters with everything that is refused and expects 102 without any effect, then with
-  // everything that is accepted. `statusOf` gives the status of an accepted call. Returns how many
-  // were accepted.
+  // Calls setters with everything that is refused and expects a refusal without any effect, then
+  // with everything that is accepted. `statusOf` gives the status of an accepted call. Returns how
+  // many were accepted.
   template <typename Call, typename StatusOf>
   std::size_t SweepSetter(const char *name, const Accepted &accepted, const Places &places,
                           Call call, StatusOf statusOf) {
@@ -145,39 +146,40 @@ class Arguments : public InstalledFiles {
           for (const std::uint32_t index : places.indexes) {
             if (Contains(accepted, product, channel, index) != isAccepted) continue;
             sweep.Expect(call(product, channel, index),
-                         isAccepted ? statusOf(product, channel, index) : 102, name, product,
-                         channel, index);
+                         isAccepted ? statusOf(product, channel, index) : kBadArgument, name,
+                         product, channel, index);
             count += isAccepted ? 1 : 0;
           }
         }
       }
       if (!isAccepted) ExpectNothingHappened();
     }
-    EXPECT_EQ(rig().WireLog(), Lines());
+    EXPECT_EQ(rig_->WireLog(), Lines());
     return count;
   }
 
-  static StatusCode Success(ProductId, std::int32_t, std::uint32_t) { return 100; }
+  static StatusCode Success(ProductId, std::int32_t, std::uint32_t) { return kSuccess; }
 };
 
 TEST_F(Arguments, IsUSBConnectionTakesAnyModel) {
-  for (const ProductId product : kAllProducts) EXPECT_EQ(ORV_IsUSBConnection(product), 104);
-  rig().PlugMixer();
-  for (const ProductId product : kAllProducts) EXPECT_EQ(ORV_IsUSBConnection(product), 103);
+  for (const ProductId product : kAllProducts)
+    EXPECT_EQ(ORV_IsUSBConnection(product), kNotConnected);
+  rig_->PlugMixer();
+  for (const ProductId product : kAllProducts) EXPECT_EQ(ORV_IsUSBConnection(product), kConnected);
 }
 
 // --- Status queries --------------------------------------------------------------------------
 
 TEST_F(Arguments, CertifyLevelTakesFourModelsAndClearsItsResultForThem) {
   SweepProducts<std::uint32_t>("CertifyLevel", ORV_GetMixerCertifyLevel,
-                               {{5, {1}}, {6, {1}}, {8, {1}}, {11, {1}}}, kBeforeUnsigned, 0,
-                               kBeforeUnsigned);
+                               {{kHalden, {1}}, {kLumen, {1}}, {kMorrow, {1}}, {kSelva, {1}}},
+                               kBeforeUnsigned, 0, kBeforeUnsigned);
   ExpectNothingHappened();
 }
 
 TEST_F(Arguments, FirmwareTakesSelvaAndClearsItsResultForEverybody) {
-  SweepProducts<std::uint32_t>("Firmware", ORV_GetFirmwareVersionIndex, kSelva, kBeforeUnsigned, 0,
-                               0);
+  SweepProducts<std::uint32_t>("Firmware", ORV_GetFirmwareVersionIndex, kSelvaOnly, kBeforeUnsigned,
+                               0, 0);
   ExpectNothingHappened();
 }
 
@@ -189,12 +191,12 @@ TEST_F(Arguments, SeratoTakesSixModelsAndLeavesItsResultWithoutAUnit) {
 
 TEST_F(Arguments, SelectorTakesFourThreeOrFiveChannelsAndLeavesItsResultWithoutAUnit) {
   SweepChannels("Selector", ORV_GetMixerInputSelectorStatus,
-                {{0, {1, 1, 1, 1}},
-                 {1, {1, 1, 1}},
-                 {5, {1, 1, 1, 1, 1}},
-                 {6, {1, 1, 1, 1, 1}},
-                 {8, {1, 1, 1, 1, 1}},
-                 {11, {1, 1, 1, 1, 1}}},
+                {{kArden, {1, 1, 1, 1}},
+                 {kVolt, {1, 1, 1}},
+                 {kHalden, {1, 1, 1, 1, 1}},
+                 {kLumen, {1, 1, 1, 1, 1}},
+                 {kMorrow, {1, 1, 1, 1, 1}},
+                 {kSelva, {1, 1, 1, 1, 1}}},
                 kBeforeUnsigned, [](ProductId, std::int32_t) { return kBeforeUnsigned; });
   ExpectNothingHappened();
 }
@@ -202,8 +204,8 @@ TEST_F(Arguments, SelectorTakesFourThreeOrFiveChannelsAndLeavesItsResultWithoutA
 // --- Input audio -----------------------------------------------------------------------------
 
 TEST_F(Arguments, InputAudioCountTakesFourChannelsOfSelva) {
-  SweepChannels("NumOfInputAudioIndex", ORV_GetNumOfInputAudioIndex, {{11, {1, 1, 1, 1}}}, kBefore,
-                [](ProductId, std::int32_t channel) {
+  SweepChannels("NumOfInputAudioIndex", ORV_GetNumOfInputAudioIndex, {{kSelva, {1, 1, 1, 1}}},
+                kBefore, [](ProductId, std::int32_t channel) {
                   constexpr std::int32_t kCounts[] = {8, 8, 7, 1};
                   return kCounts[channel];
                 });
@@ -212,12 +214,12 @@ TEST_F(Arguments, InputAudioCountTakesFourChannelsOfSelva) {
 
 TEST_F(Arguments, InputAudioTextTakesMoreIndexesThanThereAreChoices) {
   SweepTexts("USBInputAudioText",
-             {{0, {8, 8, 8, 8}},
-              {1, {2, 2, 6}},
-              {5, {9, 9, 9, 9, 10}},
-              {6, {9, 9, 9, 9, 10}},
-              {8, {9, 9, 9, 9, 10}},
-              {11, {9, 9, 9, 9, 10}}},
+             {{kArden, {8, 8, 8, 8}},
+              {kVolt, {2, 2, 6}},
+              {kHalden, {9, 9, 9, 9, 10}},
+              {kLumen, {9, 9, 9, 9, 10}},
+              {kMorrow, {9, 9, 9, 9, 10}},
+              {kSelva, {9, 9, 9, 9, 10}}},
              kChannelsAndIndexes,
              [](ProductId product, std::int32_t channel, std::uint32_t index, ORVStringRef *text) {
                return ORV_GetUSBInputAudioText(product, channel, index, index, text);
@@ -226,20 +228,22 @@ TEST_F(Arguments, InputAudioTextTakesMoreIndexesThanThereAreChoices) {
 }
 
 TEST_F(Arguments, SetInputAudioTakesThreeChannelsOfSelva) {
-  const std::size_t count = SweepSetter(
-      "SetUSBInputAudio", {{11, {8, 8, 7}}}, kChannelsAndIndexes, ORV_SetUSBInputAudio,
-      [](ProductId, std::int32_t, std::uint32_t index) { return index < 3 ? 101 : 100; });
+  const std::size_t count =
+      SweepSetter("SetUSBInputAudio", {{kSelva, {8, 8, 7}}}, kChannelsAndIndexes,
+                  ORV_SetUSBInputAudio, [](ProductId, std::int32_t, std::uint32_t index) {
+                    return index < 3 ? kSuccessWithWarning : kSuccess;
+                  });
   EXPECT_EQ(count, 23U);
-  EXPECT_EQ(rig().TakeAnnouncements(23).size(), 23U);
+  EXPECT_EQ(rig_->TakeAnnouncements(23).size(), 23U);
   EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"Output0", "<integer>7</integer>"},
                                                {"Output1", "<integer>7</integer>"},
                                                {"Output2", "<integer>6</integer>"}}));
 }
 
 TEST_F(Arguments, SetInputAudioDirectTakesSixModelsAndAnyGroup) {
-  const Accepted accepted = {{0, {16, 16, 16, 16}},     {1, {4, 4, 16}},
-                             {5, {16, 16, 16, 16, 16}}, {6, {16, 16, 16, 16, 16}},
-                             {8, {16, 16, 16, 16, 16}}, {11, {16, 16, 16, 16, 16}}};
+  const Accepted accepted = {{kArden, {16, 16, 16, 16}},      {kVolt, {4, 4, 16}},
+                             {kHalden, {16, 16, 16, 16, 16}}, {kLumen, {16, 16, 16, 16, 16}},
+                             {kMorrow, {16, 16, 16, 16, 16}}, {kSelva, {16, 16, 16, 16, 16}}};
   for (const std::int32_t group : {-1, 0, kLeast, kMost}) {
     const std::size_t count = SweepSetter(
         "SetUSBInputAudioDirect", accepted, kChannelsAndIndexes,
@@ -247,7 +251,7 @@ TEST_F(Arguments, SetInputAudioDirectTakesSixModelsAndAnyGroup) {
           return ORV_SetUSBInputAudioDirect(product, channel, group, source);
         },
         [](ProductId product, std::int32_t, std::uint32_t source) {
-          return product == 1 || source < 3 ? 101 : 100;
+          return product == kVolt || source < 3 ? kSuccessWithWarning : kSuccess;
         });
     EXPECT_EQ(count, 408U);
   }
@@ -256,15 +260,15 @@ TEST_F(Arguments, SetInputAudioDirectTakesSixModelsAndAnyGroup) {
 
 TEST_F(Arguments, CurrentInputAudioTakesFourThreeOrSixChannels) {
   SweepChannels("CurrentUSBInputAudioIndex", ORV_GetCurrentUSBInputAudioIndex,
-                {{0, {1, 1, 1, 1}},
-                 {1, {1, 1, 1}},
-                 {5, {1, 1, 1, 1, 1, 1}},
-                 {6, {1, 1, 1, 1, 1, 1}},
-                 {8, {1, 1, 1, 1, 1, 1}},
-                 {11, {1, 1, 1, 1, 1, 1}}},
+                {{kArden, {1, 1, 1, 1}},
+                 {kVolt, {1, 1, 1}},
+                 {kHalden, {1, 1, 1, 1, 1, 1}},
+                 {kLumen, {1, 1, 1, 1, 1, 1}},
+                 {kMorrow, {1, 1, 1, 1, 1, 1}},
+                 {kSelva, {1, 1, 1, 1, 1, 1}}},
                 kBefore, [](ProductId product, std::int32_t channel) {
-                  if (product == 0) return 3;
-                  if (product == 1) return channel == 2 ? 5 : 1;
+                  if (product == kArden) return 3;
+                  if (product == kVolt) return channel == 2 ? 5 : 1;
                   return 0;
                 });
   ExpectNothingHappened();
@@ -272,7 +276,7 @@ TEST_F(Arguments, CurrentInputAudioTakesFourThreeOrSixChannels) {
 
 TEST_F(Arguments, SetCurrentInputAudioTakesThreeChannelsOfSelva) {
   SweepSetter(
-      "SetCurrentUSBInputAudio", {{11, {1, 1, 1}}}, kChannelsOnly,
+      "SetCurrentUSBInputAudio", {{kSelva, {1, 1, 1}}}, kChannelsOnly,
       [](ProductId product, std::int32_t channel, std::uint32_t) {
         return ORV_SetCurrentUSBInputAudio(product, channel);
       },
@@ -283,11 +287,14 @@ TEST_F(Arguments, SetCurrentInputAudioTakesThreeChannelsOfSelva) {
 // --- The warning -----------------------------------------------------------------------------
 
 TEST_F(Arguments, WarningTakes101AndThirteenLanguages) {
-  const Accepted accepted = {{0, {1, 1, 1, 1}}, {1, {1, 1, 1}},    {5, {1, 1, 1, 1, 1}},
-                             {6, {1, 1, 1, 1}}, {8, {1, 1, 1, 1}}, {11, {1, 1, 1, 1}}};
+  const Accepted accepted = {{kArden, {1, 1, 1, 1}},     {kVolt, {1, 1, 1}},
+                             {kHalden, {1, 1, 1, 1, 1}}, {kLumen, {1, 1, 1, 1}},
+                             {kMorrow, {1, 1, 1, 1}},    {kSelva, {1, 1, 1, 1}}};
   constexpr std::int32_t kLanguages[] = {kLeast, -1, 0,  1,  2,  3,  4,   5,   6,   7,   8,    9,
                                          10,     11, 12, 13, 98, 99, 100, 101, 255, 256, kMost};
-  constexpr StatusCode kStatuses[] = {kLeast, -1, 0, 99, 100, 101, 102, 103, 104, kMost};
+  constexpr StatusCode kStatuses[] = {
+      kLeast,        -1,   0, 99, kSuccess, kSuccessWithWarning, kBadArgument, kConnected,
+      kNotConnected, kMost};
   // Nothing is installed, so an accepted call gives null.
   Sweep sweep;
   for (const ProductId product : kAllProducts) {
@@ -296,17 +303,17 @@ TEST_F(Arguments, WarningTakes101AndThirteenLanguages) {
         for (const std::int32_t language : kLanguages) {
           const bool isLanguage = (language >= 0 && language <= 11) || language == 99;
           const bool isAccepted =
-              Contains(accepted, product, channel) && status == 101 && isLanguage;
+              Contains(accepted, product, channel) && status == kSuccessWithWarning && isLanguage;
           ORVStringRef text = BeforeText();
           sweep.Expect(
               ORV_GetWarningTextForSetUSBAudioInput(product, channel, status, language, &text),
-              isAccepted ? 100 : 102, "Warning", product, channel, status, language);
+              isAccepted ? kSuccess : kBadArgument, "Warning", product, channel, status, language);
           sweep.Expect(text == nullptr, isAccepted, "Warning", product, channel, status, language);
           sweep.Expect(text == BeforeText(), !isAccepted, "Warning", product, channel, status,
                        language);
         }
         sweep.Expect(ORV_GetWarningTextForSetUSBAudioInput(product, channel, status, 0, nullptr),
-                     102, "Warning", product, channel, status, "null");
+                     kBadArgument, "Warning", product, channel, status, "null");
       }
     }
   }
@@ -316,13 +323,13 @@ TEST_F(Arguments, WarningTakes101AndThirteenLanguages) {
 // --- Output audio ----------------------------------------------------------------------------
 
 TEST_F(Arguments, OutputAudioCountTakesThreeChannelsOfSelva) {
-  SweepChannels("NumOfOutputAudioIndex", ORV_GetNumOfOutputAudioIndex, {{11, {1, 1, 1}}},
+  SweepChannels("NumOfOutputAudioIndex", ORV_GetNumOfOutputAudioIndex, {{kSelva, {1, 1, 1}}},
                 kBeforeUnsigned, [](ProductId, std::int32_t) { return 3U; });
   ExpectNothingHappened();
 }
 
 TEST_F(Arguments, OutputAudioTextTakesThreeChannelsAndFourIndexesOfSelva) {
-  SweepTexts("USBOutputAudioText", {{11, {4, 4, 4}}}, kChannelsAndIndexes,
+  SweepTexts("USBOutputAudioText", {{kSelva, {4, 4, 4}}}, kChannelsAndIndexes,
              [](ProductId product, std::int32_t channel, std::uint32_t index, ORVStringRef *text) {
                return ORV_GetUSBOutputAudioText(product, channel, index, index, text);
              });
@@ -330,32 +337,33 @@ TEST_F(Arguments, OutputAudioTextTakesThreeChannelsAndFourIndexesOfSelva) {
 }
 
 TEST_F(Arguments, SetOutputAudioTakesFiveChannelsOfSelva) {
-  const std::size_t count = SweepSetter("SetUSBOutputAudio", {{11, {3, 3, 3, 3, 3}}},
+  const std::size_t count = SweepSetter("SetUSBOutputAudio", {{kSelva, {3, 3, 3, 3, 3}}},
                                         kChannelsAndIndexes, ORV_SetUSBOutputAudio, Success);
   EXPECT_EQ(count, 15U);
-  EXPECT_EQ(rig().TakeAnnouncements(15).size(), 15U);
+  EXPECT_EQ(rig_->TakeAnnouncements(15).size(), 15U);
 }
 
 TEST_F(Arguments, SetOutputAudioDefaultTakesFiveChannelsOfSelva) {
   SweepSetter(
-      "SetUSBOutputAudioDefault", {{11, {1, 1, 1, 1, 1}}}, kChannelsOnly,
+      "SetUSBOutputAudioDefault", {{kSelva, {1, 1, 1, 1, 1}}}, kChannelsOnly,
       [](ProductId product, std::int32_t channel, std::uint32_t) {
         return ORV_SetUSBOutputAudioDefault(product, channel);
       },
       Success);
-  EXPECT_EQ(rig().TakeAnnouncements(5).size(), 5U);
+  EXPECT_EQ(rig_->TakeAnnouncements(5).size(), 5U);
   EXPECT_EQ(LibraryListing(), Lines());
 }
 
 TEST_F(Arguments, CurrentOutputAudioTakesThreeChannelsOfSelva) {
-  SweepChannels("CurrentUSBOutputAudioIndex", ORV_GetCurrentUSBOutputAudioIndex, {{11, {1, 1, 1}}},
-                kBefore, [](ProductId, std::int32_t channel) { return channel; });
+  SweepChannels("CurrentUSBOutputAudioIndex", ORV_GetCurrentUSBOutputAudioIndex,
+                {{kSelva, {1, 1, 1}}}, kBefore,
+                [](ProductId, std::int32_t channel) { return channel; });
   ExpectNothingHappened();
 }
 
 TEST_F(Arguments, SetCurrentOutputAudioTakesThreeChannelsOfSelva) {
   SweepSetter(
-      "SetCurrentUSBOutputAudio", {{11, {1, 1, 1}}}, kChannelsOnly,
+      "SetCurrentUSBOutputAudio", {{kSelva, {1, 1, 1}}}, kChannelsOnly,
       [](ProductId product, std::int32_t channel, std::uint32_t) {
         return ORV_SetCurrentUSBOutputAudio(product, channel);
       },
@@ -380,14 +388,15 @@ TEST_F(Arguments, VersionTextsTakeSelvaOrSixModelsWhenAllIsInstalled) {
   }
   // All contain the same text, so all calls give the same pointer.
   ORVStringRef one = nullptr;
-  ASSERT_EQ(ORV_GetPkgVersionText(11, &one), 100);
+  ASSERT_EQ(ORV_GetPkgVersionText(kSelva, &one), kSuccess);
   ASSERT_EQ(CharactersOf(one), "1");
-  SweepProducts("PkgVersionText", ORV_GetPkgVersionText, kSelva, BeforeText(), one, BeforeText());
+  SweepProducts("PkgVersionText", ORV_GetPkgVersionText, kSelvaOnly, BeforeText(), one,
+                BeforeText());
   SweepProducts("DriverVersionText", ORV_GetDriverVersionText, kAllSix, BeforeText(), one,
                 BeforeText());
   SweepProducts("UtilityVersionText", ORV_GetUtilityVersionText, kAllSix, BeforeText(), one,
                 BeforeText());
-  SweepProducts("LibraryVersionText", ORV_GetLibraryVersionText, kSelva, BeforeText(), one,
+  SweepProducts("LibraryVersionText", ORV_GetLibraryVersionText, kSelvaOnly, BeforeText(), one,
                 BeforeText());
   ExpectNothingHappened();
 }
@@ -406,7 +415,7 @@ void SweepRegistration(const char *name, StatusCode (*put)(ProductId, Callback, 
   int context = 0;
   Sweep sweep;
   for (const ProductId product : kAllProducts) {
-    const StatusCode expected = Contains(accepted, product) ? 100 : 102;
+    const StatusCode expected = Contains(accepted, product) ? kSuccess : kBadArgument;
     sweep.Expect(takeAway(product, callback), expected, name, product, "before");
     sweep.Expect(put(product, callback, &context), expected, name, product);
     sweep.Expect(put(product, nullptr, &context), expected, name, product, "null");

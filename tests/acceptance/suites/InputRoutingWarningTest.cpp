@@ -44,12 +44,12 @@ class InputRoutingWarning : public InstalledFiles {
 
   // The text; "(null)" for none; the status when the call is refused.
   static std::string Warning(ProductId product, std::int32_t channel, std::int32_t language,
-                             StatusCode status = 101) {
+                             StatusCode status = kSuccessWithWarning) {
     const ORVStringRef untouched = TextOf("untouched");
     ORVStringRef text = untouched;
     const StatusCode answer =
         ORV_GetWarningTextForSetUSBAudioInput(product, channel, status, language, &text);
-    if (answer == 100) return CharactersOf(text);
+    if (answer == kSuccess) return CharactersOf(text);
     return std::to_string(answer) + (text == untouched ? "" : " and touched");
   }
 
@@ -62,20 +62,20 @@ class InputRoutingWarning : public InstalledFiles {
 
 TEST_F(InputRoutingWarning, ArdenAndVoltHaveOneTextForAllCasesAndTheirUnitsAreNotAsked) {
   InstallAll();
-  EXPECT_EQ(Warning(0, 3, 99), "English WARNING");
-  EXPECT_EQ(Warning(0, 0, 3), "German WARNING");
-  EXPECT_EQ(Warning(1, 2, 1), "Japanese WARNING");
-  rig().SetPort(rig().PlugMixer(), 1, 0);
-  EXPECT_EQ(Warning(0, 3, 99), "English WARNING");
-  EXPECT_EQ(Warning(0, 0, 3), "German WARNING");
-  EXPECT_EQ(Warning(1, 2, 1), "Japanese WARNING");
+  EXPECT_EQ(Warning(kArden, 3, 99), "English WARNING");
+  EXPECT_EQ(Warning(kArden, 0, 3), "German WARNING");
+  EXPECT_EQ(Warning(kVolt, 2, 1), "Japanese WARNING");
+  rig_->SetPort(rig_->PlugMixer(), 1, 0);
+  EXPECT_EQ(Warning(kArden, 3, 99), "English WARNING");
+  EXPECT_EQ(Warning(kArden, 0, 3), "German WARNING");
+  EXPECT_EQ(Warning(kVolt, 2, 1), "Japanese WARNING");
   ExpectNothingHappened();
 }
 
 TEST_F(InputRoutingWarning, WithoutAUnitTheTextComesInTheSystemsLanguageWhateverIsNamed) {
   InstallAll();
-  rig().PlugStranger(Stranger::kOtherProductOfTheMaker);
-  for (const ProductId product : {5U, 6U, 8U, 11U}) {
+  rig_->PlugStranger(Stranger::kOtherProductOfTheMaker);
+  for (const ProductId product : {kHalden, kLumen, kMorrow, kSelva}) {
     for (const std::int32_t language : {0, 1, 3, 7, 11, 99}) {
       EXPECT_EQ(Warning(product, 0, language), "English WARNING1") << product << ' ' << language;
     }
@@ -85,7 +85,7 @@ TEST_F(InputRoutingWarning, WithoutAUnitTheTextComesInTheSystemsLanguageWhatever
 
 TEST_F(InputRoutingWarning, WithAUnitItsPortStateDecidesAndCountsAsOneOnlyAsAWhole) {
   InstallAll();
-  rig().PlugMixer();
+  rig_->PlugMixer();
   struct {
     std::uint8_t first;
     std::uint8_t second;
@@ -95,8 +95,8 @@ TEST_F(InputRoutingWarning, WithAUnitItsPortStateDecidesAndCountsAsOneOnlyAsAWho
                      {2, 0, "French WARNING2"},    {255, 0, "French WARNING2"},
                      {255, 255, "French WARNING2"}};
   for (const auto &port : cases) {
-    rig().SetPort(1, port.first, port.second);
-    for (const ProductId product : {5U, 6U, 8U, 11U}) {
+    rig_->SetPort(1, port.first, port.second);
+    for (const ProductId product : {kHalden, kLumen, kMorrow, kSelva}) {
       EXPECT_EQ(Warning(product, 0, 2), port.text) << +port.first << ' ' << +port.second;
     }
   }
@@ -104,30 +104,30 @@ TEST_F(InputRoutingWarning, WithAUnitItsPortStateDecidesAndCountsAsOneOnlyAsAWho
 
 TEST_F(InputRoutingWarning, OneUnitIsAskedForTwoBytesOfItsPortState) {
   InstallAll();
-  for (int i = 0; i < 3; ++i) rig().PlugMixer();
-  rig().SetPort(1, 1, 0);
-  EXPECT_EQ(Warning(11, 0, 0), "English WARNING3");
-  EXPECT_EQ(rig().WireLog(), (Lines{AskedPort(1, "2 bytes 01 00")}));
-  rig().ClearWireLog();
-  rig().SetPort(1, 0, 0);
-  rig().SetPort(2, 1, 0);
-  EXPECT_EQ(Warning(5, 4, 0), "English WARNING2");
-  EXPECT_EQ(rig().WireLog(), (Lines{AskedPort(1, "2 bytes 00 00")}));
+  for (int i = 0; i < 3; ++i) rig_->PlugMixer();
+  rig_->SetPort(1, 1, 0);
+  EXPECT_EQ(Warning(kSelva, 0, 0), "English WARNING3");
+  EXPECT_EQ(rig_->WireLog(), (Lines{AskedPort(1, "2 bytes 01 00")}));
+  rig_->ClearWireLog();
+  rig_->SetPort(1, 0, 0);
+  rig_->SetPort(2, 1, 0);
+  EXPECT_EQ(Warning(kHalden, 4, 0), "English WARNING2");
+  EXPECT_EQ(rig_->WireLog(), (Lines{AskedPort(1, "2 bytes 00 00")}));
   EXPECT_EQ(LibraryListing(), Lines());
-  EXPECT_EQ(rig().TakeAnnouncements(0), std::vector<Announcement>());
+  EXPECT_EQ(rig_->TakeAnnouncements(0), std::vector<Announcement>());
 }
 
 TEST_F(InputRoutingWarning, APortStateThatIsRefusedOrShortHasZeroForWhatIsMissing) {
   InstallAll();
-  rig().SetPort(rig().PlugMixer(), 1, 1);
-  rig().SetFault(1, UnitFault::kStalls);
-  EXPECT_EQ(Warning(11, 0, 0), "English WARNING2");
-  rig().ClearFaults(1);
-  rig().SetShortReplies(1, 1);
-  EXPECT_EQ(Warning(11, 0, 0), "English WARNING3");
-  rig().SetShortReplies(1, 0);
-  EXPECT_EQ(Warning(11, 0, 0), "English WARNING2");
-  EXPECT_EQ(rig().WireLog(),
+  rig_->SetPort(rig_->PlugMixer(), 1, 1);
+  rig_->SetFault(1, UnitFault::kStalls);
+  EXPECT_EQ(Warning(kSelva, 0, 0), "English WARNING2");
+  rig_->ClearFaults(1);
+  rig_->SetShortReplies(1, 1);
+  EXPECT_EQ(Warning(kSelva, 0, 0), "English WARNING3");
+  rig_->SetShortReplies(1, 0);
+  EXPECT_EQ(Warning(kSelva, 0, 0), "English WARNING2");
+  EXPECT_EQ(rig_->WireLog(),
             (Lines{AskedPort(1, "stalled"), AskedPort(1, "1 byte 01"), AskedPort(1, "0 bytes")}));
 }
 
@@ -137,14 +137,14 @@ TEST_F(InputRoutingWarning, EachLanguageNumberHasItsFolder) {
   InstallAll();
   Lines plain;
   for (std::int32_t language = 0; language < 12; ++language)
-    plain.push_back(Warning(0, 0, language));
+    plain.push_back(Warning(kArden, 0, language));
   EXPECT_EQ(plain, (Lines{"English WARNING", "Japanese WARNING", "French WARNING", "German WARNING",
                           "Italian WARNING", "Dutch WARNING", "Spanish WARNING", "ru WARNING",
                           "pt WARNING", "zh_CN WARNING", "zh_TW WARNING", "ko WARNING"}));
-  rig().SetPort(rig().PlugMixer(), 1, 0);
+  rig_->SetPort(rig_->PlugMixer(), 1, 0);
   Lines byPort;
   for (std::int32_t language = 0; language < 12; ++language) {
-    byPort.push_back(Warning(11, 0, language));
+    byPort.push_back(Warning(kSelva, 0, language));
   }
   EXPECT_EQ(byPort,
             (Lines{"English WARNING3", "Japanese WARNING3", "French WARNING3", "German WARNING3",
@@ -154,19 +154,19 @@ TEST_F(InputRoutingWarning, EachLanguageNumberHasItsFolder) {
 
 TEST_F(InputRoutingWarning, AnotherLanguageNumberIsRefusedButOnlyAfterTheUnitWasAsked) {
   InstallAll();
-  rig().PlugMixer();
+  rig_->PlugMixer();
   Lines expected;
   for (const std::int32_t language : {12, 13, 98, 100, 101, -1, 256, 2147483647, -2147483647 - 1}) {
-    EXPECT_EQ(Warning(11, 0, language), "102") << language;
+    EXPECT_EQ(Warning(kSelva, 0, language), "102") << language;
     expected.push_back(AskedPort(1, "2 bytes 00 00"));
-    EXPECT_EQ(Warning(0, 0, language), "102") << language;
+    EXPECT_EQ(Warning(kArden, 0, language), "102") << language;
   }
-  EXPECT_EQ(rig().WireLog(), expected);
+  EXPECT_EQ(rig_->WireLog(), expected);
 }
 
 TEST_F(InputRoutingWarning, AnotherLanguageNumberIsRefusedWithoutAUnitToo) {
   InstallAll();
-  for (const ProductId product : {0U, 1U, 5U, 6U, 8U, 11U}) {
+  for (const ProductId product : {kArden, kVolt, kHalden, kLumen, kMorrow, kSelva}) {
     for (const std::int32_t language : {12, 98, -1}) {
       EXPECT_EQ(Warning(product, 0, language), "102") << product << ' ' << language;
     }
@@ -175,31 +175,32 @@ TEST_F(InputRoutingWarning, AnotherLanguageNumberIsRefusedWithoutAUnitToo) {
 
 TEST_F(InputRoutingWarning, AnotherLanguageNumberIsRefusedOnlyAfterTheFrameworkWasLookedFor) {
   InstallAll();
-  EXPECT_TRUE(IsOpenedBy(kSystemVersionFile, [] { EXPECT_EQ(Warning(0, 0, 12), "102"); }));
-  EXPECT_FALSE(IsOpenedBy(kSystemVersionFile, [] { EXPECT_EQ(Warning(0, 4, 0), "102"); }));
+  EXPECT_TRUE(IsOpenedBy(kSystemVersionFile, [] { EXPECT_EQ(Warning(kArden, 0, 12), "102"); }));
+  EXPECT_FALSE(IsOpenedBy(kSystemVersionFile, [] { EXPECT_EQ(Warning(kArden, 4, 0), "102"); }));
 }
 
 TEST_F(InputRoutingWarning, OtherArgumentsAreRefusedBeforeAnyUnitIsAsked) {
   InstallAll();
-  rig().PlugMixer();
+  rig_->PlugMixer();
   const std::vector<std::pair<ProductId, std::int32_t>> places = {
       {0, 4}, {1, 3}, {5, 5}, {6, 4}, {8, 4}, {11, 4}, {0, -1}, {11, -1}, {2, 0}, {7, 0}, {12, 0}};
   for (const auto &[product, channel] : places) {
     EXPECT_EQ(Warning(product, channel, 99), "102") << product << ' ' << channel;
   }
-  for (const StatusCode status : {100, 102, 103, 0, -101, 357}) {
-    EXPECT_EQ(Warning(11, 0, 0, status), "102") << status;
-    EXPECT_EQ(Warning(0, 0, 0, status), "102") << status;
+  for (const StatusCode status : {kSuccess, kBadArgument, kConnected, 0, -101, 357}) {
+    EXPECT_EQ(Warning(kSelva, 0, 0, status), "102") << status;
+    EXPECT_EQ(Warning(kArden, 0, 0, status), "102") << status;
   }
-  EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(11, 0, 101, 0, nullptr), 102);
+  EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(kSelva, 0, kSuccessWithWarning, 0, nullptr),
+            kBadArgument);
   ExpectNothingHappened();
 }
 
 TEST_F(InputRoutingWarning, TheFifthChannelIsThereForHaldenOnly) {
   InstallAll();
-  EXPECT_EQ(Warning(5, 4, 99), "English WARNING1");
-  EXPECT_EQ(Warning(11, 3, 99), "English WARNING1");
-  EXPECT_EQ(Warning(11, 4, 99), "102");
+  EXPECT_EQ(Warning(kHalden, 4, 99), "English WARNING1");
+  EXPECT_EQ(Warning(kSelva, 3, 99), "English WARNING1");
+  EXPECT_EQ(Warning(kSelva, 4, 99), "102");
 }
 
 // --- The place of the texts ------------------------------------------------------------------
@@ -209,38 +210,38 @@ TEST_F(InputRoutingWarning, TheSystemVersionDecidesWhichFrameworkIsOpened) {
   InstallFramework(kEarlierFramework, {"English", "German"}, "earlier ");
   for (const char *version : {"10.11.6", "10.13.6", "10.15", "10.11"}) {
     InstallSystem(version);
-    EXPECT_EQ(Warning(0, 0, 3), "later German WARNING") << version;
-    EXPECT_EQ(Warning(0, 0, 99), "later English WARNING") << version;
-    EXPECT_EQ(Warning(11, 0, 3), "later English WARNING1") << version;
+    EXPECT_EQ(Warning(kArden, 0, 3), "later German WARNING") << version;
+    EXPECT_EQ(Warning(kArden, 0, 99), "later English WARNING") << version;
+    EXPECT_EQ(Warning(kSelva, 0, 3), "later English WARNING1") << version;
   }
   for (const char *version : {"10.9.5", "10.10", "10.10.5", "11.2", "11.4", "10", ""}) {
     InstallSystem(version);
-    EXPECT_EQ(Warning(0, 0, 3), "earlier German WARNING") << version;
-    EXPECT_EQ(Warning(0, 0, 99), "earlier English WARNING") << version;
-    EXPECT_EQ(Warning(11, 0, 3), "earlier English WARNING1") << version;
+    EXPECT_EQ(Warning(kArden, 0, 3), "earlier German WARNING") << version;
+    EXPECT_EQ(Warning(kArden, 0, 99), "earlier English WARNING") << version;
+    EXPECT_EQ(Warning(kSelva, 0, 3), "earlier English WARNING1") << version;
   }
   Uninstall("/System/Library/CoreServices");
-  EXPECT_EQ(Warning(0, 0, 3), "earlier German WARNING");
+  EXPECT_EQ(Warning(kArden, 0, 3), "earlier German WARNING");
 }
 
 TEST_F(InputRoutingWarning, WithoutAFrameworkThereIsNoTextAndTheCallSucceeds) {
-  EXPECT_EQ(Warning(0, 0, 0), "(null)");
-  EXPECT_EQ(Warning(0, 0, 99), "(null)");
-  EXPECT_EQ(Warning(11, 0, 0), "(null)");
-  EXPECT_EQ(Warning(11, 0, 99), "(null)");
+  EXPECT_EQ(Warning(kArden, 0, 0), "(null)");
+  EXPECT_EQ(Warning(kArden, 0, 99), "(null)");
+  EXPECT_EQ(Warning(kSelva, 0, 0), "(null)");
+  EXPECT_EQ(Warning(kSelva, 0, 99), "(null)");
   InstallSystem("10.15");
   InstallFramework(kEarlierFramework, kFolders);
-  EXPECT_EQ(Warning(0, 0, 0), "(null)");
-  EXPECT_EQ(Warning(11, 0, 99), "(null)");
+  EXPECT_EQ(Warning(kArden, 0, 0), "(null)");
+  EXPECT_EQ(Warning(kSelva, 0, 99), "(null)");
 }
 
 TEST_F(InputRoutingWarning, ALanguageThatIsNotInstalledHasNoTextButTheSystemsFallsBack) {
   InstallSystem("10.15");
   InstallFramework(kLaterFramework, {"English", "ko"});
-  EXPECT_EQ(Warning(0, 0, 3), "(null)");
-  EXPECT_EQ(Warning(0, 0, 11), "ko WARNING");
-  EXPECT_EQ(Warning(0, 0, 99), "English WARNING");
-  EXPECT_EQ(Warning(11, 0, 3), "English WARNING1");
+  EXPECT_EQ(Warning(kArden, 0, 3), "(null)");
+  EXPECT_EQ(Warning(kArden, 0, 11), "ko WARNING");
+  EXPECT_EQ(Warning(kArden, 0, 99), "English WARNING");
+  EXPECT_EQ(Warning(kSelva, 0, 3), "English WARNING1");
 }
 
 TEST_F(InputRoutingWarning, AMissingEntryHasNoText) {
@@ -249,32 +250,33 @@ TEST_F(InputRoutingWarning, AMissingEntryHasNoText) {
       std::string(kLaterFramework) + "/Versions/A/Resources/German.lproj/Localizable.strings";
   Install(german, "<key>WARNING2</key><string>two</string>");
   LinkResources(kLaterFramework);
-  EXPECT_EQ(Warning(0, 0, 3), "(null)");
-  rig().PlugMixer();
-  EXPECT_EQ(Warning(11, 0, 3), "two");
-  rig().SetPort(1, 1, 0);
-  EXPECT_EQ(Warning(11, 0, 3), "(null)");
+  EXPECT_EQ(Warning(kArden, 0, 3), "(null)");
+  rig_->PlugMixer();
+  EXPECT_EQ(Warning(kSelva, 0, 3), "two");
+  rig_->SetPort(1, 1, 0);
+  EXPECT_EQ(Warning(kSelva, 0, 3), "(null)");
   InstallFile(german, "no property list");
-  EXPECT_EQ(Warning(0, 0, 3), "(null)");
+  EXPECT_EQ(Warning(kArden, 0, 3), "(null)");
 }
 
 TEST_F(InputRoutingWarning, ATextHandedOutStaysUnchangedWhenTheFileChanges) {
   InstallAll();
   ORVStringRef first = nullptr;
-  ASSERT_EQ(ORV_GetWarningTextForSetUSBAudioInput(0, 0, 101, 3, &first), 100);
+  ASSERT_EQ(ORV_GetWarningTextForSetUSBAudioInput(kArden, 0, kSuccessWithWarning, 3, &first),
+            kSuccess);
   Install(std::string(kLaterFramework) + "/Versions/A/Resources/German.lproj/Localizable.strings",
           "<key>WARNING</key><string>neu</string>");
-  EXPECT_EQ(Warning(0, 0, 3), "neu");
+  EXPECT_EQ(Warning(kArden, 0, 3), "neu");
   Uninstall(kLaterFramework);
-  EXPECT_EQ(Warning(0, 0, 3), "(null)");
+  EXPECT_EQ(Warning(kArden, 0, 3), "(null)");
   EXPECT_EQ(CharactersOf(first), "German WARNING");
 }
 
 TEST_F(InputRoutingWarning, FollowsAnInputRoutingThatAnswered101) {
   InstallAll();
-  EXPECT_EQ(Warning(11, 0, 99, ORV_SetUSBInputAudio(11, 0, 0)), "English WARNING1");
-  EXPECT_EQ(Warning(11, 0, 99, ORV_SetUSBInputAudio(11, 0, 3)), "102");
-  EXPECT_EQ(Warning(1, 2, 6, ORV_SetUSBInputAudioDirect(1, 2, 0, 15)), "Spanish WARNING");
+  EXPECT_EQ(Warning(kSelva, 0, 99, ORV_SetUSBInputAudio(kSelva, 0, 0)), "English WARNING1");
+  EXPECT_EQ(Warning(kSelva, 0, 99, ORV_SetUSBInputAudio(kSelva, 0, 3)), "102");
+  EXPECT_EQ(Warning(kVolt, 2, 6, ORV_SetUSBInputAudioDirect(kVolt, 2, 0, 15)), "Spanish WARNING");
 }
 
 // --- The texts of the build ------------------------------------------------------------------
@@ -305,7 +307,7 @@ class BuiltWarning : public InputRoutingWarning {
     const auto everything = std::filesystem::copy_options::recursive |
                             std::filesystem::copy_options::copy_symlinks |
                             std::filesystem::copy_options::overwrite_existing;
-    std::filesystem::copy(BUILT_SYSTEM_ROOT, rig().SystemRoot(), everything);
+    std::filesystem::copy(BUILT_SYSTEM_ROOT, rig_->SystemRoot(), everything);
   }
 
   // The text for a key in the build's strings file of a language, read without the library.
@@ -333,9 +335,9 @@ TEST_F(BuiltWarning, EveryLanguageHandsOutWhatStandsInItsFileForEverySituation) 
   };
   expectWritten("WARNING", 0);
   expectWritten("WARNING", 1);
-  rig().PlugMixer();
+  rig_->PlugMixer();
   expectWritten("WARNING2", 11);
-  rig().SetPort(1, 1, 0);
+  rig_->SetPort(1, 1, 0);
   expectWritten("WARNING3", 11);
   EXPECT_EQ(different.size(), 36U) << "three situations in twelve languages";
 }
@@ -343,9 +345,9 @@ TEST_F(BuiltWarning, EveryLanguageHandsOutWhatStandsInItsFileForEverySituation) 
 TEST_F(BuiltWarning, WithoutAUnitTheSystemsLanguageIsHandedOut) {
   InstallWhatIsBuilt();
   for (std::int32_t language = 0; language < 12; ++language) {
-    EXPECT_EQ(Warning(11, 0, language), Written("English", "WARNING1")) << language;
+    EXPECT_EQ(Warning(kSelva, 0, language), Written("English", "WARNING1")) << language;
   }
-  EXPECT_EQ(Warning(11, 0, 99), Written("English", "WARNING1"));
+  EXPECT_EQ(Warning(kSelva, 0, 99), Written("English", "WARNING1"));
   for (const std::string &folder : kFolders) EXPECT_GT(Written(folder, "WARNING1").size(), 20U);
 }
 

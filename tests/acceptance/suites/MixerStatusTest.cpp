@@ -26,7 +26,7 @@ constexpr std::uint32_t kBefore = 0xABCD1234;
 class MixerStatus : public Acceptance {
  protected:
   void PlugMixers(int count) {
-    for (int i = 0; i < count; ++i) rig().PlugMixer();
+    for (int i = 0; i < count; ++i) rig_->PlugMixer();
   }
 
   static Answer CertifyLevel(ProductId product) {
@@ -67,13 +67,13 @@ class MixerStatus : public Acceptance {
   }
 
   void SetSelectors(int unit, std::uint8_t leading, const std::vector<std::uint8_t> &positions) {
-    rig().SetLeadingByte(unit, leading);
-    for (unsigned i = 0; i < positions.size(); ++i) rig().SetSelector(unit, i, positions[i]);
+    rig_->SetLeadingByte(unit, leading);
+    for (unsigned i = 0; i < positions.size(); ++i) rig_->SetSelector(unit, i, positions[i]);
   }
 
   void ExpectNoTrace() {
     EXPECT_EQ(LibraryListing(), Lines());
-    EXPECT_EQ(rig().TakeAnnouncements(0), std::vector<Announcement>());
+    EXPECT_EQ(rig_->TakeAnnouncements(0), std::vector<Announcement>());
   }
 };
 
@@ -81,37 +81,38 @@ class MixerStatus : public Acceptance {
 
 TEST_F(MixerStatus, CertifyLevelIsReadMostSignificantByteFirst) {
   PlugMixers(1);
-  rig().SetCertifyLevel(1, 0x01020304);
-  for (const ProductId product : {6U, 8U, 11U}) {
-    rig().ClearWireLog();
-    EXPECT_EQ(CertifyLevel(product), (Answer{100, 0x01020304}));
-    EXPECT_EQ(rig().WireLog(), (Lines{AskedLevel(1, "4 bytes 01 02 03 04")}));
+  rig_->SetCertifyLevel(1, 0x01020304);
+  for (const ProductId product : {kLumen, kMorrow, kSelva}) {
+    rig_->ClearWireLog();
+    EXPECT_EQ(CertifyLevel(product), (Answer{kSuccess, 0x01020304}));
+    EXPECT_EQ(rig_->WireLog(), (Lines{AskedLevel(1, "4 bytes 01 02 03 04")}));
   }
-  rig().SetCertifyLevel(1, 0xFFFEFDFC);
-  EXPECT_EQ(CertifyLevel(11), (Answer{100, 0xFFFEFDFC}));
+  rig_->SetCertifyLevel(1, 0xFFFEFDFC);
+  EXPECT_EQ(CertifyLevel(kSelva), (Answer{kSuccess, 0xFFFEFDFC}));
   ExpectNoTrace();
 }
 
 TEST_F(MixerStatus, CertifyLevelOfHaldenIsZeroWithoutAskingAnyUnit) {
-  EXPECT_EQ(CertifyLevel(5), (Answer{100, 0}));
+  EXPECT_EQ(CertifyLevel(kHalden), (Answer{kSuccess, 0}));
   PlugMixers(2);
-  rig().SetCertifyLevel(1, 7);
-  rig().SetCertifyLevel(2, 8);
-  EXPECT_EQ(CertifyLevel(5), (Answer{100, 0}));
+  rig_->SetCertifyLevel(1, 7);
+  rig_->SetCertifyLevel(2, 8);
+  EXPECT_EQ(CertifyLevel(kHalden), (Answer{kSuccess, 0}));
   ExpectNothingHappened();
 }
 
 TEST_F(MixerStatus, CertifyLevelIsRefusedToOtherModelsWithoutAskingAnyUnit) {
   PlugMixers(1);
-  for (const ProductId product : {0U, 1U, 2U, 3U, 4U, 7U, 9U, 10U, 12U, 0xFFFFFFFFU}) {
-    EXPECT_EQ(CertifyLevel(product), (Answer{102, kBefore})) << product;
+  for (const ProductId product :
+       {kArden, kVolt, kBrisk, kFenno, kCirrus, 7U, 9U, 10U, 12U, 0xFFFFFFFFU}) {
+    EXPECT_EQ(CertifyLevel(product), (Answer{kBadArgument, kBefore})) << product;
   }
   ExpectNothingHappened();
 }
 
 TEST_F(MixerStatus, CertifyLevelWithoutAUnitIsZero) {
-  for (const ProductId product : {5U, 6U, 8U, 11U}) {
-    EXPECT_EQ(CertifyLevel(product), (Answer{100, 0})) << product;
+  for (const ProductId product : {kHalden, kLumen, kMorrow, kSelva}) {
+    EXPECT_EQ(CertifyLevel(product), (Answer{kSuccess, 0})) << product;
   }
   ExpectNothingHappened();
 }
@@ -119,36 +120,36 @@ TEST_F(MixerStatus, CertifyLevelWithoutAUnitIsZero) {
 TEST_F(MixerStatus, CertifyLevelIsThatOfTheLastUnitThatOpens) {
   PlugMixers(3);
   PlugSomethingHealthyBehind();
-  rig().SetCertifyLevel(1, 1);
-  rig().SetCertifyLevel(2, 2);
-  rig().SetCertifyLevel(3, 3);
-  EXPECT_EQ(CertifyLevel(11), (Answer{100, 3}));
-  EXPECT_EQ(rig().WireLog(),
+  rig_->SetCertifyLevel(1, 1);
+  rig_->SetCertifyLevel(2, 2);
+  rig_->SetCertifyLevel(3, 3);
+  EXPECT_EQ(CertifyLevel(kSelva), (Answer{kSuccess, 3}));
+  EXPECT_EQ(rig_->WireLog(),
             (Lines{AskedLevel(1, "4 bytes 00 00 00 01"), AskedLevel(2, "4 bytes 00 00 00 02"),
                    AskedLevel(3, "4 bytes 00 00 00 03")}));
-  rig().SetFault(3, UnitFault::kRefusesToOpen);
-  EXPECT_EQ(CertifyLevel(11), (Answer{100, 2}));
-  rig().SetFault(2, UnitFault::kRefusesToOpen);
-  rig().SetFault(1, UnitFault::kRefusesToOpen);
-  EXPECT_EQ(CertifyLevel(11), (Answer{100, 0}));
+  rig_->SetFault(3, UnitFault::kRefusesToOpen);
+  EXPECT_EQ(CertifyLevel(kSelva), (Answer{kSuccess, 2}));
+  rig_->SetFault(2, UnitFault::kRefusesToOpen);
+  rig_->SetFault(1, UnitFault::kRefusesToOpen);
+  EXPECT_EQ(CertifyLevel(kSelva), (Answer{kSuccess, 0}));
 }
 
 TEST_F(MixerStatus, CertifyLevelOfALastUnitThatStallsIsZero) {
   PlugMixers(2);
-  rig().SetCertifyLevel(1, 9);
-  rig().SetFault(2, UnitFault::kStalls);
-  EXPECT_EQ(CertifyLevel(11), (Answer{100, 0}));
-  EXPECT_EQ(rig().WireLog(),
+  rig_->SetCertifyLevel(1, 9);
+  rig_->SetFault(2, UnitFault::kStalls);
+  EXPECT_EQ(CertifyLevel(kSelva), (Answer{kSuccess, 0}));
+  EXPECT_EQ(rig_->WireLog(),
             (Lines{AskedLevel(1, "4 bytes 00 00 00 09"), AskedLevel(2, "stalled")}));
 }
 
 TEST_F(MixerStatus, CertifyLevelTakesTheBytesMissingInAShortReplyAsZero) {
   PlugMixers(2);
-  rig().SetCertifyLevel(1, 0xAABBCCDD);
-  rig().SetCertifyLevel(2, 0x01020304);
-  rig().SetShortReplies(2, 2);
-  EXPECT_EQ(CertifyLevel(6), (Answer{100, 0x01020000}));
-  EXPECT_EQ(rig().WireLog(),
+  rig_->SetCertifyLevel(1, 0xAABBCCDD);
+  rig_->SetCertifyLevel(2, 0x01020304);
+  rig_->SetShortReplies(2, 2);
+  EXPECT_EQ(CertifyLevel(kLumen), (Answer{kSuccess, 0x01020000}));
+  EXPECT_EQ(rig_->WireLog(),
             (Lines{AskedLevel(1, "4 bytes aa bb cc dd"), AskedLevel(2, "2 bytes 01 02")}));
 }
 
@@ -156,37 +157,38 @@ TEST_F(MixerStatus, CertifyLevelTakesTheBytesMissingInAShortReplyAsZero) {
 
 TEST_F(MixerStatus, FirmwareIsThatOfTheFirstUnitLeastSignificantByteFirst) {
   PlugMixers(3);
-  rig().SetFirmware(1, 0x0215);
-  rig().SetFirmware(2, 0x0999);
-  EXPECT_EQ(Firmware(11), (Answer{100, 0x0215}));
-  EXPECT_EQ(rig().WireLog(), (Lines{AskedFirmware(1, "2 bytes 15 02")}));
-  rig().SetFirmware(1, 0xFFFE);
-  EXPECT_EQ(Firmware(11), (Answer{100, 0xFFFE}));
+  rig_->SetFirmware(1, 0x0215);
+  rig_->SetFirmware(2, 0x0999);
+  EXPECT_EQ(Firmware(kSelva), (Answer{kSuccess, 0x0215}));
+  EXPECT_EQ(rig_->WireLog(), (Lines{AskedFirmware(1, "2 bytes 15 02")}));
+  rig_->SetFirmware(1, 0xFFFE);
+  EXPECT_EQ(Firmware(kSelva), (Answer{kSuccess, 0xFFFE}));
   ExpectNoTrace();
 }
 
 TEST_F(MixerStatus, FirmwareIsClearedEvenForAModelThatIsRefused) {
   PlugMixers(1);
-  for (const ProductId product : {0U, 1U, 2U, 5U, 6U, 7U, 8U, 12U, 0xFFFFFFFFU}) {
-    EXPECT_EQ(Firmware(product), (Answer{102, 0})) << product;
+  for (const ProductId product :
+       {kArden, kVolt, kBrisk, kHalden, kLumen, 7U, kMorrow, 12U, 0xFFFFFFFFU}) {
+    EXPECT_EQ(Firmware(product), (Answer{kBadArgument, 0})) << product;
   }
   ExpectNothingHappened();
 }
 
 TEST_F(MixerStatus, FirmwareWithoutAUnitIsZero) {
-  EXPECT_EQ(Firmware(11), (Answer{100, 0}));
+  EXPECT_EQ(Firmware(kSelva), (Answer{kSuccess, 0}));
   ExpectNothingHappened();
 }
 
 TEST_F(MixerStatus, FirmwareTakesMissingBytesAsZero) {
   PlugMixers(1);
-  rig().SetFirmware(1, 0x0305);
-  rig().SetShortReplies(1, 1);
-  EXPECT_EQ(Firmware(11), (Answer{100, 5}));
-  rig().ClearFaults(1);
-  rig().SetFault(1, UnitFault::kStalls);
-  EXPECT_EQ(Firmware(11), (Answer{100, 0}));
-  EXPECT_EQ(rig().WireLog(), (Lines{AskedFirmware(1, "1 byte 05"), AskedFirmware(1, "stalled")}));
+  rig_->SetFirmware(1, 0x0305);
+  rig_->SetShortReplies(1, 1);
+  EXPECT_EQ(Firmware(kSelva), (Answer{kSuccess, 5}));
+  rig_->ClearFaults(1);
+  rig_->SetFault(1, UnitFault::kStalls);
+  EXPECT_EQ(Firmware(kSelva), (Answer{kSuccess, 0}));
+  EXPECT_EQ(rig_->WireLog(), (Lines{AskedFirmware(1, "1 byte 05"), AskedFirmware(1, "stalled")}));
 }
 
 // --- Input selectors -------------------------------------------------------------------------
@@ -194,13 +196,13 @@ TEST_F(MixerStatus, FirmwareTakesMissingBytesAsZero) {
 TEST_F(MixerStatus, SelectorOfAChannelIsTheByteBehindTheLeadingOne) {
   PlugMixers(1);
   SetSelectors(1, 1, {5, 7, 2, 9});
-  for (const ProductId product : {0U, 5U, 6U, 8U, 11U}) {
-    rig().ClearWireLog();
-    EXPECT_EQ(Selector(product, 0), (Answer{100, 5})) << product;
-    EXPECT_EQ(Selector(product, 1), (Answer{100, 7})) << product;
-    EXPECT_EQ(Selector(product, 2), (Answer{100, 2})) << product;
-    EXPECT_EQ(Selector(product, 3), (Answer{102, 9})) << product;
-    EXPECT_EQ(rig().WireLog(), Lines(4, AskedSelectors(1, 5, "5 bytes 01 05 07 02 09")));
+  for (const ProductId product : {kArden, kHalden, kLumen, kMorrow, kSelva}) {
+    rig_->ClearWireLog();
+    EXPECT_EQ(Selector(product, 0), (Answer{kSuccess, 5})) << product;
+    EXPECT_EQ(Selector(product, 1), (Answer{kSuccess, 7})) << product;
+    EXPECT_EQ(Selector(product, 2), (Answer{kSuccess, 2})) << product;
+    EXPECT_EQ(Selector(product, 3), (Answer{kBadArgument, 9})) << product;
+    EXPECT_EQ(rig_->WireLog(), Lines(4, AskedSelectors(1, 5, "5 bytes 01 05 07 02 09")));
   }
   ExpectNoTrace();
 }
@@ -208,20 +210,20 @@ TEST_F(MixerStatus, SelectorOfAChannelIsTheByteBehindTheLeadingOne) {
 TEST_F(MixerStatus, SelectorsOfVoltAreReadWithThreeBytes) {
   PlugMixers(1);
   SetSelectors(1, 1, {5, 7, 2, 9});
-  EXPECT_EQ(Selector(1, 0), (Answer{100, 5}));
-  EXPECT_EQ(Selector(1, 1), (Answer{100, 7}));
-  EXPECT_EQ(rig().WireLog(), Lines(2, AskedSelectors(1, 3, "3 bytes 01 05 07")));
+  EXPECT_EQ(Selector(kVolt, 0), (Answer{kSuccess, 5}));
+  EXPECT_EQ(Selector(kVolt, 1), (Answer{kSuccess, 7}));
+  EXPECT_EQ(rig_->WireLog(), Lines(2, AskedSelectors(1, 3, "3 bytes 01 05 07")));
 }
 
 TEST_F(MixerStatus, SelectorThatLiesBehindTheReplyReadsAsZero) {
   PlugMixers(1);
-  rig().SetChannels(1, 6);
+  rig_->SetChannels(1, 6);
   SetSelectors(1, 7, {7, 7, 7, 7, 7, 7});
-  EXPECT_EQ(Selector(1, 2), (Answer{100, 0}));
-  for (const ProductId product : {5U, 6U, 8U, 11U}) {
-    EXPECT_EQ(Selector(product, 4), (Answer{100, 0})) << product;
+  EXPECT_EQ(Selector(kVolt, 2), (Answer{kSuccess, 0}));
+  for (const ProductId product : {kHalden, kLumen, kMorrow, kSelva}) {
+    EXPECT_EQ(Selector(product, 4), (Answer{kSuccess, 0})) << product;
   }
-  EXPECT_EQ(rig().WireLog(), (Lines{AskedSelectors(1, 3, "3 bytes 07 07 07"),
+  EXPECT_EQ(rig_->WireLog(), (Lines{AskedSelectors(1, 3, "3 bytes 07 07 07"),
                                     AskedSelectors(1, 5, "5 bytes 07 07 07 07 07"),
                                     AskedSelectors(1, 5, "5 bytes 07 07 07 07 07"),
                                     AskedSelectors(1, 5, "5 bytes 07 07 07 07 07"),
@@ -233,58 +235,59 @@ TEST_F(MixerStatus, SelectorOfAChannelThatTheModelDoesNotHaveIsRefusedWithoutAsk
   const std::vector<std::pair<ProductId, std::uint32_t>> cases = {
       {0, 4}, {1, 3}, {5, 5}, {6, 5}, {8, 5}, {11, 5}, {0, 0xFFFFFFFF}, {11, 0x80000000}};
   for (const auto &[product, channel] : cases) {
-    EXPECT_EQ(Selector(product, channel), (Answer{102, kBefore})) << product << ' ' << channel;
+    EXPECT_EQ(Selector(product, channel), (Answer{kBadArgument, kBefore}))
+        << product << ' ' << channel;
   }
   ExpectNothingHappened();
 }
 
 TEST_F(MixerStatus, SelectorWithoutAUnitIsLeftUntouched) {
-  for (const ProductId product : {0U, 1U, 5U, 6U, 8U, 11U}) {
-    EXPECT_EQ(Selector(product, 0), (Answer{100, kBefore})) << product;
+  for (const ProductId product : {kArden, kVolt, kHalden, kLumen, kMorrow, kSelva}) {
+    EXPECT_EQ(Selector(product, 0), (Answer{kSuccess, kBefore})) << product;
   }
   ExpectNothingHappened();
 }
 
 TEST_F(MixerStatus, SelectorIsLeftUntouchedWhenNoUnitOpens) {
   PlugMixers(2);
-  rig().SetFault(1, UnitFault::kRefusesToOpen);
-  rig().SetFault(2, UnitFault::kRefusesToOpen);
-  EXPECT_EQ(Selector(11, 0), (Answer{100, kBefore}));
+  rig_->SetFault(1, UnitFault::kRefusesToOpen);
+  rig_->SetFault(2, UnitFault::kRefusesToOpen);
+  EXPECT_EQ(Selector(kSelva, 0), (Answer{kSuccess, kBefore}));
   ExpectNothingHappened();
 }
 
 TEST_F(MixerStatus, SelectorPositionsUpToSevenAreAcceptedAndHigherOnesHandedOutAsRefused) {
   PlugMixers(1);
   for (const std::uint8_t position : Positions{0, 1, 2, 3, 4, 5, 6, 7}) {
-    rig().SetSelector(1, 0, position);
-    EXPECT_EQ(Selector(11, 0), (Answer{100, position}));
+    rig_->SetSelector(1, 0, position);
+    EXPECT_EQ(Selector(kSelva, 0), (Answer{kSuccess, position}));
   }
   for (const std::uint8_t position : Positions{8, 9, 127, 128, 255}) {
-    rig().SetSelector(1, 0, position);
-    EXPECT_EQ(Selector(11, 0), (Answer{102, position}));
-    EXPECT_EQ(Selector(1, 0), (Answer{102, position}));
+    rig_->SetSelector(1, 0, position);
+    EXPECT_EQ(Selector(kSelva, 0), (Answer{kBadArgument, position}));
+    EXPECT_EQ(Selector(kVolt, 0), (Answer{kBadArgument, position}));
   }
 }
 
 TEST_F(MixerStatus, SelectorIsThatOfTheLastUnitThatOpens) {
   PlugMixers(3);
   PlugSomethingHealthyBehind();
-  for (const int unit : {1, 2, 3}) rig().SetSelector(unit, 0, static_cast<std::uint8_t>(unit));
-  EXPECT_EQ(Selector(11, 0), (Answer{100, 3}));
-  EXPECT_EQ(rig().WireLog(), (Lines{AskedSelectors(1, 5, "5 bytes 00 01 00 00 00"),
+  for (const int unit : {1, 2, 3}) rig_->SetSelector(unit, 0, static_cast<std::uint8_t>(unit));
+  EXPECT_EQ(Selector(kSelva, 0), (Answer{kSuccess, 3}));
+  EXPECT_EQ(rig_->WireLog(), (Lines{AskedSelectors(1, 5, "5 bytes 00 01 00 00 00"),
                                     AskedSelectors(2, 5, "5 bytes 00 02 00 00 00"),
                                     AskedSelectors(3, 5, "5 bytes 00 03 00 00 00")}));
-  rig().SetFault(3, UnitFault::kRefusesToOpen);
-  EXPECT_EQ(Selector(11, 0), (Answer{100, 2}));
+  rig_->SetFault(3, UnitFault::kRefusesToOpen);
+  EXPECT_EQ(Selector(kSelva, 0), (Answer{kSuccess, 2}));
 }
 
 TEST_F(MixerStatus, TheFirstUnitWithABadSelectorIsTheLastAsked) {
   PlugMixers(3);
-  rig().SetSelector(1, 0, 3);
-  rig().SetSelector(2, 0, 8);
-  rig().SetSelector(3, 0, 4);
-  EXPECT_EQ(Selector(11, 0), (Answer{102, 8}));
-  EXPECT_EQ(rig().WireLog(), (Lines{AskedSelectors(1, 5, "5 bytes 00 03 00 00 00"),
+  rig_->SetSelector(1, 0, 3);
+  rig_->SetSelector(2, 0, 8);
+  rig_->SetSelector(3, 0, 4);
+  EXPECT_EQ(Selector(kSelva, 0), (Answer{kBadArgument, 8}));
+  EXPECT_EQ(rig_->WireLog(), (Lines{AskedSelectors(1, 5, "5 bytes 00 03 00 00 00"),
                                     AskedSelectors(2, 5, "5 bytes 00 08 00 00 00")}));
 }
 
@@ -292,14 +295,14 @@ TEST_F(MixerStatus, SelectorOfAUnitThatStallsOrAnswersShortReadsAsZero) {
   PlugMixers(2);
   SetSelectors(1, 0, {6, 6, 6, 6});
   SetSelectors(2, 0, {5, 5, 5, 5});
-  rig().SetShortReplies(2, 2);
-  EXPECT_EQ(Selector(11, 0), (Answer{100, 5}));
-  EXPECT_EQ(Selector(11, 1), (Answer{100, 0}));
-  rig().ClearFaults(2);
-  rig().SetFault(2, UnitFault::kStalls);
-  EXPECT_EQ(Selector(11, 0), (Answer{100, 0}));
+  rig_->SetShortReplies(2, 2);
+  EXPECT_EQ(Selector(kSelva, 0), (Answer{kSuccess, 5}));
+  EXPECT_EQ(Selector(kSelva, 1), (Answer{kSuccess, 0}));
+  rig_->ClearFaults(2);
+  rig_->SetFault(2, UnitFault::kStalls);
+  EXPECT_EQ(Selector(kSelva, 0), (Answer{kSuccess, 0}));
   EXPECT_EQ(
-      rig().WireLog(),
+      rig_->WireLog(),
       (Lines{AskedSelectors(1, 5, "5 bytes 00 06 06 06 06"), AskedSelectors(2, 5, "2 bytes 00 05"),
              AskedSelectors(1, 5, "5 bytes 00 06 06 06 06"), AskedSelectors(2, 5, "2 bytes 00 05"),
              AskedSelectors(1, 5, "5 bytes 00 06 06 06 06"), AskedSelectors(2, 5, "stalled")}));
@@ -309,15 +312,15 @@ TEST_F(MixerStatus, SelectorOfAUnitThatStallsOrAnswersShortReadsAsZero) {
 
 TEST_F(MixerStatus, SeratoIsTheFirstOfTwoBytes) {
   PlugMixers(1);
-  for (const ProductId product : {0U, 5U, 6U, 8U, 11U}) {
-    rig().ClearWireLog();
-    rig().SetSerato(1, 1, 0);
-    EXPECT_EQ(Serato(product), (Answer{100, 1})) << product;
-    rig().SetSerato(1, 0, 1);
-    EXPECT_EQ(Serato(product), (Answer{100, 0})) << product;
-    rig().SetSerato(1, 1, 0xFF);
-    EXPECT_EQ(Serato(product), (Answer{100, 1})) << product;
-    EXPECT_EQ(rig().WireLog(),
+  for (const ProductId product : {kArden, kHalden, kLumen, kMorrow, kSelva}) {
+    rig_->ClearWireLog();
+    rig_->SetSerato(1, 1, 0);
+    EXPECT_EQ(Serato(product), (Answer{kSuccess, 1})) << product;
+    rig_->SetSerato(1, 0, 1);
+    EXPECT_EQ(Serato(product), (Answer{kSuccess, 0})) << product;
+    rig_->SetSerato(1, 1, 0xFF);
+    EXPECT_EQ(Serato(product), (Answer{kSuccess, 1})) << product;
+    EXPECT_EQ(rig_->WireLog(),
               (Lines{AskedSerato(1, "2 bytes 01 00"), AskedSerato(1, "2 bytes 00 01"),
                      AskedSerato(1, "2 bytes 01 ff")}));
   }
@@ -328,36 +331,36 @@ TEST_F(MixerStatus, SeratoOfTwoOrMoreIsRefusedAndNotHandedOut) {
   PlugMixers(1);
   for (const std::uint8_t value :
        {std::uint8_t{2}, std::uint8_t{3}, std::uint8_t{128}, std::uint8_t{255}}) {
-    rig().SetSerato(1, value, 0);
-    EXPECT_EQ(Serato(11), (Answer{102, kBefore})) << +value;
+    rig_->SetSerato(1, value, 0);
+    EXPECT_EQ(Serato(kSelva), (Answer{kBadArgument, kBefore})) << +value;
   }
 }
 
 TEST_F(MixerStatus, SeratoWithoutAUnitIsLeftUntouchedForVoltToo) {
-  for (const ProductId product : {0U, 1U, 5U, 6U, 8U, 11U}) {
-    EXPECT_EQ(Serato(product), (Answer{100, kBefore})) << product;
+  for (const ProductId product : {kArden, kVolt, kHalden, kLumen, kMorrow, kSelva}) {
+    EXPECT_EQ(Serato(product), (Answer{kSuccess, kBefore})) << product;
   }
   ExpectNothingHappened();
 }
 
 TEST_F(MixerStatus, SeratoIsRefusedToVoltAsSoonAsAUnitOpensAndNoUnitIsAsked) {
   PlugMixers(2);
-  rig().SetSerato(1, 1, 0);
-  rig().SetSerato(2, 1, 0);
-  rig().SetFault(1, UnitFault::kRefusesToOpen);
-  rig().SetFault(2, UnitFault::kRefusesToOpen);
-  EXPECT_EQ(Serato(1), (Answer{100, kBefore}));
-  rig().ClearFaults(2);
-  EXPECT_EQ(Serato(1), (Answer{102, kBefore}));
-  rig().ClearFaults(1);
-  EXPECT_EQ(Serato(1), (Answer{102, kBefore}));
+  rig_->SetSerato(1, 1, 0);
+  rig_->SetSerato(2, 1, 0);
+  rig_->SetFault(1, UnitFault::kRefusesToOpen);
+  rig_->SetFault(2, UnitFault::kRefusesToOpen);
+  EXPECT_EQ(Serato(kVolt), (Answer{kSuccess, kBefore}));
+  rig_->ClearFaults(2);
+  EXPECT_EQ(Serato(kVolt), (Answer{kBadArgument, kBefore}));
+  rig_->ClearFaults(1);
+  EXPECT_EQ(Serato(kVolt), (Answer{kBadArgument, kBefore}));
   ExpectNothingHappened();
 }
 
 TEST_F(MixerStatus, SeratoIsRefusedToOtherModelsWithoutAskingAnyUnit) {
   PlugMixers(1);
-  for (const ProductId product : {2U, 3U, 4U, 7U, 9U, 10U, 12U, 0xFFFFFFFFU}) {
-    EXPECT_EQ(Serato(product), (Answer{102, kBefore})) << product;
+  for (const ProductId product : {kBrisk, kFenno, kCirrus, 7U, 9U, 10U, 12U, 0xFFFFFFFFU}) {
+    EXPECT_EQ(Serato(product), (Answer{kBadArgument, kBefore})) << product;
   }
   ExpectNothingHappened();
 }
@@ -365,43 +368,43 @@ TEST_F(MixerStatus, SeratoIsRefusedToOtherModelsWithoutAskingAnyUnit) {
 TEST_F(MixerStatus, SeratoIsThatOfTheLastUnitThatOpens) {
   PlugMixers(3);
   PlugSomethingHealthyBehind();
-  rig().SetSerato(1, 0, 0);
-  rig().SetSerato(2, 0, 0);
-  rig().SetSerato(3, 1, 0);
-  EXPECT_EQ(Serato(11), (Answer{100, 1}));
-  EXPECT_EQ(rig().WireLog(),
+  rig_->SetSerato(1, 0, 0);
+  rig_->SetSerato(2, 0, 0);
+  rig_->SetSerato(3, 1, 0);
+  EXPECT_EQ(Serato(kSelva), (Answer{kSuccess, 1}));
+  EXPECT_EQ(rig_->WireLog(),
             (Lines{AskedSerato(1, "2 bytes 00 00"), AskedSerato(2, "2 bytes 00 00"),
                    AskedSerato(3, "2 bytes 01 00")}));
-  rig().SetFault(3, UnitFault::kRefusesToOpen);
-  EXPECT_EQ(Serato(11), (Answer{100, 0}));
+  rig_->SetFault(3, UnitFault::kRefusesToOpen);
+  EXPECT_EQ(Serato(kSelva), (Answer{kSuccess, 0}));
 }
 
 TEST_F(MixerStatus, TheFirstUnitWithABadSeratoStateIsTheLastAskedAndLeavesWhatCameBefore) {
   PlugMixers(3);
-  rig().SetSerato(1, 1, 0);
-  rig().SetSerato(2, 2, 0);
-  rig().SetSerato(3, 0, 0);
-  EXPECT_EQ(Serato(11), (Answer{102, 1}));
-  EXPECT_EQ(rig().WireLog(),
+  rig_->SetSerato(1, 1, 0);
+  rig_->SetSerato(2, 2, 0);
+  rig_->SetSerato(3, 0, 0);
+  EXPECT_EQ(Serato(kSelva), (Answer{kBadArgument, 1}));
+  EXPECT_EQ(rig_->WireLog(),
             (Lines{AskedSerato(1, "2 bytes 01 00"), AskedSerato(2, "2 bytes 02 00")}));
 }
 
 TEST_F(MixerStatus, SeratoOfAUnitThatDoesNotAnswerIsRefused) {
   PlugMixers(2);
-  rig().SetFault(1, UnitFault::kStalls);
-  EXPECT_EQ(Serato(11), (Answer{102, kBefore}));
-  rig().ClearFaults(1);
-  rig().SetShortReplies(1, 0);
-  EXPECT_EQ(Serato(11), (Answer{102, kBefore}));
-  EXPECT_EQ(rig().WireLog(), (Lines{AskedSerato(1, "stalled"), AskedSerato(1, "0 bytes")}));
+  rig_->SetFault(1, UnitFault::kStalls);
+  EXPECT_EQ(Serato(kSelva), (Answer{kBadArgument, kBefore}));
+  rig_->ClearFaults(1);
+  rig_->SetShortReplies(1, 0);
+  EXPECT_EQ(Serato(kSelva), (Answer{kBadArgument, kBefore}));
+  EXPECT_EQ(rig_->WireLog(), (Lines{AskedSerato(1, "stalled"), AskedSerato(1, "0 bytes")}));
 }
 
 TEST_F(MixerStatus, SeratoNeedsTheFirstByteOnly) {
   PlugMixers(1);
-  rig().SetSerato(1, 1, 0);
-  rig().SetShortReplies(1, 1);
-  EXPECT_EQ(Serato(11), (Answer{100, 1}));
-  EXPECT_EQ(rig().WireLog(), (Lines{AskedSerato(1, "1 byte 01")}));
+  rig_->SetSerato(1, 1, 0);
+  rig_->SetShortReplies(1, 1);
+  EXPECT_EQ(Serato(kSelva), (Answer{kSuccess, 1}));
+  EXPECT_EQ(rig_->WireLog(), (Lines{AskedSerato(1, "1 byte 01")}));
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ constexpr ProductId kUntouched = 4711;
 ProductId Recognised(const std::string &name) {
   ProductId product = kUntouched;
   const StatusCode status = ORV_GetProductId(TextOf(name), &product);
-  EXPECT_EQ(status, product == kUntouched ? 102 : 100) << name;
+  EXPECT_EQ(status, product == kUntouched ? kBadArgument : kSuccess) << name;
   return product;
 }
 
@@ -62,41 +62,46 @@ TEST_F(ProductNames, AnythingElseIsRefusedAndTheResultLeftAlone) {
 
 TEST_F(ProductNames, NullPointersAreRefused) {
   ProductId product = kUntouched;
-  EXPECT_EQ(ORV_GetProductId(nullptr, &product), 102);
+  EXPECT_EQ(ORV_GetProductId(nullptr, &product), kBadArgument);
   EXPECT_EQ(product, kUntouched);
-  EXPECT_EQ(ORV_GetProductId(TextOf("TRX-SELVA"), nullptr), 102);
-  EXPECT_EQ(ORV_GetProductId(nullptr, nullptr), 102);
+  EXPECT_EQ(ORV_GetProductId(TextOf("TRX-SELVA"), nullptr), kBadArgument);
+  EXPECT_EQ(ORV_GetProductId(nullptr, nullptr), kBadArgument);
 }
 
 TEST_F(ProductNames, NothingHappensElsewhere) {
-  rig().PlugMixer();
+  rig_->PlugMixer();
   Recognised("TRX-SELVA");
   Recognised("nonsense");
   ExpectNothingHappened();
 }
 
 TEST_F(ProductNames, TheThreeModelsThatAreOnlyRecognisedHaveNoBoostLevelAndNoCallbacks) {
-  rig().PlugMixer();
+  rig_->PlugMixer();
   for (const char *name : {"TRX-BRISK", "TRC-FENNO", "TRX-CIRRUS"}) {
     const ProductId product = Recognised(name);
     std::uint32_t count = 0;
     std::int32_t index = 0;
     ORVStringRef text = nullptr;
-    EXPECT_EQ(ORV_GetNumOfBoostLevelIndex(product, &count), 102) << name;
-    EXPECT_EQ(ORV_GetBoostLevelText(product, 0, 0, &text), 102) << name;
-    EXPECT_EQ(ORV_SetBoostLevelIndex(product, 0), 102) << name;
-    EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(product, &index), 102) << name;
-    EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(product), 102) << name;
-    EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(product, nullptr, nullptr), 102) << name;
-    EXPECT_EQ(ORV_UnregisterInputAudioChangedCallback(product, nullptr), 102) << name;
-    EXPECT_EQ(ORV_RegisterOutputAudioChangedCallback(product, nullptr, nullptr), 102) << name;
-    EXPECT_EQ(ORV_UnregisterOutputAudioChangedCallback(product, nullptr), 102) << name;
-    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(product, nullptr, nullptr), 102) << name;
-    EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(product, nullptr), 102) << name;
-    EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(product, nullptr, nullptr), 102) << name;
-    EXPECT_EQ(ORV_UnregisterMidiChannelChangedCallback(product, nullptr), 102) << name;
-    EXPECT_EQ(ORV_RegisterMidiKeyModeChangedCallback(product, nullptr, nullptr), 102) << name;
-    EXPECT_EQ(ORV_UnregisterMidiKeyModeChangedCallback(product, nullptr), 102) << name;
+    EXPECT_EQ(ORV_GetNumOfBoostLevelIndex(product, &count), kBadArgument) << name;
+    EXPECT_EQ(ORV_GetBoostLevelText(product, 0, 0, &text), kBadArgument) << name;
+    EXPECT_EQ(ORV_SetBoostLevelIndex(product, 0), kBadArgument) << name;
+    EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(product, &index), kBadArgument) << name;
+    EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(product), kBadArgument) << name;
+    EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(product, nullptr, nullptr), kBadArgument)
+        << name;
+    EXPECT_EQ(ORV_UnregisterInputAudioChangedCallback(product, nullptr), kBadArgument) << name;
+    EXPECT_EQ(ORV_RegisterOutputAudioChangedCallback(product, nullptr, nullptr), kBadArgument)
+        << name;
+    EXPECT_EQ(ORV_UnregisterOutputAudioChangedCallback(product, nullptr), kBadArgument) << name;
+    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(product, nullptr, nullptr), kBadArgument)
+        << name;
+    EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(product, nullptr), kBadArgument) << name;
+    EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(product, nullptr, nullptr), kBadArgument)
+        << name;
+    EXPECT_EQ(ORV_UnregisterMidiChannelChangedCallback(product, nullptr), kBadArgument) << name;
+    EXPECT_EQ(ORV_RegisterMidiKeyModeChangedCallback(product, nullptr, nullptr), kBadArgument)
+        << name;
+    EXPECT_EQ(ORV_UnregisterMidiKeyModeChangedCallback(product, nullptr), kBadArgument) << name;
   }
   ExpectNothingHappened();
 }
@@ -112,40 +117,40 @@ class Connection : public Acceptance {
 };
 
 TEST_F(Connection, NoneWhileTheBusIsEmpty) {
-  EXPECT_EQ(AnswerForEveryProduct(), 104);
+  EXPECT_EQ(AnswerForEveryProduct(), kNotConnected);
   ExpectNothingHappened();
 }
 
 TEST_F(Connection, ThereWithOneMixerAndWithMore) {
-  rig().PlugMixer();
-  EXPECT_EQ(AnswerForEveryProduct(), 103);
-  rig().PlugMixer();
-  rig().PlugMixer();
-  EXPECT_EQ(AnswerForEveryProduct(), 103);
+  rig_->PlugMixer();
+  EXPECT_EQ(AnswerForEveryProduct(), kConnected);
+  rig_->PlugMixer();
+  rig_->PlugMixer();
+  EXPECT_EQ(AnswerForEveryProduct(), kConnected);
   ExpectNothingHappened();
 }
 
 TEST_F(Connection, StrangersAreNoConnection) {
-  rig().PlugStranger(Stranger::kOtherProductOfTheMaker);
-  rig().PlugStranger(Stranger::kOtherMakerWithTheSameProduct);
-  rig().PlugStranger(Stranger::kUnrelated);
-  EXPECT_EQ(AnswerForEveryProduct(), 104);
+  rig_->PlugStranger(Stranger::kOtherProductOfTheMaker);
+  rig_->PlugStranger(Stranger::kOtherMakerWithTheSameProduct);
+  rig_->PlugStranger(Stranger::kUnrelated);
+  EXPECT_EQ(AnswerForEveryProduct(), kNotConnected);
 }
 
 TEST_F(Connection, FollowsUnpluggingAndReplugging) {
-  const int unit = rig().PlugMixer();
-  EXPECT_EQ(AnswerForEveryProduct(), 103);
-  rig().Unplug(unit);
-  EXPECT_EQ(AnswerForEveryProduct(), 104);
-  rig().Replug(unit);
-  EXPECT_EQ(AnswerForEveryProduct(), 103);
+  const int unit = rig_->PlugMixer();
+  EXPECT_EQ(AnswerForEveryProduct(), kConnected);
+  rig_->Unplug(unit);
+  EXPECT_EQ(AnswerForEveryProduct(), kNotConnected);
+  rig_->Replug(unit);
+  EXPECT_EQ(AnswerForEveryProduct(), kConnected);
 }
 
 TEST_F(Connection, AUnitThatCannotBeOpenedIsConnectedAllTheSame) {
-  const int unit = rig().PlugMixer();
-  rig().SetFault(unit, UnitFault::kRefusesToOpen);
-  EXPECT_EQ(AnswerForEveryProduct(), 103);
-  EXPECT_EQ(rig().WireLog(), Lines());
+  const int unit = rig_->PlugMixer();
+  rig_->SetFault(unit, UnitFault::kRefusesToOpen);
+  EXPECT_EQ(AnswerForEveryProduct(), kConnected);
+  EXPECT_EQ(rig_->WireLog(), Lines());
 }
 
 }  // namespace

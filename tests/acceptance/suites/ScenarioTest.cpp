@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "../Deliveries.h"
+#include "../WireLines.h"
 
 namespace trxtest {
 namespace {
@@ -15,57 +16,51 @@ std::string routing = "routing";
 class Scenario : public Deliveries {};
 
 TEST_F(Scenario, AHostFindsItsMixersSetsThemHearsOfItAndSendsTheLevelAgain) {
-  rig().PlugStranger(Stranger::kOtherProductOfTheMaker);
-  const int first = rig().PlugMixer();
-  const int second = rig().PlugMixer();
-  rig().SetFault(rig().PlugMixer(), UnitFault::kRefusesToOpen);
+  rig_->PlugStranger(Stranger::kOtherProductOfTheMaker);
+  const int first = rig_->PlugMixer();
+  const int second = rig_->PlugMixer();
+  rig_->SetFault(rig_->PlugMixer(), UnitFault::kRefusesToOpen);
   PlugSomethingHealthyBehind();
 
   ProductId product = 0;
-  ASSERT_EQ(ORV_GetProductId(TextOf("Orvik Trx-Selva"), &product), 100);
-  ASSERT_EQ(product, 11U);
-  EXPECT_EQ(ORV_IsUSBConnection(product), 103);
-  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexA, &selva), 100);
-  EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(product, ChannelIndexA, &routing), 100);
-  EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(product, ChannelIndexB, &routing), 100);
+  ASSERT_EQ(ORV_GetProductId(TextOf("Orvik Trx-Selva"), &product), kSuccess);
+  ASSERT_EQ(product, kSelva);
+  EXPECT_EQ(ORV_IsUSBConnection(product), kConnected);
+  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexA, &selva), kSuccess);
+  EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(product, ChannelIndexA, &routing), kSuccess);
+  EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(product, ChannelIndexB, &routing), kSuccess);
 
   PutSettings("TRX-SELVA",
               "<key>Output0</key><integer>4</integer><key>MaxLevel</key><string>0</string>");
-  EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(product), 100);
-  EXPECT_EQ(ORV_SetBoostLevelIndex(product, 1), 100);
-  EXPECT_EQ(ORV_SetBoostLevelIndex(product, 4), 102);
-  rig().SetFault(first, UnitFault::kVanishes);
-  EXPECT_EQ(ORV_SetBoostLevelIndex(product, 2), 100);
-  EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(product), 100);
-  Lines wire = rig().WireLog();
-  if (rig().PlacesHoldInACall()) wire.erase(wire.begin() + 5);  // of the second, in the same call
-  const std::string beginnings[] = {"unit " + std::to_string(first) + " OUT 40 03 wValue ",
-                                    "unit " + std::to_string(second) + " OUT 40 03 wValue "};
-  const std::string rest = " wIndex 8003 wLength 0 -> ";
-  EXPECT_EQ(
-      wire,
-      (Lines{beginnings[0] + "0300" + rest + "0 bytes", beginnings[1] + "0300" + rest + "0 bytes",
-             beginnings[0] + "0200" + rest + "0 bytes", beginnings[1] + "0200" + rest + "0 bytes",
-             beginnings[0] + "0100" + rest + "unplugged",
-             beginnings[1] + "0100" + rest + "0 bytes"}));
+  EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(product), kSuccess);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(product, 1), kSuccess);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(product, 4), kBadArgument);
+  rig_->SetFault(first, UnitFault::kVanishes);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(product, 2), kSuccess);
+  EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(product), kSuccess);
+  Lines wire = rig_->WireLog();
+  if (rig_->PlacesHoldInACall()) wire.erase(wire.begin() + 5);  // of the second, in the same call
+  EXPECT_EQ(wire, (Lines{Sent(first, "0300", "8003"), Sent(second, "0300", "8003"),
+                         Sent(first, "0200", "8003"), Sent(second, "0200", "8003"),
+                         Sent(first, "0100", "8003", "unplugged"), Sent(second, "0100", "8003")}));
 
   EXPECT_EQ(SettingsOf("TRX-SELVA"),
             (Settings{{"MaxLevel", "<integer>2</integer>"}, {"Output0", "<integer>4</integer>"}}));
-  EXPECT_EQ(rig().TakeAnnouncements(2),
-            (std::vector{BoostChange("TRX-SELVA", 11, 1), BoostChange("TRX-SELVA", 11, 2)}));
-  rig().Announce(
-      {"TRX-SELVA InputAudio Change", {{"ProductID", 11}, {"Channel", 1}, {"Index", 7}}});
-  rig().AnnounceMisshapen(BoostChange("TRX-SELVA", 11, 3));
-  const CallList calls = DeliverAll();
+  EXPECT_EQ(rig_->TakeAnnouncements(2), (std::vector{BoostChange("TRX-SELVA", kSelva, 1),
+                                                     BoostChange("TRX-SELVA", kSelva, 2)}));
+  rig_->Announce(
+      {"TRX-SELVA InputAudio Change", {{"ProductID", kSelva}, {"Channel", 1}, {"Index", 7}}});
+  rig_->AnnounceMisshapen(BoostChange("TRX-SELVA", kSelva, 3));
+  const CallList calls = DeliverAll(4);
   EXPECT_EQ(std::count(calls.begin(), calls.end(), (Call{"B routing", 1, 7})), 2);
   EXPECT_EQ(std::count(calls.begin(), calls.end(), (Call{"A selva", -1, 1})), 1);
   EXPECT_EQ(std::count(calls.begin(), calls.end(), (Call{"A selva", -1, 2})), 1);
   EXPECT_EQ(calls.size(), 4U);
 
-  EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(product, IndexA), 100);
-  EXPECT_EQ(ORV_UnregisterInputAudioChangedCallback(product, ChannelIndexA), 100);
+  EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(product, IndexA), kSuccess);
+  EXPECT_EQ(ORV_UnregisterInputAudioChangedCallback(product, ChannelIndexA), kSuccess);
   std::int32_t index = -77;
-  EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(product, &index), 100);
+  EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(product, &index), kSuccess);
   EXPECT_EQ(index, 2);
 }
 

@@ -17,8 +17,9 @@ struct Model {
   const char *name;
 };
 
-const std::vector<Model> kAllSix = {{0, "TRX-Arden"}, {1, "TRX-VOLT"},   {5, "TRX-HALDEN"},
-                                    {6, "TRX-LUMEN"}, {8, "TRX-MORROW"}, {11, "TRX-SELVA"}};
+const std::vector<Model> kAllSix = {{kArden, "TRX-Arden"},   {kVolt, "TRX-VOLT"},
+                                    {kHalden, "TRX-HALDEN"}, {kLumen, "TRX-LUMEN"},
+                                    {kMorrow, "TRX-MORROW"}, {kSelva, "TRX-SELVA"}};
 
 struct Row {
   const char *name;
@@ -57,7 +58,7 @@ const std::vector<Row> kRows = {
      .putCallback = ORV_RegisterBoostLevelChangedCallback,
      .takeCallback = ORV_UnregisterBoostLevelChangedCallback},
     {.name = "MidiChannel",
-     .models = {{1, "TRX-VOLT"}},
+     .models = {{kVolt, "TRX-VOLT"}},
      .texts = {"CH 1", "CH 2", "CH 3", "CH 4", "CH 5", "CH 6", "CH 7", "CH 8", "CH 9", "CH 10",
                "CH 11", "CH 12", "CH 13", "CH 14", "CH 15", "CH 16"},
      .values = {"0000", "0100", "0200", "0300", "0400", "0500", "0600", "0700", "0800", "0900",
@@ -105,42 +106,43 @@ std::string EntryOf(const Row &row, const std::string &value) {
 
 class Setting : public SetterOrder, public testing::WithParamInterface<Row> {
  protected:
-  const Row &row() { return GetParam(); }
-  const Model &model() { return row().models.front(); }
+  const Row &row_ = GetParam();
+  const Model &model_ = row_.models.front();
 
   std::string SentTo(int unit, std::uint32_t index, const std::string &outcome = "0 bytes") {
-    return Sent(unit, row().values.at(index), row().selector, outcome);
+    return Sent(unit, row_.values.at(index), row_.selector, outcome);
   }
 
   Settings StoredAs(std::uint32_t index) {
-    return {{row().key, "<integer>" + std::to_string(index) + "</integer>"}};
+    return {{row_.key, "<integer>" + std::to_string(index) + "</integer>"}};
   }
 
   void Store(const Model &model, const std::string &value) {
-    PutSettings(model.name, EntryOf(row(), value));
+    PutSettings(model.name, EntryOf(row_, value));
   }
 };
 
 TEST_P(Setting, IsCountedForItsModelsOnly) {
   for (const ProductId product : kAllProducts) {
     std::uint32_t count = 77;
-    EXPECT_EQ(row().count(product, &count), IsServed(row(), product) ? 100 : 102) << product;
-    EXPECT_EQ(count, IsServed(row(), product) ? CountOf(row()) : 77U) << product;
-    EXPECT_EQ(row().count(product, nullptr), 102) << product;
+    EXPECT_EQ(row_.count(product, &count), IsServed(row_, product) ? kSuccess : kBadArgument)
+        << product;
+    EXPECT_EQ(count, IsServed(row_, product) ? CountOf(row_) : 77U) << product;
+    EXPECT_EQ(row_.count(product, nullptr), kBadArgument) << product;
   }
   ExpectNothingHappened();
 }
 
 TEST_P(Setting, HasATextForEachChoice) {
-  for (const Model &model : row().models) {
+  for (const Model &model : row_.models) {
     for (const std::uint32_t reserved : {0U, 1U, 4U, 16U, 0xFFFFFFFFU}) {
       Lines texts;
-      for (std::uint32_t index = 0; index < CountOf(row()); ++index) {
+      for (std::uint32_t index = 0; index < CountOf(row_); ++index) {
         ORVStringRef text = nullptr;
-        ASSERT_EQ(row().text(model.product, index, reserved, &text), 100);
+        ASSERT_EQ(row_.text(model.product, index, reserved, &text), kSuccess);
         texts.push_back(CharactersOf(text));
       }
-      EXPECT_EQ(texts, row().texts) << model.name << reserved;
+      EXPECT_EQ(texts, row_.texts) << model.name << reserved;
     }
   }
   ExpectNothingHappened();
@@ -149,24 +151,24 @@ TEST_P(Setting, HasATextForEachChoice) {
 TEST_P(Setting, HandsOutTheSameTextEachTime) {
   ORVStringRef first = nullptr;
   ORVStringRef again = nullptr;
-  ASSERT_EQ(row().text(row().models.front().product, 1, 0, &first), 100);
-  ASSERT_EQ(row().set(model().product, 0), 100);
-  ASSERT_EQ(row().text(row().models.back().product, 1, 9, &again), 100);
+  ASSERT_EQ(row_.text(row_.models.front().product, 1, 0, &first), kSuccess);
+  ASSERT_EQ(row_.set(model_.product, 0), kSuccess);
+  ASSERT_EQ(row_.text(row_.models.back().product, 1, 9, &again), kSuccess);
   EXPECT_EQ(first, again);
-  EXPECT_EQ(CharactersOf(first), row().texts[1]);
+  EXPECT_EQ(CharactersOf(first), row_.texts[1]);
 }
 
 TEST_P(Setting, HasNoTextForAnotherModelOrIndexOrANullResult) {
   for (const ProductId product : kAllProducts) {
-    std::vector<std::uint32_t> indexes = IndexesBeyond(row());
-    if (!IsServed(row(), product)) indexes.insert(indexes.end(), {0, 1});
+    std::vector<std::uint32_t> indexes = IndexesBeyond(row_);
+    if (!IsServed(row_, product)) indexes.insert(indexes.end(), {0, 1});
     for (const std::uint32_t index : indexes) {
       ORVStringRef text = TextOf("untouched");
-      EXPECT_EQ(row().text(product, index, 0, &text), 102) << product << ' ' << index;
+      EXPECT_EQ(row_.text(product, index, 0, &text), kBadArgument) << product << ' ' << index;
       EXPECT_EQ(CharactersOf(text), "untouched") << product << ' ' << index;
     }
-    EXPECT_EQ(row().text(product, 0, 0, nullptr), 102) << product;
-    EXPECT_EQ(row().text(product, CountOf(row()), 0, nullptr), 102) << product;
+    EXPECT_EQ(row_.text(product, 0, 0, nullptr), kBadArgument) << product;
+    EXPECT_EQ(row_.text(product, CountOf(row_), 0, nullptr), kBadArgument) << product;
   }
   ExpectNothingHappened();
 }
@@ -174,25 +176,25 @@ TEST_P(Setting, HasNoTextForAnotherModelOrIndexOrANullResult) {
 // --- Setting ---------------------------------------------------------------------------------
 
 TEST_P(Setting, IsSentToEveryUnitStoredAndAnnounced) {
-  for (int i = 0; i < 3; ++i) rig().PlugMixer();
-  for (std::uint32_t index = 0; index < CountOf(row()); ++index) {
-    EXPECT_EQ(row().set(model().product, index), 100) << index;
-    EXPECT_EQ(rig().WireLog(), (Lines{SentTo(1, index), SentTo(2, index), SentTo(3, index)}));
-    EXPECT_EQ(SettingsOf(model().name), StoredAs(index));
-    EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{Change(row(), model(), index)});
-    rig().ClearWireLog();
+  for (int i = 0; i < 3; ++i) rig_->PlugMixer();
+  for (std::uint32_t index = 0; index < CountOf(row_); ++index) {
+    EXPECT_EQ(row_.set(model_.product, index), kSuccess) << index;
+    EXPECT_EQ(rig_->WireLog(), (Lines{SentTo(1, index), SentTo(2, index), SentTo(3, index)}));
+    EXPECT_EQ(SettingsOf(model_.name), StoredAs(index));
+    EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{Change(row_, model_, index)});
+    rig_->ClearWireLog();
   }
 }
 
 TEST_P(Setting, HasAFileAndAnAnnouncementOfItsOwnForEachModel) {
-  rig().PlugMixer();
+  rig_->PlugMixer();
   Lines files;
-  for (const Model &model : row().models) {
-    EXPECT_EQ(row().set(model.product, 1), 100) << model.name;
-    EXPECT_EQ(rig().WireLog(), Lines{SentTo(1, 1)}) << model.name;
+  for (const Model &model : row_.models) {
+    EXPECT_EQ(row_.set(model.product, 1), kSuccess) << model.name;
+    EXPECT_EQ(rig_->WireLog(), Lines{SentTo(1, 1)}) << model.name;
     EXPECT_EQ(SettingsOf(model.name), StoredAs(1)) << model.name;
-    EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{Change(row(), model, 1)});
-    rig().ClearWireLog();
+    EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{Change(row_, model, 1)});
+    rig_->ClearWireLog();
     files.push_back("Preferences/com.orvikaudio." + std::string(model.name) + "autosetup.plist");
   }
   std::sort(files.begin(), files.end());
@@ -200,53 +202,48 @@ TEST_P(Setting, HasAFileAndAnAnnouncementOfItsOwnForEachModel) {
 }
 
 TEST_P(Setting, IsStoredAndAnnouncedWithoutAUnit) {
-  EXPECT_EQ(row().set(model().product, 1), 100);
-  EXPECT_EQ(rig().WireLog(), Lines());
-  EXPECT_EQ(SettingsOf(model().name), StoredAs(1));
-  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{Change(row(), model(), 1)});
+  EXPECT_EQ(row_.set(model_.product, 1), kSuccess);
+  EXPECT_EQ(rig_->WireLog(), Lines());
+  EXPECT_EQ(SettingsOf(model_.name), StoredAs(1));
+  EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{Change(row_, model_, 1)});
 }
 
-TEST_P(Setting, IsSentBeforeItIsStoredAndAnnounced) {
-  ExpectUnitToldFirst([&] { return row().set(model().product, 1); }, SentTo(1, 1, "no reply"));
-}
-
-TEST_P(Setting, IsStoredBeforeItIsAnnounced) {
-  ExpectStoredBeforeAnnounced([&] { return row().set(model().product, 1); }, model().name,
-                              StoredAs(1));
+TEST_P(Setting, IsSentThenStoredThenAnnounced) {
+  ExpectSentStoredAnnounced([&] { return row_.set(model_.product, 1); }, SentTo(1, 1));
 }
 
 TEST_P(Setting, PassesOverUnitsThatStallOrDoNotOpen) {
-  for (int i = 0; i < 3; ++i) rig().PlugMixer();
-  rig().SetFault(1, UnitFault::kStalls);
-  rig().SetFault(2, UnitFault::kRefusesToOpen);
-  EXPECT_EQ(row().set(model().product, 1), 100);
-  EXPECT_EQ(row().sendAgain(model().product), 100);
-  EXPECT_EQ(rig().WireLog(),
+  for (int i = 0; i < 3; ++i) rig_->PlugMixer();
+  rig_->SetFault(1, UnitFault::kStalls);
+  rig_->SetFault(2, UnitFault::kRefusesToOpen);
+  EXPECT_EQ(row_.set(model_.product, 1), kSuccess);
+  EXPECT_EQ(row_.sendAgain(model_.product), kSuccess);
+  EXPECT_EQ(rig_->WireLog(),
             (Lines{SentTo(1, 1, "stalled"), SentTo(3, 1), SentTo(1, 1, "stalled"), SentTo(3, 1)}));
-  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{Change(row(), model(), 1)});
+  EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{Change(row_, model_, 1)});
 }
 
 TEST_P(Setting, IsSentStoredAndAnnouncedAlsoWhenItStaysTheSame) {
-  rig().PlugMixer();
-  EXPECT_EQ(row().set(model().product, 1), 100);
+  rig_->PlugMixer();
+  EXPECT_EQ(row_.set(model_.product, 1), kSuccess);
   // An entry that only a second write could keep shows whether the file is written again.
-  PutSettings(model().name, EntryOf(row(), "0") + "<key>Mark</key><string>between</string>");
-  EXPECT_EQ(row().set(model().product, 1), 100);
-  EXPECT_EQ(rig().WireLog(), (Lines{SentTo(1, 1), SentTo(1, 1)}));
+  PutSettings(model_.name, EntryOf(row_, "0") + "<key>Mark</key><string>between</string>");
+  EXPECT_EQ(row_.set(model_.product, 1), kSuccess);
+  EXPECT_EQ(rig_->WireLog(), (Lines{SentTo(1, 1), SentTo(1, 1)}));
   Settings stored = StoredAs(1);
   stored["Mark"] = "<string>between</string>";
-  EXPECT_EQ(SettingsOf(model().name), stored);
-  EXPECT_EQ(rig().TakeAnnouncements(2),
-            (std::vector{Change(row(), model(), 1), Change(row(), model(), 1)}));
+  EXPECT_EQ(SettingsOf(model_.name), stored);
+  EXPECT_EQ(rig_->TakeAnnouncements(2),
+            (std::vector{Change(row_, model_, 1), Change(row_, model_, 1)}));
 }
 
 TEST_P(Setting, IsRefusedForAnotherModelOrIndexAndNothingIsDone) {
-  rig().PlugMixer();
+  rig_->PlugMixer();
   for (const ProductId product : kAllProducts) {
-    std::vector<std::uint32_t> indexes = IndexesBeyond(row());
-    if (!IsServed(row(), product)) indexes.insert(indexes.end(), {0, 1});
+    std::vector<std::uint32_t> indexes = IndexesBeyond(row_);
+    if (!IsServed(row_, product)) indexes.insert(indexes.end(), {0, 1});
     for (const std::uint32_t index : indexes) {
-      EXPECT_EQ(row().set(product, index), 102) << product << ' ' << index;
+      EXPECT_EQ(row_.set(product, index), kBadArgument) << product << ' ' << index;
     }
   }
   ExpectNothingHappened();
@@ -257,38 +254,39 @@ TEST_P(Setting, IsRefusedForAnotherModelOrIndexAndNothingIsDone) {
 TEST_P(Setting, HasItsDefaultForItsModelsWhileNothingIsStored) {
   for (const ProductId product : kAllProducts) {
     std::int32_t index = -77;
-    EXPECT_EQ(row().current(product, &index), IsServed(row(), product) ? 100 : 102) << product;
-    EXPECT_EQ(index, IsServed(row(), product) ? row().defaultIndex : -77) << product;
-    EXPECT_EQ(row().current(product, nullptr), 102) << product;
+    EXPECT_EQ(row_.current(product, &index), IsServed(row_, product) ? kSuccess : kBadArgument)
+        << product;
+    EXPECT_EQ(index, IsServed(row_, product) ? row_.defaultIndex : -77) << product;
+    EXPECT_EQ(row_.current(product, nullptr), kBadArgument) << product;
   }
   ExpectNothingHappened();
 }
 
 TEST_P(Setting, HasItsDefaultBesideOtherEntriesAndOtherModels) {
-  PutSettings(model().name, "<key>Else</key><integer>1</integer>");
-  PutSettings(model().product == 11 ? "TRX-LUMEN" : "TRX-SELVA", EntryOf(row(), "1"));
+  PutSettings(model_.name, "<key>Else</key><integer>1</integer>");
+  PutSettings(model_.product == kSelva ? "TRX-LUMEN" : "TRX-SELVA", EntryOf(row_, "1"));
   std::int32_t index = -77;
-  EXPECT_EQ(row().current(model().product, &index), 100);
-  EXPECT_EQ(index, row().defaultIndex);
+  EXPECT_EQ(row_.current(model_.product, &index), kSuccess);
+  EXPECT_EQ(index, row_.defaultIndex);
 }
 
 TEST_P(Setting, IsReadForEachModelAsItWasSet) {
-  for (const Model &model : row().models) ASSERT_EQ(row().set(model.product, 0), 100);
-  ASSERT_EQ(row().set(model().product, 1), 100);
-  for (const Model &model : row().models) {
+  for (const Model &model : row_.models) ASSERT_EQ(row_.set(model.product, 0), kSuccess);
+  ASSERT_EQ(row_.set(model_.product, 1), kSuccess);
+  for (const Model &model : row_.models) {
     std::int32_t index = -77;
-    EXPECT_EQ(row().current(model.product, &index), 100);
-    EXPECT_EQ(index, model.product == this->model().product ? 1 : 0) << model.name;
+    EXPECT_EQ(row_.current(model.product, &index), kSuccess);
+    EXPECT_EQ(index, model.product == model_.product ? 1 : 0) << model.name;
   }
 }
 
 TEST_P(Setting, IsReadAsItIsStoredInRangeOrNot) {
-  const std::string count = std::to_string(CountOf(row()));
+  const std::string count = std::to_string(CountOf(row_));
   for (const std::string &stored : {std::string("0"), count, std::string("-1"),
                                     std::string("2147483647"), std::string("-2147483648")}) {
-    Store(model(), stored);
+    Store(model_, stored);
     std::int32_t index = -77;
-    EXPECT_EQ(row().current(model().product, &index), 100) << stored;
+    EXPECT_EQ(row_.current(model_.product, &index), kSuccess) << stored;
     EXPECT_EQ(std::to_string(index), stored);
   }
 }
@@ -296,61 +294,62 @@ TEST_P(Setting, IsReadAsItIsStoredInRangeOrNot) {
 // --- Sending again ---------------------------------------------------------------------------
 
 TEST_P(Setting, IsSentAgainToEveryUnitAndNeitherStoredNorAnnounced) {
-  rig().PlugMixer();
-  rig().PlugMixer();
-  for (std::uint32_t index = 0; index < row().choicesSentAgain; ++index) {
-    Store(model(), std::to_string(index));
-    EXPECT_EQ(row().sendAgain(model().product), 100) << index;
-    EXPECT_EQ(rig().WireLog(), (Lines{SentTo(1, index), SentTo(2, index)}));
-    EXPECT_EQ(SettingsOf(model().name), StoredAs(index));
-    rig().ClearWireLog();
+  rig_->PlugMixer();
+  rig_->PlugMixer();
+  for (std::uint32_t index = 0; index < row_.choicesSentAgain; ++index) {
+    Store(model_, std::to_string(index));
+    EXPECT_EQ(row_.sendAgain(model_.product), kSuccess) << index;
+    EXPECT_EQ(rig_->WireLog(), (Lines{SentTo(1, index), SentTo(2, index)}));
+    EXPECT_EQ(SettingsOf(model_.name), StoredAs(index));
+    rig_->ClearWireLog();
   }
-  EXPECT_EQ(rig().TakeAnnouncements(0), std::vector<Announcement>());
+  EXPECT_EQ(rig_->TakeAnnouncements(0), std::vector<Announcement>());
 }
 
 TEST_P(Setting, IsNotSentAgainBeyondTheChoicesThatCanBe) {
-  rig().PlugMixer();
+  rig_->PlugMixer();
   Lines stored = {"-1", "256", "2147483647", "-2147483648"};
-  for (std::uint32_t index = row().choicesSentAgain; index <= CountOf(row()); ++index) {
+  for (std::uint32_t index = row_.choicesSentAgain; index <= CountOf(row_); ++index) {
     stored.push_back(std::to_string(index));
   }
   for (const std::string &index : stored) {
-    Store(model(), index);
-    EXPECT_EQ(row().sendAgain(model().product), 102) << index;
+    Store(model_, index);
+    EXPECT_EQ(row_.sendAgain(model_.product), kBadArgument) << index;
   }
-  EXPECT_EQ(rig().WireLog(), Lines());
-  EXPECT_EQ(rig().TakeAnnouncements(0), std::vector<Announcement>());
+  EXPECT_EQ(rig_->WireLog(), Lines());
+  EXPECT_EQ(rig_->TakeAnnouncements(0), std::vector<Announcement>());
 }
 
 TEST_P(Setting, IsSentAgainAsItsDefaultWhileNothingIsStored) {
-  rig().PlugMixer();
-  for (const Model &model : row().models) {
-    EXPECT_EQ(row().sendAgain(model.product), 100) << model.name;
-    EXPECT_EQ(rig().WireLog(), Lines{SentTo(1, static_cast<std::uint32_t>(row().defaultIndex))});
-    rig().ClearWireLog();
+  rig_->PlugMixer();
+  for (const Model &model : row_.models) {
+    EXPECT_EQ(row_.sendAgain(model.product), kSuccess) << model.name;
+    EXPECT_EQ(rig_->WireLog(), Lines{SentTo(1, static_cast<std::uint32_t>(row_.defaultIndex))});
+    rig_->ClearWireLog();
   }
   ExpectNothingHappened();
 }
 
 TEST_P(Setting, IsSentAgainFromTheFileOfTheModel) {
-  rig().PlugMixer();
-  for (const Model &model : row().models) Store(model, "1");
-  Store(model(), "0");
-  for (const Model &model : row().models) {
-    EXPECT_EQ(row().sendAgain(model.product), 100);
-    EXPECT_EQ(rig().WireLog(), Lines{SentTo(1, model.product == this->model().product ? 0 : 1)});
-    rig().ClearWireLog();
+  rig_->PlugMixer();
+  for (const Model &model : row_.models) Store(model, "1");
+  Store(model_, "0");
+  for (const Model &model : row_.models) {
+    EXPECT_EQ(row_.sendAgain(model.product), kSuccess);
+    EXPECT_EQ(rig_->WireLog(), Lines{SentTo(1, model.product == model_.product ? 0 : 1)});
+    rig_->ClearWireLog();
   }
 }
 
 TEST_P(Setting, IsSentAgainForItsModelsOnlyAndWithoutAUnitToo) {
   for (const ProductId product : kAllProducts) {
-    EXPECT_EQ(row().sendAgain(product), IsServed(row(), product) ? 100 : 102) << product;
+    EXPECT_EQ(row_.sendAgain(product), IsServed(row_, product) ? kSuccess : kBadArgument)
+        << product;
   }
-  rig().PlugMixer();
+  rig_->PlugMixer();
   for (const ProductId product : kAllProducts) {
-    if (IsServed(row(), product)) continue;
-    EXPECT_EQ(row().sendAgain(product), 102) << product;
+    if (IsServed(row_, product)) continue;
+    EXPECT_EQ(row_.sendAgain(product), kBadArgument) << product;
   }
   ExpectNothingHappened();
 }
@@ -364,48 +363,48 @@ std::string second = "second";
 
 class SettingCallback : public Deliveries, public testing::WithParamInterface<Row> {
  protected:
-  const Row &row() { return GetParam(); }
-  const Model &model() { return row().models.front(); }
+  const Row &row_ = GetParam();
+  const Model &model_ = row_.models.front();
 };
 
 // Null callbacks and contexts are accepted, and Unregister ignores its callback.
 TEST_P(SettingCallback, IsAcceptedForTheModelsOfTheSettingOnly) {
   for (const ProductId product : kAllProducts) {
-    const StatusCode expected = IsServed(row(), product) ? 100 : 102;
-    EXPECT_EQ(row().takeCallback(product, IndexA), expected) << product;
-    EXPECT_EQ(row().putCallback(product, IndexA, &first), expected) << product;
-    EXPECT_EQ(row().putCallback(product, nullptr, &first), expected) << product;
-    EXPECT_EQ(row().putCallback(product, IndexA, nullptr), expected) << product;
-    EXPECT_EQ(row().takeCallback(product, nullptr), expected) << product;
-    EXPECT_EQ(row().takeCallback(product, IndexA), expected) << product;
+    const StatusCode expected = IsServed(row_, product) ? kSuccess : kBadArgument;
+    EXPECT_EQ(row_.takeCallback(product, IndexA), expected) << product;
+    EXPECT_EQ(row_.putCallback(product, IndexA, &first), expected) << product;
+    EXPECT_EQ(row_.putCallback(product, nullptr, &first), expected) << product;
+    EXPECT_EQ(row_.putCallback(product, IndexA, nullptr), expected) << product;
+    EXPECT_EQ(row_.takeCallback(product, nullptr), expected) << product;
+    EXPECT_EQ(row_.takeCallback(product, IndexA), expected) << product;
   }
   ExpectNothingHappened();
 }
 
 TEST_P(SettingCallback, RunsOnceForEachRegistrationWithTheIndexThatWasSet) {
-  ASSERT_EQ(row().putCallback(model().product, IndexA, &first), 100);
-  ASSERT_EQ(row().set(model().product, CountOf(row()) - 1), 100);
-  const auto last = static_cast<std::int32_t>(CountOf(row()) - 1);
-  EXPECT_EQ(DeliverAll(), (CallList{{"A first", -1, last}}));
-  ASSERT_EQ(row().putCallback(model().product, IndexB, &second), 100);
-  rig().Announce(Change(row(), model(), 1));
-  EXPECT_EQ(DeliverAll(), (CallList{{"B second", -1, 1}, {"B second", -1, 1}}));
+  ASSERT_EQ(row_.putCallback(model_.product, IndexA, &first), kSuccess);
+  ASSERT_EQ(row_.set(model_.product, CountOf(row_) - 1), kSuccess);
+  const auto last = static_cast<std::int32_t>(CountOf(row_) - 1);
+  EXPECT_TRUE(Delivered({{"A first", -1, last}}));
+  ASSERT_EQ(row_.putCallback(model_.product, IndexB, &second), kSuccess);
+  rig_->Announce(Change(row_, model_, 1));
+  EXPECT_TRUE(Delivered({{"B second", -1, 1}, {"B second", -1, 1}}));
 }
 
 TEST_P(SettingCallback, DoesNotRunOnceUnregistered) {
-  ASSERT_EQ(row().putCallback(model().product, IndexA, &first), 100);
-  ASSERT_EQ(row().takeCallback(model().product, IndexA), 100);
-  ASSERT_EQ(row().set(model().product, 1), 100);
-  rig().Announce(Change(row(), model(), 0));
-  EXPECT_EQ(DeliverAll(), CallList());
+  ASSERT_EQ(row_.putCallback(model_.product, IndexA, &first), kSuccess);
+  ASSERT_EQ(row_.takeCallback(model_.product, IndexA), kSuccess);
+  ASSERT_EQ(row_.set(model_.product, 1), kSuccess);
+  rig_->Announce(Change(row_, model_, 0));
+  EXPECT_TRUE(Delivered({}));
 }
 
 TEST_P(SettingCallback, DoesNotRunForAnotherSetting) {
-  ASSERT_EQ(row().putCallback(model().product, IndexA, &first), 100);
+  ASSERT_EQ(row_.putCallback(model_.product, IndexA, &first), kSuccess);
   for (const Row &other : kRows) {
-    if (std::string(other.name) != row().name) rig().Announce(Change(other, model(), 1));
+    if (std::string(other.name) != row_.name) rig_->Announce(Change(other, model_, 1));
   }
-  EXPECT_EQ(DeliverAll(), CallList());
+  EXPECT_TRUE(Delivered({}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, SettingCallback, testing::ValuesIn(kRows), NameOf);

@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "../Acceptance.h"
+#include "../WireLines.h"
 
 namespace trxtest {
 namespace {
@@ -17,7 +18,7 @@ const Lines kOnlyTheSelvaFile = {"Preferences/com.orvikaudio.TRX-SELVAautosetup.
 
 class SettingsFile : public Acceptance {
  protected:
-  std::string SelvaPath() { return rig().SettingsFile("TRX-SELVA"); }
+  std::string SelvaPath() { return rig_->SettingsFile("TRX-SELVA"); }
 
   std::string ContentsWithoutBlanks() {
     std::ifstream file(SelvaPath(), std::ios::binary);
@@ -28,7 +29,7 @@ class SettingsFile : public Acceptance {
 
   static std::int32_t CurrentLevel() {
     std::int32_t index = -77;
-    EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(11, &index), 100);
+    EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(kSelva, &index), kSuccess);
     return index;
   }
 
@@ -41,7 +42,7 @@ class SettingsFile : public Acceptance {
 TEST_F(SettingsFile, DoesNotExistUntilALevelIsSetAndThenHoldsOneEntry) {
   EXPECT_EQ(CurrentLevel(), 3);
   EXPECT_EQ(LibraryListing(), Lines());
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   EXPECT_EQ(LibraryListing(), kOnlyTheSelvaFile);
   EXPECT_EQ(ContentsWithoutBlanks(),
             "<?xmlversion=\"1.0\"encoding=\"UTF-8\"?>"
@@ -61,7 +62,7 @@ TEST_F(SettingsFile, KeepsWhatOthersPutIntoIt) {
               "<key>Negative</key><integer>-5</integer>"
               "<key>Nested</key><dict><key>List</key>"
               "<array><integer>1</integer><string>two</string></array></dict>");
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
   const std::string contents = ContentsWithoutBlanks();
   for (const char *kept :
        {"<key>Foreign</key><string>left&amp;right\xC3\xBC</string>",
@@ -80,7 +81,7 @@ TEST_F(SettingsFile, AnArrayAtItsRootCountsAsMissingAndIsReplaced) {
                   "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><array>"
                   "<string>MaxLevel</string><integer>1</integer></array></plist>");
   EXPECT_EQ(CurrentLevel(), 3);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 2), kSuccess);
   EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>2</integer>"}}));
 }
 
@@ -91,7 +92,7 @@ TEST_F(SettingsFile, ContentsThatCannotBeReadCountAsMissingAndAreReplaced) {
         "<plist version=\"1.0\"><string>MaxLevel</string></plist>"}) {
     PutSettingsFile("TRX-SELVA", contents);
     EXPECT_EQ(CurrentLevel(), 3) << contents;
-    ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100) << contents;
+    ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 2), kSuccess) << contents;
     EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>2</integer>"}}))
         << contents;
   }
@@ -114,7 +115,7 @@ TEST_F(SettingsFile, IsReadInTheBinaryEncodingAndTurnedBackIntoXml) {
       "\0\0\0\0\0\0\0\x1C";
   PutSettingsFile("TRX-SELVA", std::string(kBinary, sizeof kBinary - 1));
   EXPECT_EQ(CurrentLevel(), 2);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   EXPECT_EQ(SettingsOf("TRX-SELVA"),
             (Settings{{"MaxLevel", "<integer>1</integer>"}, {"A", "<integer>5</integer>"}}));
 }
@@ -150,12 +151,12 @@ TEST_F(SettingsFile, AnythingElseCountsAsAMissingEntry) {
 }
 
 TEST_F(SettingsFile, AChangeByAnotherProcessIsSeenByTheVeryNextCall) {
-  const auto host = rig().StartHost();
+  const auto host = rig_->StartHost();
   for (const std::string index : {"0", "2", "1"}) {
     ASSERT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 " + index), "100");
     EXPECT_EQ(std::to_string(CurrentLevel()), index);
   }
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 3), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 3), kSuccess);
   EXPECT_EQ(host->Ask("call ORV_GetCurrentBoostLevelIndex 11"), "100 3");
   fs::remove(SelvaPath());
   PutSettings("TRX-SELVA", "<key>MaxLevel</key><integer>9</integer>");
@@ -163,10 +164,10 @@ TEST_F(SettingsFile, AChangeByAnotherProcessIsSeenByTheVeryNextCall) {
 }
 
 TEST_F(SettingsFile, IsReplacedAsAWholeAndNothingIsLeftBesideIt) {
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
   std::ifstream old(SelvaPath(), std::ios::binary);
   ASSERT_TRUE(old);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   const std::string contents{std::istreambuf_iterator<char>(old), {}};
   EXPECT_NE(contents.find("<integer>0</integer>"), std::string::npos)
       << "who had the old file open no longer reads the old file";
@@ -174,39 +175,38 @@ TEST_F(SettingsFile, IsReplacedAsAWholeAndNothingIsLeftBesideIt) {
 }
 
 TEST_F(SettingsFile, AFolderInItsPlaceIsLeftAndTheSetterSucceeds) {
-  rig().PlugMixer();
+  rig_->PlugMixer();
   fs::create_directories(SelvaPath() + "/inside");
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   EXPECT_EQ(CurrentLevel(), 3);
-  EXPECT_EQ(rig().WireLog().size(), 1U);
-  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 1)});
+  EXPECT_EQ(rig_->WireLog().size(), 1U);
+  EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", kSelva, 1)});
   EXPECT_EQ(LibraryListing(), Lines{kOnlyTheSelvaFile.back() + "/inside/"});
 }
 
 TEST_F(SettingsFile, AFileInTheFoldersPlaceIsLeftAndTheSetterSucceeds) {
-  fs::remove(rig().LibraryFolder() + "/Preferences");
-  fs::create_directories(rig().LibraryFolder());
-  std::ofstream(rig().LibraryFolder() + "/Preferences") << "in the way";
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  fs::remove(rig_->LibraryFolder() + "/Preferences");
+  fs::create_directories(rig_->LibraryFolder());
+  std::ofstream(rig_->LibraryFolder() + "/Preferences") << "in the way";
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   EXPECT_EQ(CurrentLevel(), 3);
-  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 1)});
+  EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", kSelva, 1)});
   EXPECT_EQ(LibraryListing(), Lines{"Preferences"});
 }
 
 TEST_F(SettingsFile, WithoutSpaceTheOldOneStaysAndNothingIsLeftBesideIt) {
-  rig().PlugMixer();
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
-  rig().ClearWireLog();
-  ASSERT_EQ(rig().TakeAnnouncements(1).size(), 1U);
-  const auto host = rig().StartHost();
+  rig_->PlugMixer();
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 2), kSuccess);
+  rig_->ClearWireLog();
+  ASSERT_EQ(rig_->TakeAnnouncements(1).size(), 1U);
+  const auto host = rig_->StartHost();
   ASSERT_EQ(host->Ask("give-up space"), "done");
   EXPECT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 0"), "100");
   EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>2</integer>"}}));
   EXPECT_EQ(LibraryListing(), kOnlyTheSelvaFile);
   EXPECT_EQ(host->Ask("call ORV_GetCurrentBoostLevelIndex 11"), "100 2");
-  EXPECT_EQ(rig().WireLog(),
-            (Lines{"unit 1 OUT 40 03 wValue 0300 wIndex 8003 wLength 0 -> 0 bytes"}));
-  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 0)});
+  EXPECT_EQ(rig_->WireLog(), Lines{Sent(1, "0300", "8003")});
+  EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", kSelva, 0)});
 }
 
 }  // namespace

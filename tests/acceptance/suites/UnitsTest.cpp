@@ -1,39 +1,37 @@
 // Which units a request reaches, in which order, and what happens to those that fail. Tested with
 // the boost level: all settings use the same operation.
 
-#include "../SetterOrder.h"
+#include "../Acceptance.h"
+#include "../WireLines.h"
 
 namespace trxtest {
 namespace {
 
 using Lines = std::vector<std::string>;
 
-class Units : public SetterOrder {
+class Units : public Acceptance {
  protected:
   // Level 0 in the wire log of a unit that takes it.
-  static std::string Taken(int unit) { return Sent(unit, "0 bytes"); }
-
-  static std::string Sent(int unit, const std::string &outcome) {
-    return "unit " + std::to_string(unit) + " OUT 40 03 wValue 0300 wIndex 8003 wLength 0 -> " +
-           outcome;
+  static std::string Taken(int unit, const std::string &outcome = "0 bytes") {
+    return Sent(unit, "0300", "8003", outcome);
   }
 
   // Sets level 0, expects success and that it was stored and announced, and returns the wire log.
   Lines SetLevelZero() {
-    rig().ClearWireLog();
-    EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+    rig_->ClearWireLog();
+    EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
     EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>0</integer>"}}));
-    EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 0)});
-    return rig().WireLog();
+    EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", kSelva, 0)});
+    return rig_->WireLog();
   }
 
   // Sends level 0 again from the settings file.
   Lines SendLevelZeroAgain() {
     PutSettings("TRX-SELVA", "<key>MaxLevel</key><integer>0</integer>");
-    rig().ClearWireLog();
-    EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(11), 100);
-    EXPECT_EQ(rig().TakeAnnouncements(0), std::vector<Announcement>());
-    return rig().WireLog();
+    rig_->ClearWireLog();
+    EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(kSelva), kSuccess);
+    EXPECT_EQ(rig_->TakeAnnouncements(0), std::vector<Announcement>());
+    return rig_->WireLog();
   }
 };
 
@@ -43,141 +41,131 @@ TEST_F(Units, NoneConnectedNothingIsSent) {
 }
 
 TEST_F(Units, ThreeAreReachedOnceEachInTheOrderOfTheBus) {
-  for (int i = 0; i < 3; ++i) rig().PlugMixer();
+  for (int i = 0; i < 3; ++i) rig_->PlugMixer();
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(1), Taken(2), Taken(3)}));
   EXPECT_EQ(SendLevelZeroAgain(), (Lines{Taken(1), Taken(2), Taken(3)}));
 }
 
 TEST_F(Units, StrangersInBetweenAreNeverAsked) {
-  rig().PlugStranger(Stranger::kOtherMakerWithTheSameProduct);
-  const int first = rig().PlugMixer();
-  rig().PlugStranger(Stranger::kOtherProductOfTheMaker);
-  rig().PlugStranger(Stranger::kUnrelated);
-  const int second = rig().PlugMixer();
-  rig().PlugStranger(Stranger::kOtherProductOfTheMaker);
+  rig_->PlugStranger(Stranger::kOtherMakerWithTheSameProduct);
+  const int first = rig_->PlugMixer();
+  rig_->PlugStranger(Stranger::kOtherProductOfTheMaker);
+  rig_->PlugStranger(Stranger::kUnrelated);
+  const int second = rig_->PlugMixer();
+  rig_->PlugStranger(Stranger::kOtherProductOfTheMaker);
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(first), Taken(second)}));
   EXPECT_EQ(SendLevelZeroAgain(), (Lines{Taken(first), Taken(second)}));
 }
 
 TEST_F(Units, OnlyStrangersNothingIsSent) {
-  rig().PlugStranger(Stranger::kOtherProductOfTheMaker);
-  rig().PlugStranger(Stranger::kOtherMakerWithTheSameProduct);
+  rig_->PlugStranger(Stranger::kOtherProductOfTheMaker);
+  rig_->PlugStranger(Stranger::kOtherMakerWithTheSameProduct);
   EXPECT_EQ(SetLevelZero(), Lines());
 }
 
 TEST_F(Units, OneReplugStandsBehindTheOthers) {
-  for (int i = 0; i < 3; ++i) rig().PlugMixer();
-  rig().Unplug(1);
+  for (int i = 0; i < 3; ++i) rig_->PlugMixer();
+  rig_->Unplug(1);
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(2), Taken(3)}));
-  rig().Replug(1);
+  rig_->Replug(1);
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(2), Taken(3), Taken(1)}));
 }
 
 TEST_F(Units, TheOrderIsThatOfTheBusAndNotThatOfPluggingIn) {
-  const int earlier = rig().PlugMixer();
-  rig().Unplug(earlier);
-  rig().Replug(earlier);  // leaves the first place of the bus free
-  const int later = rig().PlugMixerInFront();
+  const int earlier = rig_->PlugMixer();
+  rig_->Unplug(earlier);
+  rig_->Replug(earlier);  // leaves the first place of the bus free
+  const int later = rig_->PlugMixerInFront();
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(later), Taken(earlier)}));
 }
 
 TEST_F(Units, ManyAreReachedInTheOrderOfTheirNumbersNotOfTheirDigits) {
   Lines expected;
-  for (int unit = 1; unit <= 12; ++unit) expected.push_back(Taken(rig().PlugMixer()));
+  for (int unit = 1; unit <= 12; ++unit) expected.push_back(Taken(rig_->PlugMixer()));
   EXPECT_EQ(SetLevelZero(), expected);
 }
 
 TEST_F(Units, OneThatDoesNotOpenIsPassedOver) {
-  for (int i = 0; i < 3; ++i) rig().PlugMixer();
-  rig().SetFault(2, UnitFault::kRefusesToOpen);
+  for (int i = 0; i < 3; ++i) rig_->PlugMixer();
+  rig_->SetFault(2, UnitFault::kRefusesToOpen);
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(1), Taken(3)}));
   EXPECT_EQ(SendLevelZeroAgain(), (Lines{Taken(1), Taken(3)}));
-  rig().ClearFaults(2);
+  rig_->ClearFaults(2);
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(1), Taken(2), Taken(3)}));
 }
 
 TEST_F(Units, WhenNoneOpensTheLevelIsStoredAndAnnouncedAllTheSame) {
-  for (const int unit : {rig().PlugMixer(), rig().PlugMixer()}) {
-    rig().SetFault(unit, UnitFault::kRefusesToOpen);
+  for (const int unit : {rig_->PlugMixer(), rig_->PlugMixer()}) {
+    rig_->SetFault(unit, UnitFault::kRefusesToOpen);
   }
   EXPECT_EQ(SetLevelZero(), Lines());
 }
 
 TEST_F(Units, OneThatRefusesTheRequestDoesNotKeepTheOthersFromIt) {
-  for (int i = 0; i < 3; ++i) rig().PlugMixer();
-  rig().SetFault(1, UnitFault::kStalls);
-  EXPECT_EQ(SetLevelZero(), (Lines{Sent(1, "stalled"), Taken(2), Taken(3)}));
-  EXPECT_EQ(SendLevelZeroAgain(), (Lines{Sent(1, "stalled"), Taken(2), Taken(3)}));
+  for (int i = 0; i < 3; ++i) rig_->PlugMixer();
+  rig_->SetFault(1, UnitFault::kStalls);
+  EXPECT_EQ(SetLevelZero(), (Lines{Taken(1, "stalled"), Taken(2), Taken(3)}));
+  EXPECT_EQ(SendLevelZeroAgain(), (Lines{Taken(1, "stalled"), Taken(2), Taken(3)}));
 }
 
 TEST_F(Units, OneThatStaysSilentIsGivenUp) {
-  rig().PlugMixer();
-  rig().PlugMixer();
-  rig().SetFault(1, UnitFault::kStaysSilent);
-  EXPECT_EQ(SetLevelZero(), (Lines{Sent(1, "no reply"), Taken(2)}));
+  rig_->PlugMixer();
+  rig_->PlugMixer();
+  rig_->SetFault(1, UnitFault::kStaysSilent);
+  EXPECT_EQ(SetLevelZero(), (Lines{Taken(1, "no reply"), Taken(2)}));
 }
 
 TEST_F(Units, OneThatVanishesDuringTheRequestIsPassedOver) {
-  rig().PlugMixer();
-  rig().PlugMixer();
-  rig().SetFault(2, UnitFault::kVanishes);
-  EXPECT_EQ(SetLevelZero(), (Lines{Taken(1), Sent(2, "unplugged")}));
+  rig_->PlugMixer();
+  rig_->PlugMixer();
+  rig_->SetFault(2, UnitFault::kVanishes);
+  EXPECT_EQ(SetLevelZero(), (Lines{Taken(1), Taken(2, "unplugged")}));
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(1)}));
 }
 
 TEST_F(Units, OneUnpluggedDuringItsRequestEndsTheWait) {
-  const int silent = rig().PlugMixer();
-  rig().SetFault(silent, UnitFault::kStaysSilent);
-  const auto host = rig().StartHost();
+  const int silent = rig_->PlugMixer();
+  rig_->SetFault(silent, UnitFault::kStaysSilent);
+  const auto host = rig_->StartHost();
   ASSERT_EQ(host->Ask("observe-requests"), "100");
   host->Begin("call ORV_SetBoostLevelIndex 11 0");
-  ASSERT_TRUE(WaitUntil([&] { return rig().WireLog().size() == 1; }));
-  rig().Unplug(silent);
+  ASSERT_TRUE(WaitUntil([&] { return rig_->WireLog().size() == 1; }));
+  rig_->Unplug(silent);
   EXPECT_EQ(host->Answer(), "100");
   EXPECT_EQ(host->TakeCalls(1), Lines{"kind 2 outcome 4"}) << "gone, and not out of time";
 }
 
 TEST_F(Units, OneHeldByAnotherProcessIsPassedOver) {
-  for (int i = 0; i < 3; ++i) rig().PlugMixer();
-  rig().SetFault(2, UnitFault::kHeldByAnotherProcess);
-  const auto host = rig().StartHost();
+  for (int i = 0; i < 3; ++i) rig_->PlugMixer();
+  rig_->SetFault(2, UnitFault::kHeldByAnotherProcess);
+  const auto host = rig_->StartHost();
   ASSERT_EQ(host->Ask("give-up admin"), "done");
   EXPECT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 0"), "100");
-  EXPECT_EQ(rig().WireLog(), (Lines{Taken(1), Taken(3)}));
+  EXPECT_EQ(rig_->WireLog(), (Lines{Taken(1), Taken(3)}));
   EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>0</integer>"}}));
-  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 0)});
-  rig().ClearWireLog();
+  EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", kSelva, 0)});
+  rig_->ClearWireLog();
   EXPECT_EQ(host->Ask("call ORV_SetCurrentBoostLevelIndex 11"), "100");
-  EXPECT_EQ(rig().WireLog(), (Lines{Taken(1), Taken(3)}));
+  EXPECT_EQ(rig_->WireLog(), (Lines{Taken(1), Taken(3)}));
 }
 
 TEST_F(Units, OneThatTheUserMayNotOpenIsPassedOver) {
-  for (int i = 0; i < 3; ++i) rig().PlugMixer();
+  for (int i = 0; i < 3; ++i) rig_->PlugMixer();
   PlugSomethingHealthyBehind();
-  rig().SetFault(3, UnitFault::kNotPermitted);
-  const auto host = rig().StartHost();
+  rig_->SetFault(3, UnitFault::kNotPermitted);
+  const auto host = rig_->StartHost();
   ASSERT_EQ(host->Ask("give-up root"), "done");
   EXPECT_EQ(host->Ask("call ORV_IsUSBConnection 11"), "103");
   EXPECT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 0"), "100");
-  EXPECT_EQ(rig().WireLog(), (Lines{Taken(1), Taken(2)}));
+  EXPECT_EQ(rig_->WireLog(), (Lines{Taken(1), Taken(2)}));
 }
 
 TEST_F(Units, OnePluggedInAfterASetLearnsTheLevelWhenItIsSentAgain) {
   EXPECT_EQ(SetLevelZero(), Lines());
-  rig().PlugMixer();
-  EXPECT_EQ(rig().WireLog(), Lines());
-  EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(11), 100);
-  EXPECT_EQ(rig().WireLog(), Lines{Taken(1)});
-}
-
-TEST_F(Units, TheUnitIsToldBeforeTheLevelIsStoredAndAnnounced) {
-  ExpectUnitToldFirst([] { return ORV_SetBoostLevelIndex(11, 0); }, Sent(1, "no reply"));
-  EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>0</integer>"}}));
-}
-
-TEST_F(Units, TheLevelIsStoredBeforeItIsAnnounced) {
-  ExpectStoredBeforeAnnounced([] { return ORV_SetBoostLevelIndex(11, 1); }, "TRX-SELVA",
-                              {{"MaxLevel", "<integer>1</integer>"}});
+  rig_->PlugMixer();
+  EXPECT_EQ(rig_->WireLog(), Lines());
+  EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(kSelva), kSuccess);
+  EXPECT_EQ(rig_->WireLog(), Lines{Taken(1)});
 }
 
 }  // namespace

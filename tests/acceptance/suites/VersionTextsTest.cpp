@@ -29,12 +29,12 @@ class VersionTexts : public InstalledFiles {
     const ORVStringRef untouched = TextOf("untouched");
     ORVStringRef text = untouched;
     const StatusCode status = query(product, &text);
-    if (status == 100) return CharactersOf(text);
+    if (status == kSuccess) return CharactersOf(text);
     return std::to_string(status) + (text == untouched ? "" : " and touched");
   }
 
-  static std::string Library() { return Ask(ORV_GetLibraryVersionText, 11); }
-  static std::string Driver() { return Ask(ORV_GetDriverVersionText, 11); }
+  static std::string Library() { return Ask(ORV_GetLibraryVersionText, kSelva); }
+  static std::string Driver() { return Ask(ORV_GetDriverVersionText, kSelva); }
 
   void InstallInfo(const std::string &path, const std::string &shortVersion,
                    const std::string &version) {
@@ -60,7 +60,7 @@ TEST_F(VersionTexts, PackageVersionIsThatOfTheReceipt) {
   Install(kReceipt,
           "<key>PackageVersion</key><string>1.2.3</string>"
           "<key>CFBundleVersion</key><string>another</string>");
-  EXPECT_EQ(Ask(ORV_GetPkgVersionText, 11), "1.2.3");
+  EXPECT_EQ(Ask(ORV_GetPkgVersionText, kSelva), "1.2.3");
 }
 
 TEST_F(VersionTexts, UtilityVersionIsTheBuildVersionOfTheModelsOwnApplication) {
@@ -109,18 +109,19 @@ TEST_F(VersionTexts, OtherModelsAndANullResultAreRefusedEvenWhenTheFilesAreThere
   InstallBothLibraries();
   InstallInfo(kSelvaPlugIn, "1", "1");
   InstallInfo(kSelvaSetup, "1", "1");
-  for (const ProductId product : {0U, 1U, 2U, 5U, 6U, 8U, 10U, 12U, 0xFFFFFFFFU}) {
+  for (const ProductId product :
+       {kArden, kVolt, kBrisk, kHalden, kLumen, kMorrow, 10U, 12U, 0xFFFFFFFFU}) {
     EXPECT_EQ(Ask(ORV_GetPkgVersionText, product), "102") << product;
     EXPECT_EQ(Ask(ORV_GetLibraryVersionText, product), "102") << product;
   }
-  for (const ProductId product : {2U, 3U, 4U, 7U, 9U, 10U, 12U, 0xFFFFFFFFU}) {
+  for (const ProductId product : {kBrisk, kFenno, kCirrus, 7U, 9U, 10U, 12U, 0xFFFFFFFFU}) {
     EXPECT_EQ(Ask(ORV_GetDriverVersionText, product), "102") << product;
     EXPECT_EQ(Ask(ORV_GetUtilityVersionText, product), "102") << product;
   }
   for (const Query query : {ORV_GetPkgVersionText, ORV_GetDriverVersionText,
                             ORV_GetUtilityVersionText, ORV_GetLibraryVersionText}) {
-    EXPECT_EQ(query(11, nullptr), 102);
-    EXPECT_NE(Ask(query, 11), "102");
+    EXPECT_EQ(query(kSelva, nullptr), kBadArgument);
+    EXPECT_NE(Ask(query, kSelva), "102");
   }
 }
 
@@ -128,30 +129,30 @@ TEST_F(VersionTexts, OtherModelsAndANullResultAreRefusedEvenWhenTheFilesAreThere
 
 TEST_F(VersionTexts, TheDriverLooksAtTheSystemEvenForAModelThatIsThenRefused) {
   InstallSystem("10.15");
-  for (const ProductId product : {0U, 2U, 11U, 12U, 0xFFFFFFFFU}) {
+  for (const ProductId product : {kArden, kBrisk, kSelva, 12U, 0xFFFFFFFFU}) {
     EXPECT_TRUE(IsOpenedBy(kSystem, [&] { Ask(ORV_GetDriverVersionText, product); })) << product;
   }
-  EXPECT_FALSE(IsOpenedBy(kSystem, [] { ORV_GetDriverVersionText(11, nullptr); }));
+  EXPECT_FALSE(IsOpenedBy(kSystem, [] { ORV_GetDriverVersionText(kSelva, nullptr); }));
 }
 
 TEST_F(VersionTexts, TheLibraryRefusesAModelBeforeItLooksAtTheSystem) {
   InstallSystem("10.15");
-  for (const ProductId product : {0U, 1U, 2U, 8U, 12U, 0xFFFFFFFFU}) {
+  for (const ProductId product : {kArden, kVolt, kBrisk, kMorrow, 12U, 0xFFFFFFFFU}) {
     EXPECT_FALSE(IsOpenedBy(kSystem, [&] { Ask(ORV_GetLibraryVersionText, product); })) << product;
   }
-  EXPECT_FALSE(IsOpenedBy(kSystem, [] { ORV_GetLibraryVersionText(11, nullptr); }));
-  EXPECT_TRUE(IsOpenedBy(kSystem, [] { Ask(ORV_GetLibraryVersionText, 11); }));
+  EXPECT_FALSE(IsOpenedBy(kSystem, [] { ORV_GetLibraryVersionText(kSelva, nullptr); }));
+  EXPECT_TRUE(IsOpenedBy(kSystem, [] { Ask(ORV_GetLibraryVersionText, kSelva); }));
 }
 
 TEST_F(VersionTexts, TheOthersRefuseAModelBeforeTheyLookAtAnything) {
   InstallSystem("10.15");
   Install(kReceipt, "<key>PackageVersion</key><string>1</string>");
-  EXPECT_FALSE(IsOpenedBy(kReceipt, [] { Ask(ORV_GetPkgVersionText, 0); }));
-  EXPECT_FALSE(IsOpenedBy(kReceipt, [] { ORV_GetPkgVersionText(11, nullptr); }));
-  EXPECT_TRUE(IsOpenedBy(kReceipt, [] { Ask(ORV_GetPkgVersionText, 11); }));
+  EXPECT_FALSE(IsOpenedBy(kReceipt, [] { Ask(ORV_GetPkgVersionText, kArden); }));
+  EXPECT_FALSE(IsOpenedBy(kReceipt, [] { ORV_GetPkgVersionText(kSelva, nullptr); }));
+  EXPECT_TRUE(IsOpenedBy(kReceipt, [] { Ask(ORV_GetPkgVersionText, kSelva); }));
   InstallInfo(kSelvaSetup, "1", "1");
-  EXPECT_FALSE(IsOpenedBy(kSelvaSetup, [] { ORV_GetUtilityVersionText(11, nullptr); }));
-  EXPECT_FALSE(IsOpenedBy(kSystem, [] { Ask(ORV_GetUtilityVersionText, 11); }));
+  EXPECT_FALSE(IsOpenedBy(kSelvaSetup, [] { ORV_GetUtilityVersionText(kSelva, nullptr); }));
+  EXPECT_FALSE(IsOpenedBy(kSystem, [] { Ask(ORV_GetUtilityVersionText, kSelva); }));
 }
 
 // --- Which system counts as a later one ------------------------------------------------------
@@ -321,27 +322,27 @@ TEST_F(VersionTexts, AnEntryThatIsMissingOrNoTextIsRefused) {
          {"<integer>1</integer>", "<real>1.5</real>", "<true/>", "<data>MS4w</data>",
           "<array><string>1</string></array>", "<dict/>"}) {
       Install(path, "<key>" + key + "</key>" + value);
-      EXPECT_EQ(Ask(query, 11), "102") << path << ' ' << value;
+      EXPECT_EQ(Ask(query, kSelva), "102") << path << ' ' << value;
     }
     Install(path, "");
-    EXPECT_EQ(Ask(query, 11), "102") << path;
+    EXPECT_EQ(Ask(query, kSelva), "102") << path;
     Install(path,
             "<key>" + key + "2</key><string>1</string><key>OtherVersion</key><string>1</string>");
-    EXPECT_EQ(Ask(query, 11), "102") << path;
+    EXPECT_EQ(Ask(query, kSelva), "102") << path;
     InstallFile(path, "<plist version=\"1.0\"><array><string>" + key + "</string></array></plist>");
-    EXPECT_EQ(Ask(query, 11), "102") << path;
+    EXPECT_EQ(Ask(query, kSelva), "102") << path;
     Install(path, "<key>" + key + "</key><string>right</string>");
-    EXPECT_EQ(Ask(query, 11), "right") << path;
+    EXPECT_EQ(Ask(query, kSelva), "right") << path;
   }
 }
 
 TEST_F(VersionTexts, AnythingThatIsATextIsHandedOutAsItStands) {
   for (const std::string text : {"", " 1.0 (build 7)\xC3\xA9 ", "not a version"}) {
     Install(kReceipt, "<key>PackageVersion</key><string>" + text + "</string>");
-    EXPECT_EQ(Ask(ORV_GetPkgVersionText, 11), text);
+    EXPECT_EQ(Ask(ORV_GetPkgVersionText, kSelva), text);
   }
   Install(kReceipt, "<key>PackageVersion</key><string>a &amp; b &lt;c&gt;</string>");
-  EXPECT_EQ(Ask(ORV_GetPkgVersionText, 11), "a & b <c>");
+  EXPECT_EQ(Ask(ORV_GetPkgVersionText, kSelva), "a & b <c>");
 }
 
 TEST_F(VersionTexts, ATextHandedOutStaysUnchangedWhenTheFileChangesOrGoes) {
@@ -350,10 +351,10 @@ TEST_F(VersionTexts, ATextHandedOutStaysUnchangedWhenTheFileChangesOrGoes) {
   for (int i = 0; i < 40; ++i) {
     expected.push_back("version " + std::to_string(i));
     Install(kReceipt, "<key>PackageVersion</key><string>" + expected.back() + "</string>");
-    ASSERT_EQ(ORV_GetPkgVersionText(11, &texts.emplace_back()), 100);
+    ASSERT_EQ(ORV_GetPkgVersionText(kSelva, &texts.emplace_back()), kSuccess);
   }
   Uninstall(kReceipt);
-  EXPECT_EQ(Ask(ORV_GetPkgVersionText, 11), "102");
+  EXPECT_EQ(Ask(ORV_GetPkgVersionText, kSelva), "102");
   Lines characters;
   for (const ORVStringRef text : texts) characters.push_back(CharactersOf(text));
   EXPECT_EQ(characters, expected);
@@ -366,23 +367,23 @@ TEST_F(VersionTexts, TheSameTextIsHandedOutAtTheSamePlaceWhereverItWasRead) {
   ORVStringRef first = nullptr;
   ORVStringRef other = nullptr;
   ORVStringRef again = nullptr;
-  ASSERT_EQ(ORV_GetPkgVersionText(11, &first), 100);
+  ASSERT_EQ(ORV_GetPkgVersionText(kSelva, &first), kSuccess);
   Install(kReceipt, "<key>PackageVersion</key><string>8</string>");
-  ASSERT_EQ(ORV_GetPkgVersionText(11, &other), 100);
+  ASSERT_EQ(ORV_GetPkgVersionText(kSelva, &other), kSuccess);
   Install(kReceipt, text);
-  ASSERT_EQ(ORV_GetPkgVersionText(11, &again), 100);
+  ASSERT_EQ(ORV_GetPkgVersionText(kSelva, &again), kSuccess);
   EXPECT_EQ(again, first);
-  ASSERT_EQ(ORV_GetUtilityVersionText(11, &again), 100);
+  ASSERT_EQ(ORV_GetUtilityVersionText(kSelva, &again), kSuccess);
   EXPECT_EQ(again, first);
   EXPECT_EQ(CharactersOf(first), "5.6.7");
   EXPECT_EQ(CharactersOf(other), "8");
 }
 
 TEST_F(VersionTexts, AskingForVersionsLeavesUnitsAndSettingsAlone) {
-  rig().PlugMixer();
+  rig_->PlugMixer();
   InstallSystem("10.15");
   Install(kReceipt, "<key>PackageVersion</key><string>1</string>");
-  EXPECT_EQ(Ask(ORV_GetPkgVersionText, 11), "1");
+  EXPECT_EQ(Ask(ORV_GetPkgVersionText, kSelva), "1");
   EXPECT_EQ(Driver(), "102");
   ExpectNothingHappened();
 }

@@ -6,11 +6,21 @@
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
+#include "../../support/Constants.h"
 #include "CentreRecorder.h"
 #include "ChildProcess.h"
 #include "Setting.h"
 
 namespace {
+
+using trxtest::kArden;
+using trxtest::kBadArgument;
+using trxtest::kBrisk;
+using trxtest::kLumen;
+using trxtest::kMorrow;
+using trxtest::kSelva;
+using trxtest::kSuccess;
+using trxtest::kVolt;
 
 int observersMade = 0;
 
@@ -67,10 +77,10 @@ TEST(PostedMessage, OfAnyOtherChangeIsThePlainForm) {
 
 TEST(RegisteredMessage, NamesTheOperationOfTheKind) {
   const CentreRecorder centre;
-  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, CallsNothing, nullptr), 100);
-  ASSERT_EQ(ORV_RegisterOutputAudioChangedCallback(0, CallsNothing, nullptr), 100);
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(8, CallsNothing, nullptr), 100);
-  ASSERT_EQ(ORV_RegisterMidiChannelChangedCallback(1, CallsNothing, nullptr), 100);
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(kSelva, CallsNothing, nullptr), kSuccess);
+  ASSERT_EQ(ORV_RegisterOutputAudioChangedCallback(kArden, CallsNothing, nullptr), kSuccess);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kMorrow, CallsNothing, nullptr), kSuccess);
+  ASSERT_EQ(ORV_RegisterMidiChannelChangedCallback(kVolt, CallsNothing, nullptr), kSuccess);
   EXPECT_THAT(centre.Messages(), ElementsAre("addObserver:ORVFunc selector:inputAudioChanged: "
                                              "name:\"TRX-SELVA InputAudio Change\" object:nil",
                                              "addObserver:ORVFunc selector:outputAudioChanged: "
@@ -84,9 +94,9 @@ TEST(RegisteredMessage, NamesTheOperationOfTheKind) {
 TEST(RegisteredMessage, IsSentOnceForEachRegistrationAndToOneObserver) {
   const CentreRecorder centre;
   for (int i = 0; i < 3; ++i) {
-    ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, CallsNothing, nullptr), 100);
+    ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, CallsNothing, nullptr), kSuccess);
   }
-  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(6, nullptr, nullptr), 100);
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(kLumen, nullptr, nullptr), kSuccess);
   EXPECT_THAT(centre.Messages(), ElementsAre("addObserver:ORVFunc selector:boostLevelChanged: "
                                              "name:\"TRX-SELVA BoostLevel Change\" object:nil",
                                              "addObserver:ORVFunc selector:boostLevelChanged: "
@@ -102,11 +112,11 @@ TEST(RegisteredMessage, IsSentOnceForEachRegistrationAndToOneObserver) {
 
 TEST(RegisteredMessage, IsNotSentByARefusedRegistrationNorByUnregistering) {
   const CentreRecorder centre;
-  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(2, CallsNothing, nullptr), 102);
-  EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(11, CallsNothing, nullptr), 102);
-  EXPECT_EQ(ORV_RegisterMidiKeyModeChangedCallback(1, CallsNothing, nullptr), 102);
-  EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, nullptr), 100);
-  EXPECT_EQ(ORV_UnregisterMidiKeyModeChangedCallback(1, nullptr), 102);
+  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kBrisk, CallsNothing, nullptr), kBadArgument);
+  EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(kSelva, CallsNothing, nullptr), kBadArgument);
+  EXPECT_EQ(ORV_RegisterMidiKeyModeChangedCallback(kVolt, CallsNothing, nullptr), kBadArgument);
+  EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(kSelva, nullptr), kSuccess);
+  EXPECT_EQ(ORV_UnregisterMidiKeyModeChangedCallback(kVolt, nullptr), kBadArgument);
   EXPECT_THAT(centre.Messages(), IsEmpty());
 }
 
@@ -114,14 +124,14 @@ TEST(TheObserver, IsMadeByTheFirstRegistrationThatIsNotRefused) {
   const CentreRecorder centre;
   method_exchangeImplementations(class_getClassMethod([NSObject class], @selector(alloc)),
                                  class_getClassMethod([NSObject class], @selector(countedAlloc)));
-  EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(2, CallsNothing, nullptr), 102);
-  EXPECT_EQ(ORV_RegisterOutputAudioChangedCallback(12, CallsNothing, nullptr), 102);
-  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(2, CallsNothing, nullptr), 102);
-  EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(11, CallsNothing, nullptr), 102);
-  EXPECT_EQ(ORV_RegisterMidiKeyModeChangedCallback(1, CallsNothing, nullptr), 102);
+  EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(kBrisk, CallsNothing, nullptr), kBadArgument);
+  EXPECT_EQ(ORV_RegisterOutputAudioChangedCallback(12, CallsNothing, nullptr), kBadArgument);
+  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kBrisk, CallsNothing, nullptr), kBadArgument);
+  EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(kSelva, CallsNothing, nullptr), kBadArgument);
+  EXPECT_EQ(ORV_RegisterMidiKeyModeChangedCallback(kVolt, CallsNothing, nullptr), kBadArgument);
   EXPECT_EQ(observersMade, 0);
-  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(11, CallsNothing, nullptr), 100);
-  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(11, CallsNothing, nullptr), 100);
+  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, CallsNothing, nullptr), kSuccess);
+  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, CallsNothing, nullptr), kSuccess);
   EXPECT_EQ(observersMade, 1);
 }
 
@@ -139,8 +149,8 @@ TEST(RaisedException, InAnswerToAnObservationEndsThere) {
   ExpectQuietSuccess([] {
     CentreRecorder centre;
     centre.Raise();
-    EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(11, CallsNothing, nullptr), 100);
-    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(11, CallsNothing, nullptr), 100);
+    EXPECT_EQ(ORV_RegisterInputAudioChangedCallback(kSelva, CallsNothing, nullptr), kSuccess);
+    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, CallsNothing, nullptr), kSuccess);
     EXPECT_THAT(centre.Messages(), SizeIs(2));
   });
 }

@@ -6,6 +6,7 @@
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
+#include "../../support/Constants.h"
 #include "PrivateUser.h"
 #include "PropertyListFile.h"
 #include "SystemPath.h"
@@ -15,6 +16,11 @@
 
 namespace orv {
 namespace {
+
+using trxtest::kArden;
+using trxtest::kBadArgument;
+using trxtest::kSelva;
+using trxtest::kSuccess;
 
 using trxtest::WriteBytes;
 
@@ -64,13 +70,13 @@ TEST_F(FixedPaths, LeadToTheVersionTexts) {
   Install("/Applications/Orvik/TRX-Arden/TRX-Arden Setup.app/Contents/Info.plist",
           "<key>CFBundleVersion</key><string>4.3</string>");
   ORVStringRef text = nullptr;
-  EXPECT_EQ(ORV_GetDriverVersionText(11, &text), 100);
+  EXPECT_EQ(ORV_GetDriverVersionText(kSelva, &text), kSuccess);
   EXPECT_EQ(text, KeptText("2.1"));
-  EXPECT_EQ(ORV_GetPkgVersionText(11, &text), 100);
+  EXPECT_EQ(ORV_GetPkgVersionText(kSelva, &text), kSuccess);
   EXPECT_EQ(text, KeptText("3.2"));
-  EXPECT_EQ(ORV_GetUtilityVersionText(0, &text), 100);
+  EXPECT_EQ(ORV_GetUtilityVersionText(kArden, &text), kSuccess);
   EXPECT_EQ(text, KeptText("4.3"));
-  EXPECT_EQ(ORV_GetLibraryVersionText(11, &text), 102);
+  EXPECT_EQ(ORV_GetLibraryVersionText(kSelva, &text), kBadArgument);
   EXPECT_EQ(text, KeptText("4.3"));
 }
 

@@ -10,12 +10,21 @@
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
+#include "../../support/Constants.h"
 #include "NotificationDaemon.h"
 #include "RunLoop.h"
 #include "Setting.h"
 
 namespace orv {
 namespace {
+
+using trxtest::kArden;
+using trxtest::kHalden;
+using trxtest::kLumen;
+using trxtest::kMorrow;
+using trxtest::kSelva;
+using trxtest::kSuccess;
+using trxtest::kVolt;
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -74,10 +83,10 @@ class Notifications : public testing::Test {
 };
 
 TEST_F(Notifications, ReachTheCallbackOfTheirKindAndModelInAnotherProcess) {
-  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, Called, &selva_), 100);
-  ASSERT_EQ(ORV_RegisterOutputAudioChangedCallback(0, Called, &arden_), 100);
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &selva_), 100);
-  ASSERT_EQ(ORV_RegisterMidiChannelChangedCallback(1, Called, &volt_), 100);
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(kSelva, Called, &selva_), kSuccess);
+  ASSERT_EQ(ORV_RegisterOutputAudioChangedCallback(kArden, Called, &arden_), kSuccess);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &selva_), kSuccess);
+  ASSERT_EQ(ORV_RegisterMidiChannelChangedCallback(kVolt, Called, &volt_), kSuccess);
   AnnounceElsewhere(
       {"input=11,1,7", "output=0,-2,2147483647", "boost=0,1", "boost=11,-3", "midi=1,15"});
   EXPECT_TRUE(HaveCome(4));
@@ -86,7 +95,7 @@ TEST_F(Notifications, ReachTheCallbackOfTheirKindAndModelInAnotherProcess) {
 }
 
 TEST_F(Notifications, ReachTheProcessThatAnnouncesToo) {
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &selva_), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &selva_), kSuccess);
   Announce(boostLevel.change, 11, 2);
   EXPECT_THAT(calls_, IsEmpty()) << "inside the announcement";
   EXPECT_TRUE(HasCome("selva 2"));
@@ -94,9 +103,9 @@ TEST_F(Notifications, ReachTheProcessThatAnnouncesToo) {
 }
 
 TEST_F(Notifications, CallOnceForEachRegistrationTheCallbackRegisteredLast) {
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &arden_), 100);
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &volt_), 100);
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &selva_), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &arden_), kSuccess);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &volt_), kSuccess);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &selva_), kSuccess);
   AnnounceElsewhere({"boost=11,1"});
   EXPECT_TRUE(HaveCome(3));
   AnnounceElsewhere({"boost=11,2"});
@@ -110,17 +119,17 @@ LastPosted faderInfo;
 ChangeKind<IndexCallback> faderChange = {" Fader Change", Delivery::kPlain, faderInfo};
 
 TEST_F(Notifications, OfAKindThatTheLibraryGotLaterReachItsCallback) {
-  ASSERT_EQ(Register<IndexCallback>(faderChange, kSelvaOnly, 11, Called, &selva_), 100);
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &arden_), 100);
+  ASSERT_EQ(Register<IndexCallback>(faderChange, kSelvaOnly, 11, Called, &selva_), kSuccess);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &arden_), kSuccess);
   AnnounceElsewhere({"TRX-SELVA Fader Change={ ProductID = <*I11>; Index = <*I2>; }"});
   EXPECT_TRUE(HasCome("selva 2"));
   EXPECT_THAT(calls_, ElementsAre("selva 2"));
 }
 
 TEST_F(Notifications, CallNothingOnceUnregistered) {
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &selva_), 100);
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(0, Called, &arden_), 100);
-  ASSERT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, nullptr), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &selva_), kSuccess);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kArden, Called, &arden_), kSuccess);
+  ASSERT_EQ(ORV_UnregisterBoostLevelChangedCallback(kSelva, nullptr), kSuccess);
   AnnounceElsewhere(
       {"boost=11,1", "TRX-SELVA BoostLevel Change={ ProductID = <*I0>; Index = <*I2>; }"});
   EXPECT_TRUE(HasCome("arden 2"));
@@ -128,16 +137,16 @@ TEST_F(Notifications, CallNothingOnceUnregistered) {
 }
 
 TEST_F(Notifications, GoByTheModelInTheDictionaryNotInTheName) {
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &selva_), 100);
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(0, Called, &arden_), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &selva_), kSuccess);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kArden, Called, &arden_), kSuccess);
   AnnounceElsewhere({"TRX-SELVA BoostLevel Change={ ProductID = <*I0>; Index = <*I5>; }"});
   EXPECT_TRUE(HasCome("arden 5"));
   EXPECT_THAT(calls_, ElementsAre("arden 5"));
 }
 
 TEST_F(Notifications, ReadAMissingKeyAsZero) {
-  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(0, Called, &arden_), 100);
-  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(11, Called, &selva_), 100);
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(kArden, Called, &arden_), kSuccess);
+  ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(kSelva, Called, &selva_), kSuccess);
   AnnounceElsewhere({"TRX-SELVA InputAudio Change={ ProductID = <*I11>; Index = <*I4>; }",
                      "TRX-SELVA InputAudio Change={ ProductID = <*I11>; Channel = <*I2>; }",
                      "TRX-SELVA InputAudio Change={ Channel = <*I1>; Index = <*I6>; }",
@@ -149,8 +158,8 @@ TEST_F(Notifications, ReadAMissingKeyAsZero) {
 }
 
 TEST_F(Notifications, OfAnotherShapeOrOfNoModelAreIgnored) {
-  for (const ProductId product : {0U, 1U, 5U, 6U, 8U, 11U}) {
-    ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(product, Called, &selva_), 100);
+  for (const ProductId product : {kArden, kVolt, kHalden, kLumen, kMorrow, kSelva}) {
+    ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(product, Called, &selva_), kSuccess);
   }
   AnnounceElsewhere({"TRX-SELVA BoostLevel Change={ ProductID = <*I12>; Index = <*I1>; }",
                      "TRX-SELVA BoostLevel Change={ ProductID = <*I-1>; Index = <*I1>; }",
@@ -166,7 +175,7 @@ TEST_F(Notifications, OfAnotherShapeOrOfNoModelAreIgnored) {
 }
 
 TEST_F(Notifications, MayCarryAnythingThatIsNotRead) {
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, Called, &selva_), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &selva_), kSuccess);
   AnnounceElsewhere(
       {"TRX-SELVA BoostLevel Change={ ProductID = <*I11>; Index = <*I1>; Else = x; }",
        "TRX-SELVA BoostLevel Change={ ProductID = <*I11>; Index = <*I2>; Channel = x; }",

@@ -8,6 +8,7 @@
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
+#include "../../support/Constants.h"
 #include "FailingMemory.h"
 #include "PrivateUser.h"
 #include "PropertyListFile.h"
@@ -17,6 +18,10 @@
 
 namespace orv {
 namespace {
+
+using trxtest::kBadArgument;
+using trxtest::kSelva;
+using trxtest::kSuccess;
 
 using trxtest::WriteBytes;
 
@@ -56,11 +61,11 @@ TEST(OutOfMemory, AVersionIsThenNotHandedOut) {
   ORVStringRef text = nullptr;
   EXPECT_GT(CallsWithTooLittle([&] {
               text = nullptr;
-              status = ORV_GetPkgVersionText(11, &text);
-              EXPECT_EQ(status, text != nullptr ? 100 : 102);
+              status = ORV_GetPkgVersionText(kSelva, &text);
+              EXPECT_EQ(status, text != nullptr ? kSuccess : kBadArgument);
             }),
             0);
-  EXPECT_EQ(status, 100);
+  EXPECT_EQ(status, kSuccess);
   EXPECT_EQ(text, KeptText("a version that does not fit without memory"));
 }
 

@@ -8,6 +8,7 @@
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
+#include "../../support/Constants.h"
 #include "ChildProcess.h"
 #include "Folders.h"
 #include "HeapGrowth.h"
@@ -20,6 +21,9 @@
 
 namespace orv {
 namespace {
+
+using trxtest::kSelva;
+using trxtest::kSuccess;
 
 using testing::Lt;
 using trxtest::ExpectQuietSuccess;
@@ -47,7 +51,7 @@ TEST(Pools, NeedNotBeTheHosts) {
   ExpectQuietSuccess([] {
     const trxtest::NotificationDaemon daemon;
     UseEverything();
-    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(11, CallsNothing, nullptr), 100);
+    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, CallsNothing, nullptr), kSuccess);
     UseEverything();
   });
 }

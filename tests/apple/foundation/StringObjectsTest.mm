@@ -12,11 +12,15 @@
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
+#include "../../support/Constants.h"
 #include "HeapGrowth.h"
 #include "Text.h"
 
 namespace orv {
 namespace {
+
+using trxtest::kBadArgument;
+using trxtest::kSuccess;
 
 using testing::Lt;
 
@@ -103,7 +107,7 @@ TEST_F(StringObjects, CompareRunsOfDigitsAsNumbers) {
 ProductId ProductIdOf(const char *name) {
   ProductId productId = 4711;
   const StatusCode status = ORV_GetProductId(TextOf(name), &productId);
-  EXPECT_EQ(status, productId == 4711 ? 102 : 100) << name;
+  EXPECT_EQ(status, productId == 4711 ? kBadArgument : kSuccess) << name;
   return productId;
 }
 
@@ -125,15 +129,15 @@ TEST_F(StringObjects, NameNoModelOtherwise) {
     EXPECT_EQ(ProductIdOf(name), 4711U) << name;
   }
   ProductId productId = 4711;
-  EXPECT_EQ(ORV_GetProductId(nullptr, &productId), 102);
-  EXPECT_EQ(ORV_GetProductId(TextOf("TRX-SELVA"), nullptr), 102);
+  EXPECT_EQ(ORV_GetProductId(nullptr, &productId), kBadArgument);
+  EXPECT_EQ(ORV_GetProductId(TextOf("TRX-SELVA"), nullptr), kBadArgument);
   EXPECT_EQ(productId, 4711U);
 }
 
 TEST_F(StringObjects, ThatAreNoStringsNameNoModel) {
   ProductId productId = 4711;
   const auto number = reinterpret_cast<ORVStringRef>([NSNumber numberWithInt:11]);
-  EXPECT_EQ(ORV_GetProductId(number, &productId), 102);
+  EXPECT_EQ(ORV_GetProductId(number, &productId), kBadArgument);
   EXPECT_EQ(productId, 4711U);
 }
 

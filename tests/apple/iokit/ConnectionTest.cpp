@@ -1,6 +1,7 @@
 // Whether mixers are connected, with the code for macOS.
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
+#include "../../support/Constants.h"
 #include "IOKitTest.h"
 
 namespace trxtest {
@@ -12,29 +13,29 @@ TEST_F(Connection, IsThereWithAMixer) {
   devices().PlugUnrelated();
   devices().PlugMixer();
   devices().PlugMixer();
-  EXPECT_EQ(ORV_IsUSBConnection(11), 103);
+  EXPECT_EQ(ORV_IsUSBConnection(kSelva), kConnected);
 }
 
 TEST_F(Connection, IsNotThereWithStrangersOnly) {
   devices().PlugUnrelated();
   devices().PlugOtherProductOfTheMaker();
   devices().PlugOtherMakerWithTheSameProduct();
-  EXPECT_EQ(ORV_IsUSBConnection(11), 104);
+  EXPECT_EQ(ORV_IsUSBConnection(kSelva), kNotConnected);
 }
 
 TEST_F(Connection, IsNotThereWhenTheRegistryCannotBeAsked) {
   devices().PlugMixer();
   IOKitDouble::SetFaults({.services = kIOReturnError});
-  EXPECT_EQ(ORV_IsUSBConnection(11), 104);
+  EXPECT_EQ(ORV_IsUSBConnection(kSelva), kNotConnected);
 }
 
 TEST_F(Connection, IsTheSameForEveryModel) {
-  for (const ProductId model : {0U, 3U, 7U, 11U, 12U, 0xFFFFFFFFU}) {
-    EXPECT_EQ(ORV_IsUSBConnection(model), 104) << model;
+  for (const ProductId model : {kArden, kFenno, 7U, kSelva, 12U, 0xFFFFFFFFU}) {
+    EXPECT_EQ(ORV_IsUSBConnection(model), kNotConnected) << model;
   }
   devices().PlugMixer();
-  for (const ProductId model : {0U, 3U, 7U, 11U, 12U, 0xFFFFFFFFU}) {
-    EXPECT_EQ(ORV_IsUSBConnection(model), 103) << model;
+  for (const ProductId model : {kArden, kFenno, 7U, kSelva, 12U, 0xFFFFFFFFU}) {
+    EXPECT_EQ(ORV_IsUSBConnection(model), kConnected) << model;
   }
 }
 

@@ -11,18 +11,18 @@ class UnopenedUnit : public RequestReports {};
 
 TEST_F(UnopenedUnit, LeavesItsPlaceToTheNextAndIsReportedAsTheLastWithoutALocation) {
   PlugMixers(3);
-  rig().SetFault(1, UnitFault::kRefusesToOpen);
+  rig_->SetFault(1, UnitFault::kRefusesToOpen);
   Observe();
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
   EXPECT_EQ(TakeReports(), (Lines{"unit 2 write 8003 0300 done", "unit 3 write 8003 0300 done",
                                   "nowhere open 0000 0000 failed"}));
 }
 
 TEST_F(UnopenedUnit, InTheLastPlaceIsReportedOfEachUnit) {
   PlugMixers(3);
-  rig().SetFault(3, UnitFault::kHeldByAnotherProcess);
+  rig_->SetFault(3, UnitFault::kHeldByAnotherProcess);
   Observe();
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
   EXPECT_EQ(TakeReports(), (Lines{"unit 1 open 0000 0000 busy", "unit 2 open 0000 0000 busy",
                                   "nowhere open 0000 0000 failed"}));
 }
@@ -30,12 +30,12 @@ TEST_F(UnopenedUnit, InTheLastPlaceIsReportedOfEachUnit) {
 // Each opening looks again: when the first mixer is gone, no mixer has the last position.
 TEST_F(UnopenedUnit, ThatVanishedInItsRequestLeavesItsPlaceToTheNextWithinTheSameCall) {
   PlugMixers(3);
-  rig().SetFault(1, UnitFault::kVanishes);
+  rig_->SetFault(1, UnitFault::kVanishes);
   Observe();
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
   EXPECT_EQ(TakeReports(), (Lines{"unit 1 write 8003 0300 gone", "unit 3 write 8003 0300 done",
                                   "nowhere open 0000 0000 failed"}));
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
   EXPECT_EQ(TakeReports(), (Lines{"unit 2 write 8003 0300 done", "unit 3 write 8003 0300 done"}));
 }
 

@@ -13,7 +13,8 @@ TEST_F(MissingWarning, InTheSystemsLanguageIsItsKey) {
           "<key>WARNING2</key><string>two</string>");
   LinkResources(kFramework);
   ORVStringRef text = TextOf("untouched");
-  EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(11, 0, 101, 3, &text), 100);
+  EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(kSelva, 0, kSuccessWithWarning, 3, &text),
+            kSuccess);
   EXPECT_EQ(CharactersOf(text), "WARNING1");
 }
 

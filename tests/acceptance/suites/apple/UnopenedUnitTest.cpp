@@ -14,17 +14,17 @@ constexpr const char *kItalian =
 class FirstUnit : public InstalledFiles {
  protected:
   void SetUp() override {
-    for (int i = 0; i < 2; ++i) rig().SetPort(rig().PlugMixer(), 1, 0);
-    rig().SetFirmware(2, 0x0215);
-    rig().SetFault(1, UnitFault::kRefusesToOpen);
+    for (int i = 0; i < 2; ++i) rig_->SetPort(rig_->PlugMixer(), 1, 0);
+    rig_->SetFirmware(2, 0x0215);
+    rig_->SetFault(1, UnitFault::kRefusesToOpen);
   }
 };
 
 TEST_F(FirstUnit, ThatCannotBeAskedLeavesItsPlaceToTheSecond) {
   std::uint32_t version = 77;
-  EXPECT_EQ(ORV_GetFirmwareVersionIndex(11, &version), 100);
+  EXPECT_EQ(ORV_GetFirmwareVersionIndex(kSelva, &version), kSuccess);
   EXPECT_EQ(version, 0x0215U);
-  EXPECT_EQ(rig().WireLog(), std::vector<std::string>{Asked(2, "8001", 2, "2 bytes 15 02")});
+  EXPECT_EQ(rig_->WireLog(), std::vector<std::string>{Asked(2, "8001", 2, "2 bytes 15 02")});
 }
 
 TEST_F(FirstUnit, ThatCannotBeAskedLeavesTheWarningToTheSecond) {
@@ -33,21 +33,22 @@ TEST_F(FirstUnit, ThatCannotBeAskedLeavesTheWarningToTheSecond) {
           "<key>WARNING2</key><string>two</string><key>WARNING3</key><string>three</string>");
   LinkResources(kFramework);
   ORVStringRef text = nullptr;
-  EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(11, 0, 101, 4, &text), 100);
+  EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(kSelva, 0, kSuccessWithWarning, 4, &text),
+            kSuccess);
   EXPECT_EQ(CharactersOf(text), "three");
-  EXPECT_EQ(rig().WireLog(), std::vector<std::string>{Asked(2, "8006", 2, "2 bytes 01 00")});
+  EXPECT_EQ(rig_->WireLog(), std::vector<std::string>{Asked(2, "8006", 2, "2 bytes 01 00")});
 }
 
 class LastUnit : public Acceptance {};
 
 TEST_F(LastUnit, ThatCannotBeAskedKeepsEveryUnitFromBeingReached) {
-  for (int i = 0; i < 3; ++i) rig().PlugMixer();
-  rig().SetFault(3, UnitFault::kHeldByAnotherProcess);
-  EXPECT_EQ(ORV_IsUSBConnection(11), 103);
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
-  EXPECT_EQ(rig().WireLog(), std::vector<std::string>());
+  for (int i = 0; i < 3; ++i) rig_->PlugMixer();
+  rig_->SetFault(3, UnitFault::kHeldByAnotherProcess);
+  EXPECT_EQ(ORV_IsUSBConnection(kSelva), kConnected);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
+  EXPECT_EQ(rig_->WireLog(), std::vector<std::string>());
   EXPECT_EQ(SettingsOf("TRX-SELVA"), (Settings{{"MaxLevel", "<integer>0</integer>"}}));
-  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 0)});
+  EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", kSelva, 0)});
 }
 
 }  // namespace

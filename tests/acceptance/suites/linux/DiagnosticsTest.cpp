@@ -13,9 +13,9 @@ class UnopenedUnit : public RequestReports {};
 
 TEST_F(UnopenedUnit, IsReportedInItsTurnWithItsPlace) {
   PlugMixers(3);
-  rig().SetFault(2, UnitFault::kRefusesToOpen);
+  rig_->SetFault(2, UnitFault::kRefusesToOpen);
   Observe();
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
   EXPECT_EQ(TakeReports(), (Lines{"unit 1 write 8003 0300 done", "unit 2 open 0000 0000 gone",
                                   "unit 3 write 8003 0300 done"}));
 }
@@ -25,19 +25,19 @@ TEST_F(UnopenedUnit, UnpluggedInTheMiddleOfASetIsGone) {
   PlugMixers(3);
   WhileReported([&] {
     WhileReported(nullptr);
-    rig().Unplug(2);
+    rig_->Unplug(2);
   });
   Observe();
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
   EXPECT_EQ(TakeReports(), (Lines{"unit 1 write 8003 0300 done", "unit 2 open 0000 0000 gone",
                                   "unit 3 write 8003 0300 done"}));
 }
 
 TEST_F(UnopenedUnit, IsTheOnlyOneThatASetMissesWhenItVanishesInItsRequest) {
   PlugMixers(3);
-  rig().SetFault(1, UnitFault::kVanishes);
+  rig_->SetFault(1, UnitFault::kVanishes);
   Observe();
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
   EXPECT_EQ(TakeReports(), (Lines{"unit 1 write 8003 0300 gone", "unit 2 write 8003 0300 done",
                                   "unit 3 write 8003 0300 done"}));
 }
@@ -49,19 +49,19 @@ TEST_F(UnopenedUnit, IsMissedByTheReadsOfTheSameCallAndAMixerPluggedInSinceIsNot
   int reports = 0;
   WhileReported([&] {
     if (++reports != 2) return;
-    rig().Unplug(1);
-    rig().PlugMixer();
+    rig_->Unplug(1);
+    rig_->PlugMixer();
   });
   Observe();
-  EXPECT_EQ(ORV_SetUSBOutputAudio(11, 0, 1), 100);
+  EXPECT_EQ(ORV_SetUSBOutputAudio(kSelva, 0, 1), kSuccess);
   EXPECT_EQ(TakeReports(), (Lines{"unit 1 write 8016 0101 done", "unit 2 write 8016 0101 done",
                                   "unit 1 open 0000 0000 gone", "unit 2 read 8002 0000 done"}));
 }
 
 TEST_F(UnopenedUnit, HeldByAnotherProcessIsBusy) {
-  for (int i = 0; i < 2; ++i) rig().PlugMixer();
-  rig().SetFault(1, UnitFault::kHeldByAnotherProcess);
-  const auto host = rig().StartHost();
+  for (int i = 0; i < 2; ++i) rig_->PlugMixer();
+  rig_->SetFault(1, UnitFault::kHeldByAnotherProcess);
+  const auto host = rig_->StartHost();
   ASSERT_EQ(host->Ask("give-up admin"), "done");
   ASSERT_EQ(host->Ask("observe-requests"), "100");
   EXPECT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 0"), "100");
@@ -69,9 +69,9 @@ TEST_F(UnopenedUnit, HeldByAnotherProcessIsBusy) {
 }
 
 TEST_F(UnopenedUnit, WithoutARuleForThisUserIsNotPermitted) {
-  for (int i = 0; i < 2; ++i) rig().PlugMixer();
-  rig().SetFault(2, UnitFault::kNotPermitted);
-  const auto host = rig().StartHost();
+  for (int i = 0; i < 2; ++i) rig_->PlugMixer();
+  rig_->SetFault(2, UnitFault::kNotPermitted);
+  const auto host = rig_->StartHost();
   ASSERT_EQ(host->Ask("give-up root"), "done");
   ASSERT_EQ(host->Ask("observe-requests"), "100");
   EXPECT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 0"), "100");
@@ -81,19 +81,19 @@ TEST_F(UnopenedUnit, WithoutARuleForThisUserIsNotPermitted) {
 class SettingsPathOfLinux : public Acceptance {};
 
 TEST_F(SettingsPathOfLinux, FollowsTheUsersFoldersAndLeavesEarlierTextsAsTheyAre) {
-  const std::string before = rig().SettingsFile("TRX-VOLT");
+  const std::string before = rig_->SettingsFile("TRX-VOLT");
   ORVStringRef first = nullptr;
-  EXPECT_EQ(ORV_GetSettingsFilePath(1, &first), 100);
+  EXPECT_EQ(ORV_GetSettingsFilePath(kVolt, &first), kSuccess);
   setenv("XDG_CONFIG_HOME", "/elsewhere/\xC3\xA4 and \xFF", 1);
   ORVStringRef second = nullptr;
-  EXPECT_EQ(ORV_GetSettingsFilePath(1, &second), 100);
+  EXPECT_EQ(ORV_GetSettingsFilePath(kVolt, &second), kSuccess);
   EXPECT_STREQ(second,
                "/elsewhere/\xC3\xA4 and \xFF/orvikaudio/Preferences/"
                "com.orvikaudio.TRX-VOLTautosetup.plist");
   setenv("XDG_CONFIG_HOME", "not/absolute", 1);
   setenv("HOME", "/home/somebody", 1);
   ORVStringRef third = nullptr;
-  EXPECT_EQ(ORV_GetSettingsFilePath(1, &third), 100);
+  EXPECT_EQ(ORV_GetSettingsFilePath(kVolt, &third), kSuccess);
   EXPECT_STREQ(third,
                "/home/somebody/.config/orvikaudio/Preferences/"
                "com.orvikaudio.TRX-VOLTautosetup.plist");

@@ -28,7 +28,7 @@ std::string lumen = "lumen";
 
 std::int32_t Descriptor() {
   std::int32_t descriptor = -1;
-  EXPECT_EQ(ORV_GetNotificationDescriptor(&descriptor), 100);
+  EXPECT_EQ(ORV_GetNotificationDescriptor(&descriptor), kSuccess);
   EXPECT_GE(descriptor, 0);
   return descriptor;
 }
@@ -38,7 +38,7 @@ bool IsReadableWithin(milliseconds limit) {
   return poll(&watched, 1, static_cast<int>(limit.count())) == 1 && watched.revents == POLLIN;
 }
 
-void Dispatch() { EXPECT_EQ(ORV_DispatchNotifications(), 100); }
+void Dispatch() { EXPECT_EQ(ORV_DispatchNotifications(), kSuccess); }
 
 class EventLoop : public Deliveries {
  protected:
@@ -48,39 +48,41 @@ class EventLoop : public Deliveries {
   }
 };
 
-TEST_F(EventLoop, ANullPointerIsRefused) { EXPECT_EQ(ORV_GetNotificationDescriptor(nullptr), 102); }
+TEST_F(EventLoop, ANullPointerIsRefused) {
+  EXPECT_EQ(ORV_GetNotificationDescriptor(nullptr), kBadArgument);
+}
 
 TEST_F(EventLoop, WithoutRegistrationsThereIsADescriptorAndNothingToDo) {
   EXPECT_FALSE(IsReadableWithin(kAWhile));
   Dispatch();
   EXPECT_FALSE(IsReadableWithin(kAWhile));
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   EXPECT_FALSE(IsReadableWithin(kAWhile));
 }
 
 TEST_F(EventLoop, TheDescriptorStaysTheSameForTheLifeOfTheProcess) {
   const std::int32_t descriptor = Descriptor();
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   EXPECT_EQ(Descriptor(), descriptor);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   DeliverAll();
   EXPECT_EQ(Descriptor(), descriptor);
   std::thread([&] { EXPECT_EQ(Descriptor(), descriptor); }).join();
-  rig().StopNotificationService();
+  rig_->StopNotificationService();
   Dispatch();
   EXPECT_EQ(Descriptor(), descriptor);
-  rig().StartNotificationService();
+  rig_->StartNotificationService();
   EXPECT_TRUE(RunEventLoopUntil([&] {
-    rig().Announce(BoostChange("TRX-SELVA", 11, 2));
+    rig_->Announce(BoostChange("TRX-SELVA", kSelva, 2));
     return !Calls().empty();
   }));
   EXPECT_EQ(Descriptor(), descriptor);
 }
 
 TEST_F(EventLoop, ReadableWhenSomethingArrivesAndQuietWhenItIsDelivered) {
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   DispatchUntilQuiet();
-  const auto host = rig().StartHost();
+  const auto host = rig_->StartHost();
   ASSERT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 2"), "100");
   EXPECT_TRUE(IsReadableWithin(kSoon));
   EXPECT_TRUE(IsReadableWithin(kNow)) << "it stays so until dispatched";
@@ -91,22 +93,22 @@ TEST_F(EventLoop, ReadableWhenSomethingArrivesAndQuietWhenItIsDelivered) {
 }
 
 TEST_F(EventLoop, WhatNobodyRegisteredForDoesNotWakeTheHost) {
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   DispatchUntilQuiet();
-  rig().Announce(BoostChange("TRX-LUMEN", 6, 1));
-  rig().Announce({"Somebody Else's Change", {}});
+  rig_->Announce(BoostChange("TRX-LUMEN", kLumen, 1));
+  rig_->Announce({"Somebody Else's Change", {}});
   EXPECT_FALSE(IsReadableWithin(kAWhile));
 }
 
 // A hundred fit into the buffer of a socket, so by then all have arrived in this process.
 TEST_F(EventLoop, OneDispatchDeliversAllThatHasArrived) {
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
-  const auto witness = rig().StartHost();
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
+  const auto witness = rig_->StartHost();
   ASSERT_EQ(witness->Ask("register BoostLevel 11 w"), "100");
-  const auto host = rig().StartHost();
+  const auto host = rig_->StartHost();
   ASSERT_EQ(host->Ask("levels 11 100"), "100");
   ASSERT_EQ(witness->TakeCalls(100).size(), 100U);
-  ASSERT_EQ(rig().TakeAnnouncements(100).size(), 100U);
+  ASSERT_EQ(rig_->TakeAnnouncements(100).size(), 100U);
   Dispatch();
   EXPECT_EQ(Calls().size(), 100U);
   EXPECT_FALSE(IsReadableWithin(kAWhile));
@@ -115,22 +117,22 @@ TEST_F(EventLoop, OneDispatchDeliversAllThatHasArrived) {
 // While Register waits for the bus's answer, other notifications arrive on the same connection
 // before it. They have been read already, so the socket is not readable because of them.
 TEST_F(EventLoop, ReadableForWhatArrivedWhileARegistrationWaitedForTheBus) {
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
-  const auto host = rig().StartHost();
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
+  const auto host = rig_->StartHost();
   ASSERT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 3"), "100");
   ASSERT_TRUE(RunEventLoopUntil([] { return !Calls().empty(); }));
-  for (const ProductId product : {0U, 1U, 5U, 6U, 8U}) {
+  for (const ProductId product : {kArden, kVolt, kHalden, kLumen, kMorrow}) {
     DispatchUntilQuiet();
     Calls().clear();
-    rig().FreezeNotificationService();
+    rig_->FreezeNotificationService();
     ASSERT_EQ(host->Ask("levels 11 3"), "100");
     std::atomic<bool> thawed = false;
     std::thread thaw([&] {
       std::this_thread::sleep_for(milliseconds(60));
       thawed = true;
-      rig().ThawNotificationService();
+      rig_->ThawNotificationService();
     });
-    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexB, &lumen), 100);
+    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexB, &lumen), kSuccess);
     EXPECT_TRUE(thawed) << "the registration did not wait for the bus";
     thaw.join();
     EXPECT_EQ(Calls(), CallList()) << "delivered inside the registration";
@@ -140,13 +142,13 @@ TEST_F(EventLoop, ReadableForWhatArrivedWhileARegistrationWaitedForTheBus) {
 }
 
 TEST_F(EventLoop, NothingIsLostWhileOthersAnnounceDuringManyRegistrations) {
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
-  const auto host = rig().StartHost();
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
+  const auto host = rig_->StartHost();
   host->Begin("levels 11 400");
   for (int round = 0; round < 20; ++round) {
-    for (const ProductId product : {0U, 1U, 5U, 6U, 8U}) {
-      ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(product, ChannelIndexB, &lumen), 100);
-      ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexB, &lumen), 100);
+    for (const ProductId product : {kArden, kVolt, kHalden, kLumen, kMorrow}) {
+      ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(product, ChannelIndexB, &lumen), kSuccess);
+      ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(product, IndexB, &lumen), kSuccess);
     }
   }
   while (Calls().size() < 400 && IsReadableWithin(milliseconds(2000))) Dispatch();
@@ -158,29 +160,29 @@ TEST_F(EventLoop, NothingIsLostWhileOthersAnnounceDuringManyRegistrations) {
 }
 
 TEST_F(EventLoop, DispatchDoesNotBlockWhileTheBusHangs) {
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   DispatchUntilQuiet();
-  rig().FreezeNotificationService();
+  rig_->FreezeNotificationService();
   Dispatch();
   EXPECT_FALSE(IsReadableWithin(kAWhile));
-  rig().ThawNotificationService();
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
-  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 1}}));
+  rig_->ThawNotificationService();
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
+  EXPECT_TRUE(Delivered({{"A selva", -1, 1}}));
 }
 
 TEST_F(EventLoop, DispatchDoesNotBlockOnABusThatHangsRightAfterItsRestart) {
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
-  rig().StopNotificationService();
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
+  rig_->StopNotificationService();
   Dispatch();
-  rig().StartNotificationService();
-  rig().FreezeNotificationService();
+  rig_->StartNotificationService();
+  rig_->FreezeNotificationService();
   const auto end = Clock::now() + milliseconds(1500);  // the library looks again once a second
   while (Clock::now() < end) {
     if (IsReadableWithin(milliseconds(50))) Dispatch();
   }
-  rig().ThawNotificationService();
+  rig_->ThawNotificationService();
   EXPECT_TRUE(RunEventLoopUntil([&] {
-    rig().Announce(BoostChange("TRX-SELVA", 11, 2));
+    rig_->Announce(BoostChange("TRX-SELVA", kSelva, 2));
     return !Calls().empty();
   }));
 }
@@ -191,12 +193,12 @@ TEST_F(EventLoop, WhatACallbackCausesComesWithTheNextDispatch) {
   const auto setAgain = [](std::int32_t index, void *context) {
     IndexA(index, context);
     if (index == 3) return;
-    EXPECT_EQ(ORV_SetBoostLevelIndex(11, static_cast<std::uint32_t>(index) + 1), 100);
+    EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, static_cast<std::uint32_t>(index) + 1), kSuccess);
     EXPECT_TRUE(IsReadableWithin(kSoon)) << "what the callback announced is back already";
   };
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, setAgain, &selva), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, setAgain, &selva), kSuccess);
   DispatchUntilQuiet();
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   ASSERT_TRUE(IsReadableWithin(kSoon));
   Dispatch();
   EXPECT_EQ(Calls(), (CallList{{"A selva", -1, 1}}));
@@ -214,13 +216,13 @@ TEST_F(EventLoop, WhatACallbackCausesAndTakesInComesWithTheNextDispatch) {
   const auto setAndRegister = [](std::int32_t index, void *context) {
     IndexA(index, context);
     if (index == 2) return;
-    EXPECT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
+    EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 2), kSuccess);
     EXPECT_TRUE(IsReadableWithin(kSoon)) << "what the callback announced is back already";
-    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(6, IndexB, &lumen), 100);
+    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kLumen, IndexB, &lumen), kSuccess);
   };
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, setAndRegister, &selva), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, setAndRegister, &selva), kSuccess);
   DispatchUntilQuiet();
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   ASSERT_TRUE(IsReadableWithin(kSoon));
   Dispatch();
   EXPECT_EQ(Calls(), (CallList{{"A selva", -1, 1}}));
@@ -236,15 +238,15 @@ TEST_F(EventLoop, ACallbackMayLeaveByLongjmpAndTheRestIsNotForgotten) {
     IndexA(index, context);
     std::longjmp(host, 1);
   };
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, leave, &selva), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, leave, &selva), kSuccess);
   DispatchUntilQuiet();
-  const auto witness = rig().StartHost();
+  const auto witness = rig_->StartHost();
   ASSERT_EQ(witness->Ask("register BoostLevel 11 w"), "100");
   for (const std::uint32_t index : {1U, 2U, 3U}) {
-    ASSERT_EQ(ORV_SetBoostLevelIndex(11, index), 100);
+    ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, index), kSuccess);
   }
   ASSERT_EQ(witness->TakeCalls(3).size(), 3U);
-  ASSERT_EQ(rig().TakeAnnouncements(3).size(), 3U);
+  ASSERT_EQ(rig_->TakeAnnouncements(3).size(), 3U);
   while (Calls().size() < 3 && IsReadableWithin(kNow)) {
     if (setjmp(host) == 0) Dispatch();
   }
@@ -255,13 +257,13 @@ TEST_F(EventLoop, ACallbackMayLeaveByLongjmpAndTheRestIsNotForgotten) {
 TEST_F(EventLoop, ACallbackMayRegisterAnother) {
   const auto registerAnother = [](std::int32_t index, void *context) {
     IndexA(index, context);
-    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(6, IndexB, &lumen), 100);
+    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kLumen, IndexB, &lumen), kSuccess);
   };
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, registerAnother, &selva), 100);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
-  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 1}}));
-  ASSERT_EQ(ORV_SetBoostLevelIndex(6, 2), 100);
-  EXPECT_EQ(DeliverAll(), (CallList{{"B lumen", -1, 2}}));
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, registerAnother, &selva), kSuccess);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
+  EXPECT_TRUE(Delivered({{"A selva", -1, 1}}));
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kLumen, 2), kSuccess);
+  EXPECT_TRUE(Delivered({{"B lumen", -1, 2}}));
 }
 
 TEST_F(EventLoop, ACallbackMayRegisterItselfAgain) {
@@ -270,44 +272,44 @@ TEST_F(EventLoop, ACallbackMayRegisterItselfAgain) {
   const auto again = [](std::int32_t index, void *context) {
     IndexA(index, context);
     if (++runs > 1) return;
-    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexB, &lumen), 100);
+    EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexB, &lumen), kSuccess);
   };
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, again, &selva), 100);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
-  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 1}}));
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
-  EXPECT_EQ(DeliverAll(), (CallList{{"B lumen", -1, 2}, {"B lumen", -1, 2}}));
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, again, &selva), kSuccess);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
+  EXPECT_TRUE(Delivered({{"A selva", -1, 1}}));
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 2), kSuccess);
+  EXPECT_TRUE(Delivered({{"B lumen", -1, 2}, {"B lumen", -1, 2}}));
 }
 
 TEST_F(EventLoop, ACallbackMayUnregisterItselfAndOthers) {
   const auto unregister = [](std::int32_t index, void *context) {
     IndexA(index, context);
-    EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(11, nullptr), 100);
-    EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(6, nullptr), 100);
+    EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(kSelva, nullptr), kSuccess);
+    EXPECT_EQ(ORV_UnregisterBoostLevelChangedCallback(kLumen, nullptr), kSuccess);
   };
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, unregister, &selva), 100);
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, unregister, &selva), 100);
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(6, IndexB, &lumen), 100);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(6, 1), 100);
-  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 1}}));
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, unregister, &selva), kSuccess);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, unregister, &selva), kSuccess);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kLumen, IndexB, &lumen), kSuccess);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kLumen, 1), kSuccess);
+  EXPECT_TRUE(Delivered({{"A selva", -1, 1}}));
 }
 
 TEST_F(EventLoop, ACallbackMayDispatchAndNothingIsLostDoubledOrOutOfOrder) {
   const auto dispatch = [](std::int32_t index, void *context) {
     IndexA(index, context);
-    EXPECT_EQ(ORV_DispatchNotifications(), 100);
+    EXPECT_EQ(ORV_DispatchNotifications(), kSuccess);
   };
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, dispatch, &selva), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, dispatch, &selva), kSuccess);
   for (const std::uint32_t index : {0U, 1U, 2U, 3U, 0U, 2U}) {
-    ASSERT_EQ(ORV_SetBoostLevelIndex(11, index), 100);
+    ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, index), kSuccess);
   }
-  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 0},
-                                    {"A selva", -1, 1},
-                                    {"A selva", -1, 2},
-                                    {"A selva", -1, 3},
-                                    {"A selva", -1, 0},
-                                    {"A selva", -1, 2}}));
+  EXPECT_TRUE(Delivered({{"A selva", -1, 0},
+                         {"A selva", -1, 1},
+                         {"A selva", -1, 2},
+                         {"A selva", -1, 3},
+                         {"A selva", -1, 0},
+                         {"A selva", -1, 2}}));
   EXPECT_FALSE(IsReadableWithin(kAWhile));
 }
 

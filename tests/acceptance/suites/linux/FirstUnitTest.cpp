@@ -13,14 +13,14 @@ constexpr const char *kItalian =
 class FirstUnit : public InstalledFiles {
  protected:
   void SetUp() override {
-    for (int i = 0; i < 2; ++i) rig().SetPort(rig().PlugMixer(), 1, 0);
-    rig().SetFault(1, UnitFault::kRefusesToOpen);
+    for (int i = 0; i < 2; ++i) rig_->SetPort(rig_->PlugMixer(), 1, 0);
+    rig_->SetFault(1, UnitFault::kRefusesToOpen);
   }
 };
 
 TEST_F(FirstUnit, ThatDoesNotOpenHasFirmwareZeroAndTheSecondIsNotAsked) {
   std::uint32_t version = 77;
-  EXPECT_EQ(ORV_GetFirmwareVersionIndex(11, &version), 100);
+  EXPECT_EQ(ORV_GetFirmwareVersionIndex(kSelva, &version), kSuccess);
   EXPECT_EQ(version, 0U);
   ExpectNothingHappened();
 }
@@ -31,7 +31,8 @@ TEST_F(FirstUnit, ThatDoesNotOpenCountsAsConnectedForAWarningAndTheSecondIsNotAs
           "<key>WARNING2</key><string>two</string><key>WARNING3</key><string>three</string>");
   LinkResources(kFramework);
   ORVStringRef text = nullptr;
-  EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(11, 0, 101, 4, &text), 100);
+  EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(kSelva, 0, kSuccessWithWarning, 4, &text),
+            kSuccess);
   EXPECT_EQ(CharactersOf(text), "two");
   ExpectNothingHappened();
 }

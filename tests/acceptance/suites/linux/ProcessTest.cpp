@@ -46,8 +46,8 @@ std::vector<std::string> DescriptorTargets() {
 class Process : public Deliveries {};
 
 TEST_F(Process, NoThreadIsEverStarted) {
-  rig().PlugMixer();
-  const auto host = rig().StartHost();
+  rig_->PlugMixer();
+  const auto host = rig_->StartHost();
   const std::string threads = "/proc/" + std::to_string(host->Id()) + "/task";
   ASSERT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 1"), "100");
   EXPECT_EQ(EntriesOf(threads), 1);
@@ -56,25 +56,25 @@ TEST_F(Process, NoThreadIsEverStarted) {
   ASSERT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 2"), "100");
   ASSERT_EQ(host->TakeCalls(1), Lines{"host 2"});
   EXPECT_EQ(EntriesOf(threads), 1);
-  rig().StopNotificationService();
+  rig_->StopNotificationService();
   ASSERT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 2"), "100");
   EXPECT_EQ(EntriesOf(threads), 1);
 }
 
 TEST_F(Process, AThousandSetsHoldNoMoreDescriptorsThanOne) {
-  rig().PlugMixer();
-  rig().SetFault(rig().PlugMixer(), UnitFault::kStalls);
-  rig().SetFault(rig().PlugMixer(), UnitFault::kRefusesToOpen);
-  const auto host = rig().StartHost();
+  rig_->PlugMixer();
+  rig_->SetFault(rig_->PlugMixer(), UnitFault::kStalls);
+  rig_->SetFault(rig_->PlugMixer(), UnitFault::kRefusesToOpen);
+  const auto host = rig_->StartHost();
   ASSERT_EQ(host->Ask("levels 11 1"), "100");
   const std::ptrdiff_t held = OpenDescriptors(host->Id());
   ASSERT_EQ(host->Ask("levels 11 1000"), "100");
   EXPECT_EQ(OpenDescriptors(host->Id()), held);
-  EXPECT_EQ(rig().WireLog().size(), 2U * 1001U);
+  EXPECT_EQ(rig_->WireLog().size(), 2U * 1001U);
 }
 
 TEST_F(Process, AHundredRegistrationsHoldNoMoreDescriptorsThanOne) {
-  const auto host = rig().StartHost();
+  const auto host = rig_->StartHost();
   ASSERT_EQ(host->Ask("register BoostLevel 11 host"), "100");
   const std::ptrdiff_t held = OpenDescriptors(host->Id());
   for (int round = 0; round < 10; ++round) {
@@ -90,36 +90,36 @@ TEST_F(Process, AHundredRegistrationsHoldNoMoreDescriptorsThanOne) {
 
 TEST_F(Process, RefusedCallsOpenNothing) {
   const std::ptrdiff_t held = OpenDescriptors(getpid());
-  EXPECT_EQ(ORV_RegisterMidiKeyModeChangedCallback(1, IndexA, nullptr), 102);
-  EXPECT_EQ(ORV_UnregisterMidiKeyModeChangedCallback(1, IndexA), 102);
-  EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(11, IndexA, nullptr), 102);
-  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(2, IndexA, nullptr), 102);
-  EXPECT_EQ(ORV_SetBoostLevelIndex(11, 4), 102);
+  EXPECT_EQ(ORV_RegisterMidiKeyModeChangedCallback(kVolt, IndexA, nullptr), kBadArgument);
+  EXPECT_EQ(ORV_UnregisterMidiKeyModeChangedCallback(kVolt, IndexA), kBadArgument);
+  EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(kSelva, IndexA, nullptr), kBadArgument);
+  EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kBrisk, IndexA, nullptr), kBadArgument);
+  EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 4), kBadArgument);
   EXPECT_EQ(OpenDescriptors(getpid()), held);
 }
 
 TEST_F(Process, AThreadThatHasSetALevelLeavesNoDescriptorWhenItEnds) {
-  std::thread([] { EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100); }).join();
+  std::thread([] { EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess); }).join();
   const std::ptrdiff_t held = OpenDescriptors(getpid());
   for (int i = 0; i < 20; ++i) {
-    std::thread([] { EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100); }).join();
+    std::thread([] { EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess); }).join();
   }
   EXPECT_EQ(OpenDescriptors(getpid()), held);
-  EXPECT_EQ(rig().TakeAnnouncements(21).size(), 21U);
+  EXPECT_EQ(rig_->TakeAnnouncements(21).size(), 21U);
 }
 
 TEST_F(Process, TheBusBeingAwayLeavesNoDescriptorBehind) {
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   DeliverAll();
-  rig().StopNotificationService();
-  rig().RunEventLoop(std::chrono::milliseconds(100));
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  rig_->StopNotificationService();
+  rig_->RunEventLoop(std::chrono::milliseconds(100));
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   const std::ptrdiff_t held = OpenDescriptors(getpid());
   for (int i = 0; i < 20; ++i) {
-    ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
-    ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
-    rig().RunEventLoop(std::chrono::milliseconds(0));
+    ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
+    ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
+    rig_->RunEventLoop(std::chrono::milliseconds(0));
   }
   EXPECT_EQ(OpenDescriptors(getpid()), held);
 }
@@ -127,9 +127,9 @@ TEST_F(Process, TheBusBeingAwayLeavesNoDescriptorBehind) {
 TEST_F(Process, SettersOnEightThreadsReachEveryUnitTearNoFileAndAnnounceAll) {
   constexpr int kThreads = 8;
   constexpr int kSets = 25;
-  rig().PlugMixer();
-  rig().PlugMixer();
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 0), 100);
+  rig_->PlugMixer();
+  rig_->PlugMixer();
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
   PutSettings("TRX-SELVA",
               "<key>MaxLevel</key><integer>0</integer><key>Other</key><string>kept</string>");
   std::atomic<int> running = kThreads;
@@ -137,11 +137,11 @@ TEST_F(Process, SettersOnEightThreadsReachEveryUnitTearNoFileAndAnnounceAll) {
   for (int t = 0; t < kThreads; ++t) {
     threads.emplace_back([&running, t] {
       for (int i = 0; i < kSets; ++i) {
-        EXPECT_EQ(ORV_SetBoostLevelIndex(11, static_cast<std::uint32_t>(t + i) % 4), 100);
-        EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(11), 100);
-        EXPECT_EQ(ORV_IsUSBConnection(11), 103);
+        EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, static_cast<std::uint32_t>(t + i) % 4), kSuccess);
+        EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(kSelva), kSuccess);
+        EXPECT_EQ(ORV_IsUSBConnection(kSelva), kConnected);
         ORVStringRef text = nullptr;
-        EXPECT_EQ(ORV_GetBoostLevelText(11, 3, 0, &text), 100);
+        EXPECT_EQ(ORV_GetBoostLevelText(kSelva, 3, 0, &text), kSuccess);
         EXPECT_STREQ(text, "-19 dB");
       }
       --running;
@@ -154,27 +154,27 @@ TEST_F(Process, SettersOnEightThreadsReachEveryUnitTearNoFileAndAnnounceAll) {
     ASSERT_EQ(settings->size(), 2U);
     ASSERT_EQ(settings->at("Other"), "<string>kept</string>");
     std::int32_t index = -77;
-    ASSERT_EQ(ORV_GetCurrentBoostLevelIndex(11, &index), 100);
+    ASSERT_EQ(ORV_GetCurrentBoostLevelIndex(kSelva, &index), kSuccess);
     ASSERT_TRUE(index >= 0 && index < 4) << index;
     if (looks < 10) {
-      ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, nullptr, nullptr), 100);
+      ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, nullptr, nullptr), kSuccess);
     }
     ++looks;
   }
   for (std::thread &thread : threads) thread.join();
   EXPECT_GT(looks, 0);
   EXPECT_EQ(LibraryListing().size(), 1U) << "temporary files are left";
-  const Lines wire = rig().WireLog();
+  const Lines wire = rig_->WireLog();
   EXPECT_EQ(wire.size(), 2U + 2U * 2U * kThreads * kSets);
   EXPECT_EQ(std::count_if(wire.begin(), wire.end(),
                           [](const std::string &line) { return line.starts_with("unit 1 "); }),
             1 + 2 * kThreads * kSets);
-  const auto announcements = rig().TakeAnnouncements(1 + kThreads * kSets);
+  const auto announcements = rig_->TakeAnnouncements(1 + kThreads * kSets);
   ASSERT_EQ(announcements.size(), 1U + kThreads * kSets);
   for (std::int32_t index = 0; index < 4; ++index) {
-    EXPECT_EQ(
-        std::count(announcements.begin(), announcements.end(), BoostChange("TRX-SELVA", 11, index)),
-        kThreads * kSets / 4 + (index == 0 ? 1 : 0));
+    EXPECT_EQ(std::count(announcements.begin(), announcements.end(),
+                         BoostChange("TRX-SELVA", kSelva, index)),
+              kThreads * kSets / 4 + (index == 0 ? 1 : 0));
   }
 }
 
@@ -185,68 +185,69 @@ class Threads : public InstalledFiles {
   static constexpr int kRounds = 5;
 
   static void Set() {
-    EXPECT_EQ(ORV_SetUSBInputAudio(11, 0, 3), 100);
-    EXPECT_EQ(ORV_SetUSBInputAudioDirect(11, 1, 0, 5), 100);
-    EXPECT_EQ(ORV_SetUSBOutputAudio(11, 1, 2), 100);
-    EXPECT_EQ(ORV_SetUSBOutputAudioDefault(11, 2), 100);
-    EXPECT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
-    EXPECT_EQ(ORV_SetMidiChannelIndex(1, 2), 100);
+    EXPECT_EQ(ORV_SetUSBInputAudio(kSelva, 0, 3), kSuccess);
+    EXPECT_EQ(ORV_SetUSBInputAudioDirect(kSelva, 1, 0, 5), kSuccess);
+    EXPECT_EQ(ORV_SetUSBOutputAudio(kSelva, 1, 2), kSuccess);
+    EXPECT_EQ(ORV_SetUSBOutputAudioDefault(kSelva, 2), kSuccess);
+    EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
+    EXPECT_EQ(ORV_SetMidiChannelIndex(kVolt, 2), kSuccess);
   }
 
   static void SendAgain() {
-    EXPECT_EQ(ORV_SetCurrentUSBInputAudio(11, 0), 100);
-    EXPECT_EQ(ORV_SetCurrentUSBOutputAudio(11, 1), 100);
-    EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(11), 100);
-    EXPECT_EQ(ORV_SetCurrentMidiChannelIndex(1), 100);
+    EXPECT_EQ(ORV_SetCurrentUSBInputAudio(kSelva, 0), kSuccess);
+    EXPECT_EQ(ORV_SetCurrentUSBOutputAudio(kSelva, 1), kSuccess);
+    EXPECT_EQ(ORV_SetCurrentBoostLevelIndex(kSelva), kSuccess);
+    EXPECT_EQ(ORV_SetCurrentMidiChannelIndex(kVolt), kSuccess);
   }
 
   // Each value is the one that is set here or, before that, the default.
   static void ExpectStored() {
     std::int32_t input = -77;
-    EXPECT_EQ(ORV_GetCurrentUSBInputAudioIndex(11, 0, &input), 100);
+    EXPECT_EQ(ORV_GetCurrentUSBInputAudioIndex(kSelva, 0, &input), kSuccess);
     EXPECT_TRUE(input == 3 || input == 0) << input;
     std::int32_t output = -77;
-    EXPECT_EQ(ORV_GetCurrentUSBOutputAudioIndex(11, 1, &output), 100);
+    EXPECT_EQ(ORV_GetCurrentUSBOutputAudioIndex(kSelva, 1, &output), kSuccess);
     EXPECT_TRUE(output == 2 || output == 1) << output;
     std::int32_t level = -77;
-    EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(11, &level), 100);
+    EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(kSelva, &level), kSuccess);
     EXPECT_TRUE(level == 1 || level == 3) << level;
     std::int32_t midi = -77;
-    EXPECT_EQ(ORV_GetCurrentMidiChannelIndex(1, &midi), 100);
+    EXPECT_EQ(ORV_GetCurrentMidiChannelIndex(kVolt, &midi), kSuccess);
     EXPECT_EQ(midi, 2);
   }
 
   static void ExpectStatus() {
-    EXPECT_EQ(ORV_IsUSBConnection(11), 103);
+    EXPECT_EQ(ORV_IsUSBConnection(kSelva), kConnected);
     std::uint32_t certify = 77;
-    EXPECT_EQ(ORV_GetMixerCertifyLevel(11, &certify), 100);
+    EXPECT_EQ(ORV_GetMixerCertifyLevel(kSelva, &certify), kSuccess);
     EXPECT_EQ(certify, 1U);
     std::uint32_t firmware = 77;
-    EXPECT_EQ(ORV_GetFirmwareVersionIndex(11, &firmware), 100);
+    EXPECT_EQ(ORV_GetFirmwareVersionIndex(kSelva, &firmware), kSuccess);
     EXPECT_EQ(firmware, 0x0100U);
     std::uint32_t selector = 77;
-    EXPECT_EQ(ORV_GetMixerInputSelectorStatus(11, 2, &selector), 100);
+    EXPECT_EQ(ORV_GetMixerInputSelectorStatus(kSelva, 2, &selector), kSuccess);
     EXPECT_EQ(selector, 6U);
     std::uint32_t serato = 77;
-    EXPECT_EQ(ORV_GetMixerSeratoActiveStatus(11, &serato), 100);
+    EXPECT_EQ(ORV_GetMixerSeratoActiveStatus(kSelva, &serato), kSuccess);
     EXPECT_EQ(serato, 1U);
   }
 
   static void ExpectTexts() {
     ORVStringRef text = nullptr;
-    EXPECT_EQ(ORV_GetPkgVersionText(11, &text), 100);
+    EXPECT_EQ(ORV_GetPkgVersionText(kSelva, &text), kSuccess);
     EXPECT_STREQ(text, "1.2.3");
-    EXPECT_EQ(ORV_GetLibraryVersionText(11, &text), 100);
+    EXPECT_EQ(ORV_GetLibraryVersionText(kSelva, &text), kSuccess);
     EXPECT_STREQ(text, "4.5");
-    EXPECT_EQ(ORV_GetDriverVersionText(11, &text), 102);
-    EXPECT_EQ(ORV_GetUtilityVersionText(11, &text), 102);
-    EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(11, 0, 101, 99, &text), 100);
+    EXPECT_EQ(ORV_GetDriverVersionText(kSelva, &text), kBadArgument);
+    EXPECT_EQ(ORV_GetUtilityVersionText(kSelva, &text), kBadArgument);
+    EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(kSelva, 0, kSuccessWithWarning, 99, &text),
+              kSuccess);
     EXPECT_STREQ(text, "a warning");
-    EXPECT_EQ(ORV_GetUSBInputAudioText(11, 0, 3, 0, &text), 100);
+    EXPECT_EQ(ORV_GetUSBInputAudioText(kSelva, 0, 3, 0, &text), kSuccess);
     EXPECT_STREQ(text, "Cross Fader A");
-    EXPECT_EQ(ORV_GetUSBOutputAudioText(11, 0, 2, 0, &text), 100);
+    EXPECT_EQ(ORV_GetUSBOutputAudioText(kSelva, 0, 2, 0, &text), kSuccess);
     EXPECT_STREQ(text, "AUX");
-    EXPECT_EQ(ORV_GetBoostLevelText(11, 3, 0, &text), 100);
+    EXPECT_EQ(ORV_GetBoostLevelText(kSelva, 3, 0, &text), kSuccess);
     EXPECT_STREQ(text, "-19 dB");
   }
 
@@ -267,9 +268,9 @@ class Threads : public InstalledFiles {
 
 TEST_F(Threads, EightThatCallEverythingAtOnceGetWhatOneWouldGet) {
   InstallTexts();
-  for (const int unit : {rig().PlugMixer(), rig().PlugMixer()}) {
-    rig().SetSelector(unit, 2, 6);
-    rig().SetSerato(unit, 1, 0);
+  for (const int unit : {rig_->PlugMixer(), rig_->PlugMixer()}) {
+    rig_->SetSelector(unit, 2, 6);
+    rig_->SetSerato(unit, 1, 0);
   }
   Set();
   std::vector<std::thread> threads;
@@ -285,7 +286,7 @@ TEST_F(Threads, EightThatCallEverythingAtOnceGetWhatOneWouldGet) {
     });
   }
   for (std::thread &thread : threads) thread.join();
-  const Lines wire = rig().WireLog();
+  const Lines wire = rig_->WireLog();
   const auto requestsTo = [&wire](const char *unit) {
     return std::count_if(wire.begin(), wire.end(),
                          [unit](const std::string &line) { return line.starts_with(unit); });
@@ -293,7 +294,7 @@ TEST_F(Threads, EightThatCallEverythingAtOnceGetWhatOneWouldGet) {
   EXPECT_EQ(requestsTo("unit 1 "), 10 + 19 * kThreads * kRounds);
   EXPECT_EQ(requestsTo("unit 2 "), 10 + 17 * kThreads * kRounds)
       << "all but the firmware version and the port";
-  EXPECT_EQ(rig().TakeAnnouncements(5U + 5U * kThreads * kRounds).size(),
+  EXPECT_EQ(rig_->TakeAnnouncements(5U + 5U * kThreads * kRounds).size(),
             5U + 5U * kThreads * kRounds);
 }
 
@@ -312,7 +313,7 @@ void ExpectInChild(const std::function<bool()> &body) {
 // A connection that a child kept would outlive its parent: to the bus the parent was still there.
 TEST_F(Process, AForkedChildHoldsNoDescriptorOfTheParentsRegistrations) {
   const std::vector<std::string> before = DescriptorTargets();
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   ASSERT_GT(DescriptorTargets().size(), before.size());
   ExpectInChild([&] {
     EXPECT_EQ(DescriptorTargets(), before);
@@ -323,66 +324,68 @@ TEST_F(Process, AForkedChildHoldsNoDescriptorOfTheParentsRegistrations) {
 // Long enough for an inherited timer to try the bus again.
 TEST_F(Process, AForkedChildStartsWithoutRegistrationsAndLeavesTheParentsAlone) {
   constexpr std::chrono::milliseconds kChildLooks{1500};
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
-  ASSERT_EQ(DeliverAll(), CallList());
-  rig().TakeAnnouncements(2);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
-  ASSERT_EQ(rig().TakeAnnouncements(1).size(), 1U);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
+  ASSERT_TRUE(Delivered({}));
+  rig_->TakeAnnouncements(2);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
+  ASSERT_EQ(rig_->TakeAnnouncements(1).size(), 1U);
   ExpectInChild([&] {
     const auto end = std::chrono::steady_clock::now() + kChildLooks;
     while (std::chrono::steady_clock::now() < end) {
-      rig().RunEventLoop(std::chrono::milliseconds(50));
+      rig_->RunEventLoop(std::chrono::milliseconds(50));
     }
-    if (ORV_SetBoostLevelIndex(11, 2) != 100) return false;
-    rig().RunEventLoop(std::chrono::milliseconds(200));
+    if (ORV_SetBoostLevelIndex(kSelva, 2) != kSuccess) return false;
+    rig_->RunEventLoop(std::chrono::milliseconds(200));
     return Calls().empty();
   });
-  EXPECT_EQ(rig().TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", 11, 2)});
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 3), 100);
+  EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", kSelva, 2)});
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 3), kSuccess);
   EXPECT_TRUE(RunEventLoopUntil([] { return Calls().size() >= 3; }));
   EXPECT_EQ(Calls(), (CallList{{"A selva", -1, 1}, {"A selva", -1, 2}, {"A selva", -1, 3}}));
 }
 
 TEST_F(Process, AForkedChildCanRegisterOnItsOwn) {
-  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(11, IndexA, &selva), 100);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   DeliverAll();
   ExpectInChild([this] {
-    if (ORV_RegisterBoostLevelChangedCallback(5, IndexB, &halden) != 100) return false;
-    if (ORV_SetBoostLevelIndex(11, 0) != 100 || ORV_SetBoostLevelIndex(5, 2) != 100) return false;
+    if (ORV_RegisterBoostLevelChangedCallback(kHalden, IndexB, &halden) != kSuccess) return false;
+    if (ORV_SetBoostLevelIndex(kSelva, 0) != kSuccess ||
+        ORV_SetBoostLevelIndex(kHalden, 2) != kSuccess)
+      return false;
     return RunEventLoopUntil([] { return !Calls().empty(); }) &&
            Calls() == CallList{{"B halden", -1, 2}};
   });
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 3), 100);
-  EXPECT_EQ(DeliverAll(), (CallList{{"A selva", -1, 0}, {"A selva", -1, 3}}));
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 3), kSuccess);
+  EXPECT_TRUE(Delivered({{"A selva", -1, 0}, {"A selva", -1, 3}}));
 }
 
 TEST_F(Process, AForkedChildOfAProcessThatOnlySetLevelsSetsAndAnnouncesToo) {
-  rig().PlugMixer();
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
-  ExpectInChild([] { return ORV_SetBoostLevelIndex(11, 2) == 100; });
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 3), 100);
-  EXPECT_EQ(rig().WireLog().size(), 3U);
-  EXPECT_EQ(rig().TakeAnnouncements(3),
-            (std::vector{BoostChange("TRX-SELVA", 11, 1), BoostChange("TRX-SELVA", 11, 2),
-                         BoostChange("TRX-SELVA", 11, 3)}));
+  rig_->PlugMixer();
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
+  ExpectInChild([] { return ORV_SetBoostLevelIndex(kSelva, 2) == kSuccess; });
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 3), kSuccess);
+  EXPECT_EQ(rig_->WireLog().size(), 3U);
+  EXPECT_EQ(rig_->TakeAnnouncements(3),
+            (std::vector{BoostChange("TRX-SELVA", kSelva, 1), BoostChange("TRX-SELVA", kSelva, 2),
+                         BoostChange("TRX-SELVA", kSelva, 3)}));
 }
 
 // --- The user's folders ------------------------------------------------------------------------
 
 TEST_F(Process, TheConfigurationFolderIsLookedUpAfreshAndARelativeOneIsIgnored) {
-  const std::string home = fs::path(rig().LibraryFolder()).parent_path().parent_path() / "someone";
+  const std::string home = fs::path(rig_->LibraryFolder()).parent_path().parent_path() / "someone";
   ASSERT_EQ(setenv("HOME", home.c_str(), 1), 0);
   ASSERT_EQ(setenv("XDG_CONFIG_HOME", "relative/folder", 1), 0);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 1), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   const std::string file = "/orvikaudio/Preferences/com.orvikaudio.TRX-SELVAautosetup.plist";
   EXPECT_TRUE(fs::is_regular_file(home + "/.config" + file));
   EXPECT_FALSE(fs::exists("relative"));
   ASSERT_EQ(setenv("XDG_CONFIG_HOME", (home + "/elsewhere").c_str(), 1), 0);
   std::int32_t index = -77;
-  EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(11, &index), 100);
+  EXPECT_EQ(ORV_GetCurrentBoostLevelIndex(kSelva, &index), kSuccess);
   EXPECT_EQ(index, 3);
-  ASSERT_EQ(ORV_SetBoostLevelIndex(11, 2), 100);
+  ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 2), kSuccess);
   EXPECT_TRUE(fs::is_regular_file(home + "/elsewhere" + file));
   EXPECT_EQ(LibraryListing(), Lines());
 }

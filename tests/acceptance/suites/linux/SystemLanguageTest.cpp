@@ -44,7 +44,9 @@ class SystemLanguage : public InstalledFiles {
 
   static std::string Warning(ProductId product, std::int32_t language) {
     ORVStringRef text = nullptr;
-    EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(product, 0, 101, language, &text), 100);
+    EXPECT_EQ(
+        ORV_GetWarningTextForSetUSBAudioInput(product, 0, kSuccessWithWarning, language, &text),
+        kSuccess);
     return text != nullptr ? text : "(null)";
   }
 
@@ -54,8 +56,8 @@ class SystemLanguage : public InstalledFiles {
       const auto shown = [](const char *value) { return value != nullptr ? value : "-"; };
       const std::string said = std::string(shown(variables.language)) + ' ' + shown(variables.all) +
                                ' ' + shown(variables.messages) + ' ' + shown(variables.lang);
-      EXPECT_EQ(Warning(0, 99), variables.folder) << said;
-      EXPECT_EQ(Warning(11, 0), std::string(variables.folder) + " 1") << said;
+      EXPECT_EQ(Warning(kArden, 99), variables.folder) << said;
+      EXPECT_EQ(Warning(kSelva, 0), std::string(variables.folder) + " 1") << said;
     }
   }
 };
@@ -108,9 +110,9 @@ TEST_F(SystemLanguage, WhoAsksForUntranslatedTextsGetsEnglish) {
 TEST_F(SystemLanguage, ALanguageThatIsNamedIsNotReplacedByTheSystems) {
   InstallLanguages({"English", "French", "German"});
   SetVariables({nullptr, nullptr, nullptr, "fr_FR.UTF-8", nullptr});
-  EXPECT_EQ(Warning(0, 3), "German");
-  EXPECT_EQ(Warning(0, 1), "(null)");
-  EXPECT_EQ(Warning(11, 3), "French 1");
+  EXPECT_EQ(Warning(kArden, 3), "German");
+  EXPECT_EQ(Warning(kArden, 1), "(null)");
+  EXPECT_EQ(Warning(kSelva, 3), "French 1");
 }
 
 class MissingWarning : public InstalledFiles {};
@@ -122,7 +124,8 @@ TEST_F(MissingWarning, InTheSystemsLanguageHasNoText) {
           "<key>WARNING2</key><string>two</string>");
   LinkResources(kFramework);
   ORVStringRef text = TextOf("untouched");
-  EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(11, 0, 101, 3, &text), 100);
+  EXPECT_EQ(ORV_GetWarningTextForSetUSBAudioInput(kSelva, 0, kSuccessWithWarning, 3, &text),
+            kSuccess);
   EXPECT_EQ(CharactersOf(text), "(null)");
 }
 
