@@ -13,13 +13,20 @@ bench_packages=(
   libbenchmark-dev libusb-1.0-0-dev python3 python3-usb strace valgrind gnuplot-nox
 )
 
+# For the setup application, which is left out where Qt is missing.
+setup_packages=(
+  qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+)
+
 test_packages=(
   "${bench_packages[@]}"
+  "${setup_packages[@]}"
+  xvfb fonts-inter fonts-noto-cjk
   ccache
   libgtest-dev libgmock-dev
   clang libclang-rt-dev dbus-bin doxygen locales binutils util-linux procps
   libglib2.0-bin mandoc zsh fish libgnustep-base-dev gnustep-base-runtime gobjc
-  e2fsprogs mount libudev-dev qt6-base-dev qemu-system-x86
+  e2fsprogs mount libudev-dev qemu-system-x86
   busybox-static cpio zstd lz4 abigail-tools mmdebstrap debian-archive-keyring uidmap lintian
 )
 

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QWidget>
+#include <optional>
+#include <vector>
+
+#include "CardColumn.h"
+#include "Header.h"
+#include "MixerDrawing.h"
+#include "SetupState.h"
+#include "StatusLine.h"
+#include "TroubleCard.h"
+
+namespace setup {
+
+/// The window: cards on both sides, the mixer between them. Puts the parts together and lets them
+/// show what the state says.
+class SetupWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit SetupWindow(SetupState &state);
+
+ protected:
+  void resizeEvent(QResizeEvent *event) override;
+  void changeEvent(QEvent *event) override;
+  void showEvent(QShowEvent *event) override;
+  void hideEvent(QHideEvent *event) override;
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
+ private:
+  /// A choice that an open list or the mouse is at.
+  struct Preview {
+    const SettingCard *card;
+    int index;
+  };
+
+  void BuildCards();
+  CardColumn *MakePlaybackColumn();
+  CardColumn *MakeRecordingColumn();
+  SettingCard *AddCard(CardColumn &column, const client::Setting &setting);
+  void AddShortcuts();
+  void FillMoreMenu();
+  void Refresh();
+  void RefreshDrawing();
+  void RefreshStatus();
+  void PlaceTrouble();
+  std::vector<ShownCable> PlanCables() const;
+  ShownCable CableOf(const SettingCard &card, int index, CableLook look) const;
+  void PointAt(const SettingCard &card, bool isPointed, std::optional<int> choice);
+  void OfferChannels(Direction direction, const Socket &socket, const QPoint &at);
+  void ChooseSocket(Direction direction, int channel, const Socket &socket);
+  void ShowDetails();
+  void NoteVisibility();
+
+  SetupState &state_;
+  Header *header_;
+  QWidget *body_ = nullptr;
+  MixerDrawing *drawing_ = nullptr;
+  TroubleCard *trouble_ = nullptr;
+  StatusLine *status_;
+  std::vector<SettingCard *> cards_;
+  std::optional<Preview> preview_;
+};
+
+}  // namespace setup
