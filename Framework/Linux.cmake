@@ -10,7 +10,7 @@ add_library(framework OBJECT
   Class/Platform/Linux/FileReading.cpp
   Class/Platform/Linux/FileReplacement.cpp
   Class/Platform/Linux/FileRights.cpp
-  Class/Platform/Linux/FolderCreation.cpp
+  Class/Platform/Linux/FolderOpening.cpp
   Class/Platform/Linux/Folders.cpp
   Class/Platform/Linux/LocalizedStrings.cpp
   Class/Platform/Linux/NotificationCentre.cpp

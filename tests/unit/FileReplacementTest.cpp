@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <fstream>
 #include <functional>
 #include <optional>
 #include <string>
@@ -549,35 +550,52 @@ TEST_F(FileReplacement, WithASystemCallFailingWhileItPutsAnEditBackLosesNothing)
   }
 }
 
-// A power cut must not undo the change: the contents are durable before they get a name, and the
-// name before the setter returns.
+bool IsDurableWithEachWrite(const SteppedProcess &process, std::uint64_t file) {
+  std::ifstream status("/proc/" + std::to_string(process.Id()) + "/fdinfo/" + std::to_string(file));
+  std::string name;
+  int flags = 0;
+  while (status >> name && name != "flags:") continue;
+  status >> std::oct >> flags;
+  return (flags & O_SYNC) == O_SYNC;
+}
+
+// A power cut must not undo the change: the contents and rights are durable before they get a name,
+// and the name before the setter returns.
 TEST_F(FileReplacement, IsDurableBeforeItShowsAndBeforeItIsSaidToBeDone) {
-  for (const System &system : kSystems) {
-    SCOPED_TRACE(system.description);
+  const auto orderOf = [this](mode_t mode, const System &system) {
     WriteBytes(path_, "old");
+    EXPECT_EQ(chmod(path_.c_str(), mode), 0);
     SteppedProcess writer(Adding("a", system));
     std::vector<std::string> order;
-    std::optional<std::uint64_t> file;
-    const auto then = [&](const std::string &step) {
-      // If a file cannot get a name later, there is a second one.
-      if (order.empty() || order.back() != step) order.push_back(step);
-    };
+    std::uint64_t file = 0;
     while (const auto call = writer.Step()) {
       switch (static_cast<long>(call->number)) {
         case SYS_write:
-          file = file.value_or(call->arguments[0]);
+          EXPECT_TRUE(IsDurableWithEachWrite(writer, call->arguments[0]));
+          file = call->arguments[0];
+          // If a file cannot get a name later, there is a second one.
+          order = {"contents"};
+          break;
+        case SYS_fchmod:
+          order.emplace_back("rights");
           break;
         case SYS_fsync:
-          then(call->arguments[0] == file ? "file" : "folder");
+          order.emplace_back(call->arguments[0] == file ? "file" : "folder");
           break;
         case SYS_renameat2:
-          then("exchange");
+          order.emplace_back("exchange");
           break;
         default:
           break;
       }
     }
-    EXPECT_THAT(order, ElementsAre("file", "exchange", "folder"));
+    return order;
+  };
+  for (const System &system : kSystems) {
+    SCOPED_TRACE(system.description);
+    EXPECT_THAT(orderOf(0600, system), ElementsAre("contents", "exchange", "folder"));
+    EXPECT_THAT(orderOf(0644, system),
+                ElementsAre("contents", "rights", "file", "exchange", "folder"));
   }
 }
 

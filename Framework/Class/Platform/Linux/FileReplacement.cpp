@@ -31,9 +31,9 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <charconv>
 #include <chrono>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <functional>
 #include <memory>
@@ -44,21 +44,20 @@
 
 #include <dirent.h>
 #include <fcntl.h>
-#include <linux/openat2.h>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 
 #include "File.h"
 #include "FileReading.h"
 #include "FileRights.h"
-#include "FolderCreation.h"
+#include "FolderOpening.h"
 
 namespace orv {
 namespace {
 
 constexpr mode_t kOwnerOnly = 0600;
+constexpr int kWriteDurably = O_WRONLY | O_SYNC | O_CLOEXEC;
 
 // Each attempt after the first means that another program has changed the file.
 constexpr int kMostAttempts = 2000;
@@ -77,56 +76,10 @@ enum class Result {
 
 // --- The place of the file -----------------------------------------------------------------------
 
-// A link is followed if its target belongs to the same user, or if this user or root made it.
-// Through any other link, another user could make this process change a file.
-bool MayFollow(const struct stat &link, const struct stat &target) {
-  return link.st_uid == target.st_uid || link.st_uid == geteuid() || link.st_uid == 0;
-}
-
-// Whether a folder is behind a link that must not be followed. The links are looked at before the
-// folder is opened or made: a user who replaces a folder by a link between the two is not noticed.
-bool IsBehindForeignLink(const std::string &folder) {
-  struct stat link = {};
-  struct stat target = {};
-  for (std::size_t end = folder.find('/', 1);; end = folder.find('/', end + 1)) {
-    const std::string part = folder.substr(0, end);
-    if (lstat(part.c_str(), &link) == 0 && S_ISLNK(link.st_mode) &&
-        stat(part.c_str(), &target) == 0 && !MayFollow(link, target)) {
-      return true;
-    }
-    if (end == folder.npos) return false;
-  }
-}
-
-constexpr int kFolder = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
-
-// Root can write everywhere, so it looks at the links on the way, if there are any.
-int OpenFolderAsRoot(const std::string &path) {
-  const open_how how = {kFolder, 0, RESOLVE_NO_SYMLINKS};
-  const auto folder =
-      static_cast<int>(syscall(SYS_openat2, AT_FDCWD, path.c_str(), &how, sizeof how));
-  if (folder >= 0) return folder;
-  if (!IsBehindForeignLink(path)) return open(path.c_str(), kFolder);
-  errno = ELOOP;
-  return -1;
-}
-
-int OpenExistingFolder(const std::string &path) {
-  return geteuid() == 0 ? OpenFolderAsRoot(path) : open(path.c_str(), kFolder);
-}
-
-// Makes the folder if it is missing.
-int OpenFolder(const std::string &path) {
-  const int folder = OpenExistingFolder(path);
-  if (folder >= 0 || errno != ENOENT) return folder;
-  MakeFolder(path);
-  return OpenExistingFolder(path);
-}
-
 // A file's place: its folder, held open so that all steps use the same one, and its name.
 struct Place {
   explicit Place(const std::string &path)
-      : folder(OpenFolder(path.substr(0, path.rfind('/')))),
+      : folder(OpenFolder(path.substr(0, std::max<std::size_t>(path.rfind('/'), 1)))),
         name(path.substr(path.rfind('/') + 1)) {}
 
   int Folder() const { return folder.Descriptor(); }
@@ -172,15 +125,18 @@ OldFile FindOldFile(const std::string &path, std::size_t most, Place &place) {
 
 // --- Identity of files ---------------------------------------------------------------------------
 
+std::string InHexadecimal(std::uint64_t number) {
+  std::array<char, 16> digits;
+  const auto end = std::to_chars(digits.begin(), digits.end(), number, 16).ptr;
+  return std::string(digits.begin(), end);
+}
+
 // Inode number and time of the last write. While a file is open, no other gets its inode number. A
 // link, a pipe or a file that cannot be read is not open; the time tells it from a later file.
 std::string TagOf(const struct stat &status) {
-  std::array<char, 40> text;
-  std::snprintf(text.data(), text.size(), "%llx-%llx%08lx",
-                static_cast<unsigned long long>(status.st_ino),
-                static_cast<unsigned long long>(status.st_mtim.tv_sec),
-                static_cast<unsigned long>(status.st_mtim.tv_nsec));
-  return text.data();
+  const auto seconds = static_cast<std::uint64_t>(status.st_mtim.tv_sec);
+  const auto nanoseconds = static_cast<std::uint64_t>(status.st_mtim.tv_nsec);
+  return InHexadecimal(status.st_ino) + "-" + InHexadecimal(seconds << 32 | nanoseconds);
 }
 
 // Stands for no file.
@@ -215,12 +171,6 @@ constexpr std::string_view kTaken = "old.";
 
 std::uint64_t NumberThatIsNew() {
   return static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
-}
-
-std::string InHexadecimal(std::uint64_t number) {
-  std::array<char, 17> text;
-  std::snprintf(text.data(), text.size(), "%llx", static_cast<unsigned long long>(number));
-  return text.data();
 }
 
 // The parts of an announced name: which file is the new one, which one it replaces, and a number
@@ -512,19 +462,25 @@ bool WriteAll(int descriptor, std::string_view contents) {
   return true;
 }
 
-// Only the writer can use the new file until its owner and group are set.
-bool Fill(int descriptor, const Place &place, const OldFile &old, std::string_view contents) {
+// Only the writer can use the new file until its owner and group are set. Returns whether that has
+// changed anything since the last write.
+std::optional<bool> SetRights(const FileWithStatus &file, const Place &place, const OldFile &old) {
   if (old.outcome == ReadOutcome::kRead) {
-    TakeRights(descriptor, old.file.Descriptor(), old.status);
-  } else if (!GiveToOwnerOfFolder(descriptor, place.Folder())) {
-    return false;
+    return TakeRights(file, {old.file.Descriptor(), old.status});
   }
-  return WriteAll(descriptor, contents) && TEMP_FAILURE_RETRY(fsync(descriptor)) == 0;
+  if (!GiveToOwnerOfFolder(file.descriptor, place.Folder())) return std::nullopt;
+  return true;
 }
 
-std::optional<Announcement> Announce(int descriptor, const OldFile &old) {
+// Fills the new file and makes it durable. Each write is durable when it returns, as the file is
+// open for O_SYNC. Returns the announcement of the file, nothing on failure.
+std::optional<Announcement> Fill(int descriptor, const Place &place, const OldFile &old,
+                                 std::string_view contents) {
   struct stat status = {};
-  if (fstat(descriptor, &status) != 0) return std::nullopt;
+  if (!WriteAll(descriptor, contents) || fstat(descriptor, &status) != 0) return std::nullopt;
+  const auto isChanged = SetRights({descriptor, status}, place, old);
+  if (!isChanged) return std::nullopt;
+  if (*isChanged && TEMP_FAILURE_RETRY(fsync(descriptor)) != 0) return std::nullopt;
   return Announcement{TagOf(status), HasPlace(old) ? TagOf(old.status) : kNoTag,
                       UniqueNumber(old.outcome == ReadOutcome::kForbidden)};
 }
@@ -540,10 +496,9 @@ int GiveName(int descriptor, const Place &place, const std::string &name) {
 // Returns nothing when the file system does not support this.
 std::optional<Result> ReplaceByUnnamedFile(const Place &place, const OldFile &old,
                                            std::string_view contents) {
-  const File file(openat(place.Folder(), ".", O_TMPFILE | O_WRONLY | O_CLOEXEC, kOwnerOnly));
+  const File file(openat(place.Folder(), ".", O_TMPFILE | kWriteDurably, kOwnerOnly));
   if (!file.IsOpen()) return SaysUnsupported(errno) ? std::nullopt : std::optional(Result::kFailed);
-  if (!Fill(file.Descriptor(), place, old, contents)) return Result::kFailed;
-  const auto announcement = Announce(file.Descriptor(), old);
+  const auto announcement = Fill(file.Descriptor(), place, old, contents);
   if (!announcement) return Result::kFailed;
   // Without an old file, one step is enough: linking fails if the name exists.
   const std::string name = HasPlace(old) ? announcement->Name(place, kAnnounced) : place.name;
@@ -561,17 +516,14 @@ std::optional<Result> ReplaceByUnnamedFile(const Place &place, const OldFile &ol
 Result ReplaceByNamedFile(const Place &place, const OldFile &old, std::string_view contents) {
   const std::string name = place.Beside().append(kUnfinished) + InHexadecimal(NumberThatIsNew());
   const File file(
-      openat(place.Folder(), name.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, kOwnerOnly));
+      openat(place.Folder(), name.c_str(), O_CREAT | O_EXCL | kWriteDurably, kOwnerOnly));
   if (!file.IsOpen()) return errno == EEXIST ? Result::kOvertaken : Result::kFailed;
   if (!ShowLife(file.Descriptor())) return Result::kOvertaken;
-  if (Fill(file.Descriptor(), place, old, contents)) {
-    const auto announcement = Announce(file.Descriptor(), old);
-    const std::string announced = announcement ? announcement->Name(place, kAnnounced) : "";
-    if (announcement && Rename(place, name, announced)) {
-      return Exchange(place, old, *announcement, announced);
-    }
+  if (const auto announcement = Fill(file.Descriptor(), place, old, contents)) {
+    const std::string announced = announcement->Name(place, kAnnounced);
+    if (Rename(place, name, announced)) return Exchange(place, old, *announcement, announced);
     // Another writer took it for abandoned.
-    if (announcement && errno == ENOENT) return Result::kOvertaken;
+    if (errno == ENOENT) return Result::kOvertaken;
   }
   unlinkat(place.Folder(), name.c_str(), 0);
   return Result::kFailed;

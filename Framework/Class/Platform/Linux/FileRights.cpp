@@ -20,14 +20,16 @@ constexpr std::string_view kAttributesOfUsers = "user.";
 // The largest size of a list of names or of a value.
 constexpr std::size_t kLargestAttribute = std::size_t{64} << 10;
 
+bool HasSameOwnerAndGroup(const struct stat &file, const struct stat &old) {
+  return file.st_uid == old.st_uid && file.st_gid == old.st_gid;
+}
+
 // Returns whether the file has the old one's group afterwards. Only root can change the owner; a
 // user can choose among the user's own groups.
-bool TakeOwnerAndGroup(int descriptor, const struct stat &old) {
-  struct stat status = {};
-  if (fstat(descriptor, &status) != 0) return false;
-  if (status.st_uid == old.st_uid && status.st_gid == old.st_gid) return true;
-  return fchown(descriptor, old.st_uid, old.st_gid) == 0 || status.st_gid == old.st_gid ||
-         fchown(descriptor, status.st_uid, old.st_gid) == 0;
+bool TakeOwnerAndGroup(const FileWithStatus &file, const struct stat &old) {
+  return HasSameOwnerAndGroup(file.status, old) ||
+         fchown(file.descriptor, old.st_uid, old.st_gid) == 0 || file.status.st_gid == old.st_gid ||
+         fchown(file.descriptor, file.status.st_uid, old.st_gid) == 0;
 }
 
 bool CopyAttribute(int from, int to, const char *name) {
@@ -56,12 +58,18 @@ Attributes AttributesOf(int descriptor) {
   return {std::move(names), hasAccessList};
 }
 
-void CopyAttributesOfUsers(int from, int to, std::string_view names) {
+// Returns whether there are any.
+bool CopyAttributesOfUsers(int from, int to, std::string_view names) {
+  bool isAny = false;
   while (!names.empty()) {
     const std::string_view name = names.substr(0, names.find('\0'));
-    if (name.starts_with(kAttributesOfUsers)) CopyAttribute(from, to, name.data());
+    if (name.starts_with(kAttributesOfUsers)) {
+      CopyAttribute(from, to, name.data());
+      isAny = true;
+    }
     names.remove_prefix(name.size() + 1);
   }
+  return isAny;
 }
 
 // The new file may have inherited a list from its folder. Such a list grants no more than the mode
@@ -76,18 +84,24 @@ mode_t WithoutGroup(mode_t rights) { return rights & (0700 | (rights & kRightsOf
 
 }  // namespace
 
-void TakeRights(int newFile, int oldFile, const struct stat &old) {
-  const bool hasGroup = TakeOwnerAndGroup(newFile, old);
-  const Attributes attributes = AttributesOf(oldFile);
-  CopyAttributesOfUsers(oldFile, newFile, attributes.names);
-  mode_t rights = old.st_mode & kAllRights;
+bool TakeRights(const FileWithStatus &newFile, const FileWithStatus &oldFile) {
+  const Attributes attributes = AttributesOf(oldFile.descriptor);
+  bool isChanged =
+      CopyAttributesOfUsers(oldFile.descriptor, newFile.descriptor, attributes.names) ||
+      attributes.hasAccessList || !HasSameOwnerAndGroup(newFile.status, oldFile.status);
+  const bool hasGroup = TakeOwnerAndGroup(newFile, oldFile.status);
+  mode_t rights = oldFile.status.st_mode & kAllRights;
   if (attributes.hasAccessList) {
-    if (!hasGroup || !CopyAttribute(oldFile, newFile, kAccessList)) rights &= kRightsOfOwner;
+    const bool hasList =
+        hasGroup && CopyAttribute(oldFile.descriptor, newFile.descriptor, kAccessList);
+    if (!hasList) rights &= kRightsOfOwner;
   } else {
     if (!hasGroup) rights = WithoutGroup(rights);
-    if (!HasNoAccessList(newFile, rights)) rights &= kRightsOfOwner;
+    if (!HasNoAccessList(newFile.descriptor, rights)) rights &= kRightsOfOwner;
   }
-  fchmod(newFile, rights);
+  isChanged |= rights != (newFile.status.st_mode & kAllRights);
+  if (isChanged) fchmod(newFile.descriptor, rights);
+  return isChanged;
 }
 
 bool GiveToOwnerOfFolder(int made, int folder) {

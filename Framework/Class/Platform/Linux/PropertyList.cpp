@@ -77,9 +77,9 @@ std::string_view TextOf(plist_t entry) {
 
 // XML cannot represent most control characters, not even escaped; a binary list may contain them. A
 // carriage return must be escaped: XML readers turn a plain one into a line feed.
-bool IsSpecialInXml(char character) {
+constexpr auto kIsSpecialInXml = [](char character) {
   return static_cast<unsigned char>(character) < 0x20 && character != '\t' && character != '\n';
-}
+};
 
 constexpr const char *kCarriageReturn = "&#13;";
 constexpr const char *kReplacementCharacter = "\uFFFD";
@@ -93,7 +93,7 @@ std::string AsXml(plist_t root) {
   std::string_view rest(written, written != nullptr ? length : 0);
   std::string xml;
   for (;;) {
-    const auto special = std::find_if(rest.begin(), rest.end(), IsSpecialInXml);
+    const auto special = std::find_if(rest.begin(), rest.end(), kIsSpecialInXml);
     xml.append(rest.begin(), special);
     if (special == rest.end()) return xml;
     xml += *special == '\r' ? kCarriageReturn : kReplacementCharacter;
