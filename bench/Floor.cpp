@@ -114,18 +114,18 @@ std::span<const char> BareRead() {
   return {contents.data(), static_cast<std::size_t>(size)};
 }
 
-// As the library replaces a file so that no change of another program is lost: a new file without a
-// name, then its name, a look for other writers, at the file itself, the exchange, and a look at
-// what came out of it.
+// As the library replaces a file so that no change of another program is lost: a look at the file
+// that was read, a new file without a name, written durably, then its name, a look for other
+// writers, at the file again, the exchange, and a look at what came out of it.
 void BareReplace(std::span<const char> contents) {
   static const std::filesystem::path path = SettingsFilePath();
   static const std::string name = path.filename();
   static const std::string announced = "." + name + ".floor";
   const int folder = open(path.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  const int file = openat(folder, ".", O_WRONLY | O_TMPFILE | O_CLOEXEC, 0600);
-  Require(write(file, contents.data(), contents.size()) > 0, "write the settings file");
-  fsync(file);
   struct stat status;
+  fstatat(folder, name.c_str(), &status, AT_SYMLINK_NOFOLLOW);
+  const int file = openat(folder, ".", O_WRONLY | O_SYNC | O_TMPFILE | O_CLOEXEC, 0600);
+  Require(write(file, contents.data(), contents.size()) > 0, "write the settings file");
   fstat(file, &status);
   const std::string unnamed = "/proc/self/fd/" + std::to_string(file);
   Require(linkat(AT_FDCWD, unnamed.c_str(), folder, announced.c_str(), AT_SYMLINK_FOLLOW) == 0,

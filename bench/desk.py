@@ -40,6 +40,8 @@ def make_settings():
     folder = tempfile.TemporaryDirectory(dir=memory if writable else None)
     preferences = pathlib.Path(folder.name) / "orvikaudio" / "Preferences"
     preferences.mkdir(parents=True)
-    (preferences / "com.orvikaudio.TRX-SELVAautosetup.plist").write_bytes(plistlib.dumps(SETTINGS))
+    file = preferences / "com.orvikaudio.TRX-SELVAautosetup.plist"
+    file.touch(0o600)  # as the library makes it
+    file.write_bytes(plistlib.dumps(SETTINGS))
     os.environ["XDG_CONFIG_HOME"] = folder.name
     return folder
