@@ -15,30 +15,30 @@ using Lines = std::vector<std::string>;
 
 class Commands : public testing::Test {
  protected:
-  void SetUp() override { desk.Plug(); }
+  void SetUp() override { desk_.Plug(); }
 
   Lines Ask(const std::string &command) {
-    const CommandReply reply = interpreter.Execute(command);
+    const CommandReply reply = interpreter_.Execute(command);
     EXPECT_FALSE(reply.refused) << command << ": " << reply.error;
     return reply.lines;
   }
 
   std::string Refusal(const std::string &command) {
-    const CommandReply reply = interpreter.Execute(command);
+    const CommandReply reply = interpreter_.Execute(command);
     EXPECT_TRUE(reply.refused) << command;
     EXPECT_TRUE(reply.lines.empty());
     return reply.error;
   }
 
-  RecordingFrontEnd frontEnd;
-  Desk desk{frontEnd};
-  CommandInterpreter interpreter{desk, {"ONE=1", "TWO=2"}};
+  RecordingFrontEnd frontEnd_;
+  Desk desk_{frontEnd_};
+  CommandInterpreter interpreter_{desk_, {"ONE=1", "TWO=2"}};
 };
 
 TEST_F(Commands, UnitsListsEveryUnit) {
-  desk.Plug(UsbIds{0x1234, 0xABCD});
-  desk.Unplug(2);
-  desk.SetFault(1, OpenFault::kDeny);
+  desk_.Plug(UsbIds{0x1234, 0xABCD});
+  desk_.Unplug(2);
+  desk_.SetFault(1, OpenFault::kDeny);
   EXPECT_EQ(Ask("units"),
             (Lines{"1  TRX-SELVA " + VendorId() + ":001f  plugged 001/002  faults deny",
                    "2  other 1234:abcd  unplugged  faults none"}));
@@ -47,9 +47,9 @@ TEST_F(Commands, UnitsListsEveryUnit) {
 TEST_F(Commands, PlugAnswersTheNewNumber) {
   EXPECT_EQ(Ask("plug"), Lines{"2"});
   EXPECT_EQ(Ask("plug 1234:abcd"), Lines{"3"});
-  EXPECT_TRUE(desk.UnitOf(2).mixer);
-  EXPECT_FALSE(desk.UnitOf(3).mixer);
-  EXPECT_EQ(desk.UnitOf(3).identity.product, 0xABCD);
+  EXPECT_TRUE(desk_.UnitOf(2).mixer);
+  EXPECT_FALSE(desk_.UnitOf(3).mixer);
+  EXPECT_EQ(desk_.UnitOf(3).identity.product, 0xABCD);
 }
 
 TEST_F(Commands, PlugTakesAModelInAnyCase) {
@@ -60,9 +60,9 @@ TEST_F(Commands, PlugTakesAModelInAnyCase) {
 
 TEST_F(Commands, UnplugAndReplug) {
   Ask("unplug 1");
-  EXPECT_FALSE(desk.UnitOf(1).address);
+  EXPECT_FALSE(desk_.UnitOf(1).address);
   Ask("replug 1");
-  EXPECT_TRUE(desk.UnitOf(1).address);
+  EXPECT_TRUE(desk_.UnitOf(1).address);
 }
 
 TEST_F(Commands, SetChangesWhatTheMixerReports) {
@@ -72,7 +72,7 @@ TEST_F(Commands, SetChangesWhatTheMixerReports) {
   Ask("set 1 port 3 4");
   Ask("set 1 firmware 0x0123");
   Ask("set 1 certify 4294967295");
-  const MixerState state = desk.UnitOf(1).mixer->State();
+  const MixerState state = desk_.UnitOf(1).mixer->State();
   EXPECT_EQ(state.selectors, (std::vector<std::uint8_t>{0, 0, 0, 0x7F}));
   EXPECT_EQ(state.leadingByte, 9);
   EXPECT_EQ(state.serato, (std::array<std::uint8_t, 2>{1, 2}));
@@ -84,19 +84,19 @@ TEST_F(Commands, SetChangesWhatTheMixerReports) {
 TEST_F(Commands, SetSeratoWithOneByteClearsTheSecond) {
   Ask("set 1 serato 1 2");
   Ask("set 1 serato 3");
-  EXPECT_EQ(desk.UnitOf(1).mixer->State().serato, (std::array<std::uint8_t, 2>{3, 0}));
+  EXPECT_EQ(desk_.UnitOf(1).mixer->State().serato, (std::array<std::uint8_t, 2>{3, 0}));
 }
 
 TEST_F(Commands, SetChannelsMakesRoomForMoreSelectors) {
   EXPECT_NE(Refusal("set 1 selector 4 1").find("set N channels COUNT"), std::string::npos);
   Ask("set 1 channels 5");
   Ask("set 1 selector 4 1");
-  EXPECT_EQ(desk.UnitOf(1).mixer->State().selectors, (std::vector<std::uint8_t>{0, 0, 0, 0, 1}));
+  EXPECT_EQ(desk_.UnitOf(1).mixer->State().selectors, (std::vector<std::uint8_t>{0, 0, 0, 0, 1}));
 }
 
 TEST_F(Commands, GetShowsTheWholeState) {
   Ask("set 1 selector 0 6");
-  desk.Transfer(1, {0x40, 3, 0x020A, 0x8002, 0});
+  desk_.Transfer(1, {0x40, 3, 0x020A, 0x8002, 0});
   Lines state = Ask("get 1");
   ASSERT_GE(state.size(), 13U);
   state.resize(13);  // mixers may learn more requests
@@ -118,15 +118,15 @@ TEST_F(Commands, FaultTakesKindArgumentAndRequest) {
   Ask("fault 1 short 3 selectors");
   Ask("fault 1 vanish mixer-input");
   Ask("fault 1 stall certify");
-  EXPECT_EQ(desk.UnitOf(1).faults.Text(),
+  EXPECT_EQ(desk_.UnitOf(1).faults.Text(),
             "refuse, no-reply, short 3 selectors, stall certify, vanish mixer-input");
   Ask("clear 1");
-  EXPECT_EQ(desk.UnitOf(1).faults.Text(), "none");
+  EXPECT_EQ(desk_.UnitOf(1).faults.Text(), "none");
 }
 
 TEST_F(Commands, LogShowsAndForgets) {
-  desk.Transfer(1, {0x40, 3, 0x0300, 0x8003, 0});
-  EXPECT_EQ(Ask("log"), desk.Log());
+  desk_.Transfer(1, {0x40, 3, 0x0300, 0x8003, 0});
+  EXPECT_EQ(Ask("log"), desk_.Log());
   EXPECT_EQ(Ask("log").size(), 1u);
   EXPECT_TRUE(Ask("log clear").empty());
   EXPECT_TRUE(Ask("log").empty());

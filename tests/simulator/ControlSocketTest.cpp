@@ -38,36 +38,36 @@ class ControlProtocol : public testing::Test {
     std::size_t sent = 0;
     while (sent < bytes.size()) {
       const ssize_t count = send(to.Get(), bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
-      if (count <= 0) return;  // the server may hang up on us, which is what some tests provoke
+      if (count <= 0) return;  // the server_ may hang up on us, which is what some tests provoke
       sent += static_cast<std::size_t>(count);
     }
   }
 
-  TemporaryFolder folder;
-  const std::string path = folder / "control.sock";
-  RecordingFrontEnd frontEnd;
-  Desk desk{frontEnd};
-  CommandInterpreter interpreter{desk, {"ONE=1"}};
-  ControlSocket controlSocket = ControlSocket::At(path);
-  ControlServer server{controlSocket.Listener(), interpreter};
+  TemporaryFolder folder_;
+  const std::string path_ = folder_ / "control.sock";
+  RecordingFrontEnd frontEnd_;
+  Desk desk_{frontEnd_};
+  CommandInterpreter interpreter_{desk_, {"ONE=1"}};
+  ControlSocket controlSocket_ = ControlSocket::At(path_);
+  ControlServer server_{controlSocket_.Listener(), interpreter_};
 };
 
 TEST_F(ControlProtocol, AnswersLinesThenOk) {
-  const Descriptor raw = ConnectUnixSocket(path);
+  const Descriptor raw = ConnectUnixSocket(path_);
   SendRaw(raw, "environment\nplug\n");
   shutdown(raw.Get(), SHUT_WR);
   EXPECT_EQ(ReceiveAll(raw), "ONE=1\nok\n1\nok\n");
 }
 
 TEST_F(ControlProtocol, AnswersErrorWithItsText) {
-  const Descriptor raw = ConnectUnixSocket(path);
+  const Descriptor raw = ConnectUnixSocket(path_);
   SendRaw(raw, "unplug 1\n");
   shutdown(raw.Get(), SHUT_WR);
   EXPECT_EQ(ReceiveAll(raw), "error there is no unit 1; `units` lists them\n");
 }
 
 TEST_F(ControlProtocol, ClientGetsLinesOrTheRefusal) {
-  ControlClient client(path);
+  ControlClient client(path_);
   EXPECT_EQ(client.Ask("plug"), Lines{"1"});
   EXPECT_EQ(client.Ask("units"),
             Lines{"1  TRX-SELVA " + VendorId() + ":001f  plugged 001/002  faults none"});
@@ -81,43 +81,43 @@ TEST_F(ControlProtocol, ClientGetsLinesOrTheRefusal) {
 }
 
 TEST_F(ControlProtocol, ClientRefusesACommandOfTwoLines) {
-  ControlClient client(path);
+  ControlClient client(path_);
   EXPECT_THROW(client.Ask("plug\nplug"), CommandRefused);
-  EXPECT_TRUE(desk.Units().empty());
+  EXPECT_TRUE(desk_.Units().empty());
 }
 
 TEST_F(ControlProtocol, ServesManyClientsAtOnce) {
   std::vector<std::thread> clients;
   for (int count = 0; count < 8; ++count) {
     clients.emplace_back([this] {
-      ControlClient client(path);
+      ControlClient client(path_);
       for (int round = 0; round < 20; ++round) client.Ask("plug");
     });
   }
   for (std::thread &client : clients) client.join();
-  EXPECT_EQ(desk.Units().size(), 160u);
+  EXPECT_EQ(desk_.Units().size(), 160u);
 }
 
 TEST_F(ControlProtocol, LongReplyReachesASlowReaderWhole) {
-  desk.Plug();
-  for (int count = 0; count < 20'000; ++count) desk.Transfer(1, {0xC0, 0, 0, 0x8002, 5});
-  ControlClient slow(path);
-  const Descriptor unread = ConnectUnixSocket(path);
+  desk_.Plug();
+  for (int count = 0; count < 20'000; ++count) desk_.Transfer(1, {0xC0, 0, 0, 0x8002, 5});
+  ControlClient slow(path_);
+  const Descriptor unread = ConnectUnixSocket(path_);
   SendRaw(unread, "log\n");
   EXPECT_EQ(slow.Ask("log").size(), 20'000u);
 }
 
 TEST_F(ControlProtocol, OverlongLineIsAnsweredAndTheConnectionClosed) {
-  const Descriptor raw = ConnectUnixSocket(path);
+  const Descriptor raw = ConnectUnixSocket(path_);
   SendRaw(raw, std::string(100'000, 'x'));
   EXPECT_EQ(ReceiveAll(raw), "error the line is too long; a command has at most 4096 characters\n");
-  EXPECT_EQ(ControlClient(path).Ask("environment"), Lines{"ONE=1"});
+  EXPECT_EQ(ControlClient(path_).Ask("environment"), Lines{"ONE=1"});
 }
 
 TEST_F(ControlProtocol, BinaryRubbishIsRefusedLineByLine) {
   std::string rubbish;
   for (int value = 0; value < 256; ++value) rubbish += static_cast<char>(value);
-  const Descriptor raw = ConnectUnixSocket(path);
+  const Descriptor raw = ConnectUnixSocket(path_);
   SendRaw(raw, rubbish + "\nenvironment\n");
   shutdown(raw.Get(), SHUT_WR);
   const std::string answer = ReceiveAll(raw);
@@ -126,19 +126,19 @@ TEST_F(ControlProtocol, BinaryRubbishIsRefusedLineByLine) {
 }
 
 TEST_F(ControlProtocol, ClientThatLeavesInMidLineDoesNoHarm) {
-  { SendRaw(ConnectUnixSocket(path), "unplu"); }
-  { SendRaw(ConnectUnixSocket(path), "log\nlog\nlog\n"); }
-  EXPECT_EQ(ControlClient(path).Ask("environment"), Lines{"ONE=1"});
+  { SendRaw(ConnectUnixSocket(path_), "unplu"); }
+  { SendRaw(ConnectUnixSocket(path_), "log\nlog\nlog\n"); }
+  EXPECT_EQ(ControlClient(path_).Ask("environment"), Lines{"ONE=1"});
 }
 
 TEST_F(ControlProtocol, SecondSimulatorIsKeptOffALiveSocket) {
   try {
-    ControlSocket::At(path);
+    ControlSocket::At(path_);
     FAIL() << "took the socket of a live simulator";
   } catch (const ControlSocketError &error) {
-    EXPECT_EQ(error.what(), "another simulator listens at " + path);
+    EXPECT_EQ(error.what(), "another simulator listens at " + path_);
   }
-  EXPECT_EQ(ControlClient(path).Ask("environment"), Lines{"ONE=1"});
+  EXPECT_EQ(ControlClient(path_).Ask("environment"), Lines{"ONE=1"});
 }
 
 TEST(ControlSocketFile, OfADeadSimulatorIsTakenOver) {
@@ -188,52 +188,52 @@ TEST(ControlSocketFile, WithAPathThatCannotBeIsRefused) {
 /// The simulator's answer to "environment", checked by a client.
 class SimulatorAnswers : public testing::Test {
  protected:
-  SimulatorAnswers() { std::filesystem::create_directory(testbed); }
+  SimulatorAnswers() { std::filesystem::create_directory(testbed_); }
 
   std::string Refusal(const Environment &answer) {
     try {
-      RequireExpectedEnvironment(answer, socket.Path());
+      RequireExpectedEnvironment(answer, socket_.Path());
       return {};
     } catch (const SimulatorNotTrusted &refusal) {
       return refusal.what();
     }
   }
 
-  TemporaryFolder folder;
-  const std::string testbed = folder / "testbed";
-  ControlSocket socket = ControlSocket::At(folder / "control.sock");
-  const std::string from = "the simulator at " + socket.Path() + " gives ";
+  TemporaryFolder folder_;
+  const std::string testbed_ = folder_ / "testbed";
+  ControlSocket socket_ = ControlSocket::At(folder_ / "control.sock");
+  const std::string from_ = "the simulator at " + socket_.Path() + " gives ";
 };
 
 TEST_F(SimulatorAnswers, AreTakenWhenTheyAreASimulators) {
-  EXPECT_EQ(Refusal(SimulatedEnvironment(testbed, socket.Path())), "");
-  EXPECT_EQ(Refusal({ControlEntry(socket.Path())}), "");
+  EXPECT_EQ(Refusal(SimulatedEnvironment(testbed_, socket_.Path())), "");
+  EXPECT_EQ(Refusal({ControlEntry(socket_.Path())}), "");
 }
 
 TEST_F(SimulatorAnswers, AreRefusedWithAnyOtherVariable) {
   for (const char *entry : {"PATH=/tmp", "LD_AUDIT=/tmp/x.so", "LD_PRELOAD2=x", "LD_PRELOAD", "",
                             "=", "ld_preload=x", "UMOCKDEV_DI=/", "\x1b[2J=1"}) {
-    EXPECT_EQ(Refusal({entry}), from + "a variable that programs do not need") << entry;
+    EXPECT_EQ(Refusal({entry}), from_ + "a variable that programs do not need") << entry;
   }
 }
 
 TEST_F(SimulatorAnswers, AreRefusedWithAnyOtherValue) {
-  std::filesystem::create_directory(folder / "shared");
-  std::filesystem::permissions(folder / "shared", std::filesystem::perms::all);
-  std::filesystem::create_directory_symlink(testbed, folder / "link");
+  std::filesystem::create_directory(folder_ / "shared");
+  std::filesystem::permissions(folder_ / "shared", std::filesystem::perms::all);
+  std::filesystem::create_directory_symlink(testbed_, folder_ / "link");
   const std::string expected = GuardPath() + ":libumockdev-preload.so.0";
   const std::pair<std::string, Lines> values[] = {
       {"LD_PRELOAD",
        {"", "/tmp/x.so", GuardPath(), expected + ":/tmp/x.so", "/tmp/x.so:" + expected}},
       {"UMOCKDEV_DIR",
-       {"", "testbed", folder / "none", folder / "shared", folder / "link",
-        folder / "control.sock"}},
-      {"TRX_MIXER_SIM_CONTROL", {"", "control.sock", folder / "none.sock", testbed}},
+       {"", "testbed", folder_ / "none", folder_ / "shared", folder_ / "link",
+        folder_ / "control.sock"}},
+      {"TRX_MIXER_SIM_CONTROL", {"", "control.sock", folder_ / "none.sock", testbed_}},
       {"ASAN_OPTIONS", {"", "log_path=/tmp/x", "verify_asan_link_order=0:log_path=/tmp/x"}}};
   for (const auto &[name, bad] : values) {
     for (const std::string &value : bad) {
-      EXPECT_EQ(Refusal({ControlEntry(socket.Path()), name + '=' + value}),
-                from + "an unexpected value for " + name +
+      EXPECT_EQ(Refusal({ControlEntry(socket_.Path()), name + '=' + value}),
+                from_ + "an unexpected value for " + name +
                     "; use the trx-mixer-ctl of the same installation")
           << value;
     }

@@ -12,68 +12,68 @@ constexpr const char *kOpenSecond = "open /dev/bus/usb/001/003";
 /// A run whose client has none of root's privileges, whoever runs the tests.
 class OpenFault : public testing::Test {
  protected:
-  void SetUp() override { ASSERT_EQ(run.Client().Ask("drop-capabilities"), "dropped"); }
+  void SetUp() override { ASSERT_EQ(run_.Client().Ask("drop-capabilities"), "dropped"); }
 
-  SimulatorRun run{2};
+  SimulatorRun run_{2};
 };
 
 TEST_F(OpenFault, RefuseFailsForEverybody) {
-  run.Control("fault 1 refuse");
-  EXPECT_EQ(run.Client().Ask(kOpenFirst), "ENXIO");
-  Program asWhoeverRunsTheTests(run.FurtherClient(), run.folder);
+  run_.Control("fault 1 refuse");
+  EXPECT_EQ(run_.Client().Ask(kOpenFirst), "ENXIO");
+  Program asWhoeverRunsTheTests(run_.FurtherClient(), run_.folder);
   EXPECT_EQ(asWhoeverRunsTheTests.Ask(kOpenFirst), "ENXIO");
 }
 
 TEST_F(OpenFault, DenyIsAMissingPermission) {
-  run.Control("fault 1 deny");
-  EXPECT_EQ(run.Client().Ask(kOpenFirst), "EACCES");
+  run_.Control("fault 1 deny");
+  EXPECT_EQ(run_.Client().Ask(kOpenFirst), "EACCES");
 }
 
 TEST_F(OpenFault, HoldIsABusyDevice) {
-  run.Control("fault 1 hold");
-  EXPECT_EQ(run.Client().Ask(kOpenFirst), "EBUSY");
+  run_.Control("fault 1 hold");
+  EXPECT_EQ(run_.Client().Ask(kOpenFirst), "EBUSY");
 }
 
 TEST_F(OpenFault, LeavesTheUnitOnTheBusAndTheOthersAlone) {
   for (const char *fault : {"refuse", "deny", "hold"}) {
-    run.Control(std::string("fault 1 ") + fault);
-    EXPECT_EQ(run.Client().Ask("list"), "1-1=001/002 1-2=001/003 usb1=001/001");
-    const std::string handle = run.Client().Ask(kOpenSecond);
-    EXPECT_EQ(run.Client().Ask("control " + handle + " c0 0 0 8001 2 1000"), "2 00 01");
-    EXPECT_EQ(run.Client().Ask("close " + handle), "closed");
+    run_.Control(std::string("fault 1 ") + fault);
+    EXPECT_EQ(run_.Client().Ask("list"), "1-1=001/002 1-2=001/003 usb1=001/001");
+    const std::string handle = run_.Client().Ask(kOpenSecond);
+    EXPECT_EQ(run_.Client().Ask("control " + handle + " c0 0 0 8001 2 1000"), "2 00 01");
+    EXPECT_EQ(run_.Client().Ask("close " + handle), "closed");
   }
 }
 
 TEST_F(OpenFault, EndsWithClear) {
   for (const char *fault : {"refuse", "deny", "hold"}) {
-    run.Control(std::string("fault 1 ") + fault);
-    run.Control("clear 1");
-    const std::string handle = run.Client().Ask(kOpenFirst);
-    EXPECT_EQ(run.Client().Ask("control " + handle + " c0 0 0 8001 2 1000"), "2 00 01") << fault;
-    EXPECT_EQ(run.Client().Ask("close " + handle), "closed");
+    run_.Control(std::string("fault 1 ") + fault);
+    run_.Control("clear 1");
+    const std::string handle = run_.Client().Ask(kOpenFirst);
+    EXPECT_EQ(run_.Client().Ask("control " + handle + " c0 0 0 8001 2 1000"), "2 00 01") << fault;
+    EXPECT_EQ(run_.Client().Ask("close " + handle), "closed");
   }
 }
 
 TEST_F(OpenFault, LeavesHandlesThatAreOpenAlone) {
-  const std::string handle = run.Client().Ask(kOpenFirst);
-  run.Control("fault 1 refuse");
-  EXPECT_EQ(run.Client().Ask("control " + handle + " c0 0 0 8001 2 1000"), "2 00 01");
+  const std::string handle = run_.Client().Ask(kOpenFirst);
+  run_.Control("fault 1 refuse");
+  EXPECT_EQ(run_.Client().Ask("control " + handle + " c0 0 0 8001 2 1000"), "2 00 01");
 }
 
 TEST_F(OpenFault, StaysOverReplug) {
-  run.Control("fault 1 refuse");
-  run.Control("unplug 1");
-  run.Control("replug 1");
-  EXPECT_EQ(run.Client().Ask("open /dev/bus/usb/001/004"), "ENXIO");
+  run_.Control("fault 1 refuse");
+  run_.Control("unplug 1");
+  run_.Control("replug 1");
+  EXPECT_EQ(run_.Client().Ask("open /dev/bus/usb/001/004"), "ENXIO");
 }
 
 TEST_F(OpenFault, MayBeMetAnyNumberOfTimesByOneProcess) {
   for (const char *fault : {"refuse", "deny", "hold"}) {
-    run.Control(std::string("fault 1 ") + fault);
-    EXPECT_EQ(run.Client().Ask("open-often 200 /dev/bus/usb/001/002"), "200") << fault;
+    run_.Control(std::string("fault 1 ") + fault);
+    EXPECT_EQ(run_.Client().Ask("open-often 200 /dev/bus/usb/001/002"), "200") << fault;
   }
-  EXPECT_EQ(run.Client().Ask("open-often 200 /dev/bus/usb/001/099"), "200");
-  EXPECT_EQ(run.Client().Ask("open-often 200 /dev/bus/usb/001/003"), "0");
+  EXPECT_EQ(run_.Client().Ask("open-often 200 /dev/bus/usb/001/099"), "200");
+  EXPECT_EQ(run_.Client().Ask("open-often 200 /dev/bus/usb/001/003"), "0");
 }
 
 }  // namespace

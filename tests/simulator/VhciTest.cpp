@@ -47,24 +47,24 @@ std::vector<std::string> Texts(const std::vector<VhciPort> &ports) {
 class Vhci : public testing::Test {
  protected:
   Vhci() {
-    Write(kFirst + "/attach", "");
-    Write(kFirst + "/detach", "");
-    Write(kFirst + "/status", kStatus);
-    Write(kFirst + "/status.1", kSecondStatus);
-    Write(kFirst + "/usb3/speed", "480\n");
-    Write(kFirst + "/usb4/speed", "5000\n");
-    Write(kSecond + "/usb6/speed", "5000\n");
-    Write(kSecond + "/usb5/speed", "480\n");
+    Write(first_ + "/attach", "");
+    Write(first_ + "/detach", "");
+    Write(first_ + "/status", kStatus);
+    Write(first_ + "/status.1", kSecondStatus);
+    Write(first_ + "/usb3/speed", "480\n");
+    Write(first_ + "/usb4/speed", "5000\n");
+    Write(second_ + "/usb6/speed", "5000\n");
+    Write(second_ + "/usb5/speed", "480\n");
   }
 
   void Write(const std::string &path, const std::string &text) const {
-    fs::create_directories(fs::path(root / path).parent_path());
-    std::ofstream(root / path) << text;
+    fs::create_directories(fs::path(root_ / path).parent_path());
+    std::ofstream(root_ / path) << text;
   }
 
   std::string Read(const std::string &path) const {
     std::stringstream text;
-    text << std::ifstream(root / path).rdbuf();
+    text << std::ifstream(root_ / path).rdbuf();
     return text.str();
   }
 
@@ -74,9 +74,9 @@ class Vhci : public testing::Test {
     Write("sys/bus/usb/devices/" + name + "/devnum", device + '\n');
   }
 
-  const std::string kFirst = "sys/devices/platform/vhci_hcd.0";
-  const std::string kSecond = "sys/devices/platform/vhci_hcd.1";
-  TemporaryFolder root;
+  const std::string first_ = "sys/devices/platform/vhci_hcd.0";
+  const std::string second_ = "sys/devices/platform/vhci_hcd.1";
+  TemporaryFolder root_;
 };
 
 TEST(VhciStatus, ListsTheHighSpeedPorts) {
@@ -92,26 +92,26 @@ TEST(VhciStatus, PassesOverWhatItDoesNotKnow) {
 }
 
 TEST_F(Vhci, PortsOfAllControllersComeInTheOrderOfTheirBuses) {
-  EXPECT_EQ(Texts(VhciController(root.Path()).Ports()),
+  EXPECT_EQ(Texts(VhciController(root_.Path()).Ports()),
             (std::vector<std::string>{"0 = 0-1 taken", "1 = 0-2 free", "2 = 0-3 taken",
                                       "3 = 0-4 free", "8 = 1-1 taken", "9 = 1-2 free"}));
 }
 
 TEST_F(Vhci, AttachTakesTheFirstFreePortAtHighSpeed) {
-  const VhciController vhci(root.Path());
+  const VhciController vhci(root_.Path());
   EXPECT_EQ(PortText(vhci.Attach(17, 0x00010002)), "1 = 0-2 free");
-  EXPECT_EQ(Read(kFirst + "/attach"), "1 17 65538 3");
+  EXPECT_EQ(Read(first_ + "/attach"), "1 17 65538 3");
 }
 
 TEST_F(Vhci, AttachGoesOnToTheNextController) {
-  Write(kFirst + "/status", "hs  0000 006 003 00010001 000003 3-1\n");
-  EXPECT_EQ(PortText(VhciController(root.Path()).Attach(17, 1)), "9 = 1-2 free");
+  Write(first_ + "/status", "hs  0000 006 003 00010001 000003 3-1\n");
+  EXPECT_EQ(PortText(VhciController(root_.Path()).Attach(17, 1)), "9 = 1-2 free");
 }
 
 TEST_F(Vhci, AttachSaysWhenNoPortIsFree) {
-  Write(kFirst + "/status", "hs  0000 006 003 00010001 000003 3-1\n");
-  Write(kFirst + "/status.1", "hs  0008 006 003 00010001 000003 3-1\n");
-  const VhciController vhci(root.Path());
+  Write(first_ + "/status", "hs  0000 006 003 00010001 000003 3-1\n");
+  Write(first_ + "/status.1", "hs  0008 006 003 00010001 000003 3-1\n");
+  const VhciController vhci(root_.Path());
   try {
     vhci.Attach(17, 1);
     FAIL() << "found a port";
@@ -120,16 +120,16 @@ TEST_F(Vhci, AttachSaysWhenNoPortIsFree) {
         error.what(),
         "all 2 ports of the virtual USB host controllers are taken; `unplug` a unit first");
   }
-  EXPECT_EQ(Read(kFirst + "/attach"), "");
+  EXPECT_EQ(Read(first_ + "/attach"), "");
 }
 
 TEST_F(Vhci, DetachNamesThePort) {
-  VhciController(root.Path()).Detach({9, 1, 2, false});
-  EXPECT_EQ(Read(kFirst + "/detach"), "9");
+  VhciController(root_.Path()).Detach({9, 1, 2, false});
+  EXPECT_EQ(Read(first_ + "/detach"), "9");
 }
 
 TEST_F(Vhci, AddressIsThatOfTheDeviceAtTheHighSpeedHub) {
-  const VhciController vhci(root.Path());
+  const VhciController vhci(root_.Path());
   const VhciPort port{9, 1, 2, false};
   ShowDevice("6-2", "6", "2");
   EXPECT_FALSE(vhci.AddressAt(port));
@@ -140,21 +140,21 @@ TEST_F(Vhci, AddressIsThatOfTheDeviceAtTheHighSpeedHub) {
 }
 
 TEST_F(Vhci, TracesOfADeviceAreThereUntilItsEntryInTheListIsGone) {
-  const VhciController vhci(root.Path());
+  const VhciController vhci(root_.Path());
   const VhciPort port{9, 1, 2, false};
   EXPECT_FALSE(vhci.HasTracesOf({5, 14}, port));
   ShowDevice("5-2", "5", "14");
   EXPECT_TRUE(vhci.HasTracesOf({5, 14}, port)) << "the node is gone, the rest is not";
   EXPECT_FALSE(vhci.HasTracesOf({5, 13}, port)) << "another device has taken the port";
-  fs::remove(root / "sys/bus/usb/devices/5-2/devnum");
+  fs::remove(root_ / "sys/bus/usb/devices/5-2/devnum");
   EXPECT_TRUE(vhci.HasTracesOf({5, 14}, port)) << "a folder without its numbers";
-  fs::remove_all(root / "sys/bus/usb/devices/5-2");
+  fs::remove_all(root_ / "sys/bus/usb/devices/5-2");
   EXPECT_FALSE(vhci.HasTracesOf({5, 14}, port));
 }
 
 TEST_F(Vhci, DeniedNodeIsGivenBackAsTheSystemMadeIt) {
   Write("dev/bus/usb/005/014", "");
-  const fs::path path = root / "dev/bus/usb/005/014";
+  const fs::path path = root_ / "dev/bus/usb/005/014";
   const auto permissions = [&path] { return static_cast<int>(fs::status(path).permissions()); };
   fs::permissions(path, static_cast<fs::perms>(0664));
   {
@@ -172,14 +172,14 @@ TEST_F(Vhci, DeniedNodeIsGivenBackAsTheSystemMadeIt) {
 
 TEST_F(Vhci, NodeThatIsGoneNeedsNothingBack) {
   Write("dev/bus/usb/005/014", "");
-  DeviceNode node(root / "dev/bus/usb/005/014");
+  DeviceNode node(root_ / "dev/bus/usb/005/014");
   node.Set(OpenFault::kDeny);
-  fs::remove(root / "dev/bus/usb/005/014");
+  fs::remove(root_ / "dev/bus/usb/005/014");
   EXPECT_NO_THROW(node.Set(OpenFault::kNone));
 }
 
 TEST_F(Vhci, WithoutControllersSaysWhatToDo) {
-  if (geteuid() == 0) setenv("PATH", root.Path().c_str(), 1);  // no modprobe is to be found
+  if (geteuid() == 0) setenv("PATH", root_.Path().c_str(), 1);  // no modprobe is to be found
   const TemporaryFolder empty;
   try {
     const VhciController vhci(empty.Path());

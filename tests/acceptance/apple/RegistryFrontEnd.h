@@ -33,7 +33,7 @@ class RegistryFrontEnd : public trxsim::FrontEnd {
   void SetOpenFault(int number, trxsim::OpenFault fault) override;
 
   /// Passes the hosts' requests to the desk.
-  trxsim::RequestGate &requests() { return requests_; }
+  trxsim::RequestGate &Requests() { return requests_; }
 
  private:
   struct Plugged {

@@ -31,13 +31,13 @@ int Run(int argc, char **argv) {
   const trxsim::ControlSocket socket = trxsim::ControlSocket::At(control);
   trxtest::RegistryFrontEnd frontEnd(registry);
   trxsim::Desk desk(frontEnd);
-  frontEnd.requests().Open(desk);
+  frontEnd.Requests().Open(desk);
   for (int unit = 0; unit < units; ++unit) desk.Plug();
   const trxsim::Environment additions = {std::string(trxtest::kRegistryVariable) + '=' + registry};
   trxsim::CommandInterpreter interpreter(desk, additions);
   const trxsim::ControlServer server(socket.Listener(), interpreter);
   const int result = trxsim::RunCommand(command, trxsim::EnvironmentWith(additions));
-  frontEnd.requests().Close();
+  frontEnd.Requests().Close();
   return result;
 }
 

@@ -22,7 +22,7 @@ constexpr auto kHeld = static_cast<IOReturn>(0xE00002C5);
 class ConnectedUnits : public IOKitTest {
  protected:
   ConnectedUnits() {
-    devices().SetScript([this](int device, const IOUSBDevRequest &) {
+    devices_.SetScript([this](int device, const IOUSBDevRequest &) {
       reached_.push_back(device);
       return TransferAnswer();
     });
@@ -35,7 +35,7 @@ class ConnectedUnits : public IOKitTest {
     return reached_;
   }
 
-  std::int32_t counted() const { return counted_; }
+  std::int32_t Counted() const { return counted_; }
 
  private:
   std::vector<int> reached_;
@@ -43,7 +43,7 @@ class ConnectedUnits : public IOKitTest {
 };
 
 TEST_F(ConnectedUnits, OneIsCountedOpenedAskedAndClosed) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   EXPECT_THAT(Reached(), ElementsAre(1));
   EXPECT_EQ(
       IOKitDouble::TakeCalls(),
@@ -65,37 +65,37 @@ TEST_F(ConnectedUnits, OneIsCountedOpenedAskedAndClosed) {
 }
 
 TEST_F(ConnectedUnits, AllAreReachedInTheOrderOfTheRegistry) {
-  devices().PlugMixer();
-  devices().PlugUnrelated();
-  devices().PlugMixer();
-  devices().PlugMixer();
+  devices_.PlugMixer();
+  devices_.PlugUnrelated();
+  devices_.PlugMixer();
+  devices_.PlugMixer();
   EXPECT_THAT(Reached(), ElementsAre(1, 3, 4));
-  EXPECT_EQ(counted(), 3);
+  EXPECT_EQ(Counted(), 3);
   // Behind the first mixer three interfaces are left, behind the second one.
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2, .interfaces = 4}));
 }
 
 TEST_F(ConnectedUnits, NoneIsReachedWhenThereIsNone) {
-  devices().PlugOtherProductOfTheMaker();
+  devices_.PlugOtherProductOfTheMaker();
   EXPECT_THAT(Reached(), IsEmpty());
-  EXPECT_EQ(counted(), 0);
+  EXPECT_EQ(Counted(), 0);
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2}));
 }
 
 TEST_F(ConnectedUnits, OneThatRefusesRequestsIsClosedAllTheSame) {
-  devices().PlugMixer();
-  devices().SetScript(
+  devices_.PlugMixer();
+  devices_.SetScript(
       [](int, const IOUSBDevRequest &) { return TransferAnswer{.status = kIOUSBPipeStalled}; });
   EXPECT_THAT(Reached(), IsEmpty());
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2}));
 }
 
 TEST_F(ConnectedUnits, OneWithoutAPlugInIsSkipped) {
-  devices().PlugMixer();
-  devices().SetFaults(devices().PlugMixer(), {.plugIn = kHeld});
-  devices().PlugMixer();
+  devices_.PlugMixer();
+  devices_.SetFaults(devices_.PlugMixer(), {.plugIn = kHeld});
+  devices_.PlugMixer();
   EXPECT_THAT(Reached(), ElementsAre(1, 3));
-  EXPECT_EQ(counted(), 3);
+  EXPECT_EQ(Counted(), 3);
 }
 
 struct Status {
@@ -108,12 +108,11 @@ class ConnectedUnitsBeforeAFailingDevice : public ConnectedUnits,
                                            public testing::WithParamInterface<Status> {};
 
 TEST_P(ConnectedUnitsBeforeAFailingDevice, AreSkippedAndNotClosed) {
-  devices().PlugMixer();
-  devices().PlugMixer();
-  devices().SetFaults(devices().PlugUnrelated(),
-                      {.plugIn = static_cast<IOReturn>(GetParam().value)});
+  devices_.PlugMixer();
+  devices_.PlugMixer();
+  devices_.SetFaults(devices_.PlugUnrelated(), {.plugIn = static_cast<IOReturn>(GetParam().value)});
   EXPECT_THAT(Reached(), IsEmpty());
-  EXPECT_EQ(counted(), 2);
+  EXPECT_EQ(Counted(), 2);
   for (const std::string &line : IOKitDouble::TakeCalls()) {
     EXPECT_THAT(line, testing::Not(testing::HasSubstr("USBDeviceClose")));
   }
@@ -127,13 +126,13 @@ INSTANTIATE_TEST_SUITE_P(Each, ConnectedUnitsBeforeAFailingDevice,
                          NameOf<Status>);
 
 TEST_F(ConnectedUnits, OneUnpluggedSinceTheCountIsSkipped) {
-  devices().PlugMixer();
-  devices().PlugMixer();
-  devices().PlugMixer();
+  devices_.PlugMixer();
+  devices_.PlugMixer();
+  devices_.PlugMixer();
   std::vector<int> reached;
-  devices().SetScript([&](int device, const IOUSBDevRequest &) {
+  devices_.SetScript([&](int device, const IOUSBDevRequest &) {
     reached.push_back(device);
-    devices().Unplug(2);
+    devices_.Unplug(2);
     return TransferAnswer();
   });
   EXPECT_EQ(ApplyToEveryUnit(11, orv::SetMidiChannelSetting, 0).Count(), 3);
@@ -141,10 +140,10 @@ TEST_F(ConnectedUnits, OneUnpluggedSinceTheCountIsSkipped) {
 }
 
 TEST_F(ConnectedUnits, AreReachedFromTwoThreadsAtOnce) {
-  devices().PlugMixer();
-  devices().PlugMixer();
+  devices_.PlugMixer();
+  devices_.PlugMixer();
   std::atomic<int> requests = 0;
-  devices().SetScript([&](int, const IOUSBDevRequest &) {
+  devices_.SetScript([&](int, const IOUSBDevRequest &) {
     ++requests;
     return TransferAnswer();
   });

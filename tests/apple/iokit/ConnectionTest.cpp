@@ -10,21 +10,21 @@ namespace {
 class Connection : public IOKitTest {};
 
 TEST_F(Connection, IsThereWithAMixer) {
-  devices().PlugUnrelated();
-  devices().PlugMixer();
-  devices().PlugMixer();
+  devices_.PlugUnrelated();
+  devices_.PlugMixer();
+  devices_.PlugMixer();
   EXPECT_EQ(ORV_IsUSBConnection(kSelva), kConnected);
 }
 
 TEST_F(Connection, IsNotThereWithStrangersOnly) {
-  devices().PlugUnrelated();
-  devices().PlugOtherProductOfTheMaker();
-  devices().PlugOtherMakerWithTheSameProduct();
+  devices_.PlugUnrelated();
+  devices_.PlugOtherProductOfTheMaker();
+  devices_.PlugOtherMakerWithTheSameProduct();
   EXPECT_EQ(ORV_IsUSBConnection(kSelva), kNotConnected);
 }
 
 TEST_F(Connection, IsNotThereWhenTheRegistryCannotBeAsked) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOKitDouble::SetFaults({.services = kIOReturnError});
   EXPECT_EQ(ORV_IsUSBConnection(kSelva), kNotConnected);
 }
@@ -33,7 +33,7 @@ TEST_F(Connection, IsTheSameForEveryModel) {
   for (const ProductId model : {kArden, kFenno, 7U, kSelva, 12U, 0xFFFFFFFFU}) {
     EXPECT_EQ(ORV_IsUSBConnection(model), kNotConnected) << model;
   }
-  devices().PlugMixer();
+  devices_.PlugMixer();
   for (const ProductId model : {kArden, kFenno, 7U, kSelva, 12U, 0xFFFFFFFFU}) {
     EXPECT_EQ(ORV_IsUSBConnection(model), kConnected) << model;
   }

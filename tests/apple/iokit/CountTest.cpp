@@ -33,7 +33,7 @@ TEST_F(Count, OfNoDeviceAtAll) {
 }
 
 TEST_F(Count, OfOneMixer) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   EXPECT_EQ(CountMixers(11), 1);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({{MasterPortGiven()},
@@ -43,12 +43,12 @@ TEST_F(Count, OfOneMixer) {
 }
 
 TEST_F(Count, OfThreeMixersWithStrangersBetween) {
-  devices().PlugUnrelated();
-  devices().PlugMixer();
-  devices().PlugOtherProductOfTheMaker();
-  devices().PlugMixer();
-  devices().PlugOtherMakerWithTheSameProduct();
-  devices().PlugMixer();
+  devices_.PlugUnrelated();
+  devices_.PlugMixer();
+  devices_.PlugOtherProductOfTheMaker();
+  devices_.PlugMixer();
+  devices_.PlugOtherMakerWithTheSameProduct();
+  devices_.PlugMixer();
   EXPECT_EQ(CountMixers(11), 3);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({{MasterPortGiven()},
@@ -60,26 +60,26 @@ TEST_F(Count, OfThreeMixersWithStrangersBetween) {
 }
 
 TEST_F(Count, DoesNotCountStrangers) {
-  devices().PlugUnrelated();
-  devices().PlugOtherProductOfTheMaker();
-  devices().PlugOtherMakerWithTheSameProduct();
+  devices_.PlugUnrelated();
+  devices_.PlugOtherProductOfTheMaker();
+  devices_.PlugOtherMakerWithTheSameProduct();
   EXPECT_EQ(CountMixers(11), 0);
 }
 
 TEST_F(Count, IsTheSameForEveryModel) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   for (const ProductId model : {0U, 1U, 2U, 7U, 11U, 12U, 0xFFFFFFFFU}) {
     EXPECT_EQ(CountMixers(model), 1) << model;
   }
 }
 
 TEST_F(Count, CountsMixersThatCannotBeOpenedToo) {
-  devices().SetFaults(devices().PlugMixer(), {.plugIn = kIOReturnExclusiveAccess});
+  devices_.SetFaults(devices_.PlugMixer(), {.plugIn = kIOReturnExclusiveAccess});
   EXPECT_EQ(CountMixers(11), 1);
 }
 
 TEST_F(Count, DoesNotMindAFailingMasterPort) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOKitDouble::SetFaults({.masterPort = kIOReturnNoResources});
   EXPECT_EQ(CountMixers(11), 1);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
@@ -90,7 +90,7 @@ TEST_F(Count, DoesNotMindAFailingMasterPort) {
 }
 
 TEST_F(Count, IsZeroWithoutADictionary) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOKitDouble::SetFaults({.noDictionary = true});
   EXPECT_EQ(CountMixers(11), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
@@ -99,7 +99,7 @@ TEST_F(Count, IsZeroWithoutADictionary) {
 }
 
 TEST_F(Count, IsZeroWhenTheRegistryCannotBeAsked) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOKitDouble::SetFaults({.services = kIOReturnError});
   EXPECT_EQ(CountMixers(11), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
@@ -108,7 +108,7 @@ TEST_F(Count, IsZeroWhenTheRegistryCannotBeAsked) {
 }
 
 TEST_F(Count, IsZeroWithoutAnIterator) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOKitDouble::SetFaults({.noIterator = true});
   EXPECT_EQ(CountMixers(11), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
@@ -117,8 +117,8 @@ TEST_F(Count, IsZeroWithoutAnIterator) {
 }
 
 TEST_F(Count, LeavesThePortAndTheTwoNumbersAndNothingElse) {
-  devices().PlugMixer();
-  devices().PlugMixer();
+  devices_.PlugMixer();
+  devices_.PlugMixer();
   CountMixers(11);
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2}));
   CountMixers(11);

@@ -58,20 +58,20 @@ TEST_F(Double, ReplacesADemandOfTheSameName) {
 }
 
 TEST_F(Double, FindsNoDeviceOfAnotherClass) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   io_iterator_t iterator = IO_OBJECT_NULL;
   IOServiceGetMatchingServices(MACH_PORT_NULL, IOServiceMatching("IOUSBInterface"), &iterator);
   EXPECT_EQ(IOIteratorNext(iterator), IO_OBJECT_NULL);
 }
 
 TEST_F(Double, CountsWhatIsLeftOfAWalk) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOIteratorNext(Walk());
   EXPECT_EQ(IOKitDouble::Alive(), (References{.iterators = 1, .devices = 1}));
 }
 
 TEST_F(Double, CountsPlugInsAndInterfaces) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOCFPlugInInterface **const plugIn = PlugIn();
   LPVOID device = nullptr;
   (*plugIn)->QueryInterface(plugIn, CFUUIDGetUUIDBytes(kIOUSBDeviceInterfaceID), &device);
@@ -83,7 +83,7 @@ TEST_F(Double, CountsPlugInsAndInterfaces) {
 }
 
 TEST_F(Double, GivesNoInterfaceThatItDoesNotKnow) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOCFPlugInInterface **const plugIn = PlugIn();
   LPVOID device = nullptr;
   EXPECT_EQ((*plugIn)->QueryInterface(plugIn, CFUUIDGetUUIDBytes(kIOCFPlugInInterfaceID), &device),
@@ -92,7 +92,7 @@ TEST_F(Double, GivesNoInterfaceThatItDoesNotKnow) {
 }
 
 TEST_F(Double, ShowsTheOpeningOfADeviceInItsRecord) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOCFPlugInInterface **const plugIn = PlugIn();
   LPVOID given = nullptr;
   (*plugIn)->QueryInterface(plugIn, CFUUIDGetUUIDBytes(kIOUSBDeviceInterfaceID), &given);
@@ -118,7 +118,7 @@ TEST_F(Double, NoticesWhatIsReleasedTwice) {
 }
 
 TEST_F(Double, NoticesWhatIsUsedAfterItsEndOrForAnother) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOIteratorNext(IO_OBJECT_NULL);
   io_iterator_t iterator = IO_OBJECT_NULL;
   IOServiceGetMatchingServices(0x0903, IOServiceMatching("IOUSBDevice"), &iterator);
@@ -145,7 +145,7 @@ TEST_F(Double, NoticesAPlugInOfWhatIsNoDevice) {
 }
 
 TEST_F(Double, ShowsNoDeviceWithoutASource) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOKitDouble::Show(nullptr);
   EXPECT_EQ(IOIteratorNext(Walk()), IO_OBJECT_NULL);
 }

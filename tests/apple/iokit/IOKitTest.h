@@ -22,9 +22,6 @@ class IOKitTest : public testing::Test {
     IOKitDouble::Reset();
   }
 
-  ScriptedDevices &devices() { return devices_; }
-
- private:
   ScriptedDevices devices_;
 };
 

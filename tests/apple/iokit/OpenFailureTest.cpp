@@ -31,7 +31,7 @@ class OpenFailure : public IOKitTest {
 // --- In front of the walk ----------------------------------------------------------------------
 
 TEST_F(OpenFailure, OfTheMasterPortEndsItAtOnce) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOKitDouble::SetFaults({.masterPort = kNoResources});
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
@@ -46,7 +46,7 @@ TEST_F(OpenFailure, OfTheMasterPortEndsItAtOnce) {
 }
 
 TEST_F(OpenFailure, OfTheDictionaryGivesThePortBack) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOKitDouble::SetFaults({.noDictionary = true});
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
@@ -61,7 +61,7 @@ TEST_F(OpenFailure, OfTheDictionaryGivesThePortBack) {
 }
 
 TEST_F(OpenFailure, OfTheServicesGivesThePortBack) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOKitDouble::SetFaults({.services = kNoResources});
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
@@ -78,7 +78,7 @@ TEST_F(OpenFailure, OfTheServicesGivesThePortBack) {
 }
 
 TEST_F(OpenFailure, OfTheIteratorGivesThePortBack) {
-  devices().PlugMixer();
+  devices_.PlugMixer();
   IOKitDouble::SetFaults({.noIterator = true});
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
@@ -95,8 +95,8 @@ TEST_F(OpenFailure, OfTheIteratorGivesThePortBack) {
 // --- A plug-in that cannot be made -------------------------------------------------------------
 
 TEST_F(OpenFailure, OfAPlugInInFrontOfTheMixerIsForgotten) {
-  devices().SetFaults(devices().PlugUnrelated(), {.plugIn = kHeld});
-  devices().PlugMixer();
+  devices_.SetFaults(devices_.PlugUnrelated(), {.plugIn = kHeld});
+  devices_.PlugMixer();
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_NE(handle, nullptr);
@@ -107,8 +107,8 @@ TEST_F(OpenFailure, OfAPlugInInFrontOfTheMixerIsForgotten) {
 }
 
 TEST_F(OpenFailure, OfAPlugInBehindTheMixerIsWhatTheCallerIsTold) {
-  devices().PlugMixer();
-  devices().SetFaults(devices().PlugUnrelated(), {.plugIn = kHeld});
+  devices_.PlugMixer();
+  devices_.SetFaults(devices_.PlugUnrelated(), {.plugIn = kHeld});
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), kHeld);
   EXPECT_NE(handle, nullptr);
@@ -118,17 +118,17 @@ TEST_F(OpenFailure, OfAPlugInBehindTheMixerIsWhatTheCallerIsTold) {
 }
 
 TEST_F(OpenFailure, OfAPlugInIsForgottenWhenAnotherDeviceFollows) {
-  devices().PlugMixer();
-  devices().SetFaults(devices().PlugUnrelated(), {.plugIn = kHeld});
-  devices().PlugUnrelated();
+  devices_.PlugMixer();
+  devices_.SetFaults(devices_.PlugUnrelated(), {.plugIn = kHeld});
+  devices_.PlugUnrelated();
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_NE(handle, nullptr);
 }
 
 TEST_F(OpenFailure, OfAMixersOwnPlugInMovesTheMixersBehindItUp) {
-  devices().SetFaults(devices().PlugMixer(), {.plugIn = kHeld});
-  devices().PlugMixer();
+  devices_.SetFaults(devices_.PlugMixer(), {.plugIn = kHeld});
+  devices_.PlugMixer();
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
@@ -136,21 +136,21 @@ TEST_F(OpenFailure, OfAMixersOwnPlugInMovesTheMixersBehindItUp) {
 }
 
 TEST_F(OpenFailure, OfTheOnlyMixersPlugInIsTheGeneralError) {
-  devices().SetFaults(devices().PlugMixer(), {.plugIn = kHeld});
+  devices_.SetFaults(devices_.PlugMixer(), {.plugIn = kHeld});
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
   EXPECT_EQ(handle, nullptr);
 }
 
 TEST_F(OpenFailure, OfAPlugInShowsItsStatusToAHandleInUse) {
-  devices().SetFaults(devices().PlugMixer(), {.plugIn = kHeld});
+  devices_.SetFaults(devices_.PlugMixer(), {.plugIn = kHeld});
   DeviceHandle handle = InUse();
   EXPECT_EQ(openUSB(&handle, 0, {}), kHeld);
   EXPECT_EQ(handle, InUse());
 }
 
 TEST_F(OpenFailure, OfAPlugInThatSaysItWasMade) {
-  devices().SetFaults(devices().PlugMixer(), {.noPlugIn = true});
+  devices_.SetFaults(devices_.PlugMixer(), {.noPlugIn = true});
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
   EXPECT_EQ(IOKitDouble::TakeCalls(), Joined({WalkBegins(), Found("1"), WalkEnds()}));
@@ -160,8 +160,8 @@ TEST_F(OpenFailure, OfAPlugInThatSaysItWasMade) {
 // --- An interface that is not given ------------------------------------------------------------
 
 TEST_F(OpenFailure, OfTheInterfaceMakesTheDeviceNone) {
-  devices().SetFaults(devices().PlugMixer(), {.query = E_NOINTERFACE, .noInterface = true});
-  devices().PlugMixer();
+  devices_.SetFaults(devices_.PlugMixer(), {.query = E_NOINTERFACE, .noInterface = true});
+  devices_.PlugMixer();
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_EQ(
@@ -172,8 +172,8 @@ TEST_F(OpenFailure, OfTheInterfaceMakesTheDeviceNone) {
 }
 
 TEST_F(OpenFailure, OfTheInterfaceBehindTheMixerDoesNotCostTheMixer) {
-  devices().PlugMixer();
-  devices().SetFaults(devices().PlugUnrelated(), {.query = E_NOINTERFACE, .noInterface = true});
+  devices_.PlugMixer();
+  devices_.SetFaults(devices_.PlugUnrelated(), {.query = E_NOINTERFACE, .noInterface = true});
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_NE(handle, nullptr);
@@ -182,14 +182,14 @@ TEST_F(OpenFailure, OfTheInterfaceBehindTheMixerDoesNotCostTheMixer) {
 }
 
 TEST_F(OpenFailure, OfTheInterfaceAloneIsTheGeneralError) {
-  devices().SetFaults(devices().PlugMixer(), {.noInterface = true});
+  devices_.SetFaults(devices_.PlugMixer(), {.noInterface = true});
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
 
 TEST_F(OpenFailure, OfTheQueryDoesNotMatterWhenTheInterfaceIsGivenAllTheSame) {
-  devices().SetFaults(devices().PlugMixer(), {.query = E_NOINTERFACE});
+  devices_.SetFaults(devices_.PlugMixer(), {.query = E_NOINTERFACE});
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_NE(handle, nullptr);
@@ -231,8 +231,8 @@ class OpenFailureOfRead : public OpenFailure, public testing::WithParamInterface
 };
 
 TEST_P(OpenFailureOfRead, MakesAMixerNoneAndReleasesIt) {
-  devices().SetFaults(devices().PlugMixer(), GetParam().faults);
-  devices().PlugMixer();
+  devices_.SetFaults(devices_.PlugMixer(), GetParam().faults);
+  devices_.PlugMixer();
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(), Joined({WalkBegins(), Found("1"), Exchanged("1"), Asked("1"),
@@ -242,8 +242,8 @@ TEST_P(OpenFailureOfRead, MakesAMixerNoneAndReleasesIt) {
 }
 
 TEST_P(OpenFailureOfRead, BehindTheMixerIsWhatTheCallerIsTold) {
-  devices().PlugMixer();
-  devices().SetFaults(devices().PlugUnrelated(), GetParam().faults);
+  devices_.PlugMixer();
+  devices_.SetFaults(devices_.PlugUnrelated(), GetParam().faults);
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), kNoResources);
   EXPECT_NE(handle, nullptr);
@@ -253,7 +253,7 @@ TEST_P(OpenFailureOfRead, BehindTheMixerIsWhatTheCallerIsTold) {
 }
 
 TEST_P(OpenFailureOfRead, OfTheOnlyMixerIsTheGeneralError) {
-  devices().SetFaults(devices().PlugMixer(), GetParam().faults);
+  devices_.SetFaults(devices_.PlugMixer(), GetParam().faults);
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
   EXPECT_EQ(handle, nullptr);
@@ -266,23 +266,23 @@ INSTANTIATE_TEST_SUITE_P(Each, OpenFailureOfRead, testing::ValuesIn(kFailingRead
 // --- What Release answers ----------------------------------------------------------------------
 
 TEST_F(OpenFailure, OfNothingLeavesWhatTheLastReleaseAnswered) {
-  devices().SetFaults(devices().PlugUnrelated(), {.release = 7});
+  devices_.SetFaults(devices_.PlugUnrelated(), {.release = 7});
   DeviceHandle handle = InUse();
   EXPECT_EQ(openUSB(&handle, 0, {}), 7);
-  devices().SetFaults(1, {.release = 0xE00002C5});
+  devices_.SetFaults(1, {.release = 0xE00002C5});
   EXPECT_EQ(openUSB(&handle, 0, {}), kHeld);
   EXPECT_EQ(handle, InUse());
 }
 
 TEST_F(OpenFailure, OfAReadIsForgottenOverWhatReleaseAnswered) {
-  devices().SetFaults(devices().PlugUnrelated(), {.readClass = kNoResources, .release = 3});
+  devices_.SetFaults(devices_.PlugUnrelated(), {.readClass = kNoResources, .release = 3});
   DeviceHandle handle = InUse();
   EXPECT_EQ(openUSB(&handle, 0, {}), 3);
 }
 
 TEST_F(OpenFailure, NoReleaseInFrontOfTheMixerReachesTheCaller) {
-  devices().SetFaults(devices().PlugUnrelated(), {.release = 7});
-  devices().PlugMixer();
+  devices_.SetFaults(devices_.PlugUnrelated(), {.release = 7});
+  devices_.PlugMixer();
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_NE(handle, nullptr);
@@ -291,7 +291,7 @@ TEST_F(OpenFailure, NoReleaseInFrontOfTheMixerReachesTheCaller) {
 // --- Positions behind the chosen mixer ---------------------------------------------------------
 
 TEST_F(OpenFailure, NoSecondMixerIsChosenBehindTheFirst) {
-  for (int i = 0; i < 4; ++i) devices().PlugMixer();
+  for (int i = 0; i < 4; ++i) devices_.PlugMixer();
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(),

@@ -30,8 +30,8 @@ Buffer PresetBuffer() {
 class Request : public IOKitTest {
  protected:
   Request() {
-    devices().PlugMixer();
-    devices().SetScript([this](int, const IOUSBDevRequest &request) {
+    devices_.PlugMixer();
+    devices_.SetScript([this](int, const IOUSBDevRequest &request) {
       seen_ = request;
       if (request.wLength == 0) CopyUnused(request);
       return answer_;
@@ -41,10 +41,10 @@ class Request : public IOKitTest {
   }
   ~Request() override { orv::closeUSB(&mixer_); }
 
-  DeviceHandle mixer() { return mixer_; }
+  DeviceHandle Mixer() { return mixer_; }
   void Answer(const TransferAnswer &answer) { answer_ = answer; }
-  const IOUSBDevRequest &seen() const { return seen_; }
-  const std::array<std::uint8_t, 2> &unused() const { return unused_; }
+  const IOUSBDevRequest &Seen() const { return seen_; }
+  const std::array<std::uint8_t, 2> &Unused() const { return unused_; }
 
   // The record that was handed over, as far as it goes over the wire.
   void ExpectSeen(int requestType, int request, int value, int index, int length) {
@@ -73,7 +73,7 @@ class Request : public IOKitTest {
 TEST_F(Request, IsOneCallWithTheHandleAndNoOther) {
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 4;
-  EXPECT_EQ(DeviceRequest(mixer(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), 0);
+  EXPECT_EQ(DeviceRequest(Mixer(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             (Lines{
                 "interface of device 1: DeviceRequest(c0 00 wValue 0000 wIndex 8007 wLength 4)",
@@ -83,17 +83,17 @@ TEST_F(Request, IsOneCallWithTheHandleAndNoOther) {
 TEST_F(Request, FillsTheRecordFieldByField) {
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 6;
-  DeviceRequest(mixer(), 0xA1, 0xB2, 0xC3D4, 0xE5F6, buffer.data(), &length);
+  DeviceRequest(Mixer(), 0xA1, 0xB2, 0xC3D4, 0xE5F6, buffer.data(), &length);
   ExpectSeen(0xA1, 0xB2, 0xC3D4, 0xE5F6, 6);
-  EXPECT_EQ(seen().pData, buffer.data());
-  EXPECT_EQ(seen().wLenDone, 0U);
+  EXPECT_EQ(Seen().pData, buffer.data());
+  EXPECT_EQ(Seen().wLenDone, 0U);
 }
 
 TEST_F(Request, AsksForTheLengthThatItIsGiven) {
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 0xFFFF;
-  DeviceRequest(mixer(), 0xC0, 0, 0, 0x8001, buffer.data(), &length);
-  EXPECT_EQ(seen().wLength, 0xFFFF);
+  DeviceRequest(Mixer(), 0xC0, 0, 0, 0x8001, buffer.data(), &length);
+  EXPECT_EQ(Seen().wLength, 0xFFFF);
 }
 
 // --- What comes back ---------------------------------------------------------------------------
@@ -102,7 +102,7 @@ TEST_F(Request, AFullReplySaysItsLength) {
   Answer({.bytes = {1, 2, 3, 4}});
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 4;
-  EXPECT_EQ(DeviceRequest(mixer(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), 0);
+  EXPECT_EQ(DeviceRequest(Mixer(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), 0);
   EXPECT_EQ(length, 4);
   EXPECT_THAT(buffer, ElementsAre(1, 2, 3, 4, 0xEE, 0xEE));
 }
@@ -111,7 +111,7 @@ TEST_F(Request, AShortReplySaysItsLengthAndLeavesTheRest) {
   Answer({.bytes = {1, 2, 3}});
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 5;
-  EXPECT_EQ(DeviceRequest(mixer(), 0xC0, 0, 0, 0x8002, buffer.data(), &length), 0);
+  EXPECT_EQ(DeviceRequest(Mixer(), 0xC0, 0, 0, 0x8002, buffer.data(), &length), 0);
   EXPECT_EQ(length, 3);
   EXPECT_THAT(buffer, ElementsAre(1, 2, 3, 0xEE, 0xEE, 0xEE));
 }
@@ -120,7 +120,7 @@ TEST_F(Request, ALengthOfMoreThan16BitsLosesTheUpperOnes) {
   Answer({.lengthDone = 0x00012345});
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 4;
-  EXPECT_EQ(DeviceRequest(mixer(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), 0);
+  EXPECT_EQ(DeviceRequest(Mixer(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), 0);
   EXPECT_EQ(length, 0x2345);
 }
 
@@ -128,7 +128,7 @@ TEST_F(Request, TheLengthIsWrittenWhateverTheStatus) {
   Answer({.status = kStalled, .lengthDone = 0xFFFF0002});
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 4;
-  EXPECT_EQ(DeviceRequest(mixer(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), kStalled);
+  EXPECT_EQ(DeviceRequest(Mixer(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), kStalled);
   EXPECT_EQ(length, 2);
 }
 
@@ -136,7 +136,7 @@ TEST_F(Request, AFailureThatSaysNoLengthIsLengthZero) {
   Answer({.status = kStalled});
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 4;
-  EXPECT_EQ(DeviceRequest(mixer(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), kStalled);
+  EXPECT_EQ(DeviceRequest(Mixer(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), kStalled);
   EXPECT_EQ(length, 0);
   EXPECT_EQ(buffer, PresetBuffer());
 }
@@ -147,10 +147,10 @@ TEST_F(Request, TheStatusIsHandedOnAsItIs) {
     Buffer buffer = PresetBuffer();
     std::uint16_t length = 4;
     EXPECT_EQ(
-        static_cast<unsigned>(DeviceRequest(mixer(), 0xC0, 0, 0, 0x8007, buffer.data(), &length)),
+        static_cast<unsigned>(DeviceRequest(Mixer(), 0xC0, 0, 0, 0x8007, buffer.data(), &length)),
         status);
-    EXPECT_EQ(static_cast<unsigned>(orv::GetCertifyLevel(mixer(), buffer.data(), 4)), status);
-    EXPECT_EQ(static_cast<unsigned>(orv::SetMidiChannelSetting(mixer(), 0)), status);
+    EXPECT_EQ(static_cast<unsigned>(orv::GetCertifyLevel(Mixer(), buffer.data(), 4)), status);
+    EXPECT_EQ(static_cast<unsigned>(orv::SetMidiChannelSetting(Mixer(), 0)), status);
   }
 }
 
@@ -168,9 +168,9 @@ class ReadRequests : public Request, public testing::WithParamInterface<Read> {}
 TEST_P(ReadRequests, CarryTheirIndexAndTheCallersBuffer) {
   Answer({.bytes = {7, 8}});
   Buffer buffer = PresetBuffer();
-  EXPECT_EQ(GetParam().request(mixer(), buffer.data(), GetParam().length), 0);
+  EXPECT_EQ(GetParam().request(Mixer(), buffer.data(), GetParam().length), 0);
   ExpectSeen(0xC0, 0, 0, GetParam().index, GetParam().length);
-  EXPECT_EQ(seen().pData, buffer.data());
+  EXPECT_EQ(Seen().pData, buffer.data());
   EXPECT_THAT(buffer, ElementsAre(7, 8, 0xEE, 0xEE, 0xEE, 0xEE));
 }
 
@@ -194,9 +194,9 @@ struct Write {
 class WriteRequests : public Request, public testing::WithParamInterface<Write> {};
 
 TEST_P(WriteRequests, CarryTheirValueInWValueAndNoData) {
-  EXPECT_EQ(GetParam().request(mixer(), GetParam().value), 0);
+  EXPECT_EQ(GetParam().request(Mixer(), GetParam().value), 0);
   ExpectSeen(0x40, 3, GetParam().value, GetParam().index, 0);
-  EXPECT_THAT(unused(), ElementsAre(0, 0));
+  EXPECT_THAT(Unused(), ElementsAre(0, 0));
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -4,9 +4,9 @@
 
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
-static void set_another(void) { ORV_SetBoostLevelIndex(ORV_PRODUCT_TRX_SELVA, 2); }
+static void SetAnother(void) { ORV_SetBoostLevelIndex(ORV_PRODUCT_TRX_SELVA, 2); }
 
 int main(void) {
-  if (atexit(set_another) != 0) return 2;
+  if (atexit(SetAnother) != 0) return 2;
   return ORV_SetBoostLevelIndex(ORV_PRODUCT_TRX_SELVA, 1) == ORV_SUCCESS ? 0 : 1;
 }

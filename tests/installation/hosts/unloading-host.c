@@ -6,13 +6,13 @@
 #include <TRX-SELVASetup/TRX-SELVASetup.h>
 
 int main(void) {
-  StatusCode (*get_text)(ProductId, uint32_t, uint32_t, ORVStringRef *) = NULL;
+  StatusCode (*getText)(ProductId, uint32_t, uint32_t, ORVStringRef *) = NULL;
   ORVStringRef text = NULL;
   void *library = dlopen("libTRX-SELVASetup.so.1", RTLD_NOW);
   void *function = library != NULL ? dlsym(library, "ORV_GetBoostLevelText") : NULL;
   if (function == NULL) return 2;
-  memcpy(&get_text, &function, sizeof function);
-  if (get_text(ORV_PRODUCT_TRX_SELVA, 1, 0, &text) != ORV_SUCCESS) return 1;
+  memcpy(&getText, &function, sizeof function);
+  if (getText(ORV_PRODUCT_TRX_SELVA, 1, 0, &text) != ORV_SUCCESS) return 1;
   if (dlclose(library) != 0) return 3;
   return puts(text) >= 0 ? 0 : 4;
 }
