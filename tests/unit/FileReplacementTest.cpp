@@ -172,6 +172,16 @@ TEST_F(FileReplacement, WorksOnEverySystem) {
   }
 }
 
+// The lowest free number may be that of a standard stream.
+TEST_F(FileReplacement, ADescriptorWithTheNumberZeroIsClosedToo) {
+  ExpectQuietSuccess([this] {
+    ASSERT_EQ(close(STDIN_FILENO), 0);
+    EXPECT_TRUE(Add(path_, "a"));
+    EXPECT_EQ(fcntl(STDIN_FILENO, F_GETFD), -1);
+  });
+  EXPECT_EQ(ReadBytes(path_), "a");
+}
+
 TEST_F(FileReplacement, LeavesTheFileWhenItShallStay) {
   WriteBytes(path_, "old");
   EXPECT_FALSE(ChangeFileContents(path_, kPlenty, [](const auto &) { return std::nullopt; }));
