@@ -109,7 +109,7 @@ class StingyBus : public Aftermath {
 
 std::string StingyBus::lumen = "lumen";
 
-TEST_F(StingyBus, IsAskedAgainForWhatItRefused) {
+TEST_F(StingyBus, AStingyBusIsAskedAgainForWhatItRefused) {
   rig_->StopNotificationService();
   LimitedBus bus(1);
   Register();

@@ -74,7 +74,7 @@ class ClosedStreams : public Aftermath {
   }
 };
 
-TEST_F(ClosedStreams, AreNotReplacedByWhatTheLibraryWritesTo) {
+TEST_F(ClosedStreams, ClosedStreamsAreNotReplacedByWhatTheLibraryWritesTo) {
   rig_->PlugMixer();
   PutLevelThree();
   ExpectNothingInTheirPlace([] {
@@ -89,7 +89,7 @@ TEST_F(ClosedStreams, AreNotReplacedByWhatTheLibraryWritesTo) {
   EXPECT_EQ(rig_->WireLog().size(), 1U);
 }
 
-TEST_F(ClosedStreams, AreNotReplacedWhereFilesNeedANameEither) {
+TEST_F(ClosedStreams, ClosedStreamsAreNotReplacedWhereFilesNeedANameEither) {
   PutLevelThree();
   ExpectNothingInTheirPlace([] {
     GiveUpUnnamedFiles();

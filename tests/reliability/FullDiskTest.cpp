@@ -65,7 +65,7 @@ class FullDisk : public Aftermath {
   }
 };
 
-TEST_F(FullDisk, LeavesTheOldFileWholeAndNothingBesideIt) {
+TEST_F(FullDisk, AFullDiskLeavesTheOldFileWholeAndNothingBesideIt) {
   const Mount memory = Mount::Memory(rig_->LibraryFolder(), "size=256k");
   const int unit = rig_->PlugMixer();
   Register();
@@ -86,7 +86,7 @@ TEST_F(FullDisk, LeavesTheOldFileWholeAndNothingBesideIt) {
   ExpectRegistrationHolds();
 }
 
-TEST_F(FullDisk, WithoutRoomForOneMoreNameLeavesTheOldFileWhole) {
+TEST_F(FullDisk, AFolderWithoutRoomForOneMoreNameKeepsTheOldFileWhole) {
   const Mount memory = Mount::Memory(rig_->LibraryFolder(), "size=256k,nr_inodes=16");
   const int unit = rig_->PlugMixer();
   PutLevelThree();
@@ -98,7 +98,7 @@ TEST_F(FullDisk, WithoutRoomForOneMoreNameLeavesTheOldFileWhole) {
   EXPECT_EQ(LibraryListing(), kOnlyTheFile);
 }
 
-TEST_F(FullDisk, LeavesNothingWhereNothingWas) {
+TEST_F(FullDisk, AFullDiskLeavesNothingWhereNothingWas) {
   const Mount memory = Mount::Memory(rig_->LibraryFolder(), "size=256k,nr_inodes=16");
   const int unit = rig_->PlugMixer();
   TakeAllNames();
@@ -115,7 +115,7 @@ TEST_F(FullDisk, LeavesNothingWhereNothingWas) {
 
 class ReadOnlyFolder : public FullDisk {};
 
-TEST_F(ReadOnlyFolder, LeavesTheOldFile) {
+TEST_F(ReadOnlyFolder, AReadOnlyFolderLeavesTheOldFile) {
   const int unit = rig_->PlugMixer();
   Register();
   PutLevelThree();
@@ -129,7 +129,7 @@ TEST_F(ReadOnlyFolder, LeavesTheOldFile) {
   ExpectRegistrationHolds();
 }
 
-TEST_F(ReadOnlyFolder, GetsNoSettings) {
+TEST_F(ReadOnlyFolder, AReadOnlyFolderGetsNoSettings) {
   const int unit = rig_->PlugMixer();
   {
     const Mount readOnly = Mount::ReadOnly(rig_->LibraryFolder());

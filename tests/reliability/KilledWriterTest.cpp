@@ -108,7 +108,7 @@ class KilledWriter : public Deliveries {
   }
 };
 
-TEST_F(KilledWriter, LeavesTheOldFileOrTheNewOneAndNothingAfterTheNextWrite) {
+TEST_F(KilledWriter, AKilledWriterLeavesTheOldFileOrTheNewOneAndNothingAfterTheNextWrite) {
   rig_->PlugMixer();
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   const Tally tally = KillAtEveryMoment([this] { PutOldFile(); }, SetOne, kOld, kNew,
@@ -120,7 +120,7 @@ TEST_F(KilledWriter, LeavesTheOldFileOrTheNewOneAndNothingAfterTheNextWrite) {
   ExpectRegistrationsHold();
 }
 
-TEST_F(KilledWriter, LeavesNothingWhenItWasTheFirst) {
+TEST_F(KilledWriter, AKilledWriterLeavesNothingWhenItWasTheFirst) {
   const Tally tally =
       KillAtEveryMoment([this] { fs::remove_all(rig_->LibraryFolder()); }, SetOne, std::nullopt,
                         Settings{{"MaxLevel", "<integer>1</integer>"}}, [] {});
@@ -130,7 +130,7 @@ TEST_F(KilledWriter, LeavesNothingWhenItWasTheFirst) {
   EXPECT_EQ(tally.leftBehind, Lines());
 }
 
-TEST_F(KilledWriter, WhereFilesNeedANameLeavesNothingAfterTheNextWriteEither) {
+TEST_F(KilledWriter, AKilledWriterThatNamesItsFileLeavesNothingAfterTheNextWrite) {
   const Tally tally = KillAtEveryMoment([this] { PutOldFile(); },
                                         [] {
                                           GiveUpUnnamedFiles();
@@ -153,7 +153,7 @@ TEST_F(KilledWriter, WhereFilesNeedANameLeavesNothingAfterTheNextWriteEither) {
 }
 
 // Another program sets another value while the one to be killed is stopped.
-TEST_F(KilledWriter, TakesNothingOfAnotherWithIt) {
+TEST_F(KilledWriter, AKilledWriterTakesNothingOfAnotherWithIt) {
   int moments = 0;
   for (bool isAtWork = true; isAtWork && !HasFailure();) {
     PutOldFile();

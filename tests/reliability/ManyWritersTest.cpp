@@ -134,16 +134,16 @@ class ManyWriters : public Aftermath {
   void MakeLibraryFolder() { fs::create_directories(rig_->LibraryFolder()); }
 };
 
-TEST_F(ManyWriters, LoseNothing) { ExpectNothingLost(SetsOfEach(250)); }
+TEST_F(ManyWriters, ManyWritersLoseNothing) { ExpectNothingLost(SetsOfEach(250)); }
 
-TEST_F(ManyWriters, LoseNothingInMemory) {
+TEST_F(ManyWriters, ManyWritersLoseNothingInMemory) {
   HaveOwnMounts();
   MakeLibraryFolder();
   const Mount memory = Mount::Memory(rig_->LibraryFolder(), "size=1m");
   ExpectNothingLost(SetsOfEach(250));
 }
 
-TEST_F(ManyWriters, LoseNothingOnADisk) {
+TEST_F(ManyWriters, ManyWritersLoseNothingOnADisk) {
   if (geteuid() != 0) GTEST_SKIP() << "only root can mount a disk";
   HaveOwnMounts();
   MakeLibraryFolder();
@@ -151,7 +151,7 @@ TEST_F(ManyWriters, LoseNothingOnADisk) {
   ExpectNothingLost(SetsOfEach(25));
 }
 
-TEST_F(ManyWriters, LoseNothingOnAnOverlay) {
+TEST_F(ManyWriters, ManyWritersLoseNothingOnAnOverlay) {
   HaveOwnMounts();
   MakeLibraryFolder();
   // At first the file is in the lower layer, as in a container's image.

@@ -66,7 +66,7 @@ class VanishingUnit : public Aftermath {
   }
 };
 
-TEST_F(VanishingUnit, ASetterStoresAndAnnouncesAsEver) {
+TEST_F(VanishingUnit, ASetterStoresAndAnnouncesAsUsual) {
   rig_->PlugMixer();
   Register();
   PutLevelThree();

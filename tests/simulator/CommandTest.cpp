@@ -58,7 +58,7 @@ TEST_F(Commands, PlugTakesAModelInAnyCase) {
   EXPECT_EQ(Ask("get 2")[3], "selectors 00 00 00");
 }
 
-TEST_F(Commands, UnplugAndReplug) {
+TEST_F(Commands, AUnitIsUnpluggedAndReplugged) {
   Ask("unplug 1");
   EXPECT_FALSE(desk_.UnitOf(1).address);
   Ask("replug 1");
@@ -164,7 +164,7 @@ TEST_F(Commands, HelpNamesEveryCommandSettingFaultAndRequest) {
   }
 }
 
-TEST_F(Commands, BlanksDoNotMatter) { EXPECT_EQ(Ask("  units\t\r").size(), 1u); }
+TEST_F(Commands, BlanksInACommandDoNotMatter) { EXPECT_EQ(Ask("  units\t\r").size(), 1u); }
 
 TEST_F(Commands, RefusalsNameTheMistakeAndTheWayOut) {
   EXPECT_EQ(Refusal("unitz"), "there is no command \"unitz\"; `help` lists them");
@@ -191,7 +191,7 @@ TEST_F(Commands, RefusalsNameTheMistakeAndTheWayOut) {
       0U);
 }
 
-TEST_F(Commands, BadOnesChangeNothing) {
+TEST_F(Commands, BadCommandsChangeNothing) {
   const Lines before = Ask("get 1");
   for (const char *command : {"",
                               " ",
@@ -258,14 +258,14 @@ std::string NamesOf(const std::string &units) {
   return names;
 }
 
-TEST(Units, AreACountOrAListOfKinds) {
+TEST(Units, UnitsAreACountOrAListOfKinds) {
   EXPECT_EQ(NamesOf("0"), "");
   EXPECT_EQ(NamesOf("2"), "TRX-SELVA|TRX-SELVA|");
   EXPECT_EQ(NamesOf("TRX-SELVA,trx-volt,1234:0001"), "TRX-SELVA|TRX-VOLT|Other device|");
   EXPECT_EQ(ParseUnits("100").size(), 100u);
 }
 
-TEST(Units, AreRefusedUnlessEachIsKnownAndAllFit) {
+TEST(Units, UnitsAreRefusedUnlessEachIsKnownAndAllFit) {
   std::string tooMany = "TRX-SELVA";
   for (int count = 0; count < 100; ++count) tooMany += ",TRX-SELVA";
   for (const std::string &text :
@@ -275,7 +275,7 @@ TEST(Units, AreRefusedUnlessEachIsKnownAndAllFit) {
   }
 }
 
-TEST(CommandReplies, EndWithOkOrError) {
+TEST(CommandReplies, CommandRepliesEndWithOkOrError) {
   EXPECT_EQ((CommandReply{{"a", "b"}, false, {}}.WireText()), "a\nb\nok\n");
   EXPECT_EQ((CommandReply{{}, true, "no"}.WireText()), "error no\n");
 }

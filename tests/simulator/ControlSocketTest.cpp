@@ -141,7 +141,7 @@ TEST_F(ControlProtocol, SecondSimulatorIsKeptOffALiveSocket) {
   EXPECT_EQ(ControlClient(path_).Ask("environment"), Lines{"ONE=1"});
 }
 
-TEST(ControlSocketFile, OfADeadSimulatorIsTakenOver) {
+TEST(ControlSocketFile, ASocketFileOfADeadSimulatorIsTakenOver) {
   const TemporaryFolder folder;
   const std::string path = folder / "control.sock";
   { const Descriptor dead = ListenUnixSocket(path); }
@@ -150,7 +150,7 @@ TEST(ControlSocketFile, OfADeadSimulatorIsTakenOver) {
   EXPECT_TRUE(ConnectUnixSocket(path));
 }
 
-TEST(ControlSocketFile, OfASimulatorThatIsEndingIsNotTakenOver) {
+TEST(ControlSocketFile, ASocketFileOfASimulatorThatIsEndingIsNotTakenOver) {
   const TemporaryFolder folder;
   const std::string path = folder / "control.sock";
   const ControlSocket ending = ControlSocket::At(path);
@@ -158,20 +158,20 @@ TEST(ControlSocketFile, OfASimulatorThatIsEndingIsNotTakenOver) {
   EXPECT_THROW(ControlSocket::At(path), ControlSocketError);
 }
 
-TEST(ControlSocketFile, GoesAwayAtTheEnd) {
+TEST(ControlSocketFile, ASocketFileGoesAwayAtTheEnd) {
   const TemporaryFolder folder;
   { const ControlSocket socket = ControlSocket::At(folder / "control.sock"); }
   EXPECT_EQ(folder.Entries(), 0u);
 }
 
-TEST(ControlSocketFile, IsNeverMadeFromAnotherFile) {
+TEST(ControlSocketFile, ASocketFileIsNeverMadeFromAnotherFile) {
   const TemporaryFolder folder;
   std::filesystem::create_directory(folder / "precious");
   EXPECT_THROW(ControlSocket::At(folder / "precious"), ControlSocketError);
   EXPECT_TRUE(std::filesystem::is_directory(folder / "precious"));
 }
 
-TEST(ControlSocketFile, IsMadeEvenWhileAnotherProgramLocksItsFolder) {
+TEST(ControlSocketFile, ASocketFileIsMadeEvenWhileAnotherProgramLocksItsFolder) {
   const TemporaryFolder folder;
   const Descriptor other(open(folder.Path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   ASSERT_EQ(flock(other.Get(), LOCK_EX), 0);
@@ -205,19 +205,19 @@ class SimulatorAnswers : public testing::Test {
   const std::string from_ = "the simulator at " + socket_.Path() + " gives ";
 };
 
-TEST_F(SimulatorAnswers, AreTakenWhenTheyAreASimulators) {
+TEST_F(SimulatorAnswers, AnswersAreTakenWhenTheyAreASimulators) {
   EXPECT_EQ(Refusal(SimulatedEnvironment(testbed_, socket_.Path())), "");
   EXPECT_EQ(Refusal({ControlEntry(socket_.Path())}), "");
 }
 
-TEST_F(SimulatorAnswers, AreRefusedWithAnyOtherVariable) {
+TEST_F(SimulatorAnswers, AnswersAreRefusedWithAnyOtherVariable) {
   for (const char *entry : {"PATH=/tmp", "LD_AUDIT=/tmp/x.so", "LD_PRELOAD2=x", "LD_PRELOAD", "",
                             "=", "ld_preload=x", "UMOCKDEV_DI=/", "\x1b[2J=1"}) {
     EXPECT_EQ(Refusal({entry}), from_ + "a variable that programs do not need") << entry;
   }
 }
 
-TEST_F(SimulatorAnswers, AreRefusedWithAnyOtherValue) {
+TEST_F(SimulatorAnswers, AnswersAreRefusedWithAnyOtherValue) {
   std::filesystem::create_directory(folder_ / "shared");
   std::filesystem::permissions(folder_ / "shared", std::filesystem::perms::all);
   std::filesystem::create_directory_symlink(testbed_, folder_ / "link");
@@ -240,7 +240,7 @@ TEST_F(SimulatorAnswers, AreRefusedWithAnyOtherValue) {
   }
 }
 
-TEST(ControlClients, SayWhenNobodyAnswers) {
+TEST(ControlClients, ControlClientsSayWhenNobodyAnswers) {
   const TemporaryFolder folder;
   EXPECT_THROW(ControlClient(folder / "none.sock"), SimulatorUnreachable);
 }

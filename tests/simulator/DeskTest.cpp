@@ -17,7 +17,7 @@ class DeskTest : public testing::Test {
   Desk desk_{frontEnd_};
 };
 
-TEST_F(DeskTest, NumbersAllUnitsFromOne) {
+TEST_F(DeskTest, TheDeskNumbersAllUnitsFromOne) {
   EXPECT_EQ(desk_.Plug(), 1);
   EXPECT_EQ(desk_.Plug(UsbIds{0x1234, 0x5678}), 2);
   EXPECT_EQ(desk_.Plug(), 3);
@@ -162,7 +162,7 @@ TEST_F(DeskTest, UnitThatDoesNotFitIsNotAdded) {
   EXPECT_TRUE(desk_.Units().empty());
 }
 
-TEST_F(DeskTest, RefusesWhatMakesNoSense) {
+TEST_F(DeskTest, TheDeskRefusesWhatMakesNoSense) {
   desk_.Plug();
   desk_.Plug(UsbIds{1, 2});
   EXPECT_THROW(desk_.Unplug(7), DeskError);

@@ -7,7 +7,7 @@
 namespace trxsim {
 namespace {
 
-TEST(Faults, AreNoneAtFirst) {
+TEST(Faults, FaultsAreNoneAtFirst) {
   const Faults faults;
   EXPECT_FALSE(faults.FaultOf(RequestId::kSelectors));
   EXPECT_FALSE(faults.FaultOf(std::nullopt));
@@ -15,7 +15,7 @@ TEST(Faults, AreNoneAtFirst) {
   EXPECT_EQ(faults.Text(), "none");
 }
 
-TEST(Faults, OfEveryRequestMeetAlsoUnknownRequests) {
+TEST(Faults, FaultsOfEveryRequestMeetAlsoUnknownRequests) {
   Faults faults;
   faults.Set(std::nullopt, {RequestFaultKind::kStall, 0});
   ASSERT_TRUE(faults.FaultOf(std::nullopt));
@@ -24,7 +24,7 @@ TEST(Faults, OfEveryRequestMeetAlsoUnknownRequests) {
   EXPECT_EQ(faults.FaultOf(RequestId::kMixerInput)->kind, RequestFaultKind::kStall);
 }
 
-TEST(Faults, OfOneRequestMeetOnlyThat) {
+TEST(Faults, FaultsOfOneRequestMeetOnlyThat) {
   Faults faults;
   faults.Set(RequestId::kSerato, {RequestFaultKind::kNoReply, 0});
   EXPECT_TRUE(faults.FaultOf(RequestId::kSerato));
@@ -32,7 +32,7 @@ TEST(Faults, OfOneRequestMeetOnlyThat) {
   EXPECT_FALSE(faults.FaultOf(std::nullopt));
 }
 
-TEST(Faults, OfOneRequestGoBeforeThoseOfEveryRequest) {
+TEST(Faults, FaultsOfOneRequestGoBeforeThoseOfEveryRequest) {
   Faults faults;
   faults.Set(RequestId::kSerato, {RequestFaultKind::kShort, 1});
   faults.Set(std::nullopt, {RequestFaultKind::kStall, 0});
@@ -40,7 +40,7 @@ TEST(Faults, OfOneRequestGoBeforeThoseOfEveryRequest) {
   EXPECT_EQ(faults.FaultOf(RequestId::kSerato)->kind, RequestFaultKind::kShort);
 }
 
-TEST(Faults, AreWrittenAsTheControlCommandsNameThem) {
+TEST(Faults, FaultsAreWrittenAsTheControlCommandsNameThem) {
   Faults faults;
   faults.Set(OpenFault::kHold);
   faults.Set(std::nullopt, {RequestFaultKind::kNoReply, 0});
@@ -49,7 +49,7 @@ TEST(Faults, AreWrittenAsTheControlCommandsNameThem) {
   EXPECT_EQ(faults.Text(), "hold, no-reply, short 2 selectors, vanish mixer-input");
 }
 
-TEST(Faults, AreAllGoneAfterClear) {
+TEST(Faults, FaultsAreAllGoneAfterClear) {
   Faults faults;
   faults.Set(OpenFault::kDeny);
   faults.Set(RequestId::kSelectors, {RequestFaultKind::kStall, 0});

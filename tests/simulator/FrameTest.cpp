@@ -121,14 +121,14 @@ struct Malformed {
 
 class MalformedFrames : public testing::TestWithParam<Malformed> {};
 
-TEST_P(MalformedFrames, AreNamed) {
+TEST_P(MalformedFrames, MalformedFramesAreNamed) {
   const DecodedFrames decoded = Decode(GetParam().header);
   EXPECT_EQ(decoded.error, GetParam().error);
   EXPECT_EQ(decoded.used, 0u);
   EXPECT_TRUE(decoded.frames.empty());
 }
 
-TEST_P(MalformedFrames, LeaveTheSoundOnesBeforeThem) {
+TEST_P(MalformedFrames, MalformedFramesLeaveTheSoundOnesBeforeThem) {
   const DecodedFrames decoded = Decode(kWriteWithData + GetParam().header + kRead);
   EXPECT_EQ(decoded.error, GetParam().error);
   EXPECT_EQ(decoded.used, 51u);

@@ -67,7 +67,7 @@ TEST(MixerReads, ReplyIsNotStretchedToTheLengthAskedFor) {
 
 class MixerWrites : public testing::TestWithParam<std::tuple<std::uint16_t, RequestId>> {};
 
-TEST_P(MixerWrites, KeepTheLastValue) {
+TEST_P(MixerWrites, WritesKeepTheLastValue) {
   const auto [index, id] = GetParam();
   Mixer mixer;
   EXPECT_EQ(mixer.LastWritten(id), std::nullopt);
@@ -76,7 +76,7 @@ TEST_P(MixerWrites, KeepTheLastValue) {
   EXPECT_EQ(mixer.LastWritten(id), 0x0F00);
 }
 
-TEST_P(MixerWrites, LeaveTheOtherSettingsAlone) {
+TEST_P(MixerWrites, WritesLeaveTheOtherSettingsAlone) {
   const auto [index, id] = GetParam();
   Mixer mixer;
   mixer.Answer({0x40, 3, 0x0300, index, 0});
@@ -87,7 +87,7 @@ TEST_P(MixerWrites, LeaveTheOtherSettingsAlone) {
   EXPECT_EQ(written, 1);
 }
 
-TEST_P(MixerWrites, WithADataStageStall) {
+TEST_P(MixerWrites, WritesWithADataStageStall) {
   const auto [index, id] = GetParam();
   Mixer mixer;
   EXPECT_EQ(mixer.Answer({0x40, 3, 0x0300, index, 2}).outcome, Outcome::kStalled);
@@ -103,7 +103,7 @@ INSTANTIATE_TEST_SUITE_P(EveryWrite, MixerWrites,
 
 class MixerStalls : public testing::TestWithParam<ControlRequest> {};
 
-TEST_P(MixerStalls, OnAnythingElse) {
+TEST_P(MixerStalls, AMixerStallsOnAnythingElse) {
   Mixer mixer;
   const TransferResult result = mixer.Answer(GetParam());
   EXPECT_EQ(result.outcome, Outcome::kStalled);

@@ -93,11 +93,11 @@ class OtherUser : public testing::Test {
   pid_t listener_ = -1;
 };
 
-TEST_F(OtherUser, IsNotAskedInAFolderThatIsNotTheUsers) {
+TEST_F(OtherUser, AnotherUsersSimulatorIsNotAskedInAFolderThatIsNotTheUsers) {
   RunAsUser({}, place_ + " is not a folder of this user alone");
 }
 
-TEST_F(OtherUser, IsNotAskedAtASocketThatTheUserNames) {
+TEST_F(OtherUser, AnotherUsersSimulatorIsNotAskedAtASocketThatTheUserNames) {
   const std::string socket = place_ + "/control.sock";
   RunAsUser({"--control", socket}, "the simulator at " + socket + " belongs to another user");
 }

@@ -25,14 +25,14 @@ Words Control(Words arguments) {
   return arguments;
 }
 
-TEST(SimulatorProgram, ExitsAsTheCommandDoes) {
+TEST(SimulatorProgram, TheSimulatorExitsAsTheCommandDoes) {
   const TemporaryFolder folder;
   EXPECT_EQ(Program(Simulate({"--", "true"}), folder).Finish(), 0);
   EXPECT_EQ(Program(Simulate({"--", "sh", "-c", "exit 7"}), folder).Finish(), 7);
   EXPECT_EQ(Program(Simulate({"--", "sh", "-c", "kill -9 $$"}), folder).Finish(), 128 + SIGKILL);
 }
 
-TEST(SimulatorProgram, SaysWhenTheCommandCannotRun) {
+TEST(SimulatorProgram, TheSimulatorSaysWhenTheCommandCannotRun) {
   const TemporaryFolder folder;
   Program missing(Simulate({"--", "/no/such/program"}), folder);
   EXPECT_EQ(missing.Finish(), 127);
@@ -41,7 +41,7 @@ TEST(SimulatorProgram, SaysWhenTheCommandCannotRun) {
   EXPECT_EQ(Program(Simulate({"--", folder.Path()}), folder).Finish(), 126);
 }
 
-TEST(SimulatorProgram, PassesOnTheArgumentsAsTheyAre) {
+TEST(SimulatorProgram, TheSimulatorPassesOnTheArgumentsAsTheyAre) {
   const TemporaryFolder folder;
   Program program(Simulate({"--units", "0", "--", "printf", "%s|", "--units", "a b", "", "--"}),
                   folder);
@@ -58,7 +58,7 @@ TEST(SimulatorProgram, WithoutACommandExplainsItself) {
   }
 }
 
-TEST(SimulatorProgram, RefusesBadOptions) {
+TEST(SimulatorProgram, TheSimulatorRefusesBadOptions) {
   const TemporaryFolder folder;
   EXPECT_EQ(Program(Simulate({"--units", "-1", "--", "true"}), folder).Finish(), 2);
   EXPECT_EQ(Program(Simulate({"--units", "101", "--", "true"}), folder).Finish(), 2);
@@ -94,7 +94,7 @@ TEST(SimulatorProgram, WithoutRootSaysWhatTheRunningKernelNeeds) {
   EXPECT_EQ(folder.Entries(), 1u);
 }
 
-TEST(SimulatorProgram, RefusesToRunACommandThatWouldSeeNoMixers) {
+TEST(SimulatorProgram, TheSimulatorRefusesToRunACommandThatWouldSeeNoMixers) {
   const TemporaryFolder folder;
   const std::string library = folder / "libumockdev-preload.so.0";
   std::ofstream(library) << "not a library";
@@ -107,7 +107,7 @@ TEST(SimulatorProgram, RefusesToRunACommandThatWouldSeeNoMixers) {
   EXPECT_EQ(folder.Entries(), 1u);
 }
 
-TEST(SimulatorProgram, LeavesNothingBehind) {
+TEST(SimulatorProgram, TheSimulatorLeavesNothingBehind) {
   const TemporaryFolder folder;
   EXPECT_EQ(Program(Simulate({"--units", "2", "--", "true"}), folder).Finish(), 0);
   EXPECT_EQ(folder.Entries(), 0u);
@@ -115,7 +115,7 @@ TEST(SimulatorProgram, LeavesNothingBehind) {
 
 class SimulatorSignals : public testing::TestWithParam<int> {};
 
-TEST_P(SimulatorSignals, EndTheCommandAndLeaveNothingBehind) {
+TEST_P(SimulatorSignals, SignalsEndTheCommandAndLeaveNothingBehind) {
   SimulatorRun run(1);
   EXPECT_GT(run.folder.Entries(), 1u);
   run.Client().Signal(GetParam());
@@ -127,7 +127,7 @@ TEST_P(SimulatorSignals, EndTheCommandAndLeaveNothingBehind) {
 INSTANTIATE_TEST_SUITE_P(AllThatAskForTheEnd, SimulatorSignals,
                          testing::Values(SIGTERM, SIGINT, SIGHUP));
 
-TEST(SimulatorProgram, EndsInMidRequestWithoutFuss) {
+TEST(SimulatorProgram, TheSimulatorEndsInMidRequestWithoutFuss) {
   SimulatorRun run(1);
   run.Control("fault 1 no-reply");
   const std::string handle = run.Open("/dev/bus/usb/001/002");
@@ -140,7 +140,7 @@ TEST(SimulatorProgram, EndsInMidRequestWithoutFuss) {
   EXPECT_EQ(run.folder.Entries(), 0u);
 }
 
-TEST(SimulatorProgram, WritesTheWireLogToAFile) {
+TEST(SimulatorProgram, TheSimulatorWritesTheWireLogToAFile) {
   const TemporaryFolder folder;
   const std::string path = folder / "wire.txt";
   Program program(Simulate({"--wire-log", path, "--", USB_CLIENT}), folder);
@@ -154,7 +154,7 @@ TEST(SimulatorProgram, WritesTheWireLogToAFile) {
   EXPECT_EQ(program.Finish(), 0);
 }
 
-TEST(SimulatorProgram, SaysWhenTheWireLogCannotBeWritten) {
+TEST(SimulatorProgram, TheSimulatorSaysWhenTheWireLogCannotBeWritten) {
   const TemporaryFolder folder;
   Program program(Simulate({"--wire-log", folder / "none/wire.txt", "--", "true"}), folder);
   EXPECT_EQ(program.Finish(), 125);
@@ -180,7 +180,7 @@ TEST(SimulatorProgram, SecondOneTakesAPrivateSocketAndSaysSo) {
   EXPECT_EQ(folder.Entries(), 0u);
 }
 
-TEST(SimulatorProgram, RefusesASocketThatIsInUse) {
+TEST(SimulatorProgram, TheSimulatorRefusesASocketThatIsInUse) {
   SimulatorRun run(1);
   Program second(Simulate({"--control", run.socket, "--", "true"}), run.folder);
   EXPECT_EQ(second.Finish(), 125);
@@ -188,7 +188,7 @@ TEST(SimulatorProgram, RefusesASocketThatIsInUse) {
   EXPECT_EQ(run.Control("units").size(), 1u);
 }
 
-TEST(SimulatorProgram, WorksBelowALongTemporaryFolder) {
+TEST(SimulatorProgram, TheSimulatorWorksBelowALongTemporaryFolder) {
   const TemporaryFolder folder;
   const std::string longFolder = folder / std::string(90, 'x');
   std::filesystem::create_directory(longFolder);
@@ -197,21 +197,21 @@ TEST(SimulatorProgram, WorksBelowALongTemporaryFolder) {
   EXPECT_EQ(program.Finish(), 0);
 }
 
-TEST(SimulatorProgram, KeepsTheListsThatTheEnvironmentHas) {
+TEST(SimulatorProgram, TheSimulatorKeepsTheListsThatTheEnvironmentHas) {
   const TemporaryFolder folder;
   Program program({"env", "ASAN_OPTIONS=detect_leaks=0", TRX_MIXER_SIM, "--", USB_CLIENT}, folder);
   EXPECT_EQ(program.Ask("variable ASAN_OPTIONS"), "detect_leaks=0:verify_asan_link_order=0");
   EXPECT_EQ(program.Finish(), 0);
 }
 
-TEST(ControlProgram, PrintsTheReply) {
+TEST(ControlProgram, TheControlProgramPrintsTheReply) {
   SimulatorRun run(1);
   Program program(Control({"--control", run.socket, "units"}), run.folder);
   EXPECT_EQ(program.Rest(), "1  TRX-SELVA " + VendorId() + ":001f  plugged 001/002  faults none\n");
   EXPECT_EQ(program.Finish(), 0);
 }
 
-TEST(ControlProgram, HelpsWithoutASimulator) {
+TEST(ControlProgram, TheControlProgramHelpsWithoutASimulator) {
   const TemporaryFolder folder;
   Program program(Control({"help"}), folder);
   const std::string help = program.Rest();
@@ -220,7 +220,7 @@ TEST(ControlProgram, HelpsWithoutASimulator) {
   EXPECT_EQ(program.Errors(), "");
 }
 
-TEST(ControlProgram, FindsTheUsualSocketByItself) {
+TEST(ControlProgram, TheControlProgramFindsTheUsualSocketByItself) {
   const TemporaryFolder folder;
   Program simulator(Simulate({"--", USB_CLIENT}), folder);
   simulator.Ask("list");
@@ -230,21 +230,21 @@ TEST(ControlProgram, FindsTheUsualSocketByItself) {
   EXPECT_EQ(simulator.Ask("control " + handle + " c0 0 0 8004 2 1000"), "2 01 00");
 }
 
-TEST(ControlProgram, ExitsWithOneWhenRefused) {
+TEST(ControlProgram, TheControlProgramExitsWithOneWhenRefused) {
   SimulatorRun run(1);
   Program program(Control({"--control", run.socket, "unplug", "7"}), run.folder);
   EXPECT_EQ(program.Finish(), 1);
   EXPECT_EQ(program.Errors(), "trx-mixer-ctl: there is no unit 7; `units` lists them\n");
 }
 
-TEST(ControlProgram, ExitsWithTwoWithoutACommand) {
+TEST(ControlProgram, TheControlProgramExitsWithTwoWithoutACommand) {
   const TemporaryFolder folder;
   for (const Words &arguments : {Words{}, Words{"run"}, Words{"run", "--"}, Words{"--control"}}) {
     EXPECT_EQ(Program(Control(arguments), folder).Finish(), 2);
   }
 }
 
-TEST(ControlProgram, ExitsWithThreeWhenNobodyIsThere) {
+TEST(ControlProgram, TheControlProgramExitsWithThreeWhenNobodyIsThere) {
   const TemporaryFolder folder;
   Program program(Control({"units"}), folder);
   EXPECT_EQ(program.Finish(), 3);
@@ -253,7 +253,7 @@ TEST(ControlProgram, ExitsWithThreeWhenNobodyIsThere) {
   EXPECT_NE(program.Errors().find("Hint: "), std::string::npos);
 }
 
-TEST(ControlProgram, RunsAProgramOnTheSameDesk) {
+TEST(ControlProgram, TheControlProgramRunsAProgramOnTheSameDesk) {
   SimulatorRun run(1);
   Program second(run.FurtherClient(), run.folder);
   EXPECT_EQ(second.Ask("list"), "1-1=001/002 usb1=001/001");
@@ -262,7 +262,7 @@ TEST(ControlProgram, RunsAProgramOnTheSameDesk) {
   EXPECT_EQ(second.Finish(), 9);
 }
 
-TEST(ControlProgram, SaysWhenTheProgramCannotRun) {
+TEST(ControlProgram, TheControlProgramSaysWhenTheProgramCannotRun) {
   SimulatorRun run(1);
   EXPECT_EQ(
       Program(Control({"--control", run.socket, "run", "--", "/no/such"}), run.folder).Finish(),

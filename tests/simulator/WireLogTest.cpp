@@ -7,55 +7,55 @@
 namespace trxsim {
 namespace {
 
-TEST(WireLog, WriteWithoutData) {
+TEST(WireLog, AWriteIsLoggedWithoutData) {
   EXPECT_EQ(WireLogLine(1, {0x40, 3, 0x0300, 0x8003, 0}, {Outcome::kDone, {}}),
             "unit 1  OUT  40 03  wValue 0300  wIndex 8003  wLength 0  "
             "-> 0 bytes                 USB output level");
 }
 
-TEST(WireLog, ReadWithItsBytes) {
+TEST(WireLog, AReadIsLoggedWithItsBytes) {
   EXPECT_EQ(WireLogLine(2, {0xC0, 0, 0, 0x8002, 4}, {Outcome::kDone, {0x00, 0x06, 0x0A, 0xFF}}),
             "unit 2  IN   c0 00  wValue 0000  wIndex 8002  wLength 4  "
             "-> 4 bytes 00 06 0a ff     input selectors");
 }
 
-TEST(WireLog, SingleByte) {
+TEST(WireLog, ASingleByteIsNoPlural) {
   EXPECT_EQ(WireLogLine(1, {0xC0, 0, 0, 0x8004, 1}, {Outcome::kDone, {0x01}}),
             "unit 1  IN   c0 00  wValue 0000  wIndex 8004  wLength 1  "
             "-> 1 byte 01               Serato activity");
 }
 
-TEST(WireLog, LongReplyPushesTheNameOn) {
+TEST(WireLog, ALongReplyPushesTheNameOn) {
   EXPECT_EQ(WireLogLine(12, {0xC0, 0, 0, 0x8002, 8}, {Outcome::kDone, {0, 1, 2, 3, 4, 5, 6}}),
             "unit 12  IN   c0 00  wValue 0000  wIndex 8002  wLength 8  "
             "-> 7 bytes 00 01 02 03 04 05 06  input selectors");
 }
 
-TEST(WireLog, Stalled) {
+TEST(WireLog, AStallIsLogged) {
   EXPECT_EQ(WireLogLine(1, {0x40, 3, 0x0F00, 0x8004, 0}, {Outcome::kStalled, {}}),
             "unit 1  OUT  40 03  wValue 0f00  wIndex 8004  wLength 0  "
             "-> stalled                 MIDI channel");
 }
 
-TEST(WireLog, NoReply) {
+TEST(WireLog, AMissingReplyIsLogged) {
   EXPECT_EQ(WireLogLine(1, {0xC0, 0, 0, 0x8007, 4}, {Outcome::kNoReply, {}}),
             "unit 1  IN   c0 00  wValue 0000  wIndex 8007  wLength 4  "
             "-> no reply                certify level");
 }
 
-TEST(WireLog, UnpluggedDuringTheRequest) {
+TEST(WireLog, AnUnplugDuringTheRequestIsLogged) {
   EXPECT_EQ(WireLogLine(1, {0xC0, 0, 0, 0x8001, 2}, {Outcome::kUnplugged, {}}),
             "unit 1  IN   c0 00  wValue 0000  wIndex 8001  wLength 2  "
             "-> unplugged               firmware version");
 }
 
-TEST(WireLog, UnknownRequest) {
+TEST(WireLog, AnUnknownRequestIsLogged) {
   EXPECT_EQ(WireLogLine(1, {0x80, 6, 0x0100, 0, 18}, {Outcome::kStalled, {}}),
             "unit 1  IN   80 06  wValue 0100  wIndex 0000  wLength 18  "
             "-> stalled                 (unknown)");
 }
 
-TEST(WireLog, NamesTheRemainingRequests) {
+TEST(WireLog, TheLogNamesTheRemainingRequests) {
   const TransferResult done{Outcome::kDone, {}};
   EXPECT_TRUE(WireLogLine(1, {0xC0, 0, 0, 0x8006, 2}, done).ends_with("  port state"));
   EXPECT_TRUE(WireLogLine(1, {0x40, 3, 0, 0x8002, 0}, done).ends_with("  mixer output"));
@@ -63,7 +63,7 @@ TEST(WireLog, NamesTheRemainingRequests) {
   EXPECT_TRUE(WireLogLine(1, {0x40, 3, 0, 0x8016, 0}, done).ends_with("  mixer input"));
 }
 
-TEST(WireLog, KeepsLinesInOrderAndHandsThemOn) {
+TEST(WireLog, TheLogKeepsLinesInOrderAndHandsThemOn) {
   std::vector<std::string> handedOn;
   WireLog log([&handedOn](const std::string &line) { handedOn.push_back(line); });
   log.Add(1, {0xC0, 0, 0, 0x8001, 2}, {Outcome::kStalled, {}});

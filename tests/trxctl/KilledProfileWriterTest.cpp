@@ -76,28 +76,28 @@ class KilledProfileWriter : public testing::Test {
   TemporaryFolder folder_;
 };
 
-TEST_F(KilledProfileWriter, ReplacesAProfileInOneStep) {
+TEST_F(KilledProfileWriter, AKilledWriterReplacesAProfileInOneStep) {
   EXPECT_EQ(KillAtEveryMoment(
                 [this] { PutOld(); },
                 [] { client::SaveProfile(Level("gig", kNewLevel), client::OldFile::kIsReplaced); }),
             (std::vector<Lines>{{"gig: 1"}, {"gig: 2"}}));
 }
 
-TEST_F(KilledProfileWriter, MakesAProfileInOneStep) {
+TEST_F(KilledProfileWriter, AKilledWriterMakesAProfileInOneStep) {
   EXPECT_EQ(KillAtEveryMoment(
                 [] { std::filesystem::remove_all(*client::ProfilesFolder()); },
                 [] { client::SaveProfile(Level("gig", kNewLevel), client::OldFile::kIsKept); }),
             (std::vector<Lines>{{}, {"gig: 2"}}));
 }
 
-TEST_F(KilledProfileWriter, LosesNothingInARename) {
+TEST_F(KilledProfileWriter, AKilledWriterLosesNothingInARename) {
   EXPECT_EQ(
       KillAtEveryMoment([this] { PutOld(); },
                         [] { client::RenameProfile("gig", "new", client::OldFile::kIsKept); }),
       (std::vector<Lines>{{"gig: 1"}, {"gig: 1", "new: 1"}, {"new: 1"}}));
 }
 
-TEST_F(KilledProfileWriter, IsNoHindranceForTheNextOfItsNumber) {
+TEST_F(KilledProfileWriter, AKilledWriterIsNoHindranceForTheNextOfItsNumber) {
   PutOld();
   const std::string left = *client::ProfilesFolder() + "/.profile-" + std::to_string(getpid());
   WriteBytes(left + "-0", "{");

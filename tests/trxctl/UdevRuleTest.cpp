@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(UdevRule, IsFoundInEachFolderThatHasIt) {
+TEST(UdevRule, ARuleIsFoundInEachFolderThatHasIt) {
   std::string pattern = (fs::temp_directory_path() / "udev-rule-XXXXXX").string();
   const std::string folder = mkdtemp(pattern.data());
   const std::string with = folder + "/with";
@@ -24,7 +24,7 @@ TEST(UdevRule, IsFoundInEachFolderThatHasIt) {
   fs::remove_all(folder);
 }
 
-TEST(UdevRule, IsLookedForWhereUdevReadsRules) {
+TEST(UdevRule, ARuleIsLookedForWhereUdevReadsRules) {
   const auto folders = UdevRuleFolders();
   EXPECT_EQ((std::vector<std::string_view>(folders.begin(), folders.end())),
             (std::vector<std::string_view>{"/etc/udev/rules.d", "/run/udev/rules.d",

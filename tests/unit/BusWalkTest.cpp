@@ -37,21 +37,21 @@ std::string Vendor() {
   return MixerSummary(1, 1).substr(MixerSummary(1, 1).find("PRODUCT=") + 8, 4);
 }
 
-TEST_F(BusWalk, FindsNothingOnAnEmptyBus) { EXPECT_THAT(Units(), IsEmpty()); }
+TEST_F(BusWalk, TheBusWalkFindsNothingOnAnEmptyBus) { EXPECT_THAT(Units(), IsEmpty()); }
 
-TEST_F(BusWalk, FindsNothingWhereThereIsNoBus) {
+TEST_F(BusWalk, TheBusWalkFindsNothingWhereThereIsNoBus) {
   bus_.RemoveList();
   EXPECT_THAT(Units(), IsEmpty());
 }
 
-TEST_F(BusWalk, FindsEveryMixer) {
+TEST_F(BusWalk, TheBusWalkFindsEveryMixer) {
   bus_.PlugMixer("1-2", 1, 5);
   bus_.PlugMixer("1-2.4", 1, 12);
   bus_.PlugMixer("3-1.1.4", 3, 127);
   EXPECT_THAT(Units(), ElementsAre(Address(1, 5), Address(1, 12), Address(3, 127)));
 }
 
-TEST_F(BusWalk, GivesTheOrderOfTheBusWhateverTheOrderOfTheFolder) {
+TEST_F(BusWalk, TheBusWalkGivesTheOrderOfTheBusWhateverTheOrderOfTheFolder) {
   bus_.PlugMixer("10-1", 10, 2);
   bus_.PlugMixer("2-1", 2, 10);
   bus_.PlugMixer("2-3", 2, 9);
@@ -59,7 +59,7 @@ TEST_F(BusWalk, GivesTheOrderOfTheBusWhateverTheOrderOfTheFolder) {
   EXPECT_THAT(Units(), ElementsAre(Address(1, 100), Address(2, 9), Address(2, 10), Address(10, 2)));
 }
 
-TEST_F(BusWalk, LooksAfreshEachTime) {
+TEST_F(BusWalk, TheBusWalkLooksAfreshEachTime) {
   bus_.PlugMixer("1-2", 1, 5);
   EXPECT_THAT(Units(), ElementsAre(Address(1, 5)));
   bus_.PlugMixer("1-3", 1, 6);
@@ -68,7 +68,7 @@ TEST_F(BusWalk, LooksAfreshEachTime) {
   EXPECT_THAT(Units(), ElementsAre(Address(1, 6)));
 }
 
-TEST_F(BusWalk, FindsTheSameForEveryModel) {
+TEST_F(BusWalk, TheBusWalkFindsTheSameForEveryModel) {
   bus_.PlugMixer("1-2", 1, 5);
   for (const ProductId productId : {0U, 1U, 2U, 11U, 12U, 0xFFFFFFFFU}) {
     BusLook look;
@@ -76,7 +76,7 @@ TEST_F(BusWalk, FindsTheSameForEveryModel) {
   }
 }
 
-TEST_F(BusWalk, PassesOverDevicesOfOtherMakersAndModels) {
+TEST_F(BusWalk, TheBusWalkPassesOverDevicesOfOtherMakersAndModels) {
   bus_.PlugMixer("1-2", 1, 5);
   const std::string vendor = Vendor();
   int port = 10;
@@ -91,7 +91,7 @@ TEST_F(BusWalk, PassesOverDevicesOfOtherMakersAndModels) {
   EXPECT_THAT(Units(), ElementsAre(Address(1, 5)));
 }
 
-TEST_F(BusWalk, PassesOverRootHubsAndInterfacesWhateverTheirIds) {
+TEST_F(BusWalk, TheBusWalkPassesOverRootHubsAndInterfacesWhateverTheirIds) {
   bus_.PlugMixer("1-2", 1, 5);
   bus_.List("usb1", MixerSummary(1, 1));
   bus_.List("usb10", MixerSummary(10, 1));
@@ -101,7 +101,7 @@ TEST_F(BusWalk, PassesOverRootHubsAndInterfacesWhateverTheirIds) {
   EXPECT_THAT(Units(), ElementsAre(Address(1, 5)));
 }
 
-TEST_F(BusWalk, FindsMixersAmongMoreEntriesThanTheKernelHandsOutAtOnce) {
+TEST_F(BusWalk, TheBusWalkFindsMixersAmongMoreEntriesThanTheKernelHandsOutAtOnce) {
   for (int port = 1; port <= 400; ++port) bus_.ListDangling("2-1:1." + std::to_string(port));
   for (unsigned device = 2; device <= 31; ++device) {
     bus_.PlugMixer("1-" + std::to_string(device), 1, device);
@@ -109,20 +109,20 @@ TEST_F(BusWalk, FindsMixersAmongMoreEntriesThanTheKernelHandsOutAtOnce) {
   EXPECT_EQ(Units().size(), 30U);
 }
 
-TEST_F(BusWalk, PassesOverEntriesThatAreGone) {
+TEST_F(BusWalk, TheBusWalkPassesOverEntriesThatAreGone) {
   bus_.ListDangling("1-1");
   bus_.PlugMixer("1-2", 1, 5);
   bus_.ListDangling("1-3");
   EXPECT_THAT(Units(), ElementsAre(Address(1, 5)));
 }
 
-TEST_F(BusWalk, PassesOverEntriesWithoutASummary) {
+TEST_F(BusWalk, TheBusWalkPassesOverEntriesWithoutASummary) {
   bus_.ListWithoutSummary("1-1");
   bus_.PlugMixer("1-2", 1, 5);
   EXPECT_THAT(Units(), ElementsAre(Address(1, 5)));
 }
 
-TEST_F(BusWalk, PassesOverSummariesThatMakeNoSense) {
+TEST_F(BusWalk, TheBusWalkPassesOverSummariesThatMakeNoSense) {
   bus_.PlugMixer("1-2", 1, 5);
   const std::string mixer = Vendor() + "/1f/100";
   const std::vector<std::string> summaries = {
@@ -173,13 +173,13 @@ TEST_F(BusWalk, PassesOverSummariesThatMakeNoSense) {
   }
 }
 
-TEST_F(BusWalk, ReadsASummaryInAnyOrderAndWithoutALastLineEnd) {
+TEST_F(BusWalk, TheBusWalkReadsASummaryInAnyOrderAndWithoutALastLineEnd) {
   bus_.List("1-2", "DEVNUM=009\nBUSNUM=002\nANYTHING=else\nPRODUCT=" + Vendor() + "/1f/100");
   bus_.List("1-3", "PRODUCT=" + Vendor() + "/1f/100\nBUSNUM=3\nDEVNUM=10");
   EXPECT_THAT(Units(), ElementsAre(Address(2, 9), Address(3, 10)));
 }
 
-TEST_F(BusWalk, FindsAMixerBehindManyOtherDevices) {
+TEST_F(BusWalk, TheBusWalkFindsAMixerBehindManyOtherDevices) {
   for (int i = 1; i <= 200; ++i) {
     bus_.List("2-" + std::to_string(i), Summary("1d6b/2/601", "002", std::to_string(i)));
   }
@@ -188,7 +188,7 @@ TEST_F(BusWalk, FindsAMixerBehindManyOtherDevices) {
 }
 
 // A number that is only partly read must not count as another number.
-TEST_F(BusWalk, NeverTakesTheBeginningOfANumberForTheWhole) {
+TEST_F(BusWalk, TheBusWalkNeverTakesTheBeginningOfANumberForTheWhole) {
   const std::string summary = "PRODUCT=" + Vendor() + "/1f/100\nBUSNUM=001\nFILL=";
   for (std::size_t size = 900; size < 1100; ++size) {
     std::string filled = summary;
@@ -200,7 +200,7 @@ TEST_F(BusWalk, NeverTakesTheBeginningOfANumberForTheWhole) {
   }
 }
 
-TEST(UnitAddress, IsOrderedByBusThenDevice) {
+TEST(UnitAddress, AnAddressIsOrderedByBusThenDevice) {
   EXPECT_LT((UnitAddress{1, 200}), (UnitAddress{2, 1}));
   EXPECT_LT((UnitAddress{2, 9}), (UnitAddress{2, 10}));
   EXPECT_LT((UnitAddress{2, 127}), (UnitAddress{10, 1}));

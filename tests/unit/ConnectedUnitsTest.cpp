@@ -50,32 +50,32 @@ class VisitOfAllUnits : public testing::Test {
   MockBus bus_;
 };
 
-TEST_F(VisitOfAllUnits, ReachesEachOnceInOrder) {
+TEST_F(VisitOfAllUnits, TheVisitReachesEachOnceInOrder) {
   EXPECT_THAT(Visited(), ElementsAre("node 1/2", "node 1/3", "node 1/4"));
 }
 
-TEST_F(VisitOfAllUnits, SkipsAUnitThatDoesNotOpen) {
+TEST_F(VisitOfAllUnits, TheVisitSkipsAUnitThatDoesNotOpen) {
   std::filesystem::remove(bus_.Node(1, 3));
   EXPECT_THAT(Visited(), ElementsAre("node 1/2", "node 1/4"));
   std::filesystem::create_directory(bus_.Node(1, 3));
   EXPECT_THAT(Visited(), ElementsAre("node 1/2", "node 1/4"));
 }
 
-TEST_F(VisitOfAllUnits, SkipsAUnitUnpluggedSinceTheLookAndNoOther) {
+TEST_F(VisitOfAllUnits, TheVisitSkipsAUnitUnpluggedSinceTheLookAndNoOther) {
   const ConnectedUnits units(11);
   bus_.Unlist("1-1");
   std::filesystem::remove(bus_.Node(1, 2));
   EXPECT_THAT(Visited(units), ElementsAre("node 1/3", "node 1/4"));
 }
 
-TEST_F(VisitOfAllUnits, ReachesNoneThatWasPluggedInSinceTheLook) {
+TEST_F(VisitOfAllUnits, TheVisitReachesNoneThatWasPluggedInSinceTheLook) {
   const ConnectedUnits units(11);
   bus_.PlugMixer("1-4", 1, 1);
   EXPECT_THAT(Visited(units), ElementsAre("node 1/2", "node 1/3", "node 1/4"));
   EXPECT_EQ(units.Count(), 3);
 }
 
-TEST_F(VisitOfAllUnits, LooksAtTheBusOnce) {
+TEST_F(VisitOfAllUnits, TheVisitLooksAtTheBusOnce) {
   const ConnectedUnits units(11);
   bus_.RemoveList();
   EXPECT_THAT(Visited(units), ElementsAre("node 1/2", "node 1/3", "node 1/4"));
@@ -83,7 +83,7 @@ TEST_F(VisitOfAllUnits, LooksAtTheBusOnce) {
 }
 
 // One mixer is unplugged while the first one is served, and another device gets its number.
-TEST_F(VisitOfAllUnits, HasNothingForADeviceThatGotTheNumberOfAUnit) {
+TEST_F(VisitOfAllUnits, TheVisitHasNothingForADeviceThatGotTheNumberOfAUnit) {
   std::vector<std::string> visited;
   VisitUnits(ConnectedUnits(11), [&](DeviceHandle unit) {
     visited.push_back(NodeBehind(unit));
@@ -93,7 +93,7 @@ TEST_F(VisitOfAllUnits, HasNothingForADeviceThatGotTheNumberOfAUnit) {
   EXPECT_THAT(visited, ElementsAre("node 1/2", "node 1/4"));
 }
 
-TEST_F(VisitOfAllUnits, EndsWhenTheVisitorHasSeenEnough) {
+TEST_F(VisitOfAllUnits, TheVisitEndsWhenTheVisitorHasSeenEnough) {
   std::vector<std::string> visited;
   VisitUnits(ConnectedUnits(11), [&](DeviceHandle unit) {
     visited.push_back(NodeBehind(unit));
@@ -102,7 +102,7 @@ TEST_F(VisitOfAllUnits, EndsWhenTheVisitorHasSeenEnough) {
   EXPECT_THAT(visited, ElementsAre("node 1/2", "node 1/3"));
 }
 
-TEST_F(VisitOfAllUnits, HasOneUnitOpenAtATimeAndClosesItAlways) {
+TEST_F(VisitOfAllUnits, TheVisitHasOneUnitOpenAtATimeAndClosesItAlways) {
   int visits = 0;
   VisitUnits(ConnectedUnits(11), [&](DeviceHandle) {
     EXPECT_EQ(bus_.OpenFiles(), 1);
@@ -112,7 +112,7 @@ TEST_F(VisitOfAllUnits, HasOneUnitOpenAtATimeAndClosesItAlways) {
   EXPECT_EQ(bus_.OpenFiles(), 0);
 }
 
-TEST_F(VisitOfAllUnits, OrOfTheFirstAlone) {
+TEST_F(VisitOfAllUnits, AVisitOfTheFirstUnitReachesNoOther) {
   std::vector<std::string> visited;
   const auto visit = [&](DeviceHandle unit) { visited.push_back(NodeBehind(unit)); };
   VisitFirstUnit(ConnectedUnits(11), visit);
@@ -126,18 +126,18 @@ TEST_F(VisitOfAllUnits, OrOfTheFirstAlone) {
   EXPECT_EQ(bus_.OpenFiles(), 0);
 }
 
-TEST_F(VisitOfAllUnits, SendsOneValueToEachWhateverTheyAnswer) {
+TEST_F(VisitOfAllUnits, OneValueIsSentToEachUnitWhateverTheyAnswer) {
   EXPECT_EQ(ApplyToEveryUnit(11, RecordingRequest, 0x020A).Count(), 3);
   EXPECT_THAT(sent, ElementsAre("node 1/2 value 522", "node 1/3 value 522", "node 1/4 value 522"));
 }
 
-TEST_F(VisitOfAllUnits, CountsUnitsThatDoNotOpenToo) {
+TEST_F(VisitOfAllUnits, UnitsThatDoNotOpenAreCountedToo) {
   std::filesystem::remove(bus_.Node(1, 2));
   EXPECT_EQ(ApplyToEveryUnit(11, RecordingRequest, 1).Count(), 3);
   EXPECT_THAT(sent, ElementsAre("node 1/3 value 1", "node 1/4 value 1"));
 }
 
-TEST_F(VisitOfAllUnits, SendsNothingWhenThereIsNone) {
+TEST_F(VisitOfAllUnits, NothingIsSentWithoutAUnit) {
   for (const char *name : {"1-1", "1-2", "1-3"}) bus_.Unlist(name);
   EXPECT_EQ(ApplyToEveryUnit(11, RecordingRequest, 1).Count(), 0);
   EXPECT_THAT(sent, IsEmpty());

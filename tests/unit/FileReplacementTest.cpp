@@ -156,7 +156,7 @@ class FileReplacement : public testing::Test {
   mode_t modeOfOldFile_ = 0644;
 };
 
-TEST_F(FileReplacement, WorksOnEverySystem) {
+TEST_F(FileReplacement, AChangeWorksOnEverySystem) {
   for (const System &system : kSystems) {
     SCOPED_TRACE(system.description);
     WriteBytes(path_, "old");
@@ -182,14 +182,14 @@ TEST_F(FileReplacement, ADescriptorWithTheNumberZeroIsClosedToo) {
   EXPECT_EQ(ReadBytes(path_), "a");
 }
 
-TEST_F(FileReplacement, LeavesTheFileWhenItShallStay) {
+TEST_F(FileReplacement, AChangeToNothingLeavesTheFile) {
   WriteBytes(path_, "old");
   EXPECT_FALSE(ChangeFileContents(path_, kPlenty, [](const auto &) { return std::nullopt; }));
   EXPECT_EQ(ReadBytes(path_), "old");
   ExpectNothingBeside();
 }
 
-TEST_F(FileReplacement, LeavesAFileThatIsTooLarge) {
+TEST_F(FileReplacement, AChangeLeavesAFileThatIsTooLarge) {
   WriteBytes(path_, "four");
   EXPECT_FALSE(ChangeFileContents(path_, 3, [](const auto &) { return "new"; }));
   EXPECT_EQ(ReadBytes(path_), "four");
@@ -257,14 +257,16 @@ void ExpectNothingLost(const TemporaryFolder &folder, int times) {
   }
 }
 
-TEST_F(FileReplacement, ByManyProcessesAtOnceLosesNothing) { ExpectNothingLost(folder_, 150); }
+TEST_F(FileReplacement, ChangesByManyProcessesAtOnceLoseNothing) {
+  ExpectNothingLost(folder_, 150);
+}
 
 // The build folder is usually on a disk, which other tests do not use.
-TEST_F(FileReplacement, ByManyProcessesAtOnceLosesNothingOnADisk) {
+TEST_F(FileReplacement, ChangesByManyProcessesAtOnceLoseNothingOnADisk) {
   ExpectNothingLost(TemporaryFolder(BUILD_FOLDER), 10);
 }
 
-TEST_F(FileReplacement, TheFirstTimeByTwoAtOnceLosesNothing) {
+TEST_F(FileReplacement, TheFirstChangeByTwoAtOnceLosesNothing) {
   constexpr int kRounds = 60;
   for (const System &system : kSystems) {
     SCOPED_TRACE(system.description);
@@ -282,7 +284,7 @@ TEST_F(FileReplacement, TheFirstTimeByTwoAtOnceLosesNothing) {
 
 // --- A writer that stands still, or is killed ----------------------------------------------------
 
-TEST_F(FileReplacement, KilledAtAnyMomentLeavesTheOldFileOrTheNewOne) {
+TEST_F(FileReplacement, AChangeKilledAtAnyMomentLeavesTheOldFileOrTheNewOne) {
   AtEveryMoment([this](SteppedProcess &writer, const System &system) {
     writer.Kill();
     const std::string found = ReadBytes(path_);
@@ -293,7 +295,7 @@ TEST_F(FileReplacement, KilledAtAnyMomentLeavesTheOldFileOrTheNewOne) {
   });
 }
 
-TEST_F(FileReplacement, KilledAtAnyMomentDoesNotBringBackWhatIsRemovedAfterwards) {
+TEST_F(FileReplacement, AChangeKilledAtAnyMomentDoesNotBringBackWhatIsRemovedAfterwards) {
   AtEveryMoment([this](SteppedProcess &writer, const System &system) {
     writer.Kill();
     ASSERT_EQ(unlink(path_.c_str()), 0);
@@ -305,7 +307,7 @@ TEST_F(FileReplacement, KilledAtAnyMomentDoesNotBringBackWhatIsRemovedAfterwards
   });
 }
 
-TEST_F(FileReplacement, KilledAtAnyMomentDoesNotUndoAnEditAfterwards) {
+TEST_F(FileReplacement, AChangeKilledAtAnyMomentDoesNotUndoAnEditAfterwards) {
   AtEveryMoment([this](SteppedProcess &writer, const System &system) {
     writer.Kill();
     Edit("edited");
@@ -315,7 +317,7 @@ TEST_F(FileReplacement, KilledAtAnyMomentDoesNotUndoAnEditAfterwards) {
   });
 }
 
-TEST_F(FileReplacement, SlowerThanAnotherAtAnyMomentLosesNothing) {
+TEST_F(FileReplacement, AChangeSlowerThanAnotherAtAnyMomentLosesNothing) {
   AtEveryMoment([this](SteppedProcess &writer, const System &system) {
     LetAnotherAdd("b", system);
     EXPECT_TRUE(writer.RunToEnd());
@@ -324,7 +326,7 @@ TEST_F(FileReplacement, SlowerThanAnotherAtAnyMomentLosesNothing) {
   });
 }
 
-TEST_F(FileReplacement, SlowerThanAnotherAndThenKilledLosesNothingOfTheOthers) {
+TEST_F(FileReplacement, AChangeSlowerThanAnotherAndThenKilledLosesNothingOfTheOthers) {
   AtEveryTwoMoments(
       {kSystems[0], kSystems[4]}, [this](const System &system) { LetAnotherAdd("b", system); },
       [this](const System &system) {
@@ -334,7 +336,7 @@ TEST_F(FileReplacement, SlowerThanAnotherAndThenKilledLosesNothingOfTheOthers) {
       });
 }
 
-TEST_F(FileReplacement, SlowerThanAnEditorLosesNothingOfTheEdit) {
+TEST_F(FileReplacement, AChangeSlowerThanAnEditorLosesNothingOfTheEdit) {
   AtEveryMoment([this](SteppedProcess &writer, const System &system) {
     if (!system.canExchange) return;
     Edit("edited");
@@ -344,7 +346,7 @@ TEST_F(FileReplacement, SlowerThanAnEditorLosesNothingOfTheEdit) {
   });
 }
 
-TEST_F(FileReplacement, SlowerThanAnEditorAndThenKilledLosesNothingOfTheEdit) {
+TEST_F(FileReplacement, AChangeSlowerThanAnEditorAndThenKilledLosesNothingOfTheEdit) {
   AtEveryTwoMoments(
       {kSystems[0], kSystems[1]}, [this](const System &) { Edit("edited"); },
       [this](const System &system) {
@@ -354,7 +356,7 @@ TEST_F(FileReplacement, SlowerThanAnEditorAndThenKilledLosesNothingOfTheEdit) {
       });
 }
 
-TEST_F(FileReplacement, SlowerThanAChangeInPlaceLosesNothingOfIt) {
+TEST_F(FileReplacement, AChangeSlowerThanAChangeInPlaceLosesNothingOfIt) {
   AtEveryMoment([this](SteppedProcess &writer, const System &system) {
     if (!system.canExchange) return;
     WriteBytes(path_, "edited");
@@ -364,7 +366,7 @@ TEST_F(FileReplacement, SlowerThanAChangeInPlaceLosesNothingOfIt) {
   });
 }
 
-TEST_F(FileReplacement, SlowerThanTheRemovalDoesNotBringTheFileBack) {
+TEST_F(FileReplacement, AChangeSlowerThanTheRemovalDoesNotBringTheFileBack) {
   AtEveryMoment([this](SteppedProcess &writer, const System &system) {
     if (!system.canExchange) return;
     ASSERT_EQ(unlink(path_.c_str()), 0);
@@ -373,7 +375,7 @@ TEST_F(FileReplacement, SlowerThanTheRemovalDoesNotBringTheFileBack) {
   });
 }
 
-TEST_F(FileReplacement, RemovesWhatKilledWritersLeftAndNothingElse) {
+TEST_F(FileReplacement, AChangeRemovesWhatKilledWritersLeftAndNothingElse) {
   const std::string living = folder_ / ".settings.tmp.77";
   WriteBytes(path_, "old");
   WriteBytes(living, "half of it");
@@ -394,7 +396,7 @@ TEST_F(FileReplacement, RemovesWhatKilledWritersLeftAndNothingElse) {
 }
 
 // The mode of the file that is replaced may already be set.
-TEST_F(FileReplacement, RemovesAnUnfinishedFileThatMayOnlyBeRead) {
+TEST_F(FileReplacement, AChangeRemovesAnUnfinishedFileThatMayOnlyBeRead) {
   ASSERT_EQ(chmod(folder_.Path().c_str(), 0777), 0);
   WriteBytes(folder_ / ".settings.tmp.78", "half of it");
   ASSERT_EQ(chmod((folder_ / ".settings.tmp.78").c_str(), 0444), 0);
@@ -407,7 +409,7 @@ TEST_F(FileReplacement, RemovesAnUnfinishedFileThatMayOnlyBeRead) {
 
 // --- A system that fails -------------------------------------------------------------------------
 
-TEST_F(FileReplacement, LeavesAFileThatCannotBeReadAtTheMoment) {
+TEST_F(FileReplacement, AChangeLeavesAFileThatCannotBeReadAtTheMoment) {
   WriteBytes(path_, "old");
   for (const int error : {EIO, ESTALE, ETIMEDOUT, ENOTCONN, ENXIO, ENFILE, EMFILE, ENOMEM,
                           EWOULDBLOCK, ENOTDIR, ELOOP, ENODEV}) {
@@ -422,7 +424,7 @@ TEST_F(FileReplacement, LeavesAFileThatCannotBeReadAtTheMoment) {
   }
 }
 
-TEST_F(FileReplacement, LeavesAFileThatBreaksOffWhileItIsRead) {
+TEST_F(FileReplacement, AChangeLeavesAFileThatBreaksOffWhileItIsRead) {
   WriteBytes(path_, "old");
   for (const int error : {EIO, ESTALE, ETIMEDOUT}) {
     SCOPED_TRACE(error);
@@ -435,7 +437,7 @@ TEST_F(FileReplacement, LeavesAFileThatBreaksOffWhileItIsRead) {
   }
 }
 
-TEST_F(FileReplacement, WithAnySystemCallFailingOnceLosesNothing) {
+TEST_F(FileReplacement, AChangeWithAnySystemCallFailingOnceLosesNothing) {
   for (const int error : {EIO, EINTR, ENOMEM, EMFILE, ENOSPC}) {
     AtEveryMoment([&](SteppedProcess &writer, const System &system) {
       SCOPED_TRACE(error);
@@ -457,7 +459,7 @@ bool StepToCall(SteppedProcess &writer, long number) {
   return call.has_value();
 }
 
-TEST_F(FileReplacement, InterruptedWhileReadingOrWritingGoesOn) {
+TEST_F(FileReplacement, AChangeInterruptedWhileReadingOrWritingGoesOn) {
   constexpr std::array kNumbers = {SYS_pread64, SYS_write, SYS_fsync};
   for (const long number : kNumbers) {
     SCOPED_TRACE(number);
@@ -470,7 +472,7 @@ TEST_F(FileReplacement, InterruptedWhileReadingOrWritingGoesOn) {
   }
 }
 
-TEST_F(FileReplacement, LeavesTheFileWhenItCannotSeeWhoElseWrites) {
+TEST_F(FileReplacement, AChangeLeavesTheFileWhenItCannotSeeWhoElseWrites) {
   for (const bool isThere : {true, false}) {
     for (const System &system : kSystems) {
       SCOPED_TRACE(system.description);
@@ -486,7 +488,7 @@ TEST_F(FileReplacement, LeavesTheFileWhenItCannotSeeWhoElseWrites) {
   }
 }
 
-TEST_F(FileReplacement, ReplacesAFileOfAnotherProjectThatCannotBeExchanged) {
+TEST_F(FileReplacement, AChangeReplacesAFileOfAnotherProjectThatCannotBeExchanged) {
   WriteBytes(path_, "old");
   SteppedProcess writer(Adding("a", kSystems.front()));
   ASSERT_TRUE(StepToCall(writer, SYS_renameat2));
@@ -496,7 +498,7 @@ TEST_F(FileReplacement, ReplacesAFileOfAnotherProjectThatCannotBeExchanged) {
   ExpectNothingBeside();
 }
 
-TEST_F(FileReplacement, WhoseUnfinishedFileWasRemovedStartsAgain) {
+TEST_F(FileReplacement, AChangeWhoseUnfinishedFileWasRemovedStartsAgain) {
   WriteBytes(path_, "old");
   SteppedProcess writer(Adding("a", kSystems[1]));
   ASSERT_TRUE(StepToCall(writer, SYS_renameat));
@@ -509,7 +511,7 @@ TEST_F(FileReplacement, WhoseUnfinishedFileWasRemovedStartsAgain) {
 }
 
 // As on a file system that gives a file another inode number whenever it is asked.
-TEST_F(FileReplacement, OfAFileThatAlwaysLooksChangedIsDoneNevertheless) {
+TEST_F(FileReplacement, AChangeOfAFileThatAlwaysLooksChangedIsDoneNevertheless) {
   WriteBytes(path_, "old");
   SteppedProcess writer(Adding("a", kSystems.front()));
   // Another program's file beside it does not count as a writer's.
@@ -525,7 +527,7 @@ TEST_F(FileReplacement, OfAFileThatAlwaysLooksChangedIsDoneNevertheless) {
   EXPECT_THAT(folder_.Names(), ElementsAre(".settings.new.swp", "settings"));
 }
 
-TEST_F(FileReplacement, ThatPutsAnEditBackLosesNothingOfALaterOneEither) {
+TEST_F(FileReplacement, AChangeThatPutsAnEditBackLosesNothingOfALaterOneEither) {
   bool isAtWork = true;
   for (int more = 1; isAtWork && !HasFailure(); ++more) {
     SCOPED_TRACE(more);
@@ -542,7 +544,7 @@ TEST_F(FileReplacement, ThatPutsAnEditBackLosesNothingOfALaterOneEither) {
   }
 }
 
-TEST_F(FileReplacement, WithASystemCallFailingWhileItPutsAnEditBackLosesNothing) {
+TEST_F(FileReplacement, AChangeWithASystemCallFailingWhileItPutsAnEditBackLosesNothing) {
   bool isAtWork = true;
   for (int more = 1; isAtWork && !HasFailure(); ++more) {
     SCOPED_TRACE(more);
@@ -571,7 +573,7 @@ bool IsDurableWithEachWrite(const SteppedProcess &process, std::uint64_t file) {
 
 // A power cut must not undo the change: the contents and rights are durable before they get a name,
 // and the name before the setter returns.
-TEST_F(FileReplacement, IsDurableBeforeItShowsAndBeforeItIsSaidToBeDone) {
+TEST_F(FileReplacement, AChangeIsDurableBeforeItShowsAndBeforeItIsSaidToBeDone) {
   const auto orderOf = [this](mode_t mode, const System &system) {
     WriteBytes(path_, "old");
     EXPECT_EQ(chmod(path_.c_str(), mode), 0);
@@ -620,7 +622,7 @@ struct stat StatusOf(const std::string &path) {
   return status;
 }
 
-TEST_F(FileReplacement, ReplacesWhatALinkLeadsToAndKeepsTheLink) {
+TEST_F(FileReplacement, AChangeReplacesWhatALinkLeadsToAndKeepsTheLink) {
   ASSERT_EQ(mkdir((folder_ / "elsewhere").c_str(), 0700), 0);
   WriteBytes(folder_ / "elsewhere/file", "old");
   ASSERT_EQ(symlink("elsewhere/file", path_.c_str()), 0);
@@ -682,7 +684,7 @@ TEST_F(FileReplacement, RootDoesNotFollowAUsersLinkToAFolderOfAnotherUser) {
 
 // --- What may not be read ------------------------------------------------------------------------
 
-TEST_F(FileReplacement, KeepsAFileThatItMayNotReadBesideTheNewOne) {
+TEST_F(FileReplacement, AChangeKeepsAFileThatItMayNotReadBesideTheNewOne) {
   ASSERT_EQ(chmod(folder_.Path().c_str(), 0777), 0);
   for (const char *const old : {"first", "second", "third"}) {
     std::remove(path_.c_str());
@@ -707,7 +709,7 @@ TEST_F(FileReplacement, KeepsAFileThatItMayNotReadBesideTheNewOne) {
   }
 }
 
-TEST_F(FileReplacement, KeepsItWhereFilesCannotBeExchangedToo) {
+TEST_F(FileReplacement, AChangeKeepsItWhereFilesCannotBeExchangedToo) {
   ASSERT_EQ(chmod(folder_.Path().c_str(), 0777), 0);
   WriteBytes(path_, "old");
   ASSERT_EQ(chmod(path_.c_str(), 0), 0);
@@ -741,7 +743,7 @@ class UnreadableFile : public FileReplacement {
   }
 };
 
-TEST_F(UnreadableFile, ReplacedSlowerThanByAnotherAtAnyMomentLosesNothing) {
+TEST_F(UnreadableFile, AnUnreadableFileReplacedSlowerThanByAnotherAtAnyMomentLosesNothing) {
   AsOrdinaryUser([this] {
     AtEveryMoment([this](SteppedProcess &writer, const System &system) {
       LetAnotherAdd("b", system);
@@ -752,7 +754,7 @@ TEST_F(UnreadableFile, ReplacedSlowerThanByAnotherAtAnyMomentLosesNothing) {
   });
 }
 
-TEST_F(UnreadableFile, KilledAtAnyMomentIsNeverMissing) {
+TEST_F(UnreadableFile, AnUnreadableFileKilledAtAnyMomentIsNeverMissing) {
   AsOrdinaryUser([this] {
     AtEveryMoment([this](SteppedProcess &writer, const System &system) {
       writer.Kill();
@@ -765,7 +767,7 @@ TEST_F(UnreadableFile, KilledAtAnyMomentIsNeverMissing) {
   });
 }
 
-TEST_F(UnreadableFile, WithAnySystemCallFailingOnceIsNeverMissing) {
+TEST_F(UnreadableFile, AnUnreadableFileWithAnySystemCallFailingOnceIsNeverMissing) {
   AsOrdinaryUser([this] {
     AtEveryMoment([this](SteppedProcess &writer, const System &system) {
       writer.Fail(EIO);
@@ -779,7 +781,7 @@ TEST_F(UnreadableFile, WithAnySystemCallFailingOnceIsNeverMissing) {
   });
 }
 
-TEST_F(UnreadableFile, ReplacedSlowerThanByAnotherAndThenKilledLosesNothing) {
+TEST_F(UnreadableFile, AnUnreadableFileReplacedSlowerThanByAnotherAndThenKilledLosesNothing) {
   AsOrdinaryUser([this] {
     AtEveryTwoMoments(
         {kSystems[0], kSystems[1]}, [this](const System &system) { LetAnotherAdd("b", system); },
@@ -791,7 +793,7 @@ TEST_F(UnreadableFile, ReplacedSlowerThanByAnotherAndThenKilledLosesNothing) {
   });
 }
 
-TEST_F(FileReplacement, LeavesAFolderInThePlace) {
+TEST_F(FileReplacement, AChangeLeavesAFolderInThePlace) {
   ASSERT_EQ(mkdir(path_.c_str(), 0700), 0);
   EXPECT_FALSE(Add(path_, "a"));
   EXPECT_TRUE(S_ISDIR(StatusOf(path_).st_mode));

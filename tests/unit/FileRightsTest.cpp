@@ -184,7 +184,7 @@ TEST_F(FileRights, AttributesOfUsersAreKept) {
   EXPECT_EQ(Attribute(path_, ("user." + std::string(200, 'm')).c_str()), many);
 }
 
-TEST_F(FileRights, ThoseOfWhatIsNoFileAreNotTaken) {
+TEST_F(FileRights, TheRightsOfWhatIsNoFileAreNotTaken) {
   const std::vector<std::function<int()>> kinds = {
       [this] { return mkfifo(path_.c_str(), 0); },
       [this] { return mknod(path_.c_str(), S_IFSOCK, 0); }};

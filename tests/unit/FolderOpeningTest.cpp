@@ -35,7 +35,7 @@ bool IsFolder(const File &file, const std::string &path) {
          opened.st_dev == there.st_dev && opened.st_ino == there.st_ino;
 }
 
-TEST(OpenFolder, MakesEveryMissingLevelForItsOwnerAlone) {
+TEST(OpenFolder, OpenFolderMakesEveryMissingLevelForItsOwnerAlone) {
   const TemporaryFolder folder;
   const mode_t before = umask(0);
   const File opened = OpenFolder(folder / "one/two/three");
@@ -46,7 +46,7 @@ TEST(OpenFolder, MakesEveryMissingLevelForItsOwnerAlone) {
   EXPECT_EQ(ModeOf(folder / "one/two/three"), 0700U);
 }
 
-TEST(OpenFolder, LeavesLevelsThatAreThereAsTheyAre) {
+TEST(OpenFolder, OpenFolderLeavesLevelsThatAreThereAsTheyAre) {
   const TemporaryFolder folder;
   ASSERT_EQ(mkdir((folder / "one").c_str(), 0700), 0);
   ASSERT_EQ(chmod((folder / "one").c_str(), 0755), 0);
@@ -59,14 +59,14 @@ TEST(OpenFolder, LeavesLevelsThatAreThereAsTheyAre) {
   }
 }
 
-TEST(OpenFolder, LeavesAFileInAFoldersPlaceAsItIs) {
+TEST(OpenFolder, OpenFolderLeavesAFileInAFoldersPlaceAsItIs) {
   const TemporaryFolder folder;
   WriteBytes(folder / "one", "a file");
   ExpectQuietSuccess([&] { EXPECT_FALSE(OpenFolder(folder / "one/two").IsOpen()); });
   EXPECT_EQ(ReadBytes(folder / "one"), "a file");
 }
 
-TEST(OpenFolder, FollowsLinksOfItsOwnUser) {
+TEST(OpenFolder, OpenFolderFollowsLinksOfItsOwnUser) {
   const TemporaryFolder folder;
   ASSERT_EQ(mkdir((folder / "there").c_str(), 0700), 0);
   ASSERT_EQ(symlink("./there//", (folder / "relative").c_str()), 0);
@@ -76,7 +76,7 @@ TEST(OpenFolder, FollowsLinksOfItsOwnUser) {
   EXPECT_TRUE(IsFolder(OpenFolder(folder / "relative/one/two"), folder / "there/one/two"));
 }
 
-TEST(OpenFolder, MakesNothingBehindALinkThatLeadsNowhere) {
+TEST(OpenFolder, OpenFolderMakesNothingBehindALinkThatLeadsNowhere) {
   const TemporaryFolder folder;
   ASSERT_EQ(symlink("nowhere", (folder / "link").c_str()), 0);
   ASSERT_EQ(symlink("circle", (folder / "circle").c_str()), 0);
@@ -86,7 +86,9 @@ TEST(OpenFolder, MakesNothingBehindALinkThatLeadsNowhere) {
   EXPECT_EQ(folder.Entries(), 2U);
 }
 
-TEST(OpenFolder, OpensTheRootOfAllFolders) { EXPECT_TRUE(IsFolder(OpenFolder("/"), "/")); }
+TEST(OpenFolder, OpenFolderOpensTheRootOfAllFolders) {
+  EXPECT_TRUE(IsFolder(OpenFolder("/"), "/"));
+}
 
 // --- Root in a user's folders --------------------------------------------------------------------
 
@@ -122,7 +124,7 @@ class OpenFolderAsRoot : public testing::Test {
   const std::string away_ = folder_ / "home/away";
 };
 
-TEST_F(OpenFolderAsRoot, DoesNotFollowAUsersLinkBehindOneOfItsOwn) {
+TEST_F(OpenFolderAsRoot, RootDoesNotFollowAUsersLinkBehindOneOfItsOwn) {
   EXPECT_TRUE(IsFolder(OpenFolder(folder_ / "link/config"), config_));
   PutUsersLinkInPlace();
   EXPECT_FALSE(OpenFolder(folder_ / "link/config").IsOpen());
@@ -130,7 +132,7 @@ TEST_F(OpenFolderAsRoot, DoesNotFollowAUsersLinkBehindOneOfItsOwn) {
   EXPECT_FALSE(OpenFolder(folder_ / "chain").IsOpen());
 }
 
-TEST_F(OpenFolderAsRoot, IsNotLedElsewhereByALinkThatTakesAFoldersPlaceMeanwhile) {
+TEST_F(OpenFolderAsRoot, RootIsNotLedElsewhereByALinkThatTakesAFoldersPlaceMeanwhile) {
   bool isAtWork = true;
   int moment = 1;
   for (; isAtWork && !HasFailure(); ++moment) {

@@ -30,7 +30,7 @@ using trxtest::ReadBytes;
 using trxtest::TemporaryFolder;
 
 // The environment is the process's: each test changes it in a child.
-TEST(LibraryFolder, LiesInTheConfigurationFolderOfTheEnvironment) {
+TEST(LibraryFolder, TheLibraryFolderLiesInTheConfigurationFolderOfTheEnvironment) {
   ExpectQuietSuccess([] {
     setenv("HOME", "/home/somebody", 1);
     setenv("XDG_CONFIG_HOME", "/elsewhere/config", 1);
@@ -38,7 +38,7 @@ TEST(LibraryFolder, LiesInTheConfigurationFolderOfTheEnvironment) {
   });
 }
 
-TEST(LibraryFolder, LiesInTheHomeFolderWhenTheEnvironmentNamesNoOther) {
+TEST(LibraryFolder, TheLibraryFolderLiesInTheHomeFolderWhenTheEnvironmentNamesNoOther) {
   ExpectQuietSuccess([] {
     setenv("HOME", "/home/somebody", 1);
     unsetenv("XDG_CONFIG_HOME");
@@ -46,7 +46,7 @@ TEST(LibraryFolder, LiesInTheHomeFolderWhenTheEnvironmentNamesNoOther) {
   });
 }
 
-TEST(LibraryFolder, TakesNoNoticeOfAConfigurationFolderThatIsNotAbsolute) {
+TEST(LibraryFolder, TheLibraryFolderTakesNoNoticeOfAConfigurationFolderThatIsNotAbsolute) {
   ExpectQuietSuccess([] {
     setenv("HOME", "/home/somebody", 1);
     for (const char *relative : {"", "config", "./config", "~/config"}) {
@@ -57,7 +57,7 @@ TEST(LibraryFolder, TakesNoNoticeOfAConfigurationFolderThatIsNotAbsolute) {
   });
 }
 
-TEST(LibraryFolder, LiesInTheHomeFolderOfTheAccountWhenTheEnvironmentNamesNone) {
+TEST(LibraryFolder, TheLibraryFolderLiesInTheHomeFolderOfTheAccountWhenTheEnvironmentNamesNone) {
   const passwd *const account = getpwuid(getuid());
   ASSERT_NE(account, nullptr);
   const std::string expected = std::string(account->pw_dir) + "/.config/orvikaudio";
@@ -72,7 +72,7 @@ TEST(LibraryFolder, LiesInTheHomeFolderOfTheAccountWhenTheEnvironmentNamesNone) 
   });
 }
 
-TEST(LibraryFolder, IsLookedUpAfreshEachTime) {
+TEST(LibraryFolder, TheLibraryFolderIsLookedUpAfreshEachTime) {
   ExpectQuietSuccess([] {
     setenv("XDG_CONFIG_HOME", "/first", 1);
     EXPECT_THAT(LibraryFolder(), Optional(StrEq("/first/orvikaudio")));
@@ -85,7 +85,8 @@ TEST(LibraryFolder, IsLookedUpAfreshEachTime) {
 }
 
 // The user who starts such a program must not choose where it writes with another user's rights.
-TEST(LibraryFolder, LiesInTheHomeOfWhoseRightsTheProcessHasWhateverTheEnvironmentSays) {
+TEST(LibraryFolder,
+     TheLibraryFolderLiesInTheHomeOfWhoseRightsTheProcessHasWhateverTheEnvironmentSays) {
   const Environment environment = {{"HOME", "/foreign"}, {"XDG_CONFIG_HOME", "/foreign/config"}};
   EXPECT_THAT(OutputOf(PRIVILEGE_PROBE), EndsWith(" /foreign/config/orvikaudio"));
   const PrivilegedProbe probe;
@@ -102,7 +103,7 @@ TEST(LibraryFolder, LiesInTheHomeOfWhoseRightsTheProcessHasWhateverTheEnvironmen
 }
 
 // Such a program's folders may be closed to the user who starts it.
-TEST(LibraryFolder, IsMadeInAHomeThatOnlyTheUserWhoseRightsTheProcessHasCanEnter) {
+TEST(LibraryFolder, TheLibraryFolderIsMadeInAHomeThatOnlyTheUserWhoseRightsTheProcessHasCanEnter) {
   if (geteuid() != 0) GTEST_SKIP() << "only root can give a program another user's rights";
   const PrivilegedProbe probe;
   ASSERT_TRUE(probe.IsPrivileged());
@@ -118,7 +119,7 @@ TEST(LibraryFolder, IsMadeInAHomeThatOnlyTheUserWhoseRightsTheProcessHasCanEnter
   EXPECT_EQ(ReadBytes(file), "stored");
 }
 
-TEST(LibraryFolder, IsNoneForAUserWithoutHomeAndAccount) {
+TEST(LibraryFolder, TheLibraryFolderIsNoneForAUserWithoutHomeAndAccount) {
   ExpectQuietSuccess([] {
     BecomeUserWithoutAccount();
     unsetenv("XDG_CONFIG_HOME");

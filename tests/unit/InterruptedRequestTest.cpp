@@ -86,25 +86,25 @@ class InterruptedRequest : public testing::Test {
   USBDeviceInterface unit_ = {1000, {}};
 };
 
-TEST_F(InterruptedRequest, OneThatIsNotIsMadeOnceWithFiveSeconds) {
+TEST_F(InterruptedRequest, ARequestThatIsNotInterruptedIsMadeOnceWithFiveSeconds) {
   Answer({});
   EXPECT_EQ(Send(), 0);
   EXPECT_THAT(TimeOuts(), ElementsAre(5000));
 }
 
-TEST_F(InterruptedRequest, IsMadeAgainWithTheTimeThatIsLeft) {
+TEST_F(InterruptedRequest, AnInterruptedRequestIsMadeAgainWithTheTimeThatIsLeft) {
   Answer({{1200, -EINTR}});
   EXPECT_EQ(Send(), 0);
   EXPECT_THAT(TimeOuts(), ElementsAre(5000, 3800));
 }
 
-TEST_F(InterruptedRequest, CountsAllTheTimeFromTheBeginning) {
+TEST_F(InterruptedRequest, AnInterruptedRequestCountsAllTheTimeFromTheBeginning) {
   Answer({{1200, -EINTR}, {800, -EINTR}, {0, -EINTR}, {2999, -EINTR}});
   EXPECT_EQ(Send(), 0);
   EXPECT_THAT(TimeOuts(), ElementsAre(5000, 3800, 3000, 3000, 1));
 }
 
-TEST_F(InterruptedRequest, IsGivenUpWhenItsTimeIsOver) {
+TEST_F(InterruptedRequest, AnInterruptedRequestIsGivenUpWhenItsTimeIsOver) {
   for (const std::int64_t taken : {5000, 5001, 60000}) {
     kernel = Kernel();
     Answer({{taken, -EINTR}});
@@ -117,7 +117,7 @@ TEST_F(InterruptedRequest, IsGivenUpWhenItsTimeIsOver) {
   EXPECT_THAT(TimeOuts(), ElementsAre(5000, 1000));
 }
 
-TEST_F(InterruptedRequest, IsTheSameRequestEachTime) {
+TEST_F(InterruptedRequest, AnInterruptedRequestIsTheSameRequestEachTime) {
   Answer({{10, -EINTR}, {10, -EINTR}});
   std::array<std::uint8_t, 4> buffer = {};
   EXPECT_EQ(GetCertifyLevel(&unit_, buffer.data(), 4), 0);
@@ -132,7 +132,7 @@ TEST_F(InterruptedRequest, IsTheSameRequestEachTime) {
   }
 }
 
-TEST_F(InterruptedRequest, SaysHowItsLastTryEnded) {
+TEST_F(InterruptedRequest, AnInterruptedRequestSaysHowItsLastTryEnded) {
   Answer({{10, -EINTR}, {10, -EPIPE}});
   EXPECT_EQ(Send(), kStalled);
   kernel = Kernel();
@@ -143,7 +143,7 @@ TEST_F(InterruptedRequest, SaysHowItsLastTryEnded) {
   EXPECT_EQ(length, 3);
 }
 
-TEST_F(InterruptedRequest, OtherFailuresAreFinal) {
+TEST_F(InterruptedRequest, FailuresOtherThanAnInterruptionAreFinal) {
   for (const int error : {EPIPE, ETIMEDOUT, ENODEV, ESHUTDOWN, EAGAIN, EIO}) {
     kernel = Kernel();
     Answer({{10, -error}});
@@ -189,7 +189,7 @@ class SignalsDuringARequest : public InterruptedRequest {
   struct sigaction actionBefore_;
 };
 
-TEST_F(SignalsDuringARequest, MayInterruptTheFirstTryAndWaitForTheOthers) {
+TEST_F(SignalsDuringARequest, SignalsMayInterruptTheFirstTryAndWaitForTheOthers) {
   std::vector<std::vector<int>> heldBack;
   std::vector<int> handled;
   kernel.answer = [&](std::uint32_t) {
@@ -205,7 +205,7 @@ TEST_F(SignalsDuringARequest, MayInterruptTheFirstTryAndWaitForTheOthers) {
   EXPECT_EQ(timesHandled, 2) << "behind the request, once for all that waited";
 }
 
-TEST_F(SignalsDuringARequest, AreAsTheHostHadThemBehindIt) {
+TEST_F(SignalsDuringARequest, SignalsAreAsTheHostHadThemBehindIt) {
   for (const std::int64_t taken : {10, 5000}) {
     kernel = Kernel();
     Answer({{taken, -EINTR}});

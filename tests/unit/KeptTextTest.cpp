@@ -13,11 +13,11 @@
 namespace orv {
 namespace {
 
-TEST(KeptTextTest, HasTheSameCharacters) {
+TEST(KeptTextTest, AKeptTextHasTheSameCharacters) {
   EXPECT_STREQ(KeptText("kept: ミキサー, микшер, mixer"), "kept: ミキサー, микшер, mixer");
 }
 
-TEST(KeptTextTest, IsACopyThatOutlivesItsSource) {
+TEST(KeptTextTest, AKeptTextIsACopyThatOutlivesItsSource) {
   auto source = std::make_unique<std::string>("kept: outlives a source that is freed");
   ORVStringRef kept = KeptText(*source);
   EXPECT_NE(kept, source->c_str());
@@ -26,23 +26,23 @@ TEST(KeptTextTest, IsACopyThatOutlivesItsSource) {
   EXPECT_STREQ(kept, "kept: outlives a source that is freed");
 }
 
-TEST(KeptTextTest, TakesNoMoreMemoryWhenAskedAgain) {
+TEST(KeptTextTest, AKeptTextTakesNoMoreMemoryWhenAskedAgain) {
   ORVStringRef first = KeptText("kept: asked twice");
   EXPECT_EQ(KeptText("kept: asked twice"), first);
   KeptText("kept: another in between");
   EXPECT_EQ(KeptText("kept: asked twice"), first);
 }
 
-TEST(KeptTextTest, TellsTextsApartThatBeginAlike) {
+TEST(KeptTextTest, AKeptTextTellsTextsApartThatBeginAlike) {
   ORVStringRef longer = KeptText("kept: beginning and end");
   ORVStringRef shorter = KeptText("kept: beginning");
   EXPECT_STREQ(longer, "kept: beginning and end");
   EXPECT_STREQ(shorter, "kept: beginning");
 }
 
-TEST(KeptTextTest, MayBeEmpty) { EXPECT_STREQ(KeptText(""), ""); }
+TEST(KeptTextTest, AKeptTextMayBeEmpty) { EXPECT_STREQ(KeptText(""), ""); }
 
-TEST(KeptTextTest, StaysInPlaceWhileManyOthersFollow) {
+TEST(KeptTextTest, AKeptTextStaysInPlaceWhileManyOthersFollow) {
   ORVStringRef kept = KeptText("kept: early");
   for (int i = 0; i < 2000; ++i) KeptText("kept: follower " + std::to_string(i));
   EXPECT_STREQ(kept, "kept: early");
@@ -77,7 +77,7 @@ std::array<Handed, kThreads> AskOnManyThreads() {
   return handed;
 }
 
-TEST(KeptTextTest, IsRightOnEveryThreadThatAsksAtTheSameTime) {
+TEST(KeptTextTest, AKeptTextIsRightOnEveryThreadThatAsksAtTheSameTime) {
   const auto handed = AskOnManyThreads();
   for (std::size_t i = 0; i < kTexts; ++i) {
     std::set<ORVStringRef> places;
@@ -88,7 +88,7 @@ TEST(KeptTextTest, IsRightOnEveryThreadThatAsksAtTheSameTime) {
   }
 }
 
-TEST(KeptTextTest, LosesNoTextOfAThreadToAnother) {
+TEST(KeptTextTest, AKeptTextLosesNoTextOfAThreadToAnother) {
   std::array<std::vector<ORVStringRef>, kThreads> handed;
   std::latch ready(kThreads);
   std::vector<std::thread> threads;

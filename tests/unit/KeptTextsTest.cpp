@@ -20,7 +20,7 @@ class TextWithMemory {
   ORVStringRef reference_;
 };
 
-TEST(KeptTexts, KeepNoTextThatThePlatformCouldNotMake) {
+TEST(KeptTexts, NoTextIsKeptThatThePlatformCouldNotMake) {
   // Lives as long as the process, because all texts are kept.
   static KeptTexts<TextWithMemory> texts;
   hasMemory = false;

@@ -51,7 +51,7 @@ class LocalizedStringsTest : public testing::Test {
   TemporaryFolder folder_;
 };
 
-TEST_F(LocalizedStringsTest, AreInTheLanguageOfTheSystem) {
+TEST_F(LocalizedStringsTest, TextsAreInTheLanguageOfTheSystem) {
   AddHello("English", "hello");
   AddHello("German", "Grüß Gott");
   AddHello("Japanese", "こんにちは");
@@ -61,25 +61,25 @@ TEST_F(LocalizedStringsTest, AreInTheLanguageOfTheSystem) {
   EXPECT_STREQ(TextWith({}), "hello");
 }
 
-TEST_F(LocalizedStringsTest, AreEnglishWhereTheBundleHasNoSuchLanguage) {
+TEST_F(LocalizedStringsTest, TextsAreEnglishWhereTheBundleHasNoSuchLanguage) {
   AddHello("English", "hello");
   EXPECT_STREQ(TextWith({{"LANG", "ko_KR.UTF-8"}}), "hello");
 }
 
-TEST_F(LocalizedStringsTest, AreInTheNextLanguageOfTheUserBeforeEnglish) {
+TEST_F(LocalizedStringsTest, TextsAreInTheNextLanguageOfTheUserBeforeEnglish) {
   AddHello("English", "hello");
   AddHello("French", "bonjour");
   EXPECT_STREQ(TextWith({{"LANG", "ko_KR.UTF-8"}, {"LANGUAGE", "ko:fr:de"}}), "bonjour");
 }
 
-TEST_F(LocalizedStringsTest, AreEnglishWhereTheLanguageLacksTheKey) {
+TEST_F(LocalizedStringsTest, TextsAreEnglishWhereTheLanguageLacksTheKey) {
   AddHello("English", "hello");
   AddEntries("German", "<key>OTHER</key><string>anderes</string>");
   EXPECT_STREQ(TextWith({{"LANG", "de_DE.UTF-8"}}), "hello");
   EXPECT_STREQ(TextWith({{"LANG", "de_DE.UTF-8"}}, "OTHER"), "anderes");
 }
 
-TEST_F(LocalizedStringsTest, AreEnglishWhereTheFileCannotBeRead) {
+TEST_F(LocalizedStringsTest, TextsAreEnglishWhereTheFileCannotBeRead) {
   AddHello("English", "hello");
   AddFile("German", "\"HELLO\" = \"hallo");
   AddFile("French", "");
@@ -89,40 +89,40 @@ TEST_F(LocalizedStringsTest, AreEnglishWhereTheFileCannotBeRead) {
   EXPECT_STREQ(TextWith({{"LANG", "nl_NL.UTF-8"}}), "hello");
 }
 
-TEST_F(LocalizedStringsTest, AreEnglishWhereTheEntryIsNoText) {
+TEST_F(LocalizedStringsTest, TextsAreEnglishWhereTheEntryIsNoText) {
   AddHello("English", "hello");
   AddEntries("German", "<key>HELLO</key><integer>7</integer>");
   EXPECT_STREQ(TextWith({{"LANG", "de_DE.UTF-8"}}), "hello");
 }
 
-TEST_F(LocalizedStringsTest, AreNullWithoutABundle) {
+TEST_F(LocalizedStringsTest, TextsAreNullWithoutABundle) {
   const Environment environment(OnlyLanguage({{"LANG", "de_DE.UTF-8"}}));
   EXPECT_EQ(LocalizedString(Bundle() + "/missing", "HELLO"), nullptr);
   EXPECT_EQ(StringInLanguage(Bundle() + "/missing", "English", "HELLO"), nullptr);
 }
 
-TEST_F(LocalizedStringsTest, AreNullWithoutTheKeyInAnyLanguage) {
+TEST_F(LocalizedStringsTest, TextsAreNullWithoutTheKeyInAnyLanguage) {
   AddHello("English", "hello");
   AddHello("German", "hallo");
   EXPECT_EQ(TextWith({{"LANG", "de_DE.UTF-8"}}, "MISSING"), nullptr);
   EXPECT_EQ(TextWith({{"LANG", "de_DE.UTF-8"}}, "hello"), nullptr);
 }
 
-TEST_F(LocalizedStringsTest, OfANamedLanguageDoNotFollowTheSystem) {
+TEST_F(LocalizedStringsTest, TextsOfANamedLanguageDoNotFollowTheSystem) {
   AddHello("English", "hello");
   AddHello("German", "hallo");
   const Environment environment(OnlyLanguage({{"LANG", "de_DE.UTF-8"}}));
   EXPECT_STREQ(StringInLanguage(Bundle(), "English", "HELLO"), "hello");
 }
 
-TEST_F(LocalizedStringsTest, OfANamedLanguageDoNotFallBackToEnglish) {
+TEST_F(LocalizedStringsTest, TextsOfANamedLanguageDoNotFallBackToEnglish) {
   AddHello("English", "hello");
   AddEntries("German", "<key>OTHER</key><string>anderes</string>");
   EXPECT_EQ(StringInLanguage(Bundle(), "German", "HELLO"), nullptr);
   EXPECT_EQ(StringInLanguage(Bundle(), "Korean", "HELLO"), nullptr);
 }
 
-TEST_F(LocalizedStringsTest, StayAsTheyAreWhenTheBundleChangesOrGoes) {
+TEST_F(LocalizedStringsTest, TextsStayAsTheyAreWhenTheBundleChangesOrGoes) {
   AddHello("German", "hallo");
   ORVStringRef before = StringInLanguage(Bundle(), "German", "HELLO");
   AddHello("German", "servus");

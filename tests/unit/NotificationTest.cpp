@@ -11,7 +11,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
 
-TEST(UserInfo, KeepsTheOrderOfItsKeys) {
+TEST(UserInfo, UserInfoKeepsTheOrderOfItsKeys) {
   EXPECT_THAT(UserInfo({{"ProductID", 11}, {"Channel", 1}, {"Index", 7}}).Entries(),
               ElementsAre(Pair("ProductID", 11), Pair("Channel", 1), Pair("Index", 7)));
   UserInfo userInfo;
@@ -28,13 +28,13 @@ TEST(UserInfo, SetReplacesAValueInItsPlace) {
               ElementsAre(Pair("ProductID", 11), Pair("Channel", -2), Pair("Index", 7)));
 }
 
-TEST(UserInfo, GivesTheValueOfAKey) {
+TEST(UserInfo, UserInfoGivesTheValueOfAKey) {
   const UserInfo userInfo = {{"ProductID", 11}, {"Index", -7}};
   EXPECT_EQ(userInfo.IntegerForKey("ProductID"), 11);
   EXPECT_EQ(userInfo.IntegerForKey("Index"), -7);
 }
 
-TEST(UserInfo, GivesZeroForAKeyThatIsMissing) {
+TEST(UserInfo, UserInfoGivesZeroForAKeyThatIsMissing) {
   const UserInfo userInfo = {{"Index", 7}};
   EXPECT_EQ(userInfo.IntegerForKey("Channel"), 0);
   EXPECT_EQ(userInfo.IntegerForKey("index"), 0);

@@ -21,7 +21,7 @@ void PrintTo(const Pair &pair, std::ostream *stream) {
 
 class NumericComparisonTest : public testing::TestWithParam<Pair> {};
 
-TEST_P(NumericComparisonTest, CountsEachRunOfDigitsAsOneNumber) {
+TEST_P(NumericComparisonTest, EachRunOfDigitsCountsAsOneNumber) {
   EXPECT_EQ(IsNumericallyGreater(GetParam().text, GetParam().than), GetParam().isGreater);
 }
 

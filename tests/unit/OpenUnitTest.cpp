@@ -41,7 +41,7 @@ struct Plug {
   unsigned device;
 };
 
-TEST(OpenUnit, GoesByBusThenDeviceNumberWhateverTheOrderOfTheFolder) {
+TEST(OpenUnit, OpeningGoesByBusThenDeviceNumberWhateverTheOrderOfTheFolder) {
   std::vector<Plug> plugs = {{"10-1", 10, 2}, {"2-1", 2, 10}, {"2-3", 2, 9}, {"1-9", 1, 100}};
   const auto byName = [](const Plug &a, const Plug &b) { return std::string(a.name) < b.name; };
   std::sort(plugs.begin(), plugs.end(), byName);
@@ -52,7 +52,7 @@ TEST(OpenUnit, GoesByBusThenDeviceNumberWhateverTheOrderOfTheFolder) {
   } while (std::next_permutation(plugs.begin(), plugs.end(), byName));
 }
 
-TEST(OpenUnit, OpensTheNodeForReadingAndWritingAndNotForChildren) {
+TEST(OpenUnit, OpeningOpensTheNodeForReadingAndWritingAndNotForChildren) {
   MockBus bus;
   bus.PlugMixer("1-2", 1, 5);
   DeviceHandle handle = nullptr;
@@ -66,7 +66,7 @@ TEST(OpenUnit, OpensTheNodeForReadingAndWritingAndNotForChildren) {
   EXPECT_EQ(bus.OpenFiles(), 0);
 }
 
-TEST(OpenUnit, AnswersTheGeneralErrorBehindTheLastUnit) {
+TEST(OpenUnit, OpeningAnswersTheGeneralErrorBehindTheLastUnit) {
   MockBus bus;
   bus.PlugMixer("1-2", 1, 5);
   bus.PlugMixer("1-3", 1, 6);
@@ -77,14 +77,14 @@ TEST(OpenUnit, AnswersTheGeneralErrorBehindTheLastUnit) {
   }
 }
 
-TEST(OpenUnit, AnswersTheGeneralErrorWithoutAnyUnit) {
+TEST(OpenUnit, OpeningAnswersTheGeneralErrorWithoutAnyUnit) {
   MockBus bus;
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, LookAtBus()), kGeneralError);
   EXPECT_EQ(handle, nullptr);
 }
 
-TEST(OpenUnit, LeavesAHandleAloneThatIsNotNull) {
+TEST(OpenUnit, OpeningLeavesAHandleAloneThatIsNotNull) {
   MockBus bus;
   bus.PlugMixer("1-2", 1, 5);
   USBDeviceInterface other = {-1, {}};
@@ -105,7 +105,7 @@ TEST(OpenUnit, ThroughPipesClearsAHandleThatIsNotNull) {
   closeUSB(&handle);
 }
 
-TEST(OpenUnit, SaysThatADeviceIsGoneWhoseNodeIsMissing) {
+TEST(OpenUnit, OpeningSaysThatADeviceIsGoneWhoseNodeIsMissing) {
   MockBus bus;
   bus.PlugMixer("1-2", 1, 5);
   std::filesystem::remove(bus.Node(1, 5));
@@ -115,7 +115,7 @@ TEST(OpenUnit, SaysThatADeviceIsGoneWhoseNodeIsMissing) {
   EXPECT_EQ(handle, nullptr);
 }
 
-TEST(OpenUnit, AnswersTheGeneralErrorForAFolderInThePlaceOfTheNode) {
+TEST(OpenUnit, OpeningAnswersTheGeneralErrorForAFolderInThePlaceOfTheNode) {
   MockBus bus;
   bus.PlugMixer("1-2", 1, 5);
   std::filesystem::remove(bus.Node(1, 5));
@@ -125,7 +125,7 @@ TEST(OpenUnit, AnswersTheGeneralErrorForAFolderInThePlaceOfTheNode) {
   EXPECT_EQ(handle, nullptr);
 }
 
-TEST(OpenUnit, SaysThatADeviceIsGoneForASocketInThePlaceOfTheNode) {
+TEST(OpenUnit, OpeningSaysThatADeviceIsGoneForASocketInThePlaceOfTheNode) {
   MockBus bus;
   bus.PlugMixer("1-2", 1, 5);
   std::filesystem::remove(bus.Node(1, 5));
@@ -136,7 +136,7 @@ TEST(OpenUnit, SaysThatADeviceIsGoneForASocketInThePlaceOfTheNode) {
 }
 
 // Device numbers are reused: the node is now another device's.
-TEST(OpenUnit, SaysThatAUnitIsGoneWhoseNumberAnotherDeviceHas) {
+TEST(OpenUnit, OpeningSaysThatAUnitIsGoneWhoseNumberAnotherDeviceHas) {
   struct Ids {
     unsigned vendor;
     unsigned product;
@@ -154,7 +154,7 @@ TEST(OpenUnit, SaysThatAUnitIsGoneWhoseNumberAnotherDeviceHas) {
   }
 }
 
-TEST(OpenUnit, OpensNoNodeWithLessThanADescriptor) {
+TEST(OpenUnit, OpeningOpensNoNodeWithLessThanADescriptor) {
   for (const std::uintmax_t size : {0U, 1U, 10U, 17U}) {
     MockBus bus;
     bus.PlugMixer("1-2", 1, 5);
@@ -165,7 +165,7 @@ TEST(OpenUnit, OpensNoNodeWithLessThanADescriptor) {
   }
 }
 
-TEST(OpenUnit, OpensANodeWithADescriptorAndNoMore) {
+TEST(OpenUnit, OpeningOpensANodeWithADescriptorAndNoMore) {
   MockBus bus;
   bus.PlugMixer("1-2", 1, 5);
   std::filesystem::resize_file(bus.Node(1, 5), 18);
@@ -175,7 +175,7 @@ TEST(OpenUnit, OpensANodeWithADescriptorAndNoMore) {
 }
 
 // Reading from a pipe would wait for a writer.
-TEST(OpenUnit, DoesNotWaitForWhatIsNoDevice) {
+TEST(OpenUnit, OpeningDoesNotWaitForWhatIsNoDevice) {
   MockBus bus;
   bus.PlugMixer("1-2", 1, 5);
   std::filesystem::remove(bus.Node(1, 5));
@@ -186,7 +186,7 @@ TEST(OpenUnit, DoesNotWaitForWhatIsNoDevice) {
   EXPECT_EQ(bus.OpenFiles(), 0);
 }
 
-TEST(OpenUnit, GoesByTheLookWhateverHappenedSince) {
+TEST(OpenUnit, OpeningGoesByTheLookWhateverHappenedSince) {
   MockBus bus;
   bus.PlugMixer("1-2", 1, 5);
   bus.PlugMixer("1-3", 1, 6);
@@ -202,7 +202,7 @@ TEST(OpenUnit, GoesByTheLookWhateverHappenedSince) {
   EXPECT_EQ(open_pipes(&handle, 2, look), kGeneralError);
 }
 
-TEST(OpenUnit, LeavesNoFileOpen) {
+TEST(OpenUnit, OpeningLeavesNoFileOpen) {
   MockBus bus;
   bus.PlugMixer("1-2", 1, 5);
   bus.ListDangling("1-3");

@@ -85,7 +85,7 @@ TEST_F(OutOfMemory, AUnitIsThenNotOpened) {
   EXPECT_THAT(statuses, UnorderedElementsAre(0, static_cast<PlatformStatus>(0xE00002BD)));
 }
 
-TEST_F(OutOfMemory, ASetterAnswersAsEverAndTheFileIsOldOrNew) {
+TEST_F(OutOfMemory, ASetterAnswersAsUsualAndTheFileIsOldOrNew) {
   ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 2), kSuccess);
   const auto answers = AnswersWhileMemoryGrows([] {
     const StatusCode answer = ORV_SetBoostLevelIndex(kSelva, 1);
@@ -135,7 +135,7 @@ TEST_F(OutOfMemory, TextsAreThenRefusedAndUntouched) {
 
 void Count(std::int32_t /*index*/, void *counter) { ++*static_cast<int *>(counter); }
 
-TEST_F(OutOfMemory, RegisteringAndDispatchingAnswerAsEverAndWorkAgainAfterwards) {
+TEST_F(OutOfMemory, RegisteringAndDispatchingAnswerAsUsualAndWorkAgainAfterwards) {
   const PrivateSessionBus bus;
   int counter = 0;
   EXPECT_THAT(AnswersWhileMemoryGrows(

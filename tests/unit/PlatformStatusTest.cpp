@@ -13,7 +13,7 @@ std::uint32_t StatusOf(int error) {
   return static_cast<std::uint32_t>(PlatformStatusFromErrno(error));
 }
 
-TEST(PlatformStatus, OfEachErrorWithANamesake) {
+TEST(PlatformStatus, EachErrorHasItsStatus) {
   EXPECT_EQ(StatusOf(EBUSY), 0xE00002C5U);
   EXPECT_EQ(StatusOf(EPIPE), 0xE000404FU);
   EXPECT_EQ(StatusOf(ETIMEDOUT), 0xE0004051U);
@@ -33,7 +33,7 @@ TEST(PlatformStatus, OfEachErrorWithANamesake) {
   EXPECT_EQ(StatusOf(EIO), 0xE00002CAU);
 }
 
-TEST(PlatformStatus, OfAnyOtherErrorIsTheGeneralError) {
+TEST(PlatformStatus, AnyOtherErrorIsTheGeneralError) {
   for (const int error : {ENOTTY, EISDIR, EBADF, ELOOP, 0, -1, 12345}) {
     EXPECT_EQ(StatusOf(error), 0xE00002BCU) << error;
   }

@@ -23,7 +23,7 @@ ProductId ProductIdOf(const char *name) {
   return productId;
 }
 
-TEST(ProductIdOfAName, IsThatOfEachModel) {
+TEST(ProductIdOfAName, TheProductIsThatOfEachModel) {
   EXPECT_EQ(ProductIdOf("TRX-ARDEN"), 0U);
   EXPECT_EQ(ProductIdOf("TRX-Arden"), 0U);
   EXPECT_EQ(ProductIdOf("TRX-VOLT"), 1U);
@@ -36,7 +36,7 @@ TEST(ProductIdOfAName, IsThatOfEachModel) {
   EXPECT_EQ(ProductIdOf("TRX-SELVA"), 11U);
 }
 
-TEST(ProductIdOfAName, TakesNoNoticeOfCaseAndSurroundings) {
+TEST(ProductIdOfAName, TheProductTakesNoNoticeOfCaseAndSurroundings) {
   EXPECT_EQ(ProductIdOf("trx-selva"), 11U);
   EXPECT_EQ(ProductIdOf("tRx-SeLvA"), 11U);
   EXPECT_EQ(ProductIdOf("the TRX-VOLT at the door"), 1U);
@@ -45,21 +45,21 @@ TEST(ProductIdOfAName, TakesNoNoticeOfCaseAndSurroundings) {
   EXPECT_EQ(ProductIdOf("TRX-TRX-HALDEN2"), 5U);
 }
 
-TEST(ProductIdOfAName, IsTheOneTestedFirstWhenThereAreTwo) {
+TEST(ProductIdOfAName, TheProductIsTheOneTestedFirstWhenThereAreTwo) {
   EXPECT_EQ(ProductIdOf("TRX-SELVA TRX-ARDEN"), 0U);
   EXPECT_EQ(ProductIdOf("TRX-SELVA TRX-MORROW"), 8U);
   EXPECT_EQ(ProductIdOf("TRX-CIRRUS TRC-FENNO"), 3U);
   EXPECT_EQ(ProductIdOf("TRX-LUMEN TRX-HALDEN TRX-BRISK"), 2U);
 }
 
-TEST(ProductIdOfAName, IsNoneForAnyOther) {
+TEST(ProductIdOfAName, TheProductIsNoneForAnyOther) {
   for (const char *name : {"", "TRX", "TRX-", "TRX-SELV", "TRX SELVA", "TRX_SELVA", "RX-SELVA",
                            "TRX-FENNO", "TRC-SELVA", "SELVA", "TRX-SEL\u0301VA"}) {
     EXPECT_EQ(ProductIdOf(name), kUntouched) << name;
   }
 }
 
-TEST(ProductIdOfAName, NeedsANameAndAResult) {
+TEST(ProductIdOfAName, TheProductNeedsANameAndAResult) {
   ProductId productId = kUntouched;
   EXPECT_EQ(ORV_GetProductId(nullptr, &productId), 102);
   EXPECT_EQ(productId, kUntouched);
@@ -67,7 +67,7 @@ TEST(ProductIdOfAName, NeedsANameAndAResult) {
   EXPECT_EQ(ORV_GetProductId(nullptr, nullptr), 102);
 }
 
-TEST(ModelDisplayName, IsThatOfEachServedModel) {
+TEST(ModelDisplayName, TheDisplayNameIsThatOfEachServedModel) {
   EXPECT_STREQ(ModelDisplayName(0), "TRX-Arden");
   EXPECT_STREQ(ModelDisplayName(1), "TRX-VOLT");
   EXPECT_STREQ(ModelDisplayName(5), "TRX-HALDEN");
@@ -76,7 +76,7 @@ TEST(ModelDisplayName, IsThatOfEachServedModel) {
   EXPECT_STREQ(ModelDisplayName(11), "TRX-SELVA");
 }
 
-TEST(ModelDisplayName, IsNoneForAnyOther) {
+TEST(ModelDisplayName, TheDisplayNameIsNoneForAnyOther) {
   for (const ProductId productId : {2U, 3U, 4U, 7U, 9U, 10U, 12U, 43U, 0x80000000U, 0xFFFFFFFFU}) {
     EXPECT_EQ(ModelDisplayName(productId), nullptr) << productId;
   }
@@ -94,13 +94,13 @@ std::vector<ProductId> Accepted(const ProductSet &set) {
   return accepted;
 }
 
-TEST(ProductSet, OfEveryServedModelHoldsSix) {
+TEST(ProductSet, TheSetOfEveryServedModelHoldsSix) {
   EXPECT_THAT(Accepted(kEveryServedModel), ElementsAre(0U, 1U, 5U, 6U, 8U, 11U));
 }
 
-TEST(ProductSet, OfVoltHoldsOne) { EXPECT_THAT(Accepted(kVoltOnly), ElementsAre(1U)); }
+TEST(ProductSet, TheSetOfVoltHoldsOne) { EXPECT_THAT(Accepted(kVoltOnly), ElementsAre(1U)); }
 
-TEST(ProductSet, OfNoModelHoldsNone) { EXPECT_THAT(Accepted(kNoModel), ElementsAre()); }
+TEST(ProductSet, TheSetOfNoModelHoldsNone) { EXPECT_THAT(Accepted(kNoModel), ElementsAre()); }
 
 }  // namespace
 }  // namespace orv

@@ -44,7 +44,7 @@ std::optional<std::int32_t> ReadingOfText(const std::string &text) {
   return ReadingOf("<string>" + text + "</string>");
 }
 
-TEST(PropertyListInteger, OfAnIntegerIsItsLow32Bits) {
+TEST(PropertyListInteger, TheIntegerOfAnIntegerIsItsLow32Bits) {
   EXPECT_THAT(ReadingOf("<integer>7</integer>"), Optional(7));
   EXPECT_THAT(ReadingOf("<integer>0</integer>"), Optional(0));
   EXPECT_THAT(ReadingOf("<integer>-1</integer>"), Optional(-1));
@@ -57,31 +57,31 @@ TEST(PropertyListInteger, OfAnIntegerIsItsLow32Bits) {
   EXPECT_THAT(ReadingOf("<integer>-9223372036854775808</integer>"), Optional(0));
 }
 
-TEST(PropertyListInteger, OfAnUnsignedIntegerBeyondTheSignedRangeIsItsLow32Bits) {
+TEST(PropertyListInteger, TheIntegerOfAnUnsignedIntegerBeyondTheSignedRangeIsItsLow32Bits) {
   EXPECT_THAT(ReadingOf("<integer>9223372036854775809</integer>"), Optional(1));
   EXPECT_THAT(ReadingOf("<integer>18446744073709551614</integer>"), Optional(-2));
   EXPECT_THAT(ReadingOf("<integer>18446744073709551615</integer>"), Optional(-1));
 }
 
-TEST(PropertyListInteger, OfABinaryIntegerIsItsLow32BitsInEverySizeUpTo8Bytes) {
+TEST(PropertyListInteger, TheIntegerOfABinaryIntegerIsItsLow32BitsInEverySizeUpTo8Bytes) {
   EXPECT_THAT(ReadingIn(BinaryListOf("\x10\xFF")), Optional(255));
   EXPECT_THAT(ReadingIn(BinaryListOf("\x11\xFF\xFE")), Optional(65534));
   EXPECT_THAT(ReadingIn(BinaryListOf("\x12\xFF\xFF\xFF\xFE")), Optional(-2));
   EXPECT_THAT(ReadingIn(BinaryListOf("\x13" + BigEndian(0xFFFFFFFFFFFFFFF9, 8))), Optional(-7));
 }
 
-TEST(PropertyListInteger, OfABinaryIntegerOf16BytesIsItsLow32Bits) {
+TEST(PropertyListInteger, TheIntegerOfABinaryIntegerOf16BytesIsItsLow32Bits) {
   EXPECT_THAT(ReadingIn(BinaryListOf("\x14" + BigEndian(0x8000000000000009, 16))), Optional(9));
 }
 
-TEST(PropertyListInteger, OfABooleanIs0Or1) {
+TEST(PropertyListInteger, TheIntegerOfABooleanIs0Or1) {
   EXPECT_THAT(ReadingOf("<true/>"), Optional(1));
   EXPECT_THAT(ReadingOf("<false/>"), Optional(0));
   EXPECT_THAT(ReadingIn(BinaryListOf("\x09")), Optional(1));
   EXPECT_THAT(ReadingIn(BinaryListOf("\x08")), Optional(0));
 }
 
-TEST(PropertyListInteger, OfARealIsCutNotRounded) {
+TEST(PropertyListInteger, TheIntegerOfARealIsCutNotRounded) {
   EXPECT_THAT(ReadingOf("<real>2.9</real>"), Optional(2));
   EXPECT_THAT(ReadingOf("<real>-2.9</real>"), Optional(-2));
   EXPECT_THAT(ReadingOf("<real>0.5</real>"), Optional(0));
@@ -92,14 +92,14 @@ TEST(PropertyListInteger, OfARealIsCutNotRounded) {
   EXPECT_THAT(ReadingIn(BinaryListOf(std::string("\x22\x40\x20\0\0", 5))), Optional(2));
 }
 
-TEST(PropertyListInteger, OfARealOutOfRangeIsMissing) {
+TEST(PropertyListInteger, TheIntegerOfARealOutOfRangeIsMissing) {
   for (const char *real :
        {"2147483648", "-2147483649", "1e10", "1e308", "-1e308", "+infinity", "-infinity", "nan"}) {
     EXPECT_EQ(ReadingOf("<real>" + std::string(real) + "</real>"), std::nullopt) << real;
   }
 }
 
-TEST(PropertyListInteger, OfATextThatSpellsAnIntegerIsThatInteger) {
+TEST(PropertyListInteger, TheIntegerOfATextThatSpellsAnIntegerIsThatInteger) {
   EXPECT_THAT(ReadingOfText("5"), Optional(5));
   EXPECT_THAT(ReadingOfText("+5"), Optional(5));
   EXPECT_THAT(ReadingOfText("-7"), Optional(-7));
@@ -110,7 +110,7 @@ TEST(PropertyListInteger, OfATextThatSpellsAnIntegerIsThatInteger) {
   EXPECT_THAT(ReadingIn(BinaryListOf("\x52-7")), Optional(-7));
 }
 
-TEST(PropertyListInteger, OfATextThatHoldsAnythingElseIsMissing) {
+TEST(PropertyListInteger, TheIntegerOfATextThatHoldsAnythingElseIsMissing) {
   for (const char *text :
        {"",    " ",    " 5",  "5 ", "\n5", "5\n",  "+",  "-",   "+-5",   "-+5",   "--5",
         "++5", "0x10", "5.0", "5.", "1e3", "five", "5a", "5 6", "1,000", "\u0665"}) {
@@ -118,7 +118,7 @@ TEST(PropertyListInteger, OfATextThatHoldsAnythingElseIsMissing) {
   }
 }
 
-TEST(PropertyListInteger, OfAnyOtherTypeIsMissing) {
+TEST(PropertyListInteger, TheIntegerOfAnyOtherTypeIsMissing) {
   for (const char *value :
        {"<date>2024-02-29T12:00:00Z</date>", "<data>AAEC</data>", "<data/>", "<array/>", "<dict/>",
         "<array><integer>5</integer></array>", "<dict><key>a</key><integer>5</integer></dict>"}) {
@@ -127,7 +127,7 @@ TEST(PropertyListInteger, OfAnyOtherTypeIsMissing) {
   EXPECT_EQ(ReadingIn(BinaryListOf("\x80\x07")), std::nullopt);
 }
 
-TEST(PropertyListInteger, OfAKeyThatIsNotThereIsMissing) {
+TEST(PropertyListInteger, TheIntegerOfAKeyThatIsNotThereIsMissing) {
   const auto list = ListIn(XmlList("<key>b</key><integer>5</integer>"));
   ASSERT_TRUE(list);
   EXPECT_EQ(list->IntegerForKey("a"), std::nullopt);

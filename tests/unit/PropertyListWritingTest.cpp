@@ -45,7 +45,7 @@ class PropertyListWriting : public testing::Test {
   const std::string path_ = folder_ / "settings.plist";
 };
 
-TEST_F(PropertyListWriting, MakesAnXmlListAndNothingElse) {
+TEST_F(PropertyListWriting, AWriteMakesAnXmlListAndNothingElse) {
   ASSERT_TRUE(SetMaxLevel(path_, 1));
   EXPECT_EQ(ReadBytes(path_),
             "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
@@ -65,7 +65,7 @@ TEST_F(PropertyListWriting, AnEmptyDictionaryIsAPropertyListToo) {
   EXPECT_TRUE(PropertyList::ReadFile(path_).has_value());
 }
 
-TEST_F(PropertyListWriting, ReplacesTheFileInsteadOfChangingIt) {
+TEST_F(PropertyListWriting, AWriteReplacesTheFileInsteadOfChangingIt) {
   WriteBytes(path_, kOldContents);
   ASSERT_EQ(link(path_.c_str(), (folder_ / "other name").c_str()), 0);
   const ino_t before = StatusOf(path_).st_ino;

@@ -27,7 +27,7 @@ bool WaitUntil(const std::string &path, bool exists) {
   return true;
 }
 
-TEST(RemovalAtTheEnd, ComesWhenTheProcessIsKilledAndNotBefore) {
+TEST(RemovalAtTheEnd, TheRemovalComesWhenTheProcessIsKilledAndNotBefore) {
   const TemporaryFolder place;
   std::filesystem::create_directory(place / "folder");
   const pid_t child = fork();

@@ -117,7 +117,7 @@ std::vector<std::pair<std::string, std::int32_t>> DictionaryOf(sd_bus_message *m
   return entries;
 }
 
-TEST_F(SessionBus, CarriesANotificationAsASignalOfTheAgreedShape) {
+TEST_F(SessionBus, TheBusCarriesANotificationAsASignalOfTheAgreedShape) {
   Send("TRX-SELVA InputAudio Change", {{"ProductID", 11}, {"Channel", 1}, {"Index", 7}});
   const Message message = Next(listener_);
   ASSERT_NE(message, nullptr);
@@ -131,7 +131,7 @@ TEST_F(SessionBus, CarriesANotificationAsASignalOfTheAgreedShape) {
   EXPECT_EQ(type, SD_BUS_MESSAGE_SIGNAL);
 }
 
-TEST_F(SessionBus, CarriesNameAndDictionaryInTheOrderOfTheKeys) {
+TEST_F(SessionBus, TheBusCarriesNameAndDictionaryInTheOrderOfTheKeys) {
   Send("TRX-SELVA InputAudio Change", {{"ProductID", 11}, {"Channel", -1}, {"Index", 7}});
   const Message message = Next(listener_);
   ASSERT_NE(message, nullptr);
@@ -143,7 +143,7 @@ TEST_F(SessionBus, CarriesNameAndDictionaryInTheOrderOfTheKeys) {
   EXPECT_GT(sd_bus_message_at_end(message.get(), 1), 0);
 }
 
-TEST_F(SessionBus, CarriesAnEmptyDictionary) {
+TEST_F(SessionBus, TheBusCarriesAnEmptyDictionary) {
   Send("a name", {});
   const Message message = Next(listener_);
   ASSERT_NE(message, nullptr);
@@ -153,7 +153,7 @@ TEST_F(SessionBus, CarriesAnEmptyDictionary) {
   EXPECT_THAT(notification->userInfo.Entries(), IsEmpty());
 }
 
-TEST_F(SessionBus, CarriesNotificationsInTheOrderInWhichTheyAreSent) {
+TEST_F(SessionBus, TheBusCarriesNotificationsInTheOrderInWhichTheyAreSent) {
   for (std::int32_t i = 0; i < 50; ++i) Send("a name", {{"Index", i}});
   for (std::int32_t i = 0; i < 50; ++i) {
     const Message message = Next(listener_);
@@ -223,7 +223,7 @@ TEST_F(SessionBus, OtherEntriesArePassedOver) {
               ElementsAre(Pair("Channel", 2), Pair("Index", 4), Pair("ProductID", 6)));
 }
 
-TEST_F(SessionBus, OfManyEntriesNoneButTheKnownAreKept) {
+TEST_F(SessionBus, OnlyTheKnownOfManyEntriesAreKept) {
   const Message many = Arrived([](sd_bus_message *to) { return AppendMany(to, 50'000); });
   const auto notification = ReadNotification(many.get());
   ASSERT_TRUE(notification);
@@ -298,7 +298,7 @@ TEST_F(SessionBus, ACallOfAMethodOfTheSameNameIsNone) {
   EXPECT_FALSE(ReadNotification(message.get()).has_value());
 }
 
-TEST(SessionBusThatIsAway, GivesNoConnection) {
+TEST(SessionBusThatIsAway, ABusThatIsAwayGivesNoConnection) {
   const TemporaryFolder folder;
   setenv("DBUS_SESSION_BUS_ADDRESS", ("unix:path=" + (folder / "bus")).c_str(), 1);
   EXPECT_EQ(ConnectToBus(), nullptr);

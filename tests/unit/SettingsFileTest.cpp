@@ -53,7 +53,7 @@ class SettingsFile : public testing::Test {
   const std::string path_ = preferences_ + "/com.orvikaudio.TRX-SELVAautosetup.plist";
 };
 
-TEST_F(SettingsFile, HasAPathForEachModel) {
+TEST_F(SettingsFile, ASettingsFileHasAPathForEachModel) {
   setenv("XDG_CONFIG_HOME", "/config", 1);
   EXPECT_THAT(
       SettingsFilePath("TRX-Arden"),
@@ -75,7 +75,7 @@ TEST_F(SettingsFile, HasAPathForEachModel) {
       Optional(StrEq("/config/orvikaudio/Preferences/com.orvikaudio.TRX-SELVAautosetup.plist")));
 }
 
-TEST_F(SettingsFile, FollowsTheLibraryFolderAtEachCall) {
+TEST_F(SettingsFile, ASettingsFileFollowsTheLibraryFolderAtEachCall) {
   const TemporaryFolder other;
   MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
   setenv("XDG_CONFIG_HOME", other.Path().c_str(), 1);
@@ -86,7 +86,7 @@ TEST_F(SettingsFile, FollowsTheLibraryFolderAtEachCall) {
   EXPECT_EQ(Value("MaxLevel", 3), 1);
 }
 
-TEST_F(SettingsFile, IsMadeWithItsFoldersByTheFirstMerge) {
+TEST_F(SettingsFile, ASettingsFileIsMadeWithItsFoldersByTheFirstMerge) {
   MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
   EXPECT_THAT(ShownEntries(path_), ElementsAre("MaxLevel: integer 1"));
   EXPECT_THAT(folder_.Names(), ElementsAre("orvikaudio"));
@@ -98,7 +98,7 @@ TEST_F(SettingsFile, IsMadeWithItsFoldersByTheFirstMerge) {
 }
 
 // A file server's lease, which blocks the first process that opens the file elsewhere.
-TEST_F(SettingsFile, IsLeftAsItIsWhileSomebodyHoldsALeaseOnIt) {
+TEST_F(SettingsFile, ASettingsFileIsLeftAsItIsWhileSomebodyHoldsALeaseOnIt) {
   const std::string before = XmlList("<key>Foreign</key><string>kept</string>");
   LeaveFile(before);
   const File holder(open(path_.c_str(), O_RDWR | O_CLOEXEC));
@@ -113,13 +113,13 @@ TEST_F(SettingsFile, IsLeftAsItIsWhileSomebodyHoldsALeaseOnIt) {
   EXPECT_THAT(ShownEntries(path_), ElementsAre("Foreign: text 'kept'", "MaxLevel: integer 1"));
 }
 
-TEST_F(SettingsFile, IsNotMadeByReading) {
+TEST_F(SettingsFile, ASettingsFileIsNotMadeByReading) {
   EXPECT_FALSE(ReadSettingsFile("TRX-SELVA").has_value());
   EXPECT_EQ(Value("MaxLevel", 3), 3);
   EXPECT_THAT(folder_.Names(), IsEmpty());
 }
 
-TEST_F(SettingsFile, KeepsAllOtherEntriesInAMerge) {
+TEST_F(SettingsFile, ASettingsFileKeepsAllOtherEntriesInAMerge) {
   LeaveFile(
       XmlList("<key>MaxLevel</key><integer>2</integer>"
               "<key>Foreign</key><array><string>kept</string><real>0.5</real></array>"));
@@ -131,14 +131,14 @@ TEST_F(SettingsFile, KeepsAllOtherEntriesInAMerge) {
                                                "MaxLevel: integer -1", "Output0: integer 4"));
 }
 
-TEST_F(SettingsFile, BecomesXmlInAMerge) {
+TEST_F(SettingsFile, ASettingsFileBecomesXmlInAMerge) {
   LeaveFile(BinaryListOf("\x10\x05"));
   EXPECT_EQ(Value("a", 0), 5);
   MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
   EXPECT_THAT(ShownEntries(path_), ElementsAre("MaxLevel: integer 1", "a: integer 5"));
 }
 
-TEST_F(SettingsFile, ThatIsNoDictionaryIsReplacedByTheNewEntry) {
+TEST_F(SettingsFile, ASettingsFileThatIsNoDictionaryIsReplacedByTheNewEntry) {
   for (const std::string contents :
        {"<plist><array><integer>2</integer></array></plist>", "<plist><string>x</string></plist>",
         "no property list", "", "bplist00"}) {
@@ -151,7 +151,7 @@ TEST_F(SettingsFile, ThatIsNoDictionaryIsReplacedByTheNewEntry) {
 }
 
 // A file beyond the limits may still be a list: it is not replaced.
-TEST_F(SettingsFile, ThatIsMoreThanCanBeReadIsLeftAsItIs) {
+TEST_F(SettingsFile, ASettingsFileThatIsMoreThanCanBeReadIsLeftAsItIs) {
   std::string deep;
   for (int i = 0; i < 200; ++i) deep += "<array>";
   for (int i = 0; i < 200; ++i) deep += "</array>";
@@ -178,7 +178,7 @@ std::string InUtf16(const std::string &ascii, bool isBigEndian) {
   return bytes;
 }
 
-TEST_F(SettingsFile, InAnotherEncodingIsReadAndKept) {
+TEST_F(SettingsFile, ASettingsFileInAnotherEncodingIsReadAndKept) {
   const std::string list =
       "<plist version=\"1.0\"><dict><key>Foreign</key><string>kept</string>"
       "<key>MaxLevel</key><integer>2</integer></dict></plist>";
@@ -194,7 +194,7 @@ TEST_F(SettingsFile, InAnotherEncodingIsReadAndKept) {
   }
 }
 
-TEST_F(SettingsFile, OfOneModelIsNotThatOfAnother) {
+TEST_F(SettingsFile, ASettingsFileOfOneModelIsNotThatOfAnother) {
   MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
   MergeSettingValue("TRX-VOLT", "MaxLevel", 2);
   EXPECT_EQ(Value("MaxLevel", 3), 1);
@@ -203,7 +203,7 @@ TEST_F(SettingsFile, OfOneModelIsNotThatOfAnother) {
   EXPECT_EQ(volt, 2);
 }
 
-TEST_F(SettingsFile, GivesTheStoredValueInOrOutOfAnyRange) {
+TEST_F(SettingsFile, ASettingsFileGivesTheStoredValueInOrOutOfAnyRange) {
   LeaveFile(
       XmlList("<key>MaxLevel</key><integer>9</integer>"
               "<key>Output1</key><integer>-2147483648</integer>"
@@ -214,7 +214,7 @@ TEST_F(SettingsFile, GivesTheStoredValueInOrOutOfAnyRange) {
   EXPECT_EQ(Value("Flag", 0), 1);
 }
 
-TEST_F(SettingsFile, GivesTheDefaultWhenTheEntryIsMissingOrNoInteger) {
+TEST_F(SettingsFile, ASettingsFileGivesTheDefaultWhenTheEntryIsMissingOrNoInteger) {
   LeaveFile(
       XmlList("<key>MaxLevel</key><integer>2</integer><key>Text</key><string>x</string>"
               "<key>List</key><array/>"));
@@ -224,7 +224,7 @@ TEST_F(SettingsFile, GivesTheDefaultWhenTheEntryIsMissingOrNoInteger) {
   EXPECT_EQ(Value("List", -1), -1);
 }
 
-TEST_F(SettingsFile, ThatCannotBeWrittenStaysAsItWas) {
+TEST_F(SettingsFile, ASettingsFileThatCannotBeWrittenStaysAsItWas) {
   std::filesystem::create_directories(path_);
   ExpectQuietSuccess([] {
     MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
@@ -233,7 +233,7 @@ TEST_F(SettingsFile, ThatCannotBeWrittenStaysAsItWas) {
   EXPECT_TRUE(std::filesystem::is_empty(path_));
 }
 
-TEST_F(SettingsFile, WhoseFolderIsAFileIsNeitherReadNorWritten) {
+TEST_F(SettingsFile, ASettingsFileWhoseFolderIsAFileIsNeitherReadNorWritten) {
   WriteBytes(folder_ / "orvikaudio", "a file");
   ExpectQuietSuccess([] {
     MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
@@ -242,7 +242,7 @@ TEST_F(SettingsFile, WhoseFolderIsAFileIsNeitherReadNorWritten) {
   EXPECT_EQ(ReadBytes(folder_ / "orvikaudio"), "a file");
 }
 
-TEST_F(SettingsFile, OfAUserWithoutLibraryFolderIsNeitherReadNorWritten) {
+TEST_F(SettingsFile, ASettingsFileOfAUserWithoutLibraryFolderIsNeitherReadNorWritten) {
   ExpectQuietSuccess([] {
     BecomeUserWithoutAccount();
     unsetenv("XDG_CONFIG_HOME");

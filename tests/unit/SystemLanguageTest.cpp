@@ -42,7 +42,7 @@ std::string NameOf(const testing::TestParamInfo<Case> &info) { return info.param
 
 class SystemLanguageTest : public testing::TestWithParam<Case> {};
 
-TEST_P(SystemLanguageTest, FollowsTheEnvironment) {
+TEST_P(SystemLanguageTest, TheLanguageFollowsTheEnvironment) {
   EXPECT_THAT(FoldersFor(GetParam().variables), ElementsAreArray(GetParam().folders));
 }
 
@@ -178,12 +178,12 @@ const Case kUntranslated[] = {
 INSTANTIATE_TEST_SUITE_P(Untranslated, SystemLanguageTest, testing::ValuesIn(kUntranslated),
                          NameOf);
 
-TEST(SystemLanguageFoldersTest, EndInEnglishWhateverComesBefore) {
+TEST(SystemLanguageFoldersTest, FoldersEndInEnglishWhateverComesBefore) {
   const Environment environment(OnlyLanguage({{"LANG", "ja_JP.UTF-8"}, {"LANGUAGE", "en:ja:ko"}}));
   EXPECT_STREQ(SystemLanguageFolders().back(), "English");
 }
 
-TEST(SystemLanguageFoldersTest, FollowAChangeOfTheEnvironmentAtOnce) {
+TEST(SystemLanguageFoldersTest, FoldersFollowAChangeOfTheEnvironmentAtOnce) {
   EXPECT_THAT(FoldersFor({{"LANG", "ja_JP.UTF-8"}}), testing::ElementsAre("Japanese", "English"));
   EXPECT_THAT(FoldersFor({{"LANG", "ko_KR.UTF-8"}}), testing::ElementsAre("ko", "English"));
 }

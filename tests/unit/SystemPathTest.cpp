@@ -18,29 +18,29 @@ using trxtest::PrivilegedProbe;
 
 const std::string kBuiltIn = INSTALLED_SYSTEM_ROOT "/Library/file";
 
-TEST(SystemPathTest, LiesUnderTheRootThatTheEnvironmentNames) {
+TEST(SystemPathTest, ASystemPathLiesUnderTheRootThatTheEnvironmentNames) {
   const Environment environment = {{"TRX_SYSTEM_ROOT", "/some/where"}};
   EXPECT_EQ(SystemPath("/Library/file"), "/some/where/Library/file");
 }
 
-TEST(SystemPathTest, LiesUnderTheInstallationsDataFolderOtherwise) {
+TEST(SystemPathTest, ASystemPathLiesUnderTheInstallationsDataFolderOtherwise) {
   const Environment environment = {{"TRX_SYSTEM_ROOT", std::nullopt}};
   EXPECT_EQ(SystemPath("/Library/file"), kBuiltIn);
 }
 
-TEST(SystemPathTest, FollowsAChangeOfTheEnvironmentAtOnce) {
+TEST(SystemPathTest, ASystemPathFollowsAChangeOfTheEnvironmentAtOnce) {
   const Environment first = {{"TRX_SYSTEM_ROOT", "/first"}};
   EXPECT_EQ(SystemPath("/x"), "/first/x");
   const Environment second = {{"TRX_SYSTEM_ROOT", "/second"}};
   EXPECT_EQ(SystemPath("/x"), "/second/x");
 }
 
-TEST(SystemPathTest, KeepsBlanksAndPercentSignsOfRootAndPath) {
+TEST(SystemPathTest, ASystemPathKeepsBlanksAndPercentSignsOfRootAndPath) {
   const Environment environment = {{"TRX_SYSTEM_ROOT", "/a b/100%s"}};
   EXPECT_EQ(SystemPath("/TRX-SELVA Setup.app/%@"), "/a b/100%s/TRX-SELVA Setup.app/%@");
 }
 
-TEST(SystemPathTest, OfAnOrdinaryProcessFollowsTheEnvironmentOfItsParent) {
+TEST(SystemPathTest, ASystemPathOfAnOrdinaryProcessFollowsTheEnvironmentOfItsParent) {
   const Environment environment = {{"TRX_SYSTEM_ROOT", "/foreign"}};
   EXPECT_THAT(OutputOf(PRIVILEGE_PROBE), StartsWith("ordinary /foreign/Library/file "));
 }

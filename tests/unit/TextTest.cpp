@@ -6,7 +6,7 @@
 namespace orv {
 namespace {
 
-TEST(UpperCaseContains, FindsATextAnywhere) {
+TEST(UpperCaseContains, TheSearchFindsATextAnywhere) {
   EXPECT_TRUE(UpperCaseContains("SELVA", "SELVA"));
   EXPECT_TRUE(UpperCaseContains("xSELVA", "SELVA"));
   EXPECT_TRUE(UpperCaseContains("SELVAx", "SELVA"));
@@ -17,14 +17,14 @@ TEST(UpperCaseContains, FindsATextAnywhere) {
   EXPECT_FALSE(UpperCaseContains("", "SELVA"));
 }
 
-TEST(UpperCaseContains, RaisesAsciiLettersAndNothingElseOfAscii) {
+TEST(UpperCaseContains, TheSearchRaisesAsciiLettersAndNothingElseOfAscii) {
   EXPECT_TRUE(UpperCaseContains("abcxyz", "ABCXYZ"));
   EXPECT_TRUE(UpperCaseContains("trx-selva", "TRX-SELVA"));
   EXPECT_FALSE(UpperCaseContains("`{", "@["));
   EXPECT_FALSE(UpperCaseContains("trx\rselva", "TRX-SELVA"));
 }
 
-TEST(UpperCaseContains, RaisesCharactersWhoseUpperCaseIsAscii) {
+TEST(UpperCaseContains, TheSearchRaisesCharactersWhoseUpperCaseIsAscii) {
   EXPECT_TRUE(UpperCaseContains("trx-\u017Felva", "TRX-SELVA"));  // long s
   EXPECT_TRUE(UpperCaseContains("c\u0131rrus", "CIRRUS"));        // dotless i
   EXPECT_TRUE(UpperCaseContains("stra\u00DFe", "STRASSE"));       // sharp s
@@ -37,20 +37,20 @@ TEST(UpperCaseContains, RaisesCharactersWhoseUpperCaseIsAscii) {
   EXPECT_TRUE(UpperCaseContains("\uFB06", "ST"));
 }
 
-TEST(UpperCaseContains, FindsATextThatBeginsOrEndsInsideSuchACharacter) {
+TEST(UpperCaseContains, TheSearchFindsATextThatBeginsOrEndsInsideSuchACharacter) {
   EXPECT_TRUE(UpperCaseContains("\u00DFelva", "SELVA"));
   EXPECT_TRUE(UpperCaseContains("bri\u00DF", "BRIS"));
   EXPECT_TRUE(UpperCaseContains("\uFB03nn", "INN"));
 }
 
-TEST(UpperCaseContains, LeavesOtherCharactersThatResembleAsciiAlone) {
+TEST(UpperCaseContains, TheSearchLeavesOtherCharactersThatResembleAsciiAlone) {
   EXPECT_FALSE(UpperCaseContains("\u0130", "I"));                         // capital i with a dot
   EXPECT_FALSE(UpperCaseContains("\uFF54\uFF52\uFF58", "TRX"));           // full width
   EXPECT_FALSE(UpperCaseContains("\u0455\u0435\u04CFv\u0430", "SELVA"));  // Cyrillic
   EXPECT_FALSE(UpperCaseContains("\u00E4", "A"));
 }
 
-TEST(UpperCaseContains, BearsBrokenUtf8) {
+TEST(UpperCaseContains, TheSearchBearsBrokenUtf8) {
   EXPECT_TRUE(UpperCaseContains("\xC5\xFFselva\xEF\xAC", "SELVA"));
   EXPECT_FALSE(UpperCaseContains("sel\xC5", "SELVA"));
   EXPECT_FALSE(UpperCaseContains("sel\xC3", "SELS"));

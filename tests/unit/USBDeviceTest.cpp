@@ -13,30 +13,30 @@ namespace {
 constexpr std::uint32_t kNoSuchPosition = 0xFFFFFFFF;
 constexpr auto kGeneralError = static_cast<PlatformStatus>(0xE00002BC);
 
-TEST(OpenPipes, AnswersTheGeneralErrorForANullPointer) {
+TEST(OpenPipes, OpenPipesAnswersTheGeneralErrorForANullPointer) {
   EXPECT_EQ(open_pipes(nullptr, 0, {}), kGeneralError);
 }
 
-TEST(OpenPipes, ClearsTheHandleEvenWhenThereIsNoSuchUnit) {
+TEST(OpenPipes, OpenPipesClearsTheHandleEvenWhenThereIsNoSuchUnit) {
   USBDeviceInterface other = {-1, {}};
   DeviceHandle handle = &other;
   EXPECT_EQ(open_pipes(&handle, kNoSuchPosition, {}), kGeneralError);
   EXPECT_EQ(handle, nullptr);
 }
 
-TEST(OpenUSB, AnswersTheGeneralErrorWhenThereIsNoSuchUnit) {
+TEST(OpenUSB, OpenUSBAnswersTheGeneralErrorWhenThereIsNoSuchUnit) {
   DeviceHandle handle = nullptr;
   EXPECT_EQ(openUSB(&handle, kNoSuchPosition, {}), kGeneralError);
   EXPECT_EQ(handle, nullptr);
 }
 
-TEST(CloseUSB, LeavesANullHandleAlone) {
+TEST(CloseUSB, CloseUSBLeavesANullHandleAlone) {
   DeviceHandle handle = nullptr;
   closeUSB(&handle);
   EXPECT_EQ(handle, nullptr);
 }
 
-TEST(CloseUSB, ClosesTheNodeAndClearsTheHandle) {
+TEST(CloseUSB, CloseUSBClosesTheNodeAndClearsTheHandle) {
   const int descriptor = open("/dev/null", O_RDWR | O_CLOEXEC);
   ASSERT_GE(descriptor, 0);
   DeviceHandle handle = new USBDeviceInterface{descriptor, {}};

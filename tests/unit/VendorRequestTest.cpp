@@ -39,7 +39,7 @@ class RequestToWhatIsNoDevice : public testing::Test {
   int otherEnd_ = -1;
 };
 
-TEST_F(RequestToWhatIsNoDevice, FailsWithTheGeneralErrorAndLengthZero) {
+TEST_F(RequestToWhatIsNoDevice, ARequestFailsWithTheGeneralErrorAndLengthZero) {
   for (const DeviceHandle handle : {&pipe_, &null_, &closed_}) {
     std::array<std::uint8_t, 8> buffer;
     buffer.fill(0xA5);
@@ -50,7 +50,7 @@ TEST_F(RequestToWhatIsNoDevice, FailsWithTheGeneralErrorAndLengthZero) {
   }
 }
 
-TEST_F(RequestToWhatIsNoDevice, LeavesTheBufferOfEveryReadAlone) {
+TEST_F(RequestToWhatIsNoDevice, ARequestLeavesTheBufferOfEveryReadAlone) {
   for (const ReadRequest request : {GetFirmwareVersionNumber, GetInputSelectorInfo,
                                     GetSeratoActiveInfo, GetPortInfo, GetCertifyLevel}) {
     std::array<std::uint8_t, 8> buffer;
@@ -60,7 +60,7 @@ TEST_F(RequestToWhatIsNoDevice, LeavesTheBufferOfEveryReadAlone) {
   }
 }
 
-TEST_F(RequestToWhatIsNoDevice, FailsForEveryWrite) {
+TEST_F(RequestToWhatIsNoDevice, ARequestFailsForEveryWrite) {
   for (const WriteRequest request :
        {SetMixerOutputSetting, SetMixerInputSetting, SetUSBOutputLevelSetting,
         SetMidiChannelSetting, SetMidiKeyModeSetting}) {

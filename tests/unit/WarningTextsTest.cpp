@@ -125,7 +125,7 @@ INSTANTIATE_TEST_SUITE_P(Languages, WarningTextsTest, testing::ValuesIn(kLanguag
 
 // --- The files ---
 
-TEST(WarningTextsFilesTest, AreThereForExactlyTheTwelveLanguages) {
+TEST(WarningTextsFilesTest, WarningTextsAreThereForExactlyTheTwelveLanguages) {
   std::set<std::string> folders;
   for (const auto &entry : std::filesystem::directory_iterator(RESOURCES_FOLDER)) {
     if (entry.path().extension() == ".lproj") folders.insert(entry.path().stem());
@@ -134,7 +134,7 @@ TEST(WarningTextsFilesTest, AreThereForExactlyTheTwelveLanguages) {
                                    "Spanish", "ko", "pt", "ru", "zh_CN", "zh_TW"));
 }
 
-TEST(WarningTextsFilesTest, HaveNoTextTwice) {
+TEST(WarningTextsFilesTest, WarningTextsHaveNoTextTwice) {
   std::map<std::string, std::string> owners;
   for (const Language &language : kLanguages) {
     for (const std::string &text : TextsOf(language.folder)) {
@@ -145,13 +145,13 @@ TEST(WarningTextsFilesTest, HaveNoTextTwice) {
   EXPECT_EQ(owners.size(), 48U);
 }
 
-TEST_P(WarningTextsTest, AreExactlyTheFourInOrder) {
+TEST_P(WarningTextsTest, WarningTextsAreExactlyTheFourInOrder) {
   std::vector<std::string> keys;
   for (const StringsEntry &entry : ReadStringsFile(PathOf(folder_))) keys.push_back(entry.key);
   EXPECT_THAT(keys, ElementsAre("WARNING", "WARNING1", "WARNING2", "WARNING3"));
 }
 
-TEST_P(WarningTextsTest, TellTheTranslatorTheSituationInTheSameWords) {
+TEST_P(WarningTextsTest, WarningTextsTellTheTranslatorTheSituationInTheSameWords) {
   const auto entries = ReadStringsFile(PathOf(folder_));
   const auto english = ReadStringsFile(PathOf("English"));
   ASSERT_EQ(entries.size(), english.size());
@@ -161,7 +161,7 @@ TEST_P(WarningTextsTest, TellTheTranslatorTheSituationInTheSameWords) {
   }
 }
 
-TEST_P(WarningTextsTest, AreLaidOutAsPropertyListsAre) {
+TEST_P(WarningTextsTest, WarningTextsAreLaidOutAsPropertyListsAre) {
   std::string expected =
       "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
       "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
@@ -175,14 +175,14 @@ TEST_P(WarningTextsTest, AreLaidOutAsPropertyListsAre) {
   EXPECT_EQ(ReadBytes(PathOf(folder_)), expected + "</dict>\n</plist>\n");
 }
 
-TEST_P(WarningTextsTest, ReachTheLibraryAsTheyStandInTheFile) {
+TEST_P(WarningTextsTest, WarningTextsReachTheLibraryAsTheyStandInTheFile) {
   const auto list = PropertyList::ReadFile(PathOf(folder_));
   ASSERT_TRUE(list.has_value());
   ASSERT_EQ(texts_.size(), kKeys.size());
   for (std::size_t i = 0; i < kKeys.size(); ++i) EXPECT_EQ(list->TextForKey(kKeys[i]), texts_[i]);
 }
 
-TEST_P(WarningTextsTest, AreFoundByFolderAndBySystemLanguage) {
+TEST_P(WarningTextsTest, WarningTextsAreFoundByFolderAndBySystemLanguage) {
   const TemporaryFolder bundle;
   std::filesystem::create_directory_symlink(RESOURCES_FOLDER, bundle / "Resources");
   const Environment environment(OnlyLanguage({{"LANG", GetParam().locale}}));
@@ -195,7 +195,7 @@ TEST_P(WarningTextsTest, AreFoundByFolderAndBySystemLanguage) {
 
 // --- The characters ---
 
-TEST_P(WarningTextsTest, AreInNormalFormC) {
+TEST_P(WarningTextsTest, WarningTextsAreInNormalFormC) {
   for (const std::string &text : texts_) {
     const std::unique_ptr<gchar, decltype(&g_free)> normal(
         g_utf8_normalize(text.c_str(), -1, G_NORMALIZE_NFC), g_free);
@@ -203,20 +203,20 @@ TEST_P(WarningTextsTest, AreInNormalFormC) {
   }
 }
 
-TEST_P(WarningTextsTest, HoldNoPlaceholderNoMarkupAndNoLineBreak) {
+TEST_P(WarningTextsTest, WarningTextsHoldNoPlaceholderNoMarkupAndNoLineBreak) {
   for (const std::string &text : texts_) {
     EXPECT_EQ(text.find_first_of("%{}@<>&\\\n\r\t"), std::string::npos) << text;
   }
 }
 
-TEST_P(WarningTextsTest, HoldNeitherTypewriterQuotesNorExclamationMarks) {
+TEST_P(WarningTextsTest, WarningTextsHoldNeitherTypewriterQuotesNorExclamationMarks) {
   for (const std::string &text : texts_) {
     EXPECT_EQ(text.find_first_of("'\"`!"), std::string::npos) << text;
     EXPECT_THAT(text, Not(HasSubstr("\uFF01"))) << "a wide exclamation mark";
   }
 }
 
-TEST_P(WarningTextsTest, HaveNoBlankTooMany) {
+TEST_P(WarningTextsTest, WarningTextsHaveNoBlankTooMany) {
   for (const std::string &text : texts_) {
     EXPECT_FALSE(text.starts_with(' ') || text.ends_with(' ')) << text;
     EXPECT_THAT(text, Not(HasSubstr("  ")));
@@ -226,14 +226,14 @@ TEST_P(WarningTextsTest, HaveNoBlankTooMany) {
   }
 }
 
-TEST_P(WarningTextsTest, FitADialogue) {
+TEST_P(WarningTextsTest, WarningTextsFitADialogue) {
   for (const std::string &text : texts_) {
     EXPECT_GE(text.size(), 80U) << text;
     EXPECT_LT(text.size(), 400U) << text;
   }
 }
 
-TEST_P(WarningTextsTest, AreWrittenInTheScriptsOfTheLanguageExceptUsb) {
+TEST_P(WarningTextsTest, WarningTextsAreWrittenInTheScriptsOfTheLanguageExceptUsb) {
   const Scripts &scripts = GetParam().scripts;
   for (std::string text : texts_) {
     for (std::size_t usb = text.find("USB"); usb != std::string::npos; usb = text.find("USB")) {
@@ -295,7 +295,7 @@ std::size_t CountOf(std::string_view text, std::string_view part) {
   return count;
 }
 
-TEST_P(WarningTextsTest, AreTwoOrThreeWholeSentences) {
+TEST_P(WarningTextsTest, WarningTextsAreTwoOrThreeWholeSentences) {
   const bool isWide = std::set<std::string>{"Japanese", "zh_CN", "zh_TW"}.contains(folder_);
   const std::string fullStop = isWide ? "\u3002" : ".";
   for (const std::string &text : texts_) {
@@ -305,7 +305,7 @@ TEST_P(WarningTextsTest, AreTwoOrThreeWholeSentences) {
   }
 }
 
-TEST_P(WarningTextsTest, NameMixerChannelSelectorAndUsbByTheWordsOfTheGlossary) {
+TEST_P(WarningTextsTest, WarningTextsNameMixerChannelSelectorAndUsbByTheWordsOfTheGlossary) {
   for (const std::string &text : texts_) {
     EXPECT_THAT(text, HasSubstr(GetParam().inputSelector));
     EXPECT_THAT(text, HasSubstr(GetParam().mixer));
@@ -314,7 +314,7 @@ TEST_P(WarningTextsTest, NameMixerChannelSelectorAndUsbByTheWordsOfTheGlossary) 
   }
 }
 
-TEST_P(WarningTextsTest, NameTheSecondPortWhereTheComputerIsOnItAndOnlyThere) {
+TEST_P(WarningTextsTest, WarningTextsNameTheSecondPortWhereTheComputerIsOnItAndOnlyThere) {
   ASSERT_EQ(texts_.size(), kKeys.size());
   for (std::size_t i = 0; i < texts_.size(); ++i) {
     EXPECT_EQ(texts_[i].find(GetParam().second) != std::string::npos, i == kSecondPort)
@@ -323,7 +323,7 @@ TEST_P(WarningTextsTest, NameTheSecondPortWhereTheComputerIsOnItAndOnlyThere) {
   EXPECT_THAT(texts_[kSecondPort], HasSubstr(GetParam().port));
 }
 
-TEST_P(WarningTextsTest, SpeakOfNoErrorAndOfNoModel) {
+TEST_P(WarningTextsTest, WarningTextsSpeakOfNoErrorAndOfNoModel) {
   for (const std::string &text : texts_) {
     EXPECT_THAT(text, Not(HasSubstr(GetParam().error)));
     EXPECT_THAT(text, Not(HasSubstr("TRX")));
@@ -338,7 +338,7 @@ INSTANTIATE_TEST_SUITE_P(Languages, TranslationsTest,
                          testing::ValuesIn(std::begin(kLanguages) + 1, std::end(kLanguages)),
                          [](const auto &row) { return std::string(row.param.folder); });
 
-TEST_P(TranslationsTest, LeaveNoEnglish) {
+TEST_P(TranslationsTest, TranslationsLeaveNoEnglish) {
   const std::set<std::string> english = {"the",   "your",   "choice",    "channel", "input",
                                          "this",  "switch", "connected", "set",     "turn",
                                          "check", "sent",   "settings",  "mixers"};

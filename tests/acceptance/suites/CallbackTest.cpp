@@ -34,7 +34,7 @@ TEST_F(Callbacks, OnesOwnChangeComesBackWithTheContext) {
   EXPECT_TRUE(Delivered({{"A selva", -1, 2}}));
 }
 
-TEST_F(Callbacks, NeverRunInsideTheCallThatMadeTheChange) {
+TEST_F(Callbacks, CallbacksNeverRunInsideTheCallThatMadeTheChange) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   for (std::uint32_t i = 0; i < 50; ++i) {
     ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, i % 4), kSuccess);
@@ -45,7 +45,7 @@ TEST_F(Callbacks, NeverRunInsideTheCallThatMadeTheChange) {
   EXPECT_EQ(DeliverAll(50).size(), 50U);
 }
 
-TEST_F(Callbacks, RunOnTheThreadOfTheEventLoop) {
+TEST_F(Callbacks, CallbacksRunOnTheThreadOfTheEventLoop) {
   static std::thread::id ranOn;
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(
                 kSelva, [](std::int32_t, void *) { ranOn = std::this_thread::get_id(); }, nullptr),

@@ -259,7 +259,7 @@ class SettingsPath : public Acceptance {
   }
 };
 
-TEST_F(SettingsPath, IsThatOfTheModelWhetherTheFileIsThereOrNot) {
+TEST_F(SettingsPath, ASettingsPathIsThatOfTheModelWhetherTheFileIsThereOrNot) {
   const std::map<ProductId, std::string> names = {{kArden, "TRX-Arden"},   {kVolt, "TRX-VOLT"},
                                                   {kHalden, "TRX-HALDEN"}, {kLumen, "TRX-LUMEN"},
                                                   {kMorrow, "TRX-MORROW"}, {kSelva, "TRX-SELVA"}};
@@ -269,7 +269,7 @@ TEST_F(SettingsPath, IsThatOfTheModelWhetherTheFileIsThereOrNot) {
   EXPECT_TRUE(std::filesystem::exists(PathOf(11)));
 }
 
-TEST_F(SettingsPath, IsRefusedForAModelWithoutSettingsAndForANullPointer) {
+TEST_F(SettingsPath, ASettingsPathIsRefusedForAModelWithoutSettingsAndForANullPointer) {
   for (const ProductId product : kAllProducts) {
     if (product <= kVolt || product == kHalden || product == kLumen || product == kMorrow ||
         product == kSelva)
@@ -284,7 +284,7 @@ TEST_F(SettingsPath, IsRefusedForAModelWithoutSettingsAndForANullPointer) {
   ExpectNothingHappened();
 }
 
-TEST_F(SettingsPath, IsTheSameTextEachTime) {
+TEST_F(SettingsPath, ASettingsPathIsTheSameTextEachTime) {
   ORVStringRef first = nullptr;
   ORVStringRef second = nullptr;
   EXPECT_EQ(ORV_GetSettingsFilePath(kSelva, &first), kSuccess);

@@ -272,7 +272,7 @@ TEST_F(InputRoutingWarning, ATextHandedOutStaysUnchangedWhenTheFileChanges) {
   EXPECT_EQ(CharactersOf(first), "German WARNING");
 }
 
-TEST_F(InputRoutingWarning, FollowsAnInputRoutingThatAnswered101) {
+TEST_F(InputRoutingWarning, AWarningFollowsAnInputRoutingThatAnswered101) {
   InstallAll();
   EXPECT_EQ(Warning(kSelva, 0, 99, ORV_SetUSBInputAudio(kSelva, 0, 0)), "English WARNING1");
   EXPECT_EQ(Warning(kSelva, 0, 99, ORV_SetUSBInputAudio(kSelva, 0, 3)), "102");

@@ -6,7 +6,7 @@ namespace {
 
 class MidiKeyMode : public Deliveries {};
 
-TEST_F(MidiKeyMode, IsRefusedToEveryModelEvenWithAUnitAndAStoredValue) {
+TEST_F(MidiKeyMode, TheMidiKeyModeIsRefusedToEveryModelEvenWithAUnitAndAStoredValue) {
   rig_->PlugMixer();
   PutSettings("TRX-VOLT", "<key>MidiKeyMode</key><integer>1</integer>");
   for (const ProductId product : kAllProducts) {

@@ -116,12 +116,12 @@ class Connection : public Acceptance {
   }
 };
 
-TEST_F(Connection, NoneWhileTheBusIsEmpty) {
+TEST_F(Connection, ThereIsNoConnectionWhileTheBusIsEmpty) {
   EXPECT_EQ(AnswerForEveryProduct(), kNotConnected);
   ExpectNothingHappened();
 }
 
-TEST_F(Connection, ThereWithOneMixerAndWithMore) {
+TEST_F(Connection, ThereIsAConnectionWithOneMixerAndWithMore) {
   rig_->PlugMixer();
   EXPECT_EQ(AnswerForEveryProduct(), kConnected);
   rig_->PlugMixer();
@@ -137,7 +137,7 @@ TEST_F(Connection, StrangersAreNoConnection) {
   EXPECT_EQ(AnswerForEveryProduct(), kNotConnected);
 }
 
-TEST_F(Connection, FollowsUnpluggingAndReplugging) {
+TEST_F(Connection, AConnectionFollowsUnpluggingAndReplugging) {
   const int unit = rig_->PlugMixer();
   EXPECT_EQ(AnswerForEveryProduct(), kConnected);
   rig_->Unplug(unit);

@@ -122,7 +122,7 @@ class Setting : public SetterOrder, public testing::WithParamInterface<Row> {
   }
 };
 
-TEST_P(Setting, IsCountedForItsModelsOnly) {
+TEST_P(Setting, ASettingIsCountedForItsModelsOnly) {
   for (const ProductId product : kAllProducts) {
     std::uint32_t count = 77;
     EXPECT_EQ(row_.count(product, &count), IsServed(row_, product) ? kSuccess : kBadArgument)
@@ -133,7 +133,7 @@ TEST_P(Setting, IsCountedForItsModelsOnly) {
   ExpectNothingHappened();
 }
 
-TEST_P(Setting, HasATextForEachChoice) {
+TEST_P(Setting, ASettingHasATextForEachChoice) {
   for (const Model &model : row_.models) {
     for (const std::uint32_t reserved : {0U, 1U, 4U, 16U, 0xFFFFFFFFU}) {
       Lines texts;
@@ -148,7 +148,7 @@ TEST_P(Setting, HasATextForEachChoice) {
   ExpectNothingHappened();
 }
 
-TEST_P(Setting, HandsOutTheSameTextEachTime) {
+TEST_P(Setting, ASettingHandsOutTheSameTextEachTime) {
   ORVStringRef first = nullptr;
   ORVStringRef again = nullptr;
   ASSERT_EQ(row_.text(row_.models.front().product, 1, 0, &first), kSuccess);
@@ -158,7 +158,7 @@ TEST_P(Setting, HandsOutTheSameTextEachTime) {
   EXPECT_EQ(CharactersOf(first), row_.texts[1]);
 }
 
-TEST_P(Setting, HasNoTextForAnotherModelOrIndexOrANullResult) {
+TEST_P(Setting, ASettingHasNoTextForAnotherModelOrIndexOrANullResult) {
   for (const ProductId product : kAllProducts) {
     std::vector<std::uint32_t> indexes = IndexesBeyond(row_);
     if (!IsServed(row_, product)) indexes.insert(indexes.end(), {0, 1});
@@ -175,7 +175,7 @@ TEST_P(Setting, HasNoTextForAnotherModelOrIndexOrANullResult) {
 
 // --- Setting ---------------------------------------------------------------------------------
 
-TEST_P(Setting, IsSentToEveryUnitStoredAndAnnounced) {
+TEST_P(Setting, ASettingIsSentToEveryUnitStoredAndAnnounced) {
   for (int i = 0; i < 3; ++i) rig_->PlugMixer();
   for (std::uint32_t index = 0; index < CountOf(row_); ++index) {
     EXPECT_EQ(row_.set(model_.product, index), kSuccess) << index;
@@ -186,7 +186,7 @@ TEST_P(Setting, IsSentToEveryUnitStoredAndAnnounced) {
   }
 }
 
-TEST_P(Setting, HasAFileAndAnAnnouncementOfItsOwnForEachModel) {
+TEST_P(Setting, ASettingHasAFileAndAnAnnouncementOfItsOwnForEachModel) {
   rig_->PlugMixer();
   Lines files;
   for (const Model &model : row_.models) {
@@ -201,18 +201,18 @@ TEST_P(Setting, HasAFileAndAnAnnouncementOfItsOwnForEachModel) {
   EXPECT_EQ(LibraryListing(), files);
 }
 
-TEST_P(Setting, IsStoredAndAnnouncedWithoutAUnit) {
+TEST_P(Setting, ASettingIsStoredAndAnnouncedWithoutAUnit) {
   EXPECT_EQ(row_.set(model_.product, 1), kSuccess);
   EXPECT_EQ(rig_->WireLog(), Lines());
   EXPECT_EQ(SettingsOf(model_.name), StoredAs(1));
   EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{Change(row_, model_, 1)});
 }
 
-TEST_P(Setting, IsSentThenStoredThenAnnounced) {
+TEST_P(Setting, ASettingIsSentThenStoredThenAnnounced) {
   ExpectSentStoredAnnounced([&] { return row_.set(model_.product, 1); }, SentTo(1, 1));
 }
 
-TEST_P(Setting, PassesOverUnitsThatStallOrDoNotOpen) {
+TEST_P(Setting, ASettingPassesOverUnitsThatStallOrDoNotOpen) {
   for (int i = 0; i < 3; ++i) rig_->PlugMixer();
   rig_->SetFault(1, UnitFault::kStalls);
   rig_->SetFault(2, UnitFault::kRefusesToOpen);
@@ -223,7 +223,7 @@ TEST_P(Setting, PassesOverUnitsThatStallOrDoNotOpen) {
   EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{Change(row_, model_, 1)});
 }
 
-TEST_P(Setting, IsSentStoredAndAnnouncedAlsoWhenItStaysTheSame) {
+TEST_P(Setting, ASettingIsSentStoredAndAnnouncedAlsoWhenItStaysTheSame) {
   rig_->PlugMixer();
   EXPECT_EQ(row_.set(model_.product, 1), kSuccess);
   // An entry that only a second write could keep shows whether the file is written again.
@@ -237,7 +237,7 @@ TEST_P(Setting, IsSentStoredAndAnnouncedAlsoWhenItStaysTheSame) {
             (std::vector{Change(row_, model_, 1), Change(row_, model_, 1)}));
 }
 
-TEST_P(Setting, IsRefusedForAnotherModelOrIndexAndNothingIsDone) {
+TEST_P(Setting, ASettingIsRefusedForAnotherModelOrIndexAndNothingIsDone) {
   rig_->PlugMixer();
   for (const ProductId product : kAllProducts) {
     std::vector<std::uint32_t> indexes = IndexesBeyond(row_);
@@ -251,7 +251,7 @@ TEST_P(Setting, IsRefusedForAnotherModelOrIndexAndNothingIsDone) {
 
 // --- Stored values ---------------------------------------------------------------------------
 
-TEST_P(Setting, HasItsDefaultForItsModelsWhileNothingIsStored) {
+TEST_P(Setting, ASettingHasItsDefaultForItsModelsWhileNothingIsStored) {
   for (const ProductId product : kAllProducts) {
     std::int32_t index = -77;
     EXPECT_EQ(row_.current(product, &index), IsServed(row_, product) ? kSuccess : kBadArgument)
@@ -262,7 +262,7 @@ TEST_P(Setting, HasItsDefaultForItsModelsWhileNothingIsStored) {
   ExpectNothingHappened();
 }
 
-TEST_P(Setting, HasItsDefaultBesideOtherEntriesAndOtherModels) {
+TEST_P(Setting, ASettingHasItsDefaultBesideOtherEntriesAndOtherModels) {
   PutSettings(model_.name, "<key>Else</key><integer>1</integer>");
   PutSettings(model_.product == kSelva ? "TRX-LUMEN" : "TRX-SELVA", EntryOf(row_, "1"));
   std::int32_t index = -77;
@@ -270,7 +270,7 @@ TEST_P(Setting, HasItsDefaultBesideOtherEntriesAndOtherModels) {
   EXPECT_EQ(index, row_.defaultIndex);
 }
 
-TEST_P(Setting, IsReadForEachModelAsItWasSet) {
+TEST_P(Setting, ASettingIsReadForEachModelAsItWasSet) {
   for (const Model &model : row_.models) ASSERT_EQ(row_.set(model.product, 0), kSuccess);
   ASSERT_EQ(row_.set(model_.product, 1), kSuccess);
   for (const Model &model : row_.models) {
@@ -280,7 +280,7 @@ TEST_P(Setting, IsReadForEachModelAsItWasSet) {
   }
 }
 
-TEST_P(Setting, IsReadAsItIsStoredInRangeOrNot) {
+TEST_P(Setting, ASettingIsReadAsItIsStoredInRangeOrNot) {
   const std::string count = std::to_string(CountOf(row_));
   for (const std::string &stored : {std::string("0"), count, std::string("-1"),
                                     std::string("2147483647"), std::string("-2147483648")}) {
@@ -293,7 +293,7 @@ TEST_P(Setting, IsReadAsItIsStoredInRangeOrNot) {
 
 // --- Sending again ---------------------------------------------------------------------------
 
-TEST_P(Setting, IsSentAgainToEveryUnitAndNeitherStoredNorAnnounced) {
+TEST_P(Setting, ASettingIsSentAgainToEveryUnitAndNeitherStoredNorAnnounced) {
   rig_->PlugMixer();
   rig_->PlugMixer();
   for (std::uint32_t index = 0; index < row_.choicesSentAgain; ++index) {
@@ -306,7 +306,7 @@ TEST_P(Setting, IsSentAgainToEveryUnitAndNeitherStoredNorAnnounced) {
   EXPECT_EQ(rig_->TakeAnnouncements(0), std::vector<Announcement>());
 }
 
-TEST_P(Setting, IsNotSentAgainBeyondTheChoicesThatCanBe) {
+TEST_P(Setting, ASettingIsNotSentAgainBeyondTheChoicesThatCanBe) {
   rig_->PlugMixer();
   Lines stored = {"-1", "256", "2147483647", "-2147483648"};
   for (std::uint32_t index = row_.choicesSentAgain; index <= CountOf(row_); ++index) {
@@ -320,7 +320,7 @@ TEST_P(Setting, IsNotSentAgainBeyondTheChoicesThatCanBe) {
   EXPECT_EQ(rig_->TakeAnnouncements(0), std::vector<Announcement>());
 }
 
-TEST_P(Setting, IsSentAgainAsItsDefaultWhileNothingIsStored) {
+TEST_P(Setting, ASettingIsSentAgainAsItsDefaultWhileNothingIsStored) {
   rig_->PlugMixer();
   for (const Model &model : row_.models) {
     EXPECT_EQ(row_.sendAgain(model.product), kSuccess) << model.name;
@@ -330,7 +330,7 @@ TEST_P(Setting, IsSentAgainAsItsDefaultWhileNothingIsStored) {
   ExpectNothingHappened();
 }
 
-TEST_P(Setting, IsSentAgainFromTheFileOfTheModel) {
+TEST_P(Setting, ASettingIsSentAgainFromTheFileOfTheModel) {
   rig_->PlugMixer();
   for (const Model &model : row_.models) Store(model, "1");
   Store(model_, "0");
@@ -341,7 +341,7 @@ TEST_P(Setting, IsSentAgainFromTheFileOfTheModel) {
   }
 }
 
-TEST_P(Setting, IsSentAgainForItsModelsOnlyAndWithoutAUnitToo) {
+TEST_P(Setting, ASettingIsSentAgainForItsModelsOnlyAndWithoutAUnitToo) {
   for (const ProductId product : kAllProducts) {
     EXPECT_EQ(row_.sendAgain(product), IsServed(row_, product) ? kSuccess : kBadArgument)
         << product;
@@ -368,7 +368,7 @@ class SettingCallback : public Deliveries, public testing::WithParamInterface<Ro
 };
 
 // Null callbacks and contexts are accepted, and Unregister ignores its callback.
-TEST_P(SettingCallback, IsAcceptedForTheModelsOfTheSettingOnly) {
+TEST_P(SettingCallback, ACallbackIsAcceptedForTheModelsOfTheSettingOnly) {
   for (const ProductId product : kAllProducts) {
     const StatusCode expected = IsServed(row_, product) ? kSuccess : kBadArgument;
     EXPECT_EQ(row_.takeCallback(product, IndexA), expected) << product;
@@ -381,7 +381,7 @@ TEST_P(SettingCallback, IsAcceptedForTheModelsOfTheSettingOnly) {
   ExpectNothingHappened();
 }
 
-TEST_P(SettingCallback, RunsOnceForEachRegistrationWithTheIndexThatWasSet) {
+TEST_P(SettingCallback, ACallbackRunsOnceForEachRegistrationWithTheIndexThatWasSet) {
   ASSERT_EQ(row_.putCallback(model_.product, IndexA, &first), kSuccess);
   ASSERT_EQ(row_.set(model_.product, CountOf(row_) - 1), kSuccess);
   const auto last = static_cast<std::int32_t>(CountOf(row_) - 1);
@@ -391,7 +391,7 @@ TEST_P(SettingCallback, RunsOnceForEachRegistrationWithTheIndexThatWasSet) {
   EXPECT_TRUE(Delivered({{"B second", -1, 1}, {"B second", -1, 1}}));
 }
 
-TEST_P(SettingCallback, DoesNotRunOnceUnregistered) {
+TEST_P(SettingCallback, ACallbackDoesNotRunOnceUnregistered) {
   ASSERT_EQ(row_.putCallback(model_.product, IndexA, &first), kSuccess);
   ASSERT_EQ(row_.takeCallback(model_.product, IndexA), kSuccess);
   ASSERT_EQ(row_.set(model_.product, 1), kSuccess);
@@ -399,7 +399,7 @@ TEST_P(SettingCallback, DoesNotRunOnceUnregistered) {
   EXPECT_TRUE(Delivered({}));
 }
 
-TEST_P(SettingCallback, DoesNotRunForAnotherSetting) {
+TEST_P(SettingCallback, ACallbackDoesNotRunForAnotherSetting) {
   ASSERT_EQ(row_.putCallback(model_.product, IndexA, &first), kSuccess);
   for (const Row &other : kRows) {
     if (std::string(other.name) != row_.name) rig_->Announce(Change(other, model_, 1));

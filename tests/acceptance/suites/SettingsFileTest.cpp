@@ -39,7 +39,7 @@ class SettingsFile : public Acceptance {
   }
 };
 
-TEST_F(SettingsFile, DoesNotExistUntilALevelIsSetAndThenHoldsOneEntry) {
+TEST_F(SettingsFile, ASettingsFileDoesNotExistUntilALevelIsSetAndThenHoldsOneEntry) {
   EXPECT_EQ(CurrentLevel(), 3);
   EXPECT_EQ(LibraryListing(), Lines());
   ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
@@ -52,7 +52,7 @@ TEST_F(SettingsFile, DoesNotExistUntilALevelIsSetAndThenHoldsOneEntry) {
   EXPECT_EQ(CurrentLevel(), 1);
 }
 
-TEST_F(SettingsFile, KeepsWhatOthersPutIntoIt) {
+TEST_F(SettingsFile, ASettingsFileKeepsWhatOthersPutIntoIt) {
   PutSettings("TRX-SELVA",
               "<key>Foreign</key><string>left &amp; right \xC3\xBC</string>"
               "<key>MaxLevel</key><integer>2</integer>"
@@ -98,7 +98,7 @@ TEST_F(SettingsFile, ContentsThatCannotBeReadCountAsMissingAndAreReplaced) {
   }
 }
 
-TEST_F(SettingsFile, IsReadInTheBinaryEncodingAndTurnedBackIntoXml) {
+TEST_F(SettingsFile, ASettingsFileIsReadInTheBinaryEncodingAndTurnedBackIntoXml) {
   // {"MaxLevel": 2, "A": 5}
   constexpr char kBinary[] =
       "bplist00"
@@ -163,7 +163,7 @@ TEST_F(SettingsFile, AChangeByAnotherProcessIsSeenByTheVeryNextCall) {
   EXPECT_EQ(host->Ask("call ORV_GetCurrentBoostLevelIndex 11"), "100 9");
 }
 
-TEST_F(SettingsFile, IsReplacedAsAWholeAndNothingIsLeftBesideIt) {
+TEST_F(SettingsFile, ASettingsFileIsReplacedAsAWholeAndNothingIsLeftBesideIt) {
   ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
   std::ifstream old(SelvaPath(), std::ios::binary);
   ASSERT_TRUE(old);

@@ -35,12 +35,12 @@ class Units : public Acceptance {
   }
 };
 
-TEST_F(Units, NoneConnectedNothingIsSent) {
+TEST_F(Units, WithoutAUnitNothingIsSent) {
   EXPECT_EQ(SetLevelZero(), Lines());
   EXPECT_EQ(SendLevelZeroAgain(), Lines());
 }
 
-TEST_F(Units, ThreeAreReachedOnceEachInTheOrderOfTheBus) {
+TEST_F(Units, ThreeUnitsAreReachedOnceEachInTheOrderOfTheBus) {
   for (int i = 0; i < 3; ++i) rig_->PlugMixer();
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(1), Taken(2), Taken(3)}));
   EXPECT_EQ(SendLevelZeroAgain(), (Lines{Taken(1), Taken(2), Taken(3)}));
@@ -57,13 +57,13 @@ TEST_F(Units, StrangersInBetweenAreNeverAsked) {
   EXPECT_EQ(SendLevelZeroAgain(), (Lines{Taken(first), Taken(second)}));
 }
 
-TEST_F(Units, OnlyStrangersNothingIsSent) {
+TEST_F(Units, NothingIsSentToStrangers) {
   rig_->PlugStranger(Stranger::kOtherProductOfTheMaker);
   rig_->PlugStranger(Stranger::kOtherMakerWithTheSameProduct);
   EXPECT_EQ(SetLevelZero(), Lines());
 }
 
-TEST_F(Units, OneReplugStandsBehindTheOthers) {
+TEST_F(Units, AReplugPutsAUnitBehindTheOthers) {
   for (int i = 0; i < 3; ++i) rig_->PlugMixer();
   rig_->Unplug(1);
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(2), Taken(3)}));
@@ -79,13 +79,13 @@ TEST_F(Units, TheOrderIsThatOfTheBusAndNotThatOfPluggingIn) {
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(later), Taken(earlier)}));
 }
 
-TEST_F(Units, ManyAreReachedInTheOrderOfTheirNumbersNotOfTheirDigits) {
+TEST_F(Units, ManyUnitsAreReachedInTheOrderOfTheirNumbersNotOfTheirDigits) {
   Lines expected;
   for (int unit = 1; unit <= 12; ++unit) expected.push_back(Taken(rig_->PlugMixer()));
   EXPECT_EQ(SetLevelZero(), expected);
 }
 
-TEST_F(Units, OneThatDoesNotOpenIsPassedOver) {
+TEST_F(Units, AUnitThatDoesNotOpenIsPassedOver) {
   for (int i = 0; i < 3; ++i) rig_->PlugMixer();
   rig_->SetFault(2, UnitFault::kRefusesToOpen);
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(1), Taken(3)}));
@@ -94,28 +94,28 @@ TEST_F(Units, OneThatDoesNotOpenIsPassedOver) {
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(1), Taken(2), Taken(3)}));
 }
 
-TEST_F(Units, WhenNoneOpensTheLevelIsStoredAndAnnouncedAllTheSame) {
+TEST_F(Units, WhenNoUnitOpensTheLevelIsStoredAndAnnounced) {
   for (const int unit : {rig_->PlugMixer(), rig_->PlugMixer()}) {
     rig_->SetFault(unit, UnitFault::kRefusesToOpen);
   }
   EXPECT_EQ(SetLevelZero(), Lines());
 }
 
-TEST_F(Units, OneThatRefusesTheRequestDoesNotKeepTheOthersFromIt) {
+TEST_F(Units, AUnitThatRefusesTheRequestDoesNotKeepTheOthersFromIt) {
   for (int i = 0; i < 3; ++i) rig_->PlugMixer();
   rig_->SetFault(1, UnitFault::kStalls);
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(1, "stalled"), Taken(2), Taken(3)}));
   EXPECT_EQ(SendLevelZeroAgain(), (Lines{Taken(1, "stalled"), Taken(2), Taken(3)}));
 }
 
-TEST_F(Units, OneThatStaysSilentIsGivenUp) {
+TEST_F(Units, AUnitThatStaysSilentIsGivenUp) {
   rig_->PlugMixer();
   rig_->PlugMixer();
   rig_->SetFault(1, UnitFault::kStaysSilent);
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(1, "no reply"), Taken(2)}));
 }
 
-TEST_F(Units, OneThatVanishesDuringTheRequestIsPassedOver) {
+TEST_F(Units, AUnitThatVanishesDuringTheRequestIsPassedOver) {
   rig_->PlugMixer();
   rig_->PlugMixer();
   rig_->SetFault(2, UnitFault::kVanishes);
@@ -123,7 +123,7 @@ TEST_F(Units, OneThatVanishesDuringTheRequestIsPassedOver) {
   EXPECT_EQ(SetLevelZero(), (Lines{Taken(1)}));
 }
 
-TEST_F(Units, OneUnpluggedDuringItsRequestEndsTheWait) {
+TEST_F(Units, AUnitUnpluggedDuringItsRequestEndsTheWait) {
   const int silent = rig_->PlugMixer();
   rig_->SetFault(silent, UnitFault::kStaysSilent);
   const auto host = rig_->StartHost();
@@ -135,7 +135,7 @@ TEST_F(Units, OneUnpluggedDuringItsRequestEndsTheWait) {
   EXPECT_EQ(host->TakeCalls(1), Lines{"kind 2 outcome 4"}) << "gone, and not out of time";
 }
 
-TEST_F(Units, OneHeldByAnotherProcessIsPassedOver) {
+TEST_F(Units, AUnitHeldByAnotherProcessIsPassedOver) {
   for (int i = 0; i < 3; ++i) rig_->PlugMixer();
   rig_->SetFault(2, UnitFault::kHeldByAnotherProcess);
   const auto host = rig_->StartHost();
@@ -149,7 +149,7 @@ TEST_F(Units, OneHeldByAnotherProcessIsPassedOver) {
   EXPECT_EQ(rig_->WireLog(), (Lines{Taken(1), Taken(3)}));
 }
 
-TEST_F(Units, OneThatTheUserMayNotOpenIsPassedOver) {
+TEST_F(Units, AUnitThatTheUserMayNotOpenIsPassedOver) {
   for (int i = 0; i < 3; ++i) rig_->PlugMixer();
   PlugSomethingHealthyBehind();
   rig_->SetFault(3, UnitFault::kNotPermitted);
@@ -160,7 +160,7 @@ TEST_F(Units, OneThatTheUserMayNotOpenIsPassedOver) {
   EXPECT_EQ(rig_->WireLog(), (Lines{Taken(1), Taken(2)}));
 }
 
-TEST_F(Units, OnePluggedInAfterASetLearnsTheLevelWhenItIsSentAgain) {
+TEST_F(Units, AUnitPluggedInAfterASetLearnsTheLevelWhenItIsSentAgain) {
   EXPECT_EQ(SetLevelZero(), Lines());
   rig_->PlugMixer();
   EXPECT_EQ(rig_->WireLog(), Lines());

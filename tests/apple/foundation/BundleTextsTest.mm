@@ -49,7 +49,7 @@ class BundleTexts : public testing::Test {
   NSAutoreleasePool *const pool_ = [[NSAutoreleasePool alloc] init];
 };
 
-TEST_F(BundleTexts, AreInTheLanguageOfTheFolder) {
+TEST_F(BundleTexts, BundleTextsAreInTheLanguageOfTheFolder) {
   EXPECT_THAT(InLanguage("English", "WARNING2"), StartsWith("Your choice has been sent"));
   EXPECT_THAT(InLanguage("Japanese", "WARNING2"),
               StartsWith("選択した内容はミキサーに送信されましたが、このチャン"));
@@ -68,7 +68,7 @@ TEST_F(BundleTexts, AreInTheLanguageOfTheFolder) {
               StartsWith("선택한 내용은 믹서로 전송되었지만, 이 채널의"));
 }
 
-TEST_F(BundleTexts, AreDifferentForEachKey) {
+TEST_F(BundleTexts, BundleTextsAreDifferentForEachKey) {
   EXPECT_THAT(InLanguage("English", "WARNING"), StartsWith("Your choice may not have taken"));
   EXPECT_THAT(InLanguage("English", "WARNING1"), StartsWith("No mixer is connected, so your"));
   EXPECT_THAT(InLanguage("English", "WARNING2"), StartsWith("Your choice has been sent to t"));
@@ -76,7 +76,7 @@ TEST_F(BundleTexts, AreDifferentForEachKey) {
   EXPECT_NE(InLanguage("English", "WARNING2"), InLanguage("English", "WARNING3"));
 }
 
-TEST_F(BundleTexts, AreNoneWithoutFolderKeyOrBundle) {
+TEST_F(BundleTexts, BundleTextsAreNoneWithoutFolderKeyOrBundle) {
   EXPECT_EQ(StringInLanguage(kBundle, "Klingon", "WARNING"), nullptr);
   EXPECT_EQ(StringInLanguage(kBundle, "German", "WARNING4"), nullptr);
   EXPECT_EQ(StringInLanguage("/Library/Frameworks/Another.framework", "German", "WARNING"),
@@ -84,7 +84,7 @@ TEST_F(BundleTexts, AreNoneWithoutFolderKeyOrBundle) {
   EXPECT_EQ(LocalizedString("/Library/Frameworks/Another.framework", "WARNING"), nullptr);
 }
 
-TEST_F(BundleTexts, AreInTheLanguageOfTheUserWhereNoneIsNamed) {
+TEST_F(BundleTexts, BundleTextsAreInTheLanguageOfTheUserWhereNoneIsNamed) {
   EXPECT_THAT(WhereTheUserReads(@"German", "WARNING1"), StartsWith("Es ist kein Mischpul"));
   EXPECT_THAT(WhereTheUserReads(@"ko", "WARNING1"),
               StartsWith("연결된 믹서가 없어 선택한 내용이 아"));
@@ -95,17 +95,17 @@ TEST_F(BundleTexts, AreInTheLanguageOfTheUserWhereNoneIsNamed) {
 }
 
 // The platform gives the key back, not the empty text that it was asked to give instead.
-TEST_F(BundleTexts, AreTheKeyItselfWhereThePlatformHasNoText) {
+TEST_F(BundleTexts, BundleTextsAreTheKeyItselfWhereThePlatformHasNoText) {
   EXPECT_EQ(WhereTheUserReads(@"German", "WARNING4"), "WARNING4");
 }
 
-TEST_F(BundleTexts, AreTheSameObjectEachTime) {
+TEST_F(BundleTexts, BundleTextsAreTheSameObjectEachTime) {
   EXPECT_EQ(StringInLanguage(kBundle, "German", "WARNING"),
             StringInLanguage(kBundle, "German", "WARNING"));
   EXPECT_EQ(LocalizedString(kBundle, "WARNING1"), LocalizedString(kBundle, "WARNING1"));
 }
 
-TEST_F(BundleTexts, LeaveNothingBehindInMemory) {
+TEST_F(BundleTexts, BundleTextsLeaveNothingBehindInMemory) {
   EXPECT_THAT(HeapGrowth(500, [] { StringInLanguage(kBundle, "German", "WARNING"); }),
               Lt(kNothingPerCall / 20));
   EXPECT_THAT(HeapGrowth(5'000, [] { LocalizedString(kBundle, "WARNING1"); }),

@@ -51,7 +51,7 @@ using trxtest::ExpectQuietSuccess;
 void CallsNothing(std::int32_t, std::int32_t, void *) {}
 void CallsNothing(std::int32_t, void *) {}
 
-TEST(PostedMessage, OfARoutingChangeIsTheFormThatIsDeliveredImmediately) {
+TEST(PostedMessage, AMessageOfARoutingChangeIsTheFormThatIsDeliveredImmediately) {
   const CentreRecorder centre;
   Announce(inputAudioChange, 11, 1, 7);
   Announce(outputAudioChange, 0, -1, 2);
@@ -64,7 +64,7 @@ TEST(PostedMessage, OfARoutingChangeIsTheFormThatIsDeliveredImmediately) {
                           "deliverImmediately:YES"));
 }
 
-TEST(PostedMessage, OfAnyOtherChangeIsThePlainForm) {
+TEST(PostedMessage, AMessageOfAnyOtherChangeIsThePlainForm) {
   const CentreRecorder centre;
   Announce(boostLevel.change, 5, 3);
   Announce(midiChannel.change, 1, 15);
@@ -75,7 +75,7 @@ TEST(PostedMessage, OfAnyOtherChangeIsThePlainForm) {
                           "userInfo:{Index i 15, ProductID i 1}"));
 }
 
-TEST(RegisteredMessage, NamesTheOperationOfTheKind) {
+TEST(RegisteredMessage, TheMessageNamesTheOperationOfTheKind) {
   const CentreRecorder centre;
   ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(kSelva, CallsNothing, nullptr), kSuccess);
   ASSERT_EQ(ORV_RegisterOutputAudioChangedCallback(kArden, CallsNothing, nullptr), kSuccess);
@@ -91,7 +91,7 @@ TEST(RegisteredMessage, NamesTheOperationOfTheKind) {
                                              "name:\"TRX-VOLT MidiChannel Change\" object:nil"));
 }
 
-TEST(RegisteredMessage, IsSentOnceForEachRegistrationAndToOneObserver) {
+TEST(RegisteredMessage, TheMessageIsSentOnceForEachRegistrationAndToOneObserver) {
   const CentreRecorder centre;
   for (int i = 0; i < 3; ++i) {
     ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, CallsNothing, nullptr), kSuccess);
@@ -110,7 +110,7 @@ TEST(RegisteredMessage, IsSentOnceForEachRegistrationAndToOneObserver) {
   EXPECT_EQ([static_cast<id>(const_cast<void *>(centre.Observers().front())) retainCount], 1U);
 }
 
-TEST(RegisteredMessage, IsNotSentByARefusedRegistrationNorByUnregistering) {
+TEST(RegisteredMessage, TheMessageIsNotSentByARefusedRegistrationNorByUnregistering) {
   const CentreRecorder centre;
   EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kBrisk, CallsNothing, nullptr), kBadArgument);
   EXPECT_EQ(ORV_RegisterMidiChannelChangedCallback(kSelva, CallsNothing, nullptr), kBadArgument);
@@ -120,7 +120,7 @@ TEST(RegisteredMessage, IsNotSentByARefusedRegistrationNorByUnregistering) {
   EXPECT_THAT(centre.Messages(), IsEmpty());
 }
 
-TEST(TheObserver, IsMadeByTheFirstRegistrationThatIsNotRefused) {
+TEST(TheObserver, TheObserverIsMadeByTheFirstRegistrationThatIsNotRefused) {
   const CentreRecorder centre;
   method_exchangeImplementations(class_getClassMethod([NSObject class], @selector(alloc)),
                                  class_getClassMethod([NSObject class], @selector(countedAlloc)));
@@ -135,7 +135,7 @@ TEST(TheObserver, IsMadeByTheFirstRegistrationThatIsNotRefused) {
   EXPECT_EQ(observersMade, 1);
 }
 
-TEST(RaisedException, InAnswerToAPostEndsThere) {
+TEST(RaisedException, AnExceptionInAnswerToAPostEndsThere) {
   ExpectQuietSuccess([] {
     CentreRecorder centre;
     centre.Raise();
@@ -145,7 +145,7 @@ TEST(RaisedException, InAnswerToAPostEndsThere) {
   });
 }
 
-TEST(RaisedException, InAnswerToAnObservationEndsThere) {
+TEST(RaisedException, AnExceptionInAnswerToAnObservationEndsThere) {
   ExpectQuietSuccess([] {
     CentreRecorder centre;
     centre.Raise();

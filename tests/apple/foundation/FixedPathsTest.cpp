@@ -41,7 +41,7 @@ class FixedPaths : public testing::Test {
   }
 };
 
-TEST_F(FixedPaths, AreWhatTheyAre) {
+TEST_F(FixedPaths, FixedPathsAreWhatTheyAre) {
   EXPECT_EQ(SystemPath("/System/Library/CoreServices/SystemVersion.plist"),
             "/System/Library/CoreServices/SystemVersion.plist");
   EXPECT_EQ(SystemPath("/Library/Frameworks/TRX-SELVASetup.framework"),
@@ -49,7 +49,7 @@ TEST_F(FixedPaths, AreWhatTheyAre) {
   EXPECT_EQ(SystemPath(""), "");
 }
 
-TEST_F(FixedPaths, LeadToTheSystemsVersion) {
+TEST_F(FixedPaths, FixedPathsLeadToTheSystemsVersion) {
   EXPECT_FALSE(SystemMinorVersionAbove10()) << "no version";
   for (const char *above : {"10.11", "10.13.6", "10.15", "11.11"}) {
     InstallSystem(above);
@@ -61,7 +61,7 @@ TEST_F(FixedPaths, LeadToTheSystemsVersion) {
   }
 }
 
-TEST_F(FixedPaths, LeadToTheVersionTexts) {
+TEST_F(FixedPaths, FixedPathsLeadToTheVersionTexts) {
   InstallSystem("10.13.6");
   Install("/Library/Extensions/TRX-SELVA USBAudio.kext/Contents/Info.plist",
           "<key>CFBundleShortVersionString</key><string>2.1</string>");

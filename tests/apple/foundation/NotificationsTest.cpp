@@ -82,7 +82,7 @@ class Notifications : public testing::Test {
   Context volt_ = {&calls_, "volt"};
 };
 
-TEST_F(Notifications, ReachTheCallbackOfTheirKindAndModelInAnotherProcess) {
+TEST_F(Notifications, NotificationsReachTheCallbackOfTheirKindAndModelInAnotherProcess) {
   ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(kSelva, Called, &selva_), kSuccess);
   ASSERT_EQ(ORV_RegisterOutputAudioChangedCallback(kArden, Called, &arden_), kSuccess);
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &selva_), kSuccess);
@@ -94,7 +94,7 @@ TEST_F(Notifications, ReachTheCallbackOfTheirKindAndModelInAnotherProcess) {
               UnorderedElementsAre("selva 1 7", "arden -2 2147483647", "selva -3", "volt 15"));
 }
 
-TEST_F(Notifications, ReachTheProcessThatAnnouncesToo) {
+TEST_F(Notifications, NotificationsReachTheProcessThatAnnouncesToo) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &selva_), kSuccess);
   Announce(boostLevel.change, 11, 2);
   EXPECT_THAT(calls_, IsEmpty()) << "inside the announcement";
@@ -102,7 +102,7 @@ TEST_F(Notifications, ReachTheProcessThatAnnouncesToo) {
   EXPECT_THAT(calls_, ElementsAre("selva 2"));
 }
 
-TEST_F(Notifications, CallOnceForEachRegistrationTheCallbackRegisteredLast) {
+TEST_F(Notifications, NotificationsCallOnceForEachRegistrationTheCallbackRegisteredLast) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &arden_), kSuccess);
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &volt_), kSuccess);
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &selva_), kSuccess);
@@ -118,7 +118,7 @@ TEST_F(Notifications, CallOnceForEachRegistrationTheCallbackRegisteredLast) {
 LastPosted faderInfo;
 ChangeKind<IndexCallback> faderChange = {" Fader Change", Delivery::kPlain, faderInfo};
 
-TEST_F(Notifications, OfAKindThatTheLibraryGotLaterReachItsCallback) {
+TEST_F(Notifications, NotificationsOfAKindThatTheLibraryGotLaterReachItsCallback) {
   ASSERT_EQ(Register<IndexCallback>(faderChange, kSelvaOnly, 11, Called, &selva_), kSuccess);
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &arden_), kSuccess);
   AnnounceElsewhere({"TRX-SELVA Fader Change={ ProductID = <*I11>; Index = <*I2>; }"});
@@ -126,7 +126,7 @@ TEST_F(Notifications, OfAKindThatTheLibraryGotLaterReachItsCallback) {
   EXPECT_THAT(calls_, ElementsAre("selva 2"));
 }
 
-TEST_F(Notifications, CallNothingOnceUnregistered) {
+TEST_F(Notifications, NotificationsCallNothingOnceUnregistered) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &selva_), kSuccess);
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kArden, Called, &arden_), kSuccess);
   ASSERT_EQ(ORV_UnregisterBoostLevelChangedCallback(kSelva, nullptr), kSuccess);
@@ -136,7 +136,7 @@ TEST_F(Notifications, CallNothingOnceUnregistered) {
   EXPECT_THAT(calls_, ElementsAre("arden 2"));
 }
 
-TEST_F(Notifications, GoByTheModelInTheDictionaryNotInTheName) {
+TEST_F(Notifications, NotificationsGoByTheModelInTheDictionaryNotInTheName) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &selva_), kSuccess);
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kArden, Called, &arden_), kSuccess);
   AnnounceElsewhere({"TRX-SELVA BoostLevel Change={ ProductID = <*I0>; Index = <*I5>; }"});
@@ -144,7 +144,7 @@ TEST_F(Notifications, GoByTheModelInTheDictionaryNotInTheName) {
   EXPECT_THAT(calls_, ElementsAre("arden 5"));
 }
 
-TEST_F(Notifications, ReadAMissingKeyAsZero) {
+TEST_F(Notifications, NotificationsReadAMissingKeyAsZero) {
   ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(kArden, Called, &arden_), kSuccess);
   ASSERT_EQ(ORV_RegisterInputAudioChangedCallback(kSelva, Called, &selva_), kSuccess);
   AnnounceElsewhere({"TRX-SELVA InputAudio Change={ ProductID = <*I11>; Index = <*I4>; }",
@@ -157,7 +157,7 @@ TEST_F(Notifications, ReadAMissingKeyAsZero) {
                                   "selva 1 1"));
 }
 
-TEST_F(Notifications, OfAnotherShapeOrOfNoModelAreIgnored) {
+TEST_F(Notifications, NotificationsOfAnotherShapeOrOfNoModelAreIgnored) {
   for (const ProductId product : {kArden, kVolt, kHalden, kLumen, kMorrow, kSelva}) {
     ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(product, Called, &selva_), kSuccess);
   }
@@ -174,7 +174,7 @@ TEST_F(Notifications, OfAnotherShapeOrOfNoModelAreIgnored) {
   EXPECT_THAT(calls_, ElementsAre("selva 3"));
 }
 
-TEST_F(Notifications, MayCarryAnythingThatIsNotRead) {
+TEST_F(Notifications, NotificationsMayCarryAnythingThatIsNotRead) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, Called, &selva_), kSuccess);
   AnnounceElsewhere(
       {"TRX-SELVA BoostLevel Change={ ProductID = <*I11>; Index = <*I1>; Else = x; }",

@@ -12,12 +12,12 @@ namespace {
 
 using testing::ElementsAre;
 
-TEST(ObserverClass, DerivesFromTheRootClass) {
+TEST(ObserverClass, TheObserverClassDerivesFromTheRootClass) {
   ASSERT_NE(objc_getClass("ORVFunc"), nil);
   EXPECT_EQ(class_getSuperclass(objc_getClass("ORVFunc")), [NSObject class]);
 }
 
-TEST(ObserverClass, HasNoFields) {
+TEST(ObserverClass, TheObserverClassHasNoFields) {
   unsigned count = 4711;
   free(class_copyIvarList(objc_getClass("ORVFunc"), &count));
   EXPECT_EQ(count, 0U);
@@ -25,7 +25,7 @@ TEST(ObserverClass, HasNoFields) {
             class_getInstanceSize([NSObject class]));
 }
 
-TEST(ObserverClass, HasFiveOperationsInTheirOrder) {
+TEST(ObserverClass, TheObserverClassHasFiveOperationsInTheirOrder) {
   unsigned count = 0;
   Method *const methods = class_copyMethodList(objc_getClass("ORVFunc"), &count);
   std::vector<std::string> names;
@@ -35,7 +35,7 @@ TEST(ObserverClass, HasFiveOperationsInTheirOrder) {
                                  "midiChannelChanged:", "midiKeyModeChanged:"));
 }
 
-TEST(ObserverClass, HasNoOperationsOfTheClassItself) {
+TEST(ObserverClass, TheObserverClassHasNoOperationsOfTheClassItself) {
   unsigned count = 4711;
   free(class_copyMethodList(object_getClass(objc_getClass("ORVFunc")), &count));
   EXPECT_EQ(count, 0U);

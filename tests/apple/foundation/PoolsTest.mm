@@ -47,7 +47,7 @@ void UseEverything() {
   Announce(boostLevel.change, 11, 1);
 }
 
-TEST(Pools, NeedNotBeTheHosts) {
+TEST(Pools, PoolsNeedNotBeTheHosts) {
   ExpectQuietSuccess([] {
     const trxtest::NotificationDaemon daemon;
     UseEverything();
@@ -56,12 +56,12 @@ TEST(Pools, NeedNotBeTheHosts) {
   });
 }
 
-TEST(Pools, AreEmptiedInTheCallWithoutOneOfTheHost) {
+TEST(Pools, PoolsAreEmptiedInTheCallWithoutOneOfTheHost) {
   const trxtest::NotificationDaemon daemon;
   EXPECT_THAT(HeapGrowth(500, UseEverything), Lt(kNothingPerCall / 20));
 }
 
-TEST(Pools, OfTheHostDoNotGrow) {
+TEST(Pools, PoolsOfTheHostDoNotGrow) {
   const trxtest::NotificationDaemon daemon;
   NSAutoreleasePool *const hosts = [[NSAutoreleasePool alloc] init];
   EXPECT_THAT(HeapGrowth(500, UseEverything), Lt(kNothingPerCall / 20));

@@ -32,7 +32,7 @@ class ReceivedUserInfoTest : public testing::Test {
   NSAutoreleasePool *const pool_ = [[NSAutoreleasePool alloc] init];
 };
 
-TEST_F(ReceivedUserInfoTest, HasEveryIntegerUnderItsKey) {
+TEST_F(ReceivedUserInfoTest, TheUserInfoHasEveryIntegerUnderItsKey) {
   const auto received = Received([NSDictionary
       dictionaryWithObjectsAndKeys:Integer(11), @"ProductID", Integer(-2), @"Channel", nil]);
   ASSERT_TRUE(received);
@@ -40,7 +40,7 @@ TEST_F(ReceivedUserInfoTest, HasEveryIntegerUnderItsKey) {
               UnorderedElementsAre(Pair("ProductID", 11), Pair("Channel", -2)));
 }
 
-TEST_F(ReceivedUserInfoTest, IsEmptyWithoutADictionaryOrWithAnEmptyOne) {
+TEST_F(ReceivedUserInfoTest, TheUserInfoIsEmptyWithoutADictionaryOrWithAnEmptyOne) {
   const auto none = Received(nil);
   ASSERT_TRUE(none);
   EXPECT_THAT(none->Entries(), IsEmpty());
@@ -49,7 +49,7 @@ TEST_F(ReceivedUserInfoTest, IsEmptyWithoutADictionaryOrWithAnEmptyOne) {
   EXPECT_THAT(empty->Entries(), IsEmpty());
 }
 
-TEST_F(ReceivedUserInfoTest, IsNothingWhenAValueIsNoNumber) {
+TEST_F(ReceivedUserInfoTest, TheUserInfoIsNothingWhenAValueIsNoNumber) {
   for (id value in
        [NSArray arrayWithObjects:@"11", [NSNull null], [NSArray array], [NSDictionary dictionary],
                                  [NSData data], [NSDate date], nil]) {
@@ -59,7 +59,7 @@ TEST_F(ReceivedUserInfoTest, IsNothingWhenAValueIsNoNumber) {
   }
 }
 
-TEST_F(ReceivedUserInfoTest, HasNothingOfWhatIsNotAskedFor) {
+TEST_F(ReceivedUserInfoTest, TheUserInfoHasNothingOfWhatIsNotAskedFor) {
   const auto received = Received(
       [NSDictionary dictionaryWithObjectsAndKeys:Integer(11), @"ProductID", Integer(1), @"Else",
                                                  @"one", @"Source", Integer(1), Integer(1), nil]);
@@ -67,11 +67,11 @@ TEST_F(ReceivedUserInfoTest, HasNothingOfWhatIsNotAskedFor) {
   EXPECT_THAT(received->Entries(), UnorderedElementsAre(Pair("ProductID", 11)));
 }
 
-TEST_F(ReceivedUserInfoTest, IsNothingWhenWhatCameIsNoNotification) {
+TEST_F(ReceivedUserInfoTest, TheUserInfoIsNothingWhenWhatCameIsNoNotification) {
   EXPECT_FALSE(ReceivedUserInfo(@"no notification", kKeys));
 }
 
-TEST_F(ReceivedUserInfoTest, LeavesNothingBehind) {
+TEST_F(ReceivedUserInfoTest, TheUserInfoLeavesNothingBehind) {
   NSNotification *const notification = [NSNotification
       notificationWithName:@"name"
                     object:nil

@@ -49,14 +49,14 @@ class SettingsFiles : public testing::Test {
   const std::string path_ = preferences_ + "/com.orvikaudio.TRX-SELVAautosetup.plist";
 };
 
-TEST_F(SettingsFiles, LieInTheLibraryFolderThatThePlatformGivesTheUser) {
+TEST_F(SettingsFiles, SettingsFilesLieInTheLibraryFolderThatThePlatformGivesTheUser) {
   EXPECT_THAT(LibraryFolder(), Optional(trxtest::LibraryFolderOfUser()));
   EXPECT_THAT(SettingsFilePath("TRX-SELVA"), Optional(path_));
   EXPECT_THAT(SettingsFilePath("TRX-Arden"),
               Optional(preferences_ + "/com.orvikaudio.TRX-Ardenautosetup.plist"));
 }
 
-TEST_F(SettingsFiles, AreMadeAsXmlByTheFirstMerge) {
+TEST_F(SettingsFiles, SettingsFilesAreMadeAsXmlByTheFirstMerge) {
   EXPECT_EQ(Value("MaxLevel", 3), 3);
   MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
   EXPECT_THAT(ReadBytes(path_), StartsWith("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"));
@@ -64,14 +64,14 @@ TEST_F(SettingsFiles, AreMadeAsXmlByTheFirstMerge) {
   EXPECT_EQ(Value("MaxLevel", 3), 1);
 }
 
-TEST_F(SettingsFiles, LeaveNothingBesideThem) {
+TEST_F(SettingsFiles, SettingsFilesLeaveNothingBesideThem) {
   MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
   MergeSettingValue("TRX-SELVA", "Output2", -5);
   EXPECT_THAT(Names(), ElementsAre("com.orvikaudio.TRX-SELVAautosetup.plist"));
   EXPECT_EQ(Value("Output2", 0), -5);
 }
 
-TEST_F(SettingsFiles, AreReplacedInOneStepNotChanged) {
+TEST_F(SettingsFiles, SettingsFilesAreReplacedInOneStepNotChanged) {
   MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
   const std::string before = preferences_ + "/as it was before";
   std::filesystem::create_hard_link(path_, before);
@@ -80,7 +80,7 @@ TEST_F(SettingsFiles, AreReplacedInOneStepNotChanged) {
   EXPECT_EQ(Value("MaxLevel", 3), 2);
 }
 
-TEST_F(SettingsFiles, KeepForeignEntriesOfEveryType) {
+TEST_F(SettingsFiles, SettingsFilesKeepForeignEntriesOfEveryType) {
   WriteBytes(path_, XmlList("<key>MaxLevel</key><integer>2</integer>"
                             "<key>Text</key><string>Gr\u00F6\u00DFe \u4F60 &amp; so</string>"
                             "<key>Real</key><real>0.5</real><key>Flag</key><true/>"
@@ -98,7 +98,7 @@ TEST_F(SettingsFiles, KeepForeignEntriesOfEveryType) {
                   "Real: real 0.5", R"(Text: text 'Gr\xf6\xdfe \u4f60 & so')"));
 }
 
-TEST_F(SettingsFiles, AreReadInBinaryAndBecomeXmlInAMerge) {
+TEST_F(SettingsFiles, SettingsFilesAreReadInBinaryAndBecomeXmlInAMerge) {
   BinaryList list;
   const auto level = list.AddText("MaxLevel");
   const auto two = list.AddInteger(2);
@@ -131,14 +131,14 @@ TEST_F(SettingsFiles, WithoutADictionaryAtTheRootAreReplacedByTheNewEntry) {
   EXPECT_THAT(ShownEntries(path_), ElementsAre("MaxLevel: integer 1"));
 }
 
-TEST_F(SettingsFiles, AreNotWrittenWithoutTheFolderThatThePlatformMakes) {
+TEST_F(SettingsFiles, SettingsFilesAreNotWrittenWithoutTheFolderThatThePlatformMakes) {
   std::filesystem::remove(preferences_);
   MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
   EXPECT_EQ(Value("MaxLevel", 3), 3);
   EXPECT_FALSE(std::filesystem::exists(preferences_));
 }
 
-TEST_F(SettingsFiles, ThatCannotBeReplacedStayAndLeaveNothingBeside) {
+TEST_F(SettingsFiles, SettingsFilesThatCannotBeReplacedStayAndLeaveNothingBeside) {
   std::filesystem::create_directories(path_ + "/in the way");
   MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
   EXPECT_EQ(Value("MaxLevel", 3), 3);
@@ -146,7 +146,7 @@ TEST_F(SettingsFiles, ThatCannotBeReplacedStayAndLeaveNothingBeside) {
   EXPECT_THAT(Names(), ElementsAre("com.orvikaudio.TRX-SELVAautosetup.plist"));
 }
 
-TEST_F(SettingsFiles, LeaveNothingBehindInMemory) {
+TEST_F(SettingsFiles, SettingsFilesLeaveNothingBehindInMemory) {
   MergeSettingValue("TRX-SELVA", "MaxLevel", 1);
   EXPECT_THAT(HeapGrowth(2'000, [&] { Value("MaxLevel", 3); }), Lt(kNothingPerCall / 5));
   EXPECT_THAT(HeapGrowth(500, [] { MergeSettingValue("TRX-SELVA", "MaxLevel", 2); }),

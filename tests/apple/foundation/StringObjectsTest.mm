@@ -38,7 +38,7 @@ class StringObjects : public testing::Test {
   NSAutoreleasePool *const pool_ = [[NSAutoreleasePool alloc] init];
 };
 
-TEST_F(StringObjects, AreStringsOfTheSameCharacters) {
+TEST_F(StringObjects, StringObjectsAreStringsOfTheSameCharacters) {
   EXPECT_TRUE([ObjectOf(TextOfLiteral("-10 dB")) isKindOfClass:[NSString class]]);
   EXPECT_STREQ(CharactersOf(TextOfLiteral("-10 dB")), "-10 dB");
   EXPECT_STREQ(CharactersOf(KeptText("ミキサー, микшер, \U0001F39B")),
@@ -46,7 +46,7 @@ TEST_F(StringObjects, AreStringsOfTheSameCharacters) {
   EXPECT_STREQ(CharactersOf(KeptText("")), "");
 }
 
-TEST_F(StringObjects, OfTheSameCharactersAreTheSameObject) {
+TEST_F(StringObjects, StringObjectsOfTheSameCharactersAreTheSameObject) {
   const std::string copy = "REC OUT";
   const ORVStringRef first = TextOfLiteral("REC OUT");
   EXPECT_EQ(TextOfLiteral(copy.c_str()), first);
@@ -55,11 +55,15 @@ TEST_F(StringObjects, OfTheSameCharactersAreTheSameObject) {
   EXPECT_EQ(TextOfLiteral("REC OUT"), first);
 }
 
-TEST_F(StringObjects, OfNoLiteralAreNone) { EXPECT_EQ(TextOfLiteral(nullptr), nullptr); }
+TEST_F(StringObjects, StringObjectsOfNoLiteralAreNone) {
+  EXPECT_EQ(TextOfLiteral(nullptr), nullptr);
+}
 
-TEST_F(StringObjects, OfBytesThatAreNoTextAreNone) { EXPECT_EQ(KeptText("\xC5\xFF"), nullptr); }
+TEST_F(StringObjects, StringObjectsOfBytesThatAreNoTextAreNone) {
+  EXPECT_EQ(KeptText("\xC5\xFF"), nullptr);
+}
 
-TEST_F(StringObjects, OutliveEveryPool) {
+TEST_F(StringObjects, StringObjectsOutliveEveryPool) {
   NSAutoreleasePool *const inner = [[NSAutoreleasePool alloc] init];
   const ORVStringRef text = TextOfLiteral("outlives a pool");
   [inner drain];
@@ -67,7 +71,7 @@ TEST_F(StringObjects, OutliveEveryPool) {
   EXPECT_EQ([ObjectOf(text) retainCount], 1U);
 }
 
-TEST_F(StringObjects, AreMadeOnce) {
+TEST_F(StringObjects, StringObjectsAreMadeOnce) {
   const ORVStringRef text = TextOfLiteral("asked for ten thousand times, and one");
   EXPECT_THAT(HeapGrowth(10'000, [] { TextOfLiteral("asked for ten thousand times, and one"); }),
               Lt(kNothingPerCall));
@@ -75,7 +79,7 @@ TEST_F(StringObjects, AreMadeOnce) {
   EXPECT_EQ(TextOfLiteral("asked for ten thousand times, and one"), text);
 }
 
-TEST_F(StringObjects, AreOneForAllThreadsThatAskAtOnce) {
+TEST_F(StringObjects, StringObjectsAreOneForAllThreadsThatAskAtOnce) {
   constexpr std::size_t kThreads = 8;
   std::array<std::vector<ORVStringRef>, kThreads> handed;
   std::latch ready(kThreads);
@@ -92,7 +96,7 @@ TEST_F(StringObjects, AreOneForAllThreadsThatAskAtOnce) {
   EXPECT_STREQ(CharactersOf(handed[7][399]), "text 399");
 }
 
-TEST_F(StringObjects, CompareRunsOfDigitsAsNumbers) {
+TEST_F(StringObjects, StringObjectsCompareRunsOfDigitsAsNumbers) {
   EXPECT_TRUE(IsNumericallyGreater("11", "10"));
   EXPECT_TRUE(IsNumericallyGreater("100", "99"));
   EXPECT_TRUE(IsNumericallyGreater("0011", "10"));
@@ -111,7 +115,7 @@ ProductId ProductIdOf(const char *name) {
   return productId;
 }
 
-TEST_F(StringObjects, NameAModelInAnyCaseAndSurroundings) {
+TEST_F(StringObjects, StringObjectsNameAModelInAnyCaseAndSurroundings) {
   EXPECT_EQ(ProductIdOf("TRX-Arden"), 0U);
   EXPECT_EQ(ProductIdOf("the trx-volt at the door"), 1U);
   EXPECT_EQ(ProductIdOf("TRX-BRISK"), 2U);
@@ -124,7 +128,7 @@ TEST_F(StringObjects, NameAModelInAnyCaseAndSurroundings) {
   EXPECT_EQ(ProductIdOf("TRX-SELVA TRX-ARDEN"), 0U);
 }
 
-TEST_F(StringObjects, NameNoModelOtherwise) {
+TEST_F(StringObjects, StringObjectsNameNoModelOtherwise) {
   for (const char *name : {"", "TRX", "TRX-SELV", "TRX SELVA", "TRX-FENNO", "SELVA"}) {
     EXPECT_EQ(ProductIdOf(name), 4711U) << name;
   }
@@ -134,14 +138,14 @@ TEST_F(StringObjects, NameNoModelOtherwise) {
   EXPECT_EQ(productId, 4711U);
 }
 
-TEST_F(StringObjects, ThatAreNoStringsNameNoModel) {
+TEST_F(StringObjects, StringObjectsThatAreNoStringsNameNoModel) {
   ProductId productId = 4711;
   const auto number = reinterpret_cast<ORVStringRef>([NSNumber numberWithInt:11]);
   EXPECT_EQ(ORV_GetProductId(number, &productId), kBadArgument);
   EXPECT_EQ(productId, 4711U);
 }
 
-TEST_F(StringObjects, AreNotKeptByTheLibrary) {
+TEST_F(StringObjects, StringObjectsAreNotKeptByTheLibrary) {
   NSString *const name = [[NSString alloc] initWithUTF8String:"my trx-selva on the desk"];
   ProductId productId = 0;
   EXPECT_THAT(

@@ -42,7 +42,7 @@ class ConnectedUnits : public IOKitTest {
   std::int32_t counted_ = 0;
 };
 
-TEST_F(ConnectedUnits, OneIsCountedOpenedAskedAndClosed) {
+TEST_F(ConnectedUnits, AUnitIsCountedOpenedAskedAndClosed) {
   devices_.PlugMixer();
   EXPECT_THAT(Reached(), ElementsAre(1));
   EXPECT_EQ(
@@ -64,7 +64,7 @@ TEST_F(ConnectedUnits, OneIsCountedOpenedAskedAndClosed) {
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2}));
 }
 
-TEST_F(ConnectedUnits, AllAreReachedInTheOrderOfTheRegistry) {
+TEST_F(ConnectedUnits, AllUnitsAreReachedInTheOrderOfTheRegistry) {
   devices_.PlugMixer();
   devices_.PlugUnrelated();
   devices_.PlugMixer();
@@ -75,14 +75,14 @@ TEST_F(ConnectedUnits, AllAreReachedInTheOrderOfTheRegistry) {
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2, .interfaces = 4}));
 }
 
-TEST_F(ConnectedUnits, NoneIsReachedWhenThereIsNone) {
+TEST_F(ConnectedUnits, NoUnitIsReachedWhenThereIsNone) {
   devices_.PlugOtherProductOfTheMaker();
   EXPECT_THAT(Reached(), IsEmpty());
   EXPECT_EQ(Counted(), 0);
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2}));
 }
 
-TEST_F(ConnectedUnits, OneThatRefusesRequestsIsClosedAllTheSame) {
+TEST_F(ConnectedUnits, AUnitThatRefusesRequestsIsClosedAllTheSame) {
   devices_.PlugMixer();
   devices_.SetScript(
       [](int, const IOUSBDevRequest &) { return TransferAnswer{.status = kIOUSBPipeStalled}; });
@@ -90,7 +90,7 @@ TEST_F(ConnectedUnits, OneThatRefusesRequestsIsClosedAllTheSame) {
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2}));
 }
 
-TEST_F(ConnectedUnits, OneWithoutAPlugInIsSkipped) {
+TEST_F(ConnectedUnits, AUnitWithoutAPlugInIsSkipped) {
   devices_.PlugMixer();
   devices_.SetFaults(devices_.PlugMixer(), {.plugIn = kHeld});
   devices_.PlugMixer();
@@ -107,7 +107,7 @@ struct Status {
 class ConnectedUnitsBeforeAFailingDevice : public ConnectedUnits,
                                            public testing::WithParamInterface<Status> {};
 
-TEST_P(ConnectedUnitsBeforeAFailingDevice, AreSkippedAndNotClosed) {
+TEST_P(ConnectedUnitsBeforeAFailingDevice, UnitsBeforeAFailingDeviceAreSkippedAndNotClosed) {
   devices_.PlugMixer();
   devices_.PlugMixer();
   devices_.SetFaults(devices_.PlugUnrelated(), {.plugIn = static_cast<IOReturn>(GetParam().value)});
@@ -125,7 +125,7 @@ INSTANTIATE_TEST_SUITE_P(Each, ConnectedUnitsBeforeAFailingDevice,
                                          Status{"NoResources", 0xE00002BE}, Status{"One", 1}),
                          NameOf<Status>);
 
-TEST_F(ConnectedUnits, OneUnpluggedSinceTheCountIsSkipped) {
+TEST_F(ConnectedUnits, AUnitUnpluggedSinceTheCountIsSkipped) {
   devices_.PlugMixer();
   devices_.PlugMixer();
   devices_.PlugMixer();
@@ -139,7 +139,7 @@ TEST_F(ConnectedUnits, OneUnpluggedSinceTheCountIsSkipped) {
   EXPECT_THAT(reached, ElementsAre(1, 3));
 }
 
-TEST_F(ConnectedUnits, AreReachedFromTwoThreadsAtOnce) {
+TEST_F(ConnectedUnits, UnitsAreReachedFromTwoThreadsAtOnce) {
   devices_.PlugMixer();
   devices_.PlugMixer();
   std::atomic<int> requests = 0;

@@ -9,27 +9,27 @@ namespace {
 
 class Connection : public IOKitTest {};
 
-TEST_F(Connection, IsThereWithAMixer) {
+TEST_F(Connection, AConnectionIsThereWithAMixer) {
   devices_.PlugUnrelated();
   devices_.PlugMixer();
   devices_.PlugMixer();
   EXPECT_EQ(ORV_IsUSBConnection(kSelva), kConnected);
 }
 
-TEST_F(Connection, IsNotThereWithStrangersOnly) {
+TEST_F(Connection, AConnectionIsNotThereWithStrangersOnly) {
   devices_.PlugUnrelated();
   devices_.PlugOtherProductOfTheMaker();
   devices_.PlugOtherMakerWithTheSameProduct();
   EXPECT_EQ(ORV_IsUSBConnection(kSelva), kNotConnected);
 }
 
-TEST_F(Connection, IsNotThereWhenTheRegistryCannotBeAsked) {
+TEST_F(Connection, AConnectionIsNotThereWhenTheRegistryCannotBeAsked) {
   devices_.PlugMixer();
   IOKitDouble::SetFaults({.services = kIOReturnError});
   EXPECT_EQ(ORV_IsUSBConnection(kSelva), kNotConnected);
 }
 
-TEST_F(Connection, IsTheSameForEveryModel) {
+TEST_F(Connection, AConnectionIsTheSameForEveryModel) {
   for (const ProductId model : {kArden, kFenno, 7U, kSelva, 12U, 0xFFFFFFFFU}) {
     EXPECT_EQ(ORV_IsUSBConnection(model), kNotConnected) << model;
   }

@@ -24,7 +24,7 @@ Lines CountBegins(const std::string &port, const std::string &services) {
 
 class Count : public IOKitTest {};
 
-TEST_F(Count, OfNoDeviceAtAll) {
+TEST_F(Count, NoDeviceAtAllIsCountedAsZero) {
   EXPECT_EQ(CountMixers(11), 0);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
             Joined({{MasterPortGiven()},
@@ -32,7 +32,7 @@ TEST_F(Count, OfNoDeviceAtAll) {
                     {"IOIteratorNext(iterator 1) = nothing", "IOObjectRelease(iterator 1)"}}));
 }
 
-TEST_F(Count, OfOneMixer) {
+TEST_F(Count, OneMixerIsCounted) {
   devices_.PlugMixer();
   EXPECT_EQ(CountMixers(11), 1);
   EXPECT_EQ(IOKitDouble::TakeCalls(),
@@ -42,7 +42,7 @@ TEST_F(Count, OfOneMixer) {
                      "IOIteratorNext(iterator 1) = nothing", "IOObjectRelease(iterator 1)"}}));
 }
 
-TEST_F(Count, OfThreeMixersWithStrangersBetween) {
+TEST_F(Count, ThreeMixersAreCountedAmongStrangers) {
   devices_.PlugUnrelated();
   devices_.PlugMixer();
   devices_.PlugOtherProductOfTheMaker();
@@ -59,26 +59,26 @@ TEST_F(Count, OfThreeMixersWithStrangersBetween) {
                      "IOIteratorNext(iterator 1) = nothing", "IOObjectRelease(iterator 1)"}}));
 }
 
-TEST_F(Count, DoesNotCountStrangers) {
+TEST_F(Count, StrangersAreNotCounted) {
   devices_.PlugUnrelated();
   devices_.PlugOtherProductOfTheMaker();
   devices_.PlugOtherMakerWithTheSameProduct();
   EXPECT_EQ(CountMixers(11), 0);
 }
 
-TEST_F(Count, IsTheSameForEveryModel) {
+TEST_F(Count, TheCountIsTheSameForEveryModel) {
   devices_.PlugMixer();
   for (const ProductId model : {0U, 1U, 2U, 7U, 11U, 12U, 0xFFFFFFFFU}) {
     EXPECT_EQ(CountMixers(model), 1) << model;
   }
 }
 
-TEST_F(Count, CountsMixersThatCannotBeOpenedToo) {
+TEST_F(Count, MixersThatCannotBeOpenedAreCountedToo) {
   devices_.SetFaults(devices_.PlugMixer(), {.plugIn = kIOReturnExclusiveAccess});
   EXPECT_EQ(CountMixers(11), 1);
 }
 
-TEST_F(Count, DoesNotMindAFailingMasterPort) {
+TEST_F(Count, AFailingMasterPortDoesNotMatter) {
   devices_.PlugMixer();
   IOKitDouble::SetFaults({.masterPort = kIOReturnNoResources});
   EXPECT_EQ(CountMixers(11), 1);
@@ -89,7 +89,7 @@ TEST_F(Count, DoesNotMindAFailingMasterPort) {
                      "IOIteratorNext(iterator 1) = nothing", "IOObjectRelease(iterator 1)"}}));
 }
 
-TEST_F(Count, IsZeroWithoutADictionary) {
+TEST_F(Count, TheCountIsZeroWithoutADictionary) {
   devices_.PlugMixer();
   IOKitDouble::SetFaults({.noDictionary = true});
   EXPECT_EQ(CountMixers(11), 0);
@@ -98,7 +98,7 @@ TEST_F(Count, IsZeroWithoutADictionary) {
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1}));
 }
 
-TEST_F(Count, IsZeroWhenTheRegistryCannotBeAsked) {
+TEST_F(Count, TheCountIsZeroWhenTheRegistryCannotBeAsked) {
   devices_.PlugMixer();
   IOKitDouble::SetFaults({.services = kIOReturnError});
   EXPECT_EQ(CountMixers(11), 0);
@@ -107,7 +107,7 @@ TEST_F(Count, IsZeroWhenTheRegistryCannotBeAsked) {
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2}));
 }
 
-TEST_F(Count, IsZeroWithoutAnIterator) {
+TEST_F(Count, TheCountIsZeroWithoutAnIterator) {
   devices_.PlugMixer();
   IOKitDouble::SetFaults({.noIterator = true});
   EXPECT_EQ(CountMixers(11), 0);
@@ -116,7 +116,7 @@ TEST_F(Count, IsZeroWithoutAnIterator) {
   EXPECT_EQ(IOKitDouble::Alive(), (References{.ports = 1, .numbers = 2}));
 }
 
-TEST_F(Count, LeavesThePortAndTheTwoNumbersAndNothingElse) {
+TEST_F(Count, CountingLeavesThePortAndTheTwoNumbersAndNothingElse) {
   devices_.PlugMixer();
   devices_.PlugMixer();
   CountMixers(11);

@@ -31,7 +31,7 @@ class Double : public IOKitTest {
   }
 };
 
-TEST_F(Double, CountsADictionaryAndWhatItRefersTo) {
+TEST_F(Double, TheDoubleCountsADictionaryAndWhatItRefersTo) {
   const SInt32 one = 1;
   const CFMutableDictionaryRef dictionary = IOServiceMatching("IOUSBDevice");
   const CFNumberRef number = CFNumberCreate(kCFAllocatorDefault, kCFNumberSInt32Type, &one);
@@ -45,7 +45,7 @@ TEST_F(Double, CountsADictionaryAndWhatItRefersTo) {
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
 
-TEST_F(Double, ReplacesADemandOfTheSameName) {
+TEST_F(Double, TheDoubleReplacesADemandOfTheSameName) {
   const SInt32 one = 1;
   const CFMutableDictionaryRef dictionary = IOServiceMatching("IOUSBDevice");
   for (int i = 0; i < 2; ++i) {
@@ -57,20 +57,20 @@ TEST_F(Double, ReplacesADemandOfTheSameName) {
   CFRelease(dictionary);
 }
 
-TEST_F(Double, FindsNoDeviceOfAnotherClass) {
+TEST_F(Double, TheDoubleFindsNoDeviceOfAnotherClass) {
   devices_.PlugMixer();
   io_iterator_t iterator = IO_OBJECT_NULL;
   IOServiceGetMatchingServices(MACH_PORT_NULL, IOServiceMatching("IOUSBInterface"), &iterator);
   EXPECT_EQ(IOIteratorNext(iterator), IO_OBJECT_NULL);
 }
 
-TEST_F(Double, CountsWhatIsLeftOfAWalk) {
+TEST_F(Double, TheDoubleCountsWhatIsLeftOfAWalk) {
   devices_.PlugMixer();
   IOIteratorNext(Walk());
   EXPECT_EQ(IOKitDouble::Alive(), (References{.iterators = 1, .devices = 1}));
 }
 
-TEST_F(Double, CountsPlugInsAndInterfaces) {
+TEST_F(Double, TheDoubleCountsPlugInsAndInterfaces) {
   devices_.PlugMixer();
   IOCFPlugInInterface **const plugIn = PlugIn();
   LPVOID device = nullptr;
@@ -82,7 +82,7 @@ TEST_F(Double, CountsPlugInsAndInterfaces) {
   EXPECT_EQ(IOKitDouble::Alive(), (References{.interfaces = 1}));
 }
 
-TEST_F(Double, GivesNoInterfaceThatItDoesNotKnow) {
+TEST_F(Double, TheDoubleGivesNoInterfaceThatItDoesNotKnow) {
   devices_.PlugMixer();
   IOCFPlugInInterface **const plugIn = PlugIn();
   LPVOID device = nullptr;
@@ -91,7 +91,7 @@ TEST_F(Double, GivesNoInterfaceThatItDoesNotKnow) {
   EXPECT_EQ(device, nullptr);
 }
 
-TEST_F(Double, ShowsTheOpeningOfADeviceInItsRecord) {
+TEST_F(Double, TheDoubleShowsTheOpeningOfADeviceInItsRecord) {
   devices_.PlugMixer();
   IOCFPlugInInterface **const plugIn = PlugIn();
   LPVOID given = nullptr;
@@ -102,7 +102,7 @@ TEST_F(Double, ShowsTheOpeningOfADeviceInItsRecord) {
   EXPECT_EQ(IOKitDouble::TakeCalls(), (Lines{"interface of device 1: USBDeviceOpen"}));
 }
 
-TEST_F(Double, NoticesWhatIsReleasedTwice) {
+TEST_F(Double, TheDoubleNoticesWhatIsReleasedTwice) {
   const io_iterator_t iterator = Walk();
   IOObjectRelease(iterator);
   IOObjectRelease(iterator);
@@ -117,7 +117,7 @@ TEST_F(Double, NoticesWhatIsReleasedTwice) {
                                         }));
 }
 
-TEST_F(Double, NoticesWhatIsUsedAfterItsEndOrForAnother) {
+TEST_F(Double, TheDoubleNoticesWhatIsUsedAfterItsEndOrForAnother) {
   devices_.PlugMixer();
   IOIteratorNext(IO_OBJECT_NULL);
   io_iterator_t iterator = IO_OBJECT_NULL;
@@ -133,7 +133,7 @@ TEST_F(Double, NoticesWhatIsUsedAfterItsEndOrForAnother) {
             }));
 }
 
-TEST_F(Double, NoticesAPlugInOfWhatIsNoDevice) {
+TEST_F(Double, TheDoubleNoticesAPlugInOfWhatIsNoDevice) {
   const io_iterator_t iterator = Walk();
   IOCFPlugInInterface **plugIn = nullptr;
   SInt32 score = 0;
@@ -144,7 +144,7 @@ TEST_F(Double, NoticesAPlugInOfWhatIsNoDevice) {
             (Lines{"IOCreatePlugInInterfaceForService of what is no device"}));
 }
 
-TEST_F(Double, ShowsNoDeviceWithoutASource) {
+TEST_F(Double, TheDoubleShowsNoDeviceWithoutASource) {
   devices_.PlugMixer();
   IOKitDouble::Show(nullptr);
   EXPECT_EQ(IOIteratorNext(Walk()), IO_OBJECT_NULL);

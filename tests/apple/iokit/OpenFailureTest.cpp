@@ -30,7 +30,7 @@ class OpenFailure : public IOKitTest {
 
 // --- In front of the walk ----------------------------------------------------------------------
 
-TEST_F(OpenFailure, OfTheMasterPortEndsItAtOnce) {
+TEST_F(OpenFailure, AFailureOfTheMasterPortEndsItAtOnce) {
   devices_.PlugMixer();
   IOKitDouble::SetFaults({.masterPort = kNoResources});
   DeviceHandle handle = nullptr;
@@ -45,7 +45,7 @@ TEST_F(OpenFailure, OfTheMasterPortEndsItAtOnce) {
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
 
-TEST_F(OpenFailure, OfTheDictionaryGivesThePortBack) {
+TEST_F(OpenFailure, AFailureOfTheDictionaryGivesThePortBack) {
   devices_.PlugMixer();
   IOKitDouble::SetFaults({.noDictionary = true});
   DeviceHandle handle = nullptr;
@@ -60,7 +60,7 @@ TEST_F(OpenFailure, OfTheDictionaryGivesThePortBack) {
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
 
-TEST_F(OpenFailure, OfTheServicesGivesThePortBack) {
+TEST_F(OpenFailure, AFailureOfTheServicesGivesThePortBack) {
   devices_.PlugMixer();
   IOKitDouble::SetFaults({.services = kNoResources});
   DeviceHandle handle = nullptr;
@@ -77,7 +77,7 @@ TEST_F(OpenFailure, OfTheServicesGivesThePortBack) {
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
 
-TEST_F(OpenFailure, OfTheIteratorGivesThePortBack) {
+TEST_F(OpenFailure, AFailureOfTheIteratorGivesThePortBack) {
   devices_.PlugMixer();
   IOKitDouble::SetFaults({.noIterator = true});
   DeviceHandle handle = nullptr;
@@ -94,7 +94,7 @@ TEST_F(OpenFailure, OfTheIteratorGivesThePortBack) {
 
 // --- A plug-in that cannot be made -------------------------------------------------------------
 
-TEST_F(OpenFailure, OfAPlugInInFrontOfTheMixerIsForgotten) {
+TEST_F(OpenFailure, AFailureOfAPlugInInFrontOfTheMixerIsForgotten) {
   devices_.SetFaults(devices_.PlugUnrelated(), {.plugIn = kHeld});
   devices_.PlugMixer();
   DeviceHandle handle = nullptr;
@@ -106,7 +106,7 @@ TEST_F(OpenFailure, OfAPlugInInFrontOfTheMixerIsForgotten) {
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
 
-TEST_F(OpenFailure, OfAPlugInBehindTheMixerIsWhatTheCallerIsTold) {
+TEST_F(OpenFailure, AFailureOfAPlugInBehindTheMixerIsWhatTheCallerIsTold) {
   devices_.PlugMixer();
   devices_.SetFaults(devices_.PlugUnrelated(), {.plugIn = kHeld});
   DeviceHandle handle = nullptr;
@@ -117,7 +117,7 @@ TEST_F(OpenFailure, OfAPlugInBehindTheMixerIsWhatTheCallerIsTold) {
   EXPECT_EQ(IOKitDouble::Alive(), (References{.interfaces = 1}));
 }
 
-TEST_F(OpenFailure, OfAPlugInIsForgottenWhenAnotherDeviceFollows) {
+TEST_F(OpenFailure, AFailureOfAPlugInIsForgottenWhenAnotherDeviceFollows) {
   devices_.PlugMixer();
   devices_.SetFaults(devices_.PlugUnrelated(), {.plugIn = kHeld});
   devices_.PlugUnrelated();
@@ -126,7 +126,7 @@ TEST_F(OpenFailure, OfAPlugInIsForgottenWhenAnotherDeviceFollows) {
   EXPECT_NE(handle, nullptr);
 }
 
-TEST_F(OpenFailure, OfAMixersOwnPlugInMovesTheMixersBehindItUp) {
+TEST_F(OpenFailure, AFailureOfAMixersOwnPlugInMovesTheMixersBehindItUp) {
   devices_.SetFaults(devices_.PlugMixer(), {.plugIn = kHeld});
   devices_.PlugMixer();
   DeviceHandle handle = nullptr;
@@ -135,21 +135,21 @@ TEST_F(OpenFailure, OfAMixersOwnPlugInMovesTheMixersBehindItUp) {
             Joined({WalkBegins(), Found("1", " = E00002C5"), Kept("2"), WalkEnds()}));
 }
 
-TEST_F(OpenFailure, OfTheOnlyMixersPlugInIsTheGeneralError) {
+TEST_F(OpenFailure, AFailureOfTheOnlyMixersPlugInIsTheGeneralError) {
   devices_.SetFaults(devices_.PlugMixer(), {.plugIn = kHeld});
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
   EXPECT_EQ(handle, nullptr);
 }
 
-TEST_F(OpenFailure, OfAPlugInShowsItsStatusToAHandleInUse) {
+TEST_F(OpenFailure, AFailureOfAPlugInShowsItsStatusToAHandleInUse) {
   devices_.SetFaults(devices_.PlugMixer(), {.plugIn = kHeld});
   DeviceHandle handle = InUse();
   EXPECT_EQ(openUSB(&handle, 0, {}), kHeld);
   EXPECT_EQ(handle, InUse());
 }
 
-TEST_F(OpenFailure, OfAPlugInThatSaysItWasMade) {
+TEST_F(OpenFailure, APlugInThatSaysItWasMadeMayBeMissing) {
   devices_.SetFaults(devices_.PlugMixer(), {.noPlugIn = true});
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
@@ -159,7 +159,7 @@ TEST_F(OpenFailure, OfAPlugInThatSaysItWasMade) {
 
 // --- An interface that is not given ------------------------------------------------------------
 
-TEST_F(OpenFailure, OfTheInterfaceMakesTheDeviceNone) {
+TEST_F(OpenFailure, AFailureOfTheInterfaceMakesTheDeviceNone) {
   devices_.SetFaults(devices_.PlugMixer(), {.query = E_NOINTERFACE, .noInterface = true});
   devices_.PlugMixer();
   DeviceHandle handle = nullptr;
@@ -171,7 +171,7 @@ TEST_F(OpenFailure, OfTheInterfaceMakesTheDeviceNone) {
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
 
-TEST_F(OpenFailure, OfTheInterfaceBehindTheMixerDoesNotCostTheMixer) {
+TEST_F(OpenFailure, AFailureOfTheInterfaceBehindTheMixerDoesNotCostTheMixer) {
   devices_.PlugMixer();
   devices_.SetFaults(devices_.PlugUnrelated(), {.query = E_NOINTERFACE, .noInterface = true});
   DeviceHandle handle = nullptr;
@@ -181,14 +181,14 @@ TEST_F(OpenFailure, OfTheInterfaceBehindTheMixerDoesNotCostTheMixer) {
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
 
-TEST_F(OpenFailure, OfTheInterfaceAloneIsTheGeneralError) {
+TEST_F(OpenFailure, AFailureOfTheInterfaceAloneIsTheGeneralError) {
   devices_.SetFaults(devices_.PlugMixer(), {.noInterface = true});
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
   EXPECT_EQ(IOKitDouble::Alive(), References());
 }
 
-TEST_F(OpenFailure, OfTheQueryDoesNotMatterWhenTheInterfaceIsGivenAllTheSame) {
+TEST_F(OpenFailure, AFailureOfTheQueryDoesNotMatterWhenTheInterfaceIsGivenAllTheSame) {
   devices_.SetFaults(devices_.PlugMixer(), {.query = E_NOINTERFACE});
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), 0);
@@ -230,7 +230,7 @@ class OpenFailureOfRead : public OpenFailure, public testing::WithParamInterface
   }
 };
 
-TEST_P(OpenFailureOfRead, MakesAMixerNoneAndReleasesIt) {
+TEST_P(OpenFailureOfRead, AFailingReadMakesAMixerNoneAndReleasesIt) {
   devices_.SetFaults(devices_.PlugMixer(), GetParam().faults);
   devices_.PlugMixer();
   DeviceHandle handle = nullptr;
@@ -252,7 +252,7 @@ TEST_P(OpenFailureOfRead, BehindTheMixerIsWhatTheCallerIsTold) {
   EXPECT_EQ(IOKitDouble::Alive(), (References{.interfaces = 2}));
 }
 
-TEST_P(OpenFailureOfRead, OfTheOnlyMixerIsTheGeneralError) {
+TEST_P(OpenFailureOfRead, AFailingReadOfTheOnlyMixerIsTheGeneralError) {
   devices_.SetFaults(devices_.PlugMixer(), GetParam().faults);
   DeviceHandle handle = nullptr;
   EXPECT_EQ(open_pipes(&handle, 0, {}), kGeneralError);
@@ -265,7 +265,7 @@ INSTANTIATE_TEST_SUITE_P(Each, OpenFailureOfRead, testing::ValuesIn(kFailingRead
 
 // --- What Release answers ----------------------------------------------------------------------
 
-TEST_F(OpenFailure, OfNothingLeavesWhatTheLastReleaseAnswered) {
+TEST_F(OpenFailure, WithoutAFailureTheLastReleaseAnswers) {
   devices_.SetFaults(devices_.PlugUnrelated(), {.release = 7});
   DeviceHandle handle = InUse();
   EXPECT_EQ(openUSB(&handle, 0, {}), 7);
@@ -274,7 +274,7 @@ TEST_F(OpenFailure, OfNothingLeavesWhatTheLastReleaseAnswered) {
   EXPECT_EQ(handle, InUse());
 }
 
-TEST_F(OpenFailure, OfAReadIsForgottenOverWhatReleaseAnswered) {
+TEST_F(OpenFailure, AFailureOfAReadIsForgottenOverWhatReleaseAnswered) {
   devices_.SetFaults(devices_.PlugUnrelated(), {.readClass = kNoResources, .release = 3});
   DeviceHandle handle = InUse();
   EXPECT_EQ(openUSB(&handle, 0, {}), 3);

@@ -70,7 +70,7 @@ class Request : public IOKitTest {
 
 // --- The record --------------------------------------------------------------------------------
 
-TEST_F(Request, IsOneCallWithTheHandleAndNoOther) {
+TEST_F(Request, ARequestIsOneCallWithTheHandleAndNoOther) {
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 4;
   EXPECT_EQ(DeviceRequest(Mixer(), 0xC0, 0, 0, 0x8007, buffer.data(), &length), 0);
@@ -80,7 +80,7 @@ TEST_F(Request, IsOneCallWithTheHandleAndNoOther) {
             }));
 }
 
-TEST_F(Request, FillsTheRecordFieldByField) {
+TEST_F(Request, ARequestFillsTheRecordFieldByField) {
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 6;
   DeviceRequest(Mixer(), 0xA1, 0xB2, 0xC3D4, 0xE5F6, buffer.data(), &length);
@@ -89,7 +89,7 @@ TEST_F(Request, FillsTheRecordFieldByField) {
   EXPECT_EQ(Seen().wLenDone, 0U);
 }
 
-TEST_F(Request, AsksForTheLengthThatItIsGiven) {
+TEST_F(Request, ARequestAsksForTheLengthThatItIsGiven) {
   Buffer buffer = PresetBuffer();
   std::uint16_t length = 0xFFFF;
   DeviceRequest(Mixer(), 0xC0, 0, 0, 0x8001, buffer.data(), &length);
@@ -165,7 +165,7 @@ struct Read {
 
 class ReadRequests : public Request, public testing::WithParamInterface<Read> {};
 
-TEST_P(ReadRequests, CarryTheirIndexAndTheCallersBuffer) {
+TEST_P(ReadRequests, ReadsCarryTheirIndexAndTheCallersBuffer) {
   Answer({.bytes = {7, 8}});
   Buffer buffer = PresetBuffer();
   EXPECT_EQ(GetParam().request(Mixer(), buffer.data(), GetParam().length), 0);
@@ -193,7 +193,7 @@ struct Write {
 
 class WriteRequests : public Request, public testing::WithParamInterface<Write> {};
 
-TEST_P(WriteRequests, CarryTheirValueInWValueAndNoData) {
+TEST_P(WriteRequests, WritesCarryTheirValueInWValueAndNoData) {
   EXPECT_EQ(GetParam().request(Mixer(), GetParam().value), 0);
   ExpectSeen(0x40, 3, GetParam().value, GetParam().index, 0);
   EXPECT_THAT(Unused(), ElementsAre(0, 0));

@@ -9,7 +9,7 @@ using Lines = std::vector<std::string>;
 
 class UnopenedUnit : public RequestReports {};
 
-TEST_F(UnopenedUnit, LeavesItsPlaceToTheNextAndIsReportedAsTheLastWithoutALocation) {
+TEST_F(UnopenedUnit, AnUnopenedUnitLeavesItsPlaceToTheNextAndIsReportedAsTheLastWithoutALocation) {
   PlugMixers(3);
   rig_->SetFault(1, UnitFault::kRefusesToOpen);
   Observe();
@@ -18,7 +18,7 @@ TEST_F(UnopenedUnit, LeavesItsPlaceToTheNextAndIsReportedAsTheLastWithoutALocati
                                   "nowhere open 0000 0000 failed"}));
 }
 
-TEST_F(UnopenedUnit, InTheLastPlaceIsReportedOfEachUnit) {
+TEST_F(UnopenedUnit, AnUnopenedUnitInTheLastPlaceIsReportedOfEachUnit) {
   PlugMixers(3);
   rig_->SetFault(3, UnitFault::kHeldByAnotherProcess);
   Observe();
@@ -28,7 +28,8 @@ TEST_F(UnopenedUnit, InTheLastPlaceIsReportedOfEachUnit) {
 }
 
 // Each opening looks again: when the first mixer is gone, no mixer has the last position.
-TEST_F(UnopenedUnit, ThatVanishedInItsRequestLeavesItsPlaceToTheNextWithinTheSameCall) {
+TEST_F(UnopenedUnit,
+       AnUnopenedUnitThatVanishedInItsRequestLeavesItsPlaceToTheNextWithinTheSameCall) {
   PlugMixers(3);
   rig_->SetFault(1, UnitFault::kVanishes);
   Observe();

@@ -6,7 +6,7 @@ namespace {
 
 class MissingWarning : public InstalledFiles {};
 
-TEST_F(MissingWarning, InTheSystemsLanguageIsItsKey) {
+TEST_F(MissingWarning, AWarningInTheSystemsLanguageIsItsKey) {
   constexpr const char *kFramework = "/Library/Frameworks/TRX-SELVASetup.framework";
   InstallSystem("10.15");
   Install(std::string(kFramework) + "/Versions/A/Resources/English.lproj/Localizable.strings",

@@ -20,14 +20,14 @@ class FirstUnit : public InstalledFiles {
   }
 };
 
-TEST_F(FirstUnit, ThatCannotBeAskedLeavesItsPlaceToTheSecond) {
+TEST_F(FirstUnit, AFirstUnitThatCannotBeAskedLeavesItsPlaceToTheSecond) {
   std::uint32_t version = 77;
   EXPECT_EQ(ORV_GetFirmwareVersionIndex(kSelva, &version), kSuccess);
   EXPECT_EQ(version, 0x0215U);
   EXPECT_EQ(rig_->WireLog(), std::vector<std::string>{Asked(2, "8001", 2, "2 bytes 15 02")});
 }
 
-TEST_F(FirstUnit, ThatCannotBeAskedLeavesTheWarningToTheSecond) {
+TEST_F(FirstUnit, AFirstUnitThatCannotBeAskedLeavesTheWarningToTheSecond) {
   InstallSystem("10.15");
   Install(kItalian,
           "<key>WARNING2</key><string>two</string><key>WARNING3</key><string>three</string>");
@@ -41,7 +41,7 @@ TEST_F(FirstUnit, ThatCannotBeAskedLeavesTheWarningToTheSecond) {
 
 class LastUnit : public Acceptance {};
 
-TEST_F(LastUnit, ThatCannotBeAskedKeepsEveryUnitFromBeingReached) {
+TEST_F(LastUnit, ALastUnitThatCannotBeAskedKeepsEveryUnitFromBeingReached) {
   for (int i = 0; i < 3; ++i) rig_->PlugMixer();
   rig_->SetFault(3, UnitFault::kHeldByAnotherProcess);
   EXPECT_EQ(ORV_IsUSBConnection(kSelva), kConnected);

@@ -11,7 +11,7 @@ using Lines = std::vector<std::string>;
 
 class UnopenedUnit : public RequestReports {};
 
-TEST_F(UnopenedUnit, IsReportedInItsTurnWithItsPlace) {
+TEST_F(UnopenedUnit, AnUnopenedUnitIsReportedInItsTurnWithItsPlace) {
   PlugMixers(3);
   rig_->SetFault(2, UnitFault::kRefusesToOpen);
   Observe();
@@ -33,7 +33,7 @@ TEST_F(UnopenedUnit, UnpluggedInTheMiddleOfASetIsGone) {
                                   "unit 3 write 8003 0300 done"}));
 }
 
-TEST_F(UnopenedUnit, IsTheOnlyOneThatASetMissesWhenItVanishesInItsRequest) {
+TEST_F(UnopenedUnit, AnUnopenedUnitIsTheOnlyOneThatASetMissesWhenItVanishesInItsRequest) {
   PlugMixers(3);
   rig_->SetFault(1, UnitFault::kVanishes);
   Observe();
@@ -44,7 +44,8 @@ TEST_F(UnopenedUnit, IsTheOnlyOneThatASetMissesWhenItVanishesInItsRequest) {
 
 // The read after a setting goes to the units that got the setting, whatever is plugged in or out
 // meanwhile.
-TEST_F(UnopenedUnit, IsMissedByTheReadsOfTheSameCallAndAMixerPluggedInSinceIsNotAsked) {
+TEST_F(UnopenedUnit,
+       AnUnopenedUnitIsMissedByTheReadsOfTheSameCallAndAMixerPluggedInSinceIsNotAsked) {
   PlugMixers(2);
   int reports = 0;
   WhileReported([&] {
@@ -80,7 +81,7 @@ TEST_F(UnopenedUnit, WithoutARuleForThisUserIsNotPermitted) {
 
 class SettingsPathOfLinux : public Acceptance {};
 
-TEST_F(SettingsPathOfLinux, FollowsTheUsersFoldersAndLeavesEarlierTextsAsTheyAre) {
+TEST_F(SettingsPathOfLinux, ASettingsPathFollowsTheUsersFoldersAndLeavesEarlierTextsAsTheyAre) {
   const std::string before = rig_->SettingsFile("TRX-VOLT");
   ORVStringRef first = nullptr;
   EXPECT_EQ(ORV_GetSettingsFilePath(kVolt, &first), kSuccess);

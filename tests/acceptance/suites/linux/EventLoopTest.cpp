@@ -79,7 +79,7 @@ TEST_F(EventLoop, TheDescriptorStaysTheSameForTheLifeOfTheProcess) {
   EXPECT_EQ(Descriptor(), descriptor);
 }
 
-TEST_F(EventLoop, ReadableWhenSomethingArrivesAndQuietWhenItIsDelivered) {
+TEST_F(EventLoop, TheDescriptorIsReadableUntilWhatArrivedIsDelivered) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   DispatchUntilQuiet();
   const auto host = rig_->StartHost();
@@ -116,7 +116,7 @@ TEST_F(EventLoop, OneDispatchDeliversAllThatHasArrived) {
 
 // While Register waits for the bus's answer, other notifications arrive on the same connection
 // before it. They have been read already, so the socket is not readable because of them.
-TEST_F(EventLoop, ReadableForWhatArrivedWhileARegistrationWaitedForTheBus) {
+TEST_F(EventLoop, TheDescriptorIsReadableForWhatArrivedWhileARegistrationWaited) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   const auto host = rig_->StartHost();
   ASSERT_EQ(host->Ask("call ORV_SetBoostLevelIndex 11 3"), "100");

@@ -18,14 +18,14 @@ class FirstUnit : public InstalledFiles {
   }
 };
 
-TEST_F(FirstUnit, ThatDoesNotOpenHasFirmwareZeroAndTheSecondIsNotAsked) {
+TEST_F(FirstUnit, AFirstUnitThatDoesNotOpenHasFirmwareZeroAndTheSecondIsNotAsked) {
   std::uint32_t version = 77;
   EXPECT_EQ(ORV_GetFirmwareVersionIndex(kSelva, &version), kSuccess);
   EXPECT_EQ(version, 0U);
   ExpectNothingHappened();
 }
 
-TEST_F(FirstUnit, ThatDoesNotOpenCountsAsConnectedForAWarningAndTheSecondIsNotAsked) {
+TEST_F(FirstUnit, AFirstUnitThatDoesNotOpenCountsAsConnectedForAWarningAndTheSecondIsNotAsked) {
   InstallSystem("10.15");
   Install(kItalian,
           "<key>WARNING2</key><string>two</string><key>WARNING3</key><string>three</string>");

@@ -39,7 +39,7 @@ class NotificationService : public Deliveries {
   }
 };
 
-TEST_F(NotificationService, AbsentAtFirstEverythingElseWorksAndLaterItIsFound) {
+TEST_F(NotificationService, WithoutAServiceEverythingElseWorksAndLaterItIsFound) {
   rig_->PlugMixer();
   rig_->StopNotificationService();
   EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
@@ -56,7 +56,7 @@ TEST_F(NotificationService, AbsentAtFirstEverythingElseWorksAndLaterItIsFound) {
   EXPECT_TRUE(Delivered({{"A selva", -1, 1}}));
 }
 
-TEST_F(NotificationService, RestartedTheRegistrationsMadeBeforeWorkAgain) {
+TEST_F(NotificationService, RegistrationsMadeBeforeARestartOfTheServiceWorkAfterIt) {
   rig_->PlugMixer();
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   ExpectSettingWorks(0, "0300");
@@ -73,7 +73,7 @@ TEST_F(NotificationService, RestartedTheRegistrationsMadeBeforeWorkAgain) {
   }
 }
 
-TEST_F(NotificationService, RestartedBetweenTwoSetsTheSecondIsAnnounced) {
+TEST_F(NotificationService, ASetAfterARestartOfTheServiceIsAnnounced) {
   ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
   ASSERT_EQ(rig_->TakeAnnouncements(1).size(), 1U);
   rig_->StopNotificationService();
@@ -82,7 +82,7 @@ TEST_F(NotificationService, RestartedBetweenTwoSetsTheSecondIsAnnounced) {
   EXPECT_EQ(rig_->TakeAnnouncements(1), std::vector{BoostChange("TRX-SELVA", kSelva, 1)});
 }
 
-TEST_F(NotificationService, RegistrationsMadeWhileItIsAwayCountWhenItIsBack) {
+TEST_F(NotificationService, RegistrationsMadeWhileTheServiceIsAwayCountWhenItIsBack) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   rig_->StopNotificationService();
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
@@ -95,7 +95,7 @@ TEST_F(NotificationService, RegistrationsMadeWhileItIsAwayCountWhenItIsBack) {
 }
 
 // Nothing but the registration can have found it: the event loop has not run yet.
-TEST_F(NotificationService, ThatHasComeIsFoundByARegistration) {
+TEST_F(NotificationService, ARegistrationFindsAServiceThatHasStarted) {
   rig_->StopNotificationService();
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   rig_->StartNotificationService();
@@ -106,7 +106,7 @@ TEST_F(NotificationService, ThatHasComeIsFoundByARegistration) {
   EXPECT_EQ(Calls(), (CallList{{"A selva", -1, 1}, {"B lumen", -1, 2}}));
 }
 
-TEST_F(NotificationService, RestartedIsFoundByARegistration) {
+TEST_F(NotificationService, ARegistrationFindsARestartedService) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   rig_->StopNotificationService();
   rig_->StartNotificationService();
@@ -118,7 +118,7 @@ TEST_F(NotificationService, RestartedIsFoundByARegistration) {
 }
 
 // Here there is nothing to ask the service for; only listening shows that it has gone.
-TEST_F(NotificationService, RestartedIsFoundByARegistrationForTheSameChange) {
+TEST_F(NotificationService, ARegistrationForTheSameChangeFindsARestartedService) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   rig_->StopNotificationService();
   rig_->StartNotificationService();
@@ -128,7 +128,7 @@ TEST_F(NotificationService, RestartedIsFoundByARegistrationForTheSameChange) {
   EXPECT_EQ(Calls(), (CallList{{"B lumen", -1, 1}, {"B lumen", -1, 1}}));
 }
 
-TEST_F(NotificationService, WhatHadArrivedBeforeItWentIsStillDelivered) {
+TEST_F(NotificationService, WhatArrivedBeforeTheServiceEndedIsDelivered) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   const auto host = rig_->StartHost();
   ASSERT_EQ(host->Ask("register BoostLevel 11 host"), "100");
@@ -140,7 +140,7 @@ TEST_F(NotificationService, WhatHadArrivedBeforeItWentIsStillDelivered) {
   EXPECT_EQ(Calls(), (CallList{{"A selva", -1, 1}}));
 }
 
-TEST_F(NotificationService, AProcessThatIsNotToldWhereItIsWorksWithoutIt) {
+TEST_F(NotificationService, AProcessThatDoesNotKnowTheServicesAddressWorksWithoutIt) {
   rig_->PlugMixer();
   for (const LostService how : {LostService::kNothingSaid, LostService::kNonsenseSaid}) {
     rig_->LoseNotificationService(how);
@@ -156,7 +156,7 @@ TEST_F(NotificationService, AProcessThatIsNotToldWhereItIsWorksWithoutIt) {
   EXPECT_EQ(rig_->TakeAnnouncements(0), std::vector<Announcement>());
 }
 
-TEST_F(NotificationService, WhileItHangsSettersWaitOnceAndTheirAnnouncementsComeLater) {
+TEST_F(NotificationService, SettersWaitOnceForAServiceThatHangsAndAnnounceLater) {
   rig_->PlugMixer();
   rig_->FreezeNotificationService();
   ExpectSettingWorks(1, "0200");
@@ -177,7 +177,7 @@ TEST_F(NotificationService, WhileItHangsSettersWaitOnceAndTheirAnnouncementsCome
                    BoostChange("TRX-SELVA", kSelva, 0), BoostChange("TRX-SELVA", kSelva, 2)}));
 }
 
-TEST_F(NotificationService, WhileItHangsRegistrationsWaitOnceAndCountLater) {
+TEST_F(NotificationService, RegistrationsWaitOnceForAServiceThatHangsAndCountLater) {
   rig_->FreezeNotificationService();
   EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kMorrow, IndexA, &selva), kSuccess);
   EXPECT_EQ(ORV_RegisterBoostLevelChangedCallback(kLumen, IndexA, &selva), kSuccess);

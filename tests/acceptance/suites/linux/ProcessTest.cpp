@@ -108,7 +108,7 @@ TEST_F(Process, AThreadThatHasSetALevelLeavesNoDescriptorWhenItEnds) {
   EXPECT_EQ(rig_->TakeAnnouncements(21).size(), 21U);
 }
 
-TEST_F(Process, TheBusBeingAwayLeavesNoDescriptorBehind) {
+TEST_F(Process, ABusThatIsAwayLeavesNoDescriptorBehind) {
   ASSERT_EQ(ORV_RegisterBoostLevelChangedCallback(kSelva, IndexA, &selva), kSuccess);
   ASSERT_EQ(ORV_SetBoostLevelIndex(kSelva, 1), kSuccess);
   DeliverAll();

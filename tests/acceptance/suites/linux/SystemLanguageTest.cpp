@@ -99,7 +99,7 @@ TEST_F(SystemLanguage, TheFirstOfTheListThatIsInstalledAnswers) {
                  {"sv:da", nullptr, nullptr, "sv_SE.UTF-8", "English"}});
 }
 
-TEST_F(SystemLanguage, WhoAsksForUntranslatedTextsGetsEnglish) {
+TEST_F(SystemLanguage, WithoutATranslationTheLanguageIsEnglish) {
   InstallLanguages({"English", "French"});
   ExpectFolders({{"fr", "C", nullptr, "fr_FR.UTF-8", "English"},
                  {"fr", "POSIX", nullptr, "fr_FR.UTF-8", "English"},
@@ -117,7 +117,7 @@ TEST_F(SystemLanguage, ALanguageThatIsNamedIsNotReplacedByTheSystems) {
 
 class MissingWarning : public InstalledFiles {};
 
-TEST_F(MissingWarning, InTheSystemsLanguageHasNoText) {
+TEST_F(MissingWarning, AWarningInTheSystemsLanguageHasNoText) {
   constexpr const char *kFramework = "/Library/Frameworks/TRX-SELVASetup.framework";
   InstallSystem("10.15");
   Install(std::string(kFramework) + "/Versions/A/Resources/English.lproj/Localizable.strings",
