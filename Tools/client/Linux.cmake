@@ -3,6 +3,7 @@ pkg_check_modules(LIBPLIST REQUIRED IMPORTED_TARGET libplist-2.0)
 pkg_check_modules(LIBSYSTEMD REQUIRED IMPORTED_TARGET libsystemd)
 
 add_library(trx-client STATIC
+  Linux/AutoApply.cpp
   Linux/LibraryText.cpp
   Linux/MixerChecks.cpp
   Linux/MixerWatch.cpp
