@@ -12,7 +12,7 @@ namespace client {
 /// What keeps it from working although it may be on.
 enum class AutoApplyObstacle {
   kNone,
-  kNoServiceManager,  ///< No service manager of systemd's kind runs for this user.
+  kNoServiceManager,  ///< The user has no service manager (systemd); macOS: no launch agent.
   kNoUnit,            ///< The service manager does not know the unit that sends the settings.
   kUnitMasked,        ///< The unit is masked: the service manager must not start it.
   kNoRule,            ///< The udev rule, which notices mixers, is not installed.

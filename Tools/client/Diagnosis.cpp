@@ -101,6 +101,17 @@ Check CheckInstallation() {
   return check;
 }
 
+/// A system that starts nothing for its users is no problem of this installation.
+Check CheckAutoApply() {
+  Check check{.part = CheckedPart::kAutoApply, .autoApply = ObstacleToAutoApply()};
+  check.otherCount = IsAutoApplyOn() ? 0 : 1;
+  if (IsAutoApplyOn() && check.autoApply != AutoApplyObstacle::kNone &&
+      check.autoApply != AutoApplyObstacle::kNoServiceManager) {
+    check.finding = Finding::kAutoApplyBroken;
+  }
+  return check;
+}
+
 }  // namespace
 
 Check CheckFolder() {
@@ -157,6 +168,7 @@ std::vector<Check> Diagnose(const std::vector<const Model *> &models) {
   checks.push_back(CheckFiles(models));
   if (const auto kept = CheckKeptFiles(models)) checks.push_back(*kept);
   checks.push_back(CheckInstallation());
+  checks.push_back(CheckAutoApply());
   return checks;
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "AutoApply.h"
 #include "Mixers.h"
 #include "Requests.h"
 #include "Settings.h"
@@ -22,6 +23,7 @@ enum class CheckedPart {
   kSettingsFolder,
   kSettingsFiles,
   kInstallation,
+  kAutoApply,
 };
 
 /// What a check found. Only kGood is no problem.
@@ -51,6 +53,7 @@ enum class Finding {
   kFileKept,           ///< path: the settings file; names: files kept beside it, as unreadable.
   kNoLibraryVersion,
   kNoPackageVersion,
+  kAutoApplyBroken,  ///< autoApply: what keeps it from working.
 };
 
 /// One thing that was looked at.
@@ -65,12 +68,15 @@ struct Check {
   int reason = 0;
   Outcome outcome = Outcome::kDone;
   std::vector<Setting> settings = {};
+  /// Set also in a good check, where the system has nothing that could start the sending.
+  AutoApplyObstacle autoApply = AutoApplyObstacle::kNone;
   /// Names that belong to the finding: other products, folders with the rule, kept files,
   /// versions.
   std::vector<std::string> names = {};
   /// What was counted: USB devices, settings files in use.
   std::size_t count = 0;
-  /// Settings files without effect on any setting; for the settings folder 1 when it is there.
+  /// Settings files without effect on any setting; for the settings folder 1 when it is there; for
+  /// sending at plug-in 1 when it is turned off.
   std::size_t otherCount = 0;
 
   bool IsGood() const { return finding == Finding::kGood; }

@@ -8,6 +8,7 @@ add_library(trx-client STATIC
   Linux/MixerChecks.cpp
   Linux/MixerWatch.cpp
   Linux/Mixers.cpp
+  Linux/PluggedMixer.cpp
   Linux/SessionBus.cpp
   Linux/StoredSettings.cpp
   Linux/UdevRule.cpp)

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "AutoApplyCommand.h"
 #include "Command.h"
 #include "Completion.h"
 #include "Diagnose.h"
@@ -69,8 +70,8 @@ class Program {
     for (const client::SettingKind &kind : client::SettingKinds()) {
       commands_.push_back(MakeSettingCommand(app_, kind));
     }
-    for (const auto make : {MakeStatus, MakeWatch, MakeReapply, MakeReset, MakeProfile,
-                            MakeDiagnose, MakeVersions, MakeModels}) {
+    for (const auto make : {MakeStatus, MakeWatch, MakeReapply, MakeAutoApply, MakeReset,
+                            MakeProfile, MakeDiagnose, MakeVersions, MakeModels}) {
       commands_.push_back(make(app_));
     }
     for (const Command &command : commands_) command.app->group(command.isHidden ? "" : "Commands");

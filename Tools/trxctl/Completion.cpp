@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <optional>
 
+#include "AutoApplyWords.h"
 #include "Profile.h"
 #include "UserInput.h"
 #include "Words.h"
@@ -109,6 +110,7 @@ class Situation {
   std::vector<Candidate> PlainWords() const {
     if (!CommandsHere().empty()) return Commands();
     if (NextArgument() == kProfileArgument) return Profiles();
+    if (NextArgument() == kOnOrOffArgument) return {{"off", ""}, {"on", ""}};
     const client::SettingKind *kind = ChosenKind();
     const client::Model *model = ChosenModel();
     if (kind == nullptr || model == nullptr) return {};

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "AutoApplyWords.h"
 #include "PlatformWords.h"
 #include "Progress.h"
 #include "Words.h"
@@ -19,7 +20,7 @@ constexpr char kReloadRules[] = "sudo udevadm control --reload && sudo udevadm t
 constexpr char kRule[] = "70-trx-selva.rules";
 
 /// The names of what is checked, in the order of client::CheckedPart; programs read them, too.
-constexpr std::array<std::string_view, 10> kPartNames{"USB",
+constexpr std::array<std::string_view, 11> kPartNames{"USB",
                                                       "maker",
                                                       "mixer",
                                                       "node",
@@ -28,7 +29,8 @@ constexpr std::array<std::string_view, 10> kPartNames{"USB",
                                                       "session bus",
                                                       "Preferences folder",
                                                       "settings files",
-                                                      "installation"};
+                                                      "installation",
+                                                      "autoapply"};
 
 std::string_view NameOf(const Check &check) {
   return kPartNames.at(static_cast<std::size_t>(check.part));
@@ -63,6 +65,13 @@ std::string FilesAsText(const Check &check) {
   return found.empty() ? "none stored yet" : Joined(found);
 }
 
+std::string AutoApplyAsText(const Check &check) {
+  if (check.otherCount != 0) return "sending at plug-in is turned off";
+  const auto obstacle = AutoApplyObstacleAsText(check.autoApply);
+  if (obstacle) return "sending at plug-in does not work here: " + obstacle->text;
+  return "a mixer that is plugged in gets the stored settings";
+}
+
 /// What is said of a part that is in good order.
 std::string GoodAsText(const Check &check) {
   switch (check.part) {
@@ -84,6 +93,8 @@ std::string GoodAsText(const Check &check) {
       return PathOf(check) + (check.otherCount != 0 ? "" : " (made with the first change)");
     case client::CheckedPart::kSettingsFiles:
       return FilesAsText(check);
+    case client::CheckedPart::kAutoApply:
+      return AutoApplyAsText(check);
     case client::CheckedPart::kInstallation:
       break;
   }
@@ -205,6 +216,10 @@ Verdict VerdictOf(const Check &check) {
                   (check.finding == Finding::kNoLibraryVersion ? "library" : "package") +
                   " are missing",
               std::string(kPlatformWords.withoutVersionFiles)};
+    case Finding::kAutoApplyBroken: {
+      const auto obstacle = AutoApplyObstacleAsText(check.autoApply).value_or(AutoApplyWords{});
+      return {ExitCode::kFailed, "sending at plug-in cannot work: " + obstacle.text, obstacle.hint};
+    }
   }
   return {ExitCode::kDone, GoodAsText(check)};
 }

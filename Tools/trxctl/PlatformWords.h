@@ -10,6 +10,8 @@ struct PlatformWords {
   std::string_view withoutHome;
   /// What to do when the files with the versions are missing.
   std::string_view withoutVersionFiles;
+  /// Why stored settings are not sent at plug-in where the system starts nothing for it.
+  std::string_view withoutServiceManager;
   /// What follows "not installed" for the driver.
   std::string_view noDriver;
 };

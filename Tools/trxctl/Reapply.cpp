@@ -1,7 +1,10 @@
 #include "Reapply.h"
 
 #include <memory>
+#include <optional>
+#include <string>
 
+#include "Plugged.h"
 #include "Progress.h"
 #include "Sending.h"
 #include "Words.h"
@@ -70,16 +73,27 @@ ExitCode Run(const Session &session, bool isDryRun) {
 Command MakeReapply(CLI::App &program) {
   CLI::App *app = program.add_subcommand("reapply", "Send all stored settings once more");
   const auto isDryRun = std::make_shared<bool>(false);
-  app->add_flag("--dry-run", *isDryRun, "Only tell what would be sent");
+  const auto plugged = std::make_shared<std::optional<std::string>>();
+  CLI::Option *dryRun = app->add_flag("--dry-run", *isDryRun, "Only tell what would be sent");
+  app->add_option("--plugged", *plugged, "Only to this mixer, and only what is stored")
+      ->type_name("DEVICE")
+      ->excludes(dryRun);
   app->footer(
       std::string("For a mixer that was plugged in later. Where nothing is stored, the default is\n"
                   "sent. Ends with exit code 3 when a stored setting could not be sent.\n"
                   "\n"
+                  "With --plugged, as run when a mixer is plugged in: waits up to half a minute\n"
+                  "for the right to open it, and answers in one line. DEVICE is the mixer's\n"
+                  "folder below /sys or its device file.\n"
+                  "\n"
                   "Examples:\n"
                   "  trxctl reapply\n"
-                  "  trxctl reapply --model TRX-VOLT\n") +
+                  "  trxctl reapply --model TRX-VOLT\n"
+                  "  trxctl reapply --plugged /dev/bus/usb/001/005\n") +
       kSharedOptionsHelp);
-  return {app, [isDryRun](const Session &session) { return Run(session, *isDryRun); }};
+  return {app, [isDryRun, plugged](const Session &session) {
+            return *plugged ? ReapplyToPlugged(session, **plugged) : Run(session, *isDryRun);
+          }};
 }
 
 }  // namespace trxctl

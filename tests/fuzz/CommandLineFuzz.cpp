@@ -163,7 +163,8 @@ void EmptyFolder(const std::string &folder) {
   std::filesystem::remove_all(*client::ProfilesFolder());
   for (const auto &entry : std::filesystem::directory_iterator(folder)) {
     const std::string name = entry.path().filename();
-    Promise(name.starts_with("com.orvikaudio.") && name.ends_with("autosetup.plist"),
+    Promise(name == "com.orvikaudio.autoapply-off" ||
+                (name.starts_with("com.orvikaudio.") && name.ends_with("autosetup.plist")),
             "only settings files are left behind", name);
     std::filesystem::remove(entry.path());
   }

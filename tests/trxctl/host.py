@@ -46,9 +46,9 @@ class Result:
 class Running:
     """A trxctl that goes on running, such as a watch."""
 
-    def __init__(self, words, env):
+    def __init__(self, command, env):
         self._process = subprocess.Popen(
-            [TRXCTL, *words], env=env, stdin=subprocess.DEVNULL,
+            command, env=env, stdin=subprocess.DEVNULL,
             stdout=subprocess.PIPE, stderr=subprocess.PIPE)
         self._text = {"stdout": b"", "stderr": b""}
 
@@ -119,16 +119,20 @@ class HostTest(unittest.TestCase):
 
     def run_host(self, *words, env=None, unprivileged=False, **options):
         """Runs trxctl to its end; unprivileged: as root without the powers of root, too."""
-        before = WITHOUT_POWERS if unprivileged and os.geteuid() == 0 else []
         options.setdefault("stdout", subprocess.PIPE)
         options.setdefault("stderr", subprocess.PIPE)
-        done = subprocess.run([*before, TRXCTL, *words], env=env or self.env, stdin=subprocess.DEVNULL,
+        done = subprocess.run(self._command(words, unprivileged), env=env or self.env, stdin=subprocess.DEVNULL,
                               timeout=PATIENCE, check=False, **options)
         return Result(done.returncode, (done.stdout or b"").decode(), (done.stderr or b"").decode())
 
-    def start_host(self, *words, env=None):
+    @staticmethod
+    def _command(words, unprivileged):
+        before = WITHOUT_POWERS if unprivileged and os.geteuid() == 0 else []
+        return [*before, TRXCTL, *words]
+
+    def start_host(self, *words, env=None, unprivileged=False):
         """Starts a trxctl that goes on running."""
-        running = Running(words, env or self.env)
+        running = Running(self._command(words, unprivileged), env or self.env)
         self.addCleanup(running.stop)
         return running
 

@@ -17,7 +17,7 @@ class Candidates(HostTest):
     def test_commands(self):
         commands = self.candidates("")
         self.assertEqual(commands[:4], ["input", "output", "boost", "midi"])
-        self.assertEqual(commands[-8:], ["status", "watch", "reapply", "reset", "profile",
+        self.assertEqual(commands[-9:], ["status", "watch", "reapply", "autoapply", "reset", "profile",
                                          "diagnose", "versions", "models"])
         self.assertEqual(self.candidates("--json", "re"), ["reapply", "reset"])
 

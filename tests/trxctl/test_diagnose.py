@@ -47,10 +47,10 @@ class Diagnose(HostTest):
                                  "ok       node", "ok       access", "ok       node",
                                  "ok       access", "ok       answer", "ok       session bus",
                                  "ok       Preferences folder", "ok       settings files",
-                                 "ok       installation"])
+                                 "ok       installation", "ok       autoapply"])
         self.assertEqual(set(self.diagnose(0)), {
             "USB", "maker", "mixer", "node", "access", "answer", "session bus",
-            "Preferences folder", "settings files", "installation"})
+            "Preferences folder", "settings files", "installation", "autoapply"})
 
     def test_problem_is_a_line_with_what_to_do(self):
         self.unplug_all()

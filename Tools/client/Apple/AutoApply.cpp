@@ -13,7 +13,7 @@ AutoApplyObstacle ObstacleToAutoApply() {
   for (const std::string &folder : {std::string(home == nullptr ? "" : home), std::string()}) {
     if (std::filesystem::exists(folder + kAgent, error)) return AutoApplyObstacle::kNone;
   }
-  return AutoApplyObstacle::kNoUnit;
+  return AutoApplyObstacle::kNoServiceManager;
 }
 
 std::optional<AutoApplyRun> LastAutoApplyRun() { return std::nullopt; }

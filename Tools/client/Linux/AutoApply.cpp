@@ -40,11 +40,16 @@ AutoApplyObstacle ObstacleOfUnit() {
     return AutoApplyObstacle::kNoServiceManager;
   }
   const std::unique_ptr<sd_bus, CloseBus> bus(rawBus);
-  sd_bus_set_method_call_timeout(rawBus, kPatience);
+  sd_bus_message *rawCall = nullptr;
   sd_bus_message *rawReply = nullptr;
-  const int called = sd_bus_call_method(
-      rawBus, "org.freedesktop.systemd1", "/org/freedesktop/systemd1",
-      "org.freedesktop.systemd1.Manager", "GetUnitFileState", nullptr, &rawReply, "s", kUnit);
+  int called = sd_bus_message_new_method_call(
+      rawBus, &rawCall, "org.freedesktop.systemd1", "/org/freedesktop/systemd1",
+      "org.freedesktop.systemd1.Manager", "GetUnitFileState");
+  const std::unique_ptr<sd_bus_message, UnrefMessage> call(rawCall);
+  // A bus without a service manager must not be made to look for one.
+  if (called >= 0) called = sd_bus_message_set_auto_start(rawCall, 0);
+  if (called >= 0) called = sd_bus_message_append(rawCall, "s", kUnit);
+  if (called >= 0) called = sd_bus_call(rawBus, rawCall, kPatience, nullptr, &rawReply);
   const std::unique_ptr<sd_bus_message, UnrefMessage> reply(rawReply);
   if (called == -ENOENT) return AutoApplyObstacle::kNoUnit;
   const char *state = nullptr;
@@ -68,8 +73,8 @@ std::string MessageIn(sd_journal *journal) {
 AutoApplyObstacle ObstacleToAutoApply() {
   const AutoApplyObstacle obstacle = ObstacleOfUnit();
   if (obstacle != AutoApplyObstacle::kNone) return obstacle;
-  return FoldersWithRule(UdevRuleFolders()).empty() ? AutoApplyObstacle::kNoRule
-                                                    : AutoApplyObstacle::kNone;
+  return FoldersWithRule(UdevRuleFolders(), kReapplyRule).empty() ? AutoApplyObstacle::kNoRule
+                                                                  : AutoApplyObstacle::kNone;
 }
 
 std::optional<AutoApplyRun> LastAutoApplyRun() {

@@ -14,10 +14,11 @@ std::span<const std::string_view> UdevRuleFolders() {
   return kFolders;
 }
 
-std::vector<std::string> FoldersWithRule(std::span<const std::string_view> folders) {
+std::vector<std::string> FoldersWithRule(std::span<const std::string_view> folders,
+                                         std::string_view rule) {
   std::vector<std::string> found;
   for (const std::string_view folder : folders) {
-    const std::string file = std::string(folder) + '/' + std::string(kUdevRule);
+    const std::string file = std::string(folder) + '/' + std::string(rule);
     if (access(file.c_str(), F_OK) == 0) found.emplace_back(folder);
   }
   return found;

@@ -1,6 +1,7 @@
 """What the build of a Mac would run, read from its build files."""
 
 import json
+import plistlib
 import unittest
 
 from mac_build import BUILD, SOURCE, commands, preset
@@ -72,6 +73,17 @@ class Build(unittest.TestCase):
         script = (BUILD / "Tools/trxctl/cmake_install.cmake").read_text()
         self.assertIn('file(INSTALL DESTINATION "${CMAKE_INSTALL_PREFIX}/bin" TYPE EXECUTABLE '
                       f'FILES "{BUILD}/bin/trxctl"', script)
+
+    def test_launch_agent_starts_with_the_match_of_a_mixer(self):
+        agent = BUILD / "Tools/trxctl/com.orvikaudio.trx-reapply.plist"
+        contents = plistlib.loads(agent.read_bytes())
+        self.assertEqual(contents["ProgramArguments"],
+                         ["/usr/local/bin/trxctl", "reapply", "--plugged", "plug-event"])
+        self.assertEqual(contents["LaunchEvents"]["com.apple.iokit.matching"], {
+            "com.orvikaudio.mixer": {"IOProviderClass": "IOUSBDevice", "idVendor": 0x4F52,
+                                     "idProduct": 0x001F, "IOMatchLaunchStream": True}})
+        script = (BUILD / "Tools/trxctl/cmake_install.cmake").read_text()
+        self.assertIn(f'"/Library/LaunchAgents" TYPE FILE FILES "{agent}"', script)
 
     def test_installation_changes_nothing_that_was_signed(self):
         for folder in ["Framework", "Tools/trxctl"]:

@@ -180,6 +180,35 @@ class Watch(TrxctlTest):
         watch.stdout = None
 
 
+class Plugged(TrxctlTest):
+    """What the launch agent runs, with the product name that would come from launchd's event."""
+
+    def plugged(self, product):
+        self.env["PRODUCT_OF_PLUG_EVENT"] = product
+        return self.trxctl("reapply", "--plugged", "plug-event")
+
+    def test_what_is_stored_is_sent(self):
+        self.plug(1)
+        self.trxctl("boost", "2")
+        before = self.log()
+        self.assertEqual(self.plugged("TRX-SELVA"), (0, "TRX-SELVA: sent boost level -10 dB\n", ""))
+        self.assertEqual(self.log().count("wValue 0200"), before.count("wValue 0200") + 1)
+
+    def test_nothing_is_sent_when_turned_off(self):
+        self.plug(1)
+        self.trxctl("boost", "2")
+        self.trxctl("autoapply", "off")
+        before = self.log()
+        self.assertEqual(self.plugged("TRX-SELVA"), (
+            0, "TRX-SELVA: nothing was sent: sending at plug-in is turned off\n", ""))
+        self.assertEqual(self.log(), before)
+
+    def test_event_that_launchd_does_not_have(self):
+        code, out, err = self.trxctl("reapply", "--plugged", "plug-event")
+        self.assertEqual((code, out), (4, ""))
+        self.assertIn('no mixer is connected at "plug-event"', err)
+
+
 class Diagnose(TrxctlTest):
     def diagnose(self):
         code, out, err = self.trxctl("diagnose", "--json")
@@ -194,7 +223,9 @@ class Diagnose(TrxctlTest):
             "ok       answer: the mixers that may be opened answer a request\n"
             f"ok       Preferences folder: {self.settings.parent}\n"
             "ok       settings files: none stored yet\n"
-            "ok       installation: library 1.0.0, package 1.0.0\n", ""))
+            "ok       installation: library 1.0.0, package 1.0.0\n"
+            "ok       autoapply: sending at plug-in does not work here: the launch agent "
+            "com.orvikaudio.trx-reapply is not installed, and it is what starts the sending\n", ""))
 
     def test_no_mixer(self):
         self.plug(0)
