@@ -32,9 +32,10 @@ ORV_EXPORT StatusCode ORV_GetNotificationDescriptor(int32_t *descriptor);
 
 /**
  * Delivers all notifications that have arrived: calls the registered callbacks on the calling
- * thread. The announcements of one process and thread are delivered in their order. Never blocks.
- * What the callbacks cause is delivered by the next call. Callbacks may call any function of the
- * library, including this one.
+ * thread. The announcements of one process and thread are delivered in their order. Never blocks,
+ * and reads at most 1,024 messages, however fast other programs announce: while more are left, the
+ * descriptor stays readable. What the callbacks cause is delivered by the next call. Callbacks may
+ * call any function of the library, including this one.
  *
  * @return ORV_SUCCESS, always.
  *

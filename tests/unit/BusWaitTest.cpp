@@ -1,6 +1,6 @@
 // How long the library waits for a session bus that hangs, how often it looks for a missing one,
-// and what wakes the host meanwhile. The tests check the requested waits, to the microsecond; no
-// test really waits.
+// what wakes the host meanwhile, and how much of a flood it reads at once. The tests check the
+// requested waits, to the microsecond; no test really waits.
 #include <chrono>
 #include <cstdint>
 #include <cstdlib>
@@ -43,6 +43,12 @@ std::string Observe() {
 void Post(const std::string &name) { orv::PostNotification(name, {}, orv::Delivery::kPlain); }
 
 void Dispatch() { EXPECT_EQ(ORV_DispatchNotifications(), kSuccess); }
+
+bool BecomesReadable() {
+  pollfd loop = {-1, POLLIN, 0};
+  EXPECT_EQ(ORV_GetNotificationDescriptor(&loop.fd), kSuccess);
+  return poll(&loop, 1, 60'000) == 1;
+}
 
 // Runs the event loop as a host does.
 bool RunEventLoopUntil(const std::function<bool()> &isDone) {
@@ -155,6 +161,21 @@ TEST_F(BusWait, AnAnswerThatDoesNotComeInTimeIsNoRefusal) {
   EXPECT_TRUE(RunEventLoopUntil([] { return !IsTimerOn(); })) << "asked again";
   bus_.Thaw();
   unsetenv("SYSTEMD_BUS_TIMEOUT");
+}
+
+// --- A flood -------------------------------------------------------------------------------------
+
+TEST_F(BusWait, AProgramThatPostsWithoutPauseHoldsNeitherDispatchNorRegistration) {
+  const std::string name = Observe();
+  constexpr int kMost = 10'000;
+  const BusFlood flood(name, kMost);
+  Dispatch();
+  EXPECT_EQ(delivered, 1'024);
+  EXPECT_TRUE(BecomesReadable());
+  Observe();
+  EXPECT_LT(flood.Posted(), kMost);
+  // Nothing of it is lost.
+  EXPECT_TRUE(RunEventLoopUntil([] { return delivered == kMost; }));
 }
 
 // --- Watching the connection ---------------------------------------------------------------------

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace trxtest {
@@ -25,6 +26,18 @@ class WatchedSystem {
 
   /// From now on the system refuses new watches, or accepts them again.
   static void RefuseWatches(bool isRefused);
+};
+
+/// While it exists, a notification always waits to be read: another one is posted and arrives
+/// before the library reads a message, this many in all. One at a time, on one thread.
+class BusFlood {
+ public:
+  BusFlood(std::string name, int most);
+  ~BusFlood();
+  BusFlood(const BusFlood &) = delete;
+  BusFlood &operator=(const BusFlood &) = delete;
+
+  static int Posted();
 };
 
 /// Whether the library's timer is on, at any time.
