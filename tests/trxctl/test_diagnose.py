@@ -6,7 +6,7 @@ import plistlib
 import signal
 import unittest
 
-from host import HostTest
+from host import TRXCTL, HostTest
 
 NOBODY = 65534
 RULE = "70-trx-selva.rules"
@@ -119,8 +119,13 @@ class Diagnose(HostTest):
         installed = [folder for folder in RULE_FOLDERS if os.path.exists(f"{folder}/{RULE}")]
         check = self.diagnose(7, **self.as_nobody())["access"]
         self.assert_problem(check, "no_access", RULE, RELOAD)
-        self.assertIn(f"is installed in {', '.join(installed)}" if installed
-                      else "is not installed", check["message"])
+        if installed:
+            self.assertIn(f"is installed in {', '.join(installed)}", check["message"])
+        else:
+            self.assertIn("is not installed", check["message"])
+            rule = pathlib.Path(TRXCTL).resolve().parents[1] / "packaging" / RULE
+            self.assertTrue(rule.is_file())
+            self.assertEqual(check["hint"], f"run: sudo cp {rule} /etc/udev/rules.d/ && {RELOAD}")
 
     def test_held_by_another_program(self):
         self.mixer("fault", 1, "hold")
