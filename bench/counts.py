@@ -12,7 +12,7 @@ import tempfile
 
 PROGRAMS = pathlib.Path(os.environ["TRX_PROGRAMS"])
 FEW, MANY = 5, 25
-PATIENCE = 120  # seconds until a run that hangs is given up
+PATIENCE = 900  # seconds until a run that hangs is given up
 
 
 def run(*words):

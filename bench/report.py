@@ -37,6 +37,7 @@ RATIOS = (
     ("libusb", "set", "≥ 30", "as above; the set stores and announces besides"),
     ("get", "get-libplist", "≤ 1.2", "the parser; on top come the path, the file's size and the check of its nesting"),
     ("announce", "announce-sd-bus", "≤ 1.3", "sd-bus; on top come the dictionary, which is kept, and a check that all has left"),
+    ("announce-read", "announce-read-sd-bus", "≤ 1.3", "sd-bus; on top come the checks of the message and the copy of its dictionary"),
 )
 NAMES = {
     "walk": "one walk over 12 devices",
@@ -50,6 +51,8 @@ NAMES = {
     "get-libplist": "libplist alone",
     "announce": "an announcement",
     "announce-sd-bus": "sd-bus alone",
+    "announce-read": "reading a notification",
+    "announce-read-sd-bus": "sd-bus alone",
 }
 
 

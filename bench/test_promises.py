@@ -91,6 +91,9 @@ class Instructions(Promise):
     def test_of_an_announcement(self):
         self.assert_at_most(1.3, counts.instructions, "announce", "announce-sd-bus")
 
+    def test_of_reading_an_announcement(self):
+        self.assert_at_most(1.3, counts.instructions, "announce-read", "announce-read-sd-bus")
+
     def test_of_a_request_with_libusb_from_cold(self):
         for ours in ("send-again", "set"):
             self.assert_at_least(30, counts.instructions, "libusb", ours)
