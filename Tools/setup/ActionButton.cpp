@@ -43,7 +43,7 @@ void ActionButton::paintEvent(QPaintEvent * /*event*/) {
     DrawArrow(painter, {arrow, height() / 2.0}, false, theme.text);
     painter.setPen(theme.text);
   }
-  painter.drawText(letters, Qt::AlignCenter | Qt::TextShowMnemonic, text());
+  painter.drawText(letters, Qt::AlignCenter | MnemonicFlag(), text());
   DrawFocusRing(painter, *this, area, corner);
 }
 

@@ -1,23 +1,13 @@
 #include "Card.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 
 namespace setup {
 
-QuietLabel::QuietLabel(const QString &text, QWidget *parent) : QLabel(text, parent) { Dress(); }
-
-void QuietLabel::changeEvent(QEvent *event) {
-  QLabel::changeEvent(event);
-  if (event->type() == QEvent::ApplicationPaletteChange) Dress();
-}
-
-void QuietLabel::Dress() {
+QuietLabel::QuietLabel(const QString &text, QWidget *parent) : QLabel(text, parent) {
   setFont(ScaledFont(0.92));
-  QPalette colours = palette();
-  colours.setColor(QPalette::WindowText, CurrentTheme().quietText);
-  setPalette(colours);
+  setForegroundRole(kQuietRole);
 }
 
 Card::Card(const QString &title, QWidget *parent)
@@ -63,11 +53,6 @@ void Card::paintEvent(QPaintEvent * /*event*/) {
   painter.setBrush(mark_ != nullptr && isWashed_ ? mark_->wash : theme.card);
   const QRectF area = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
   painter.drawRoundedRect(area, ScaledReal(12), ScaledReal(12));
-}
-
-void Card::changeEvent(QEvent *event) {
-  QWidget::changeEvent(event);
-  if (event->type() == QEvent::ApplicationPaletteChange) update();
 }
 
 }  // namespace setup

@@ -28,7 +28,6 @@ class Card : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent *event) override;
-  void changeEvent(QEvent *event) override;
 
  private:
   QVBoxLayout *inner_;
@@ -45,12 +44,6 @@ class QuietLabel : public QLabel {
 
  public:
   explicit QuietLabel(const QString &text = {}, QWidget *parent = nullptr);
-
- protected:
-  void changeEvent(QEvent *event) override;
-
- private:
-  void Dress();
 };
 
 }  // namespace setup

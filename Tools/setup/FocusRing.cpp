@@ -13,7 +13,8 @@ bool isKeyboardUsed = false;
 void NoteUse(bool isKeyboard) {
   if (isKeyboard == isKeyboardUsed) return;
   isKeyboardUsed = isKeyboard;
-  if (QWidget *focused = QApplication::focusWidget()) focused->update();
+  // Mnemonics are underlined everywhere, or no more.
+  for (QWidget *widget : QApplication::allWidgets()) widget->update();
 }
 
 }  // namespace
@@ -28,6 +29,8 @@ bool KeyboardUse::eventFilter(QObject *watched, QEvent *event) {
   }
   return QObject::eventFilter(watched, event);
 }
+
+int MnemonicFlag() { return isKeyboardUsed ? Qt::TextShowMnemonic : Qt::TextHideMnemonic; }
 
 void DrawFocusRing(QPainter &painter, const QWidget &control, const QRectF &around, double corner) {
   if (!isKeyboardUsed || !control.hasFocus()) return;

@@ -16,6 +16,9 @@ class KeyboardUse : public QObject {
   bool eventFilter(QObject *watched, QEvent *event) override;
 };
 
+/// How a text with a mnemonic is drawn: underlined for those who use keys.
+int MnemonicFlag();
+
 /// Draws the ring around a control that has the focus, for those who use keys.
 void DrawFocusRing(QPainter &painter, const QWidget &control, const QRectF &around, double corner);
 

@@ -1,7 +1,6 @@
 #include "Header.h"
 
 #include <QCoreApplication>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -97,7 +96,8 @@ Header::Header(QWidget *parent)
   row->addStretch();
   row->addWidget(profiles_, 0, Qt::AlignVCenter);
   row->addWidget(more_, 0, Qt::AlignVCenter);
-  Dress();
+  name_->setFont(ScaledFont(1.5, QFont::Bold));
+  details_->setForegroundRole(kQuietRole);
 }
 
 void Header::Refresh(const SetupState &state) {
@@ -106,8 +106,15 @@ void Header::Refresh(const SetupState &state) {
   const Health health = HealthOf(state.LastLook());
   if (health == health_) return;
   health_ = health;
-  Dress();
+  details_->setForegroundRole(health == Health::kBad ? kWarningRole : kQuietRole);
   update();
+}
+
+void Header::ShowProfile(const QString &profile) {
+  profiles_->setText(profile.isEmpty() ? tr("Pro&files") : QString(profile).replace('&', "&&"));
+  profiles_->setAccessibleName(profile.isEmpty() ? tr("Profiles")
+                                                 : tr("Profiles: %1").arg(profile));
+  profiles_->updateGeometry();
 }
 
 void Header::paintEvent(QPaintEvent * /*event*/) {
@@ -128,20 +135,6 @@ void Header::paintEvent(QPaintEvent * /*event*/) {
   painter.drawEllipse(middle, ScaledReal(8), ScaledReal(8));
   painter.setBrush(colour);
   painter.drawEllipse(middle, ScaledReal(5), ScaledReal(5));
-}
-
-void Header::changeEvent(QEvent *event) {
-  QWidget::changeEvent(event);
-  if (event->type() == QEvent::ApplicationPaletteChange) Dress();
-}
-
-void Header::Dress() {
-  const Theme &theme = CurrentTheme();
-  name_->setFont(ScaledFont(1.5, QFont::Bold));
-  QPalette colours = details_->palette();
-  colours.setColor(QPalette::WindowText,
-                   health_ == Health::kBad ? theme.warningText : theme.quietText);
-  details_->setPalette(colours);
 }
 
 }  // namespace setup

@@ -21,16 +21,16 @@ class Header : public QWidget {
 
   void Refresh(const SetupState &state);
 
+  /// Shows the profile that is in use; empty for none.
+  void ShowProfile(const QString &profile);
+
   ActionButton &ProfilesButton() { return *profiles_; }
   ActionButton &MoreButton() { return *more_; }
 
  protected:
   void paintEvent(QPaintEvent *event) override;
-  void changeEvent(QEvent *event) override;
 
  private:
-  void Dress();
-
   Health health_ = Health::kAway;
   QLabel *name_;
   QLabel *details_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "client/AutoApply.h"
 #include "client/MixerChecks.h"
 
 namespace setup {
@@ -75,6 +76,7 @@ std::vector<StoredChoice> LookAtStored(const client::Model &model) {
 Look LookAround(const client::Model &usual) {
   const client::Delivery reachable = client::Reachable();
   Look look{.isConnected = reachable.isConnected, .mixers = reachable.mixers};
+  look.isAutoApplyOn = client::IsAutoApplyOn();
   look.model = &ModelOf(look.mixers, usual);
   look.stored = LookAtStored(*look.model);
   // With nobody to ask, these checks do not wait.

@@ -33,6 +33,8 @@ struct Look {
   /// Those that the system lists, and whether they may be opened.
   std::vector<client::MixerResult> mixers = {};
   std::vector<StoredChoice> stored = {};
+  /// Whether the user wants the settings sent to a mixer that is plugged in.
+  bool isAutoApplyOn = true;
   /// What was checked on the way to the mixers; empty when nothing keeps them from being asked.
   std::vector<client::Check> checks = {};
   /// Whether the mixers were asked; what follows is empty before.

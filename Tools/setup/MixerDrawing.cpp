@@ -325,8 +325,7 @@ void MixerDrawing::resizeEvent(QResizeEvent *event) {
 
 void MixerDrawing::changeEvent(QEvent *event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::ApplicationPaletteChange ||
-      event->type() == QEvent::LayoutDirectionChange) {
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::LayoutDirectionChange) {
     picture_ = {};
     update();
   }

@@ -122,7 +122,7 @@ void SettingCard::ShowElsewhere() {
 void SettingCard::Choose(int index) {
   glow_.stop();
   note_.stop();
-  warning_->SetOpen(true);
+  Q_EMIT Touched();
   state_.Choose(setting_, index);
 }
 

@@ -32,6 +32,8 @@ class SettingCard : public Card {
   void ShowElsewhere();
 
  Q_SIGNALS:
+  /// The user has chosen something here.
+  void Touched();
   /// The mouse or an open list is at this card, and at a choice, if at one.
   void PointedAt(bool isPointed, std::optional<int> choice);
 

@@ -10,6 +10,9 @@ namespace {
 constexpr std::chrono::milliseconds kBetweenSelectorLooks{1500};
 constexpr std::chrono::milliseconds kBetweenSilentLooks{8000};
 
+/// How long the service manager may need after a mixer was plugged in.
+constexpr std::chrono::milliseconds kUntilPlugInSent{4000};
+
 /// How many steps can be undone.
 constexpr std::size_t kUndoSteps = 100;
 
@@ -45,12 +48,17 @@ SetupState::SetupState(const client::Model &usual, int32_t language)
   Show(usual);
   selectorTimer_.setInterval(kBetweenSelectorLooks);
   silentTimer_.setInterval(kBetweenSilentLooks);
+  plugTimer_.setSingleShot(true);
+  connect(&plugTimer_, &QTimer::timeout, this, &SetupState::TellWhatPlugInSent);
   connect(&selectorTimer_, &QTimer::timeout, this, &SetupState::LookAgain);
   connect(&silentTimer_, &QTimer::timeout, this, &SetupState::LookAgain);
   connect(&listener_, &ChangeListener::Announced, this, [this](const client::Setting &setting) {
     if (setting.model == model_) LookAtFiles();
   });
-  connect(&listener_, &ChangeListener::FilesChanged, this, &SetupState::LookAtFiles);
+  connect(&listener_, &ChangeListener::FilesChanged, this, [this] {
+    LookAtFiles();
+    Q_EMIT FilesChanged();
+  });
   connect(&listener_, &ChangeListener::MixersChanged, this, &SetupState::LookAgain);
   connect(&listener_, &ChangeListener::BusReached, this, [this](bool isReached) {
     if (isReached == isBusReached_) return;
@@ -64,6 +72,7 @@ SetupState::SetupState(const client::Model &usual, int32_t language)
 void SetupState::Start() {
   CheckStorage();
   LookAgain();
+  CheckAutoApply();
   listener_.Start();
 }
 
@@ -135,6 +144,7 @@ void SetupState::Send(ShownSetting &shown, int32_t index) {
   const unsigned order = ++lastOrder_;
   shown.index = index;
   shown.order = order;
+  DropWarnings();
   sender_.Run(
       KeyOf(setting), this,
       [setting, index] {
@@ -195,9 +205,20 @@ void SetupState::LookAgain() {
 }
 
 void SetupState::LookAtFiles() {
+  struct Files {
+    std::vector<StoredChoice> stored;
+    bool isAutoApplyOn;
+  };
   sender_.Run(
-      "files", this, [model = model_] { return LookAtStored(*model); },
-      [this](const std::vector<StoredChoice> &stored) { TakeStored(stored); });
+      "files", this,
+      [model = model_] {
+        return Files{LookAtStored(*model), client::IsAutoApplyOn()};
+      },
+      [this](const Files &files) {
+        TakeStored(files.stored);
+        if (std::exchange(look_.isAutoApplyOn, files.isAutoApplyOn) == files.isAutoApplyOn) return;
+        Q_EMIT Changed();
+      });
 }
 
 void SetupState::CheckStorage() {
@@ -208,10 +229,44 @@ void SetupState::CheckStorage() {
   });
 }
 
+void SetupState::TurnAutoApply(bool on) {
+  look_.isAutoApplyOn = on;
+  sender_.Run(
+      "auto-apply", this, [on] { return client::TurnAutoApply(on); },
+      [this](int reason) {
+        if (reason != 0) Q_EMIT Told(NotTurnedAsText(reason));
+        LookAgain();
+      });
+  Q_EMIT Changed();
+}
+
+void SetupState::CheckAutoApply() {
+  sender_.Run("obstacle", this, client::ObstacleToAutoApply,
+              [this](client::AutoApplyObstacle obstacle) {
+                autoApplyObstacle_ = obstacle;
+                Q_EMIT Changed();
+              });
+}
+
+// The service manager sends, and says in the journal what it did.
+void SetupState::TellWhatPlugInSent() {
+  sender_.Run("run", this, client::LastAutoApplyRun,
+              [this](const std::optional<client::AutoApplyRun> &run) {
+                constexpr std::chrono::seconds kRecent{30};
+                if (run && std::chrono::system_clock::now() - run->time < kRecent) {
+                  Q_EMIT Told(AutoApplyRunAsText(*run));
+                }
+              });
+}
+
 void SetupState::TakeLook(const Look &look) {
   const bool isOtherModel = look.model != model_;
   if (isOtherModel) Show(*look.model);
   const Look former = std::exchange(look_, look);
+  const bool isPlugged = isReady_ && look.mixers.size() > former.mixers.size();
+  const bool isSentByItself =
+      look.isAutoApplyOn && autoApplyObstacle_ == client::AutoApplyObstacle::kNone;
+  if (isPlugged && isSentByItself) plugTimer_.start(kUntilPlugInSent);
   if (!look.isAsked && HaveSameMixers(former, look)) {
     look_.isAsked = former.isAsked;
     look_.silent = former.silent;
@@ -238,10 +293,22 @@ void SetupState::TakeStored(const std::vector<StoredChoice> &stored) {
     ShownSetting *shown = Editable(choice.setting);
     if (shown == nullptr || shown->IsSending() || shown->index == choice.index) continue;
     shown->index = shown->stored = choice.index;
+    DropWarnings();
     Q_EMIT Changed();
     Q_EMIT ChangedElsewhere(choice.setting);
     // A control tone may need a warning now.
     if (IsControlTone(choice.setting, choice.index)) LookAgain();
+  }
+}
+
+// What passes no input selector needs no warning any more.
+void SetupState::DropWarnings() {
+  for (const ShownSetting &shown : settings_) {
+    if (shown.setting.kind->extras.warning == nullptr) continue;
+    if (IsControlTone(shown.setting, shown.index)) continue;
+    std::erase_if(look_.warnings, [&shown](const Warning &warning) {
+      return warning.channel == shown.setting.channel;
+    });
   }
 }
 

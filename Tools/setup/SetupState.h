@@ -11,7 +11,7 @@
 #include "ChangeListener.h"
 #include "Look.h"
 #include "Sender.h"
-#include "client/Profiles.h"
+#include "client/AutoApply.h"
 
 namespace setup {
 
@@ -70,6 +70,11 @@ class SetupState : public QObject {
   const std::optional<client::Check> &StorageProblem() const { return storageProblem_; }
   bool IsAnySending() const;
 
+  /// Whether the settings are sent to a mixer that is plugged in, and what keeps that from working.
+  bool IsAutoApplyOn() const { return look_.isAutoApplyOn; }
+  client::AutoApplyObstacle ObstacleToAutoApply() const { return autoApplyObstacle_; }
+  void TurnAutoApply(bool on);
+
   /// Shows a choice and sends it. What is chosen already is left alone.
   void Choose(const client::Setting &setting, int32_t index);
   /// Shows and sends several choices, one after the other; undone in one step.
@@ -96,6 +101,8 @@ class SetupState : public QObject {
   void ChangedElsewhere(const client::Setting &setting);
   /// Something to tell for a moment.
   void Told(const QString &text);
+  /// Something was written to the folders of settings or profiles.
+  void FilesChanged();
   /// The first look is there.
   void Ready();
 
@@ -112,9 +119,12 @@ class SetupState : public QObject {
   void TakeSent(const client::Setting &setting, unsigned order, const StoreResult &result);
   void TakeLook(const Look &look);
   void TakeStored(const std::vector<StoredChoice> &stored);
+  void DropWarnings();
   void TakeAnswers();
   void LookAtFiles();
   void CheckStorage();
+  void CheckAutoApply();
+  void TellWhatPlugInSent();
   void UpdateTimers();
 
   const client::Model *usual_;
@@ -127,10 +137,12 @@ class SetupState : public QObject {
   bool isSilent_ = false;
   bool isWatched_ = true;
   std::optional<client::Check> storageProblem_;
+  client::AutoApplyObstacle autoApplyObstacle_ = client::AutoApplyObstacle::kNone;
   unsigned lastOrder_ = 0;
   std::vector<std::vector<Change>> undo_;
   QTimer selectorTimer_;
   QTimer silentTimer_;
+  QTimer plugTimer_;
   ChangeListener listener_;
   // Last, so that no job hands a result to what is gone.
   Sender sender_;

@@ -1,10 +1,11 @@
 #include "SetupWindow.h"
 
 #include <QAction>
+#include <QDropEvent>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QMenu>
-#include <QPainter>
+#include <QMimeData>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
@@ -12,6 +13,7 @@
 
 #include "CheckWords.h"
 #include "DetailsDialog.h"
+#include "VersionsDialog.h"
 #include "Words.h"
 
 namespace setup {
@@ -67,7 +69,10 @@ MixerLook LookOf(const SetupState &state) {
 }  // namespace
 
 SetupWindow::SetupWindow(SetupState &state)
-    : state_(state), header_(new Header(this)), status_(new StatusLine(this)) {
+    : state_(state),
+      header_(new Header(this)),
+      status_(new StatusLine(this)),
+      profiles_(new ProfileShelf(state)) {
   setObjectName("setupWindow");
   setWindowTitle(tr("TRX Setup"));
   auto *column = new QVBoxLayout(this);
@@ -75,10 +80,11 @@ SetupWindow::SetupWindow(SetupState &state)
   column->setSpacing(Scaled(8));
   column->addWidget(header_);
   column->addWidget(status_);
+  AddProfiles();
+  FillMoreMenu();
   BuildCards();
   AddShortcuts();
-  FillMoreMenu();
-  resize(ScaledSize(HasRouting(state) ? kSize : kSizeWithoutRouting));
+  setAcceptDrops(true);
   connect(&state, &SetupState::Changed, this, &SetupWindow::Refresh);
   connect(&state, &SetupState::ModelChanged, this, &SetupWindow::BuildCards);
   connect(&state, &SetupState::Told, status_, &StatusLine::Tell);
@@ -108,9 +114,9 @@ void SetupWindow::BuildCards() {
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setWidgetResizable(true);
   scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  scroll->setFixedWidth(Scaled(kRecordingWidth));
   scroll->setFocusPolicy(Qt::NoFocus);
   scroll->setWidget(MakeRecordingColumn());
+  scroll->setFixedWidth(qMax(Scaled(kRecordingWidth), scroll->widget()->minimumSizeHint().width()));
   scroll->viewport()->setAutoFillBackground(false);
   scroll->widget()->setAutoFillBackground(false);
   connect(scroll->verticalScrollBar(), &QScrollBar::valueChanged, this,
@@ -134,20 +140,28 @@ void SetupWindow::BuildCards() {
           });
   connect(trouble_, &TroubleCard::DetailsWanted, this, &SetupWindow::ShowDetails);
   drawing_->installEventFilter(this);
+  trouble_->installEventFilter(this);
   for (SettingCard *card : cards_) card->installEventFilter(this);
+  const auto recording = state_.SettingsOfKind("input");
+  for (SettingCard *card : cards_) {
+    card->SetWarningOpen(!recording.empty() && IsSame(card->Setting(), recording.front()->setting));
+  }
   const bool hasRouting = HasRouting(state_);
   setMinimumSize(ScaledSize(hasRouting ? kSmallest : kSmallestWithoutRouting));
+  if (!isVisible()) resize(ScaledSize(hasRouting ? kSize : kSizeWithoutRouting));
   Refresh();
 }
 
 CardColumn *SetupWindow::MakePlaybackColumn() {
   auto *column = new CardColumn(tr("Computer &plays"), tr("to this mixer channel"), body_);
-  column->setFixedWidth(Scaled(kPlaybackWidth));
   for (const ShownSetting *shown : state_.SettingsOfKind("output")) {
     AddCard(*column, shown->setting);
   }
-  if (!cards_.empty()) column->SetBuddy(cards_.front()->Control());
+  column->SetBuddy(cards_.front()->Control());
   column->AddRoom();
+  pluggedIn_ = new PluggedInCard(state_, column);
+  column->Add(pluggedIn_);
+  column->setFixedWidth(qMax(Scaled(kPlaybackWidth), column->minimumSizeHint().width()));
   return column;
 }
 
@@ -161,6 +175,10 @@ CardColumn *SetupWindow::MakeRecordingColumn() {
     SettingCard *card = AddCard(*column, shown.setting);
     if (std::exchange(isFirst, false)) column->SetBuddy(card->Control());
   }
+  if (state_.SettingsOfKind("output").empty()) {
+    pluggedIn_ = new PluggedInCard(state_, column);
+    column->Add(pluggedIn_);
+  }
   column->AddRoom();
   return column;
 }
@@ -173,6 +191,7 @@ SettingCard *SetupWindow::AddCard(CardColumn &column, const client::Setting &set
           [this, card](bool isPointed, std::optional<int> choice) {
             PointAt(*card, isPointed, choice);
           });
+  connect(card, &SettingCard::Touched, this, [this, card] { OpenWarningOf(card); });
   return card;
 }
 
@@ -183,6 +202,7 @@ void SetupWindow::AddShortcuts() {
   add(QKeySequence::Undo, [this] { state_.Undo(); });
   add(QKeySequence(Qt::Key_F5), [this] { state_.LookAgain(); });
   add(QKeySequence(Qt::Key_F1), [this] { ShowDetails(); });
+  add(QKeySequence::Save, [this] { profileMenu_->AskAndSave(); });
   add(QKeySequence::Quit, [this] { close(); });
 }
 
@@ -191,14 +211,47 @@ void SetupWindow::FillMoreMenu() {
   menu->setObjectName("moreMenu");
   QAction *undo = menu->addAction(tr("&Undo"), &state_, &SetupState::Undo);
   menu->addAction(tr("&Send all settings again"), &state_, &SetupState::SendAllAgain);
+  menu->addAction(tr("&Look again"), &state_, &SetupState::LookAgain);
+  menu->addSeparator();
   menu->addAction(tr("&Why is my mixer not found?"), this, &SetupWindow::ShowDetails);
+  menu->addAction(tr("&About and versions"), this,
+                  [this] { (new VersionsDialog(state_, this))->open(); });
   connect(menu, &QMenu::aboutToShow, this, [this, undo] { undo->setEnabled(state_.CanUndo()); });
   header_->MoreButton().setMenu(menu);
+}
+
+void SetupWindow::AddProfiles() {
+  profileMenu_ = new ProfileMenu(*profiles_, &header_->ProfilesButton());
+  header_->ProfilesButton().setMenu(profileMenu_);
+  connect(profiles_, &ProfileShelf::Changed, this, &SetupWindow::RefreshProfiles);
+  connect(profiles_, &ProfileShelf::Told, status_, &StatusLine::Tell);
+  profiles_->LookAgain();
+}
+
+void SetupWindow::RefreshProfiles() {
+  const QString current = profiles_->Current();
+  header_->ShowProfile(profiles_->IsChanged() ? current + " •" : current);
+}
+
+// The text of one warning is enough to read at a time: that of the channel touched last.
+void SetupWindow::OpenWarningOf(const SettingCard *touched) {
+  for (SettingCard *card : cards_) card->SetWarningOpen(card == touched);
+}
+
+void SetupWindow::dragEnterEvent(QDragEnterEvent *event) {
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void SetupWindow::dropEvent(QDropEvent *event) {
+  for (const QUrl &url : event->mimeData()->urls()) {
+    if (url.isLocalFile()) profiles_->Import(url.toLocalFile(), client::OldFile::kIsKept);
+  }
 }
 
 void SetupWindow::Refresh() {
   header_->Refresh(state_);
   for (SettingCard *card : cards_) card->Refresh();
+  if (pluggedIn_ != nullptr) pluggedIn_->Refresh();
   trouble_->Refresh(state_);
   PlaceTrouble();
   RefreshDrawing();
@@ -230,9 +283,10 @@ void SetupWindow::PlaceTrouble() {
   if (trouble_->isHidden()) return;
   const QRectF body = drawing_->Body();
   const int width = static_cast<int>(body.width()) - Scaled(44);
-  trouble_->setFixedWidth(width);
-  const int height = trouble_->heightForWidth(width);
-  trouble_->setFixedHeight(qMax(height, trouble_->minimumSizeHint().height()));
+  // Before the first layout there is no room for anything.
+  if (width <= 0) return;
+  trouble_->layout()->activate();
+  trouble_->resize(width, trouble_->layout()->totalHeightForWidth(width));
   trouble_->move(static_cast<int>(body.center().x()) - width / 2,
                  static_cast<int>(body.center().y()) - trouble_->height() / 2);
 }
@@ -310,16 +364,13 @@ void SetupWindow::ChooseSocket(Direction direction, int channel, const Socket &s
 
 void SetupWindow::ShowDetails() { (new DetailsDialog(state_, this))->open(); }
 
-void SetupWindow::NoteVisibility() {
-  state_.SetWatched(isVisible() && !isMinimized() && isActiveWindow());
-}
+void SetupWindow::NoteVisibility() { state_.SetWatched(isVisible() && !isMinimized()); }
 
 bool SetupWindow::eventFilter(QObject *watched, QEvent *event) {
   // Cards move when a warning opens, and the drawing grows with the window.
-  if (event->type() == QEvent::Resize || event->type() == QEvent::Move) {
-    RefreshDrawing();
-    PlaceTrouble();
-  }
+  if (event->type() == QEvent::Resize || event->type() == QEvent::Move) RefreshDrawing();
+  // The lines of the checks count once they are shown.
+  if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) PlaceTrouble();
   return QWidget::eventFilter(watched, event);
 }
 
@@ -331,7 +382,7 @@ void SetupWindow::resizeEvent(QResizeEvent *event) {
 
 void SetupWindow::changeEvent(QEvent *event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::ActivationChange || event->type() == QEvent::WindowStateChange) {
+  if (event->type() == QEvent::WindowStateChange) {
     NoteVisibility();
   }
 }

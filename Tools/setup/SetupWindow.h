@@ -7,6 +7,9 @@
 #include "CardColumn.h"
 #include "Header.h"
 #include "MixerDrawing.h"
+#include "PluggedInCard.h"
+#include "ProfileMenu.h"
+#include "ProfileShelf.h"
 #include "SetupState.h"
 #include "StatusLine.h"
 #include "TroubleCard.h"
@@ -27,6 +30,8 @@ class SetupWindow : public QWidget {
   void showEvent(QShowEvent *event) override;
   void hideEvent(QHideEvent *event) override;
   bool eventFilter(QObject *watched, QEvent *event) override;
+  void dragEnterEvent(QDragEnterEvent *event) override;
+  void dropEvent(QDropEvent *event) override;
 
  private:
   /// A choice that an open list or the mouse is at.
@@ -41,6 +46,9 @@ class SetupWindow : public QWidget {
   SettingCard *AddCard(CardColumn &column, const client::Setting &setting);
   void AddShortcuts();
   void FillMoreMenu();
+  void AddProfiles();
+  void RefreshProfiles();
+  void OpenWarningOf(const SettingCard *card);
   void Refresh();
   void RefreshDrawing();
   void RefreshStatus();
@@ -60,6 +68,9 @@ class SetupWindow : public QWidget {
   TroubleCard *trouble_ = nullptr;
   StatusLine *status_;
   std::vector<SettingCard *> cards_;
+  PluggedInCard *pluggedIn_ = nullptr;
+  ProfileShelf *profiles_;
+  ProfileMenu *profileMenu_ = nullptr;
   std::optional<Preview> preview_;
 };
 

@@ -1,7 +1,6 @@
 #include "StatusLine.h"
 
 #include <QAccessible>
-#include <QEvent>
 #include <chrono>
 
 #include "Theme.h"
@@ -20,7 +19,9 @@ StatusLine::StatusLine(QWidget *parent) : QLabel(parent) {
     told_.clear();
     Refresh();
   });
-  Dress();
+  setMinimumHeight(Scaled(20));
+  setFont(ScaledFont(0.95));
+  setForegroundRole(kQuietRole);
 }
 
 void StatusLine::Tell(const QString &text) {
@@ -44,19 +45,6 @@ void StatusLine::Refresh() {
   QAccessible::updateAccessibility(&changed);
   QAccessibleEvent alert(this, QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);
-}
-
-void StatusLine::changeEvent(QEvent *event) {
-  QLabel::changeEvent(event);
-  if (event->type() == QEvent::ApplicationPaletteChange) Dress();
-}
-
-void StatusLine::Dress() {
-  setMinimumHeight(Scaled(20));
-  setFont(ScaledFont(0.95));
-  QPalette colours = palette();
-  colours.setColor(QPalette::WindowText, CurrentTheme().quietText);
-  setPalette(colours);
 }
 
 }  // namespace setup

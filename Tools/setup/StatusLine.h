@@ -16,12 +16,8 @@ class StatusLine : public QLabel {
   void Tell(const QString &text);
   void SetLasting(const QString &text);
 
- protected:
-  void changeEvent(QEvent *event) override;
-
  private:
   void Refresh();
-  void Dress();
 
   QString told_;
   QString lasting_;

@@ -88,8 +88,8 @@ Theme &Used() {
 
 /// The size of the user's letters, compared with the one that all lengths are given for.
 double LetterScale() {
-  constexpr double kPoints = 10;
-  return std::max(0.8, QFontInfo(QApplication::font()).pointSizeF() / kPoints);
+  constexpr double kPixels = 13.3;  // ten points on an ordinary screen
+  return std::max(0.8, QFontInfo(QApplication::font()).pixelSize() / kPixels);
 }
 
 }  // namespace
@@ -105,10 +105,10 @@ QPalette Theme::Palette() const {
   palette.setColor(QPalette::Base, card);
   palette.setColor(QPalette::AlternateBase, field);
   palette.setColor(QPalette::Text, text);
-  palette.setColor(QPalette::PlaceholderText, quietText);
+  palette.setColor(kQuietRole, quietText);
   palette.setColor(QPalette::Button, field);
   palette.setColor(QPalette::ButtonText, text);
-  palette.setColor(QPalette::BrightText, text);
+  palette.setColor(kWarningRole, warningText);
   palette.setColor(QPalette::Light, fieldHover);
   palette.setColor(QPalette::Midlight, field);
   palette.setColor(QPalette::Mid, cardBorder);

@@ -48,6 +48,10 @@ struct Theme {
   QPalette Palette() const;
 };
 
+/// The places of the palette that hold the colours of quiet texts and of warnings.
+inline constexpr QPalette::ColorRole kQuietRole = QPalette::PlaceholderText;
+inline constexpr QPalette::ColorRole kWarningRole = QPalette::BrightText;
+
 /// The colours in use.
 const Theme &CurrentTheme();
 

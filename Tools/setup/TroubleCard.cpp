@@ -1,7 +1,6 @@
 #include "TroubleCard.h"
 
 #include <QClipboard>
-#include <QEvent>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -81,7 +80,10 @@ TroubleCard::TroubleCard(QWidget *parent)
   connect(copy_, &QPushButton::clicked, this,
           [this] { QGuiApplication::clipboard()->setText(command_->text()); });
   connect(details_, &QPushButton::clicked, this, &TroubleCard::DetailsWanted);
-  Dress();
+  title_->setFont(ScaledFont(1.15, QFont::DemiBold));
+  QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  fixed.setPointSizeF(ScaledFont(0.85).pointSizeF());
+  command_->setFont(fixed);
   hide();
 }
 
@@ -117,18 +119,6 @@ void TroubleCard::paintEvent(QPaintEvent * /*event*/) {
   painter.setBrush(theme.card);
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), ScaledReal(12),
                           ScaledReal(12));
-}
-
-void TroubleCard::changeEvent(QEvent *event) {
-  QWidget::changeEvent(event);
-  if (event->type() == QEvent::ApplicationPaletteChange) Dress();
-}
-
-void TroubleCard::Dress() {
-  title_->setFont(ScaledFont(1.15, QFont::DemiBold));
-  QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-  fixed.setPointSizeF(ScaledFont(0.85).pointSizeF());
-  command_->setFont(fixed);
 }
 
 }  // namespace setup

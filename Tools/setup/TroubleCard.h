@@ -24,11 +24,9 @@ class TroubleCard : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent *event) override;
-  void changeEvent(QEvent *event) override;
 
  private:
   void ShowChecks(const std::vector<client::Check> &checks);
-  void Dress();
 
   QLabel *title_;
   QLabel *text_;

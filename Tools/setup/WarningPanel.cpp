@@ -1,6 +1,5 @@
 #include "WarningPanel.h"
 
-#include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QVBoxLayout>
@@ -37,12 +36,29 @@ WarningLine::WarningLine(QWidget *parent) : QPushButton(parent) {
   setChecked(true);
   setFont(ScaledFont(1, QFont::DemiBold));
   setFocusPolicy(Qt::StrongFocus);
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  policy.setHeightForWidth(true);
+  setSizePolicy(policy);
+}
+
+QRect WarningLine::TextArea(const QRect &area) const {
+  const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+  const int before = Scaled(kMargin + kSign + 6);
+  const int after = Scaled(kArrowRoom);
+  return area.adjusted(isMirrored ? after : before, 0, isMirrored ? -before : -after, 0);
 }
 
 QSize WarningLine::sizeHint() const {
-  return {fontMetrics().horizontalAdvance(text()) + Scaled(2 * kMargin + kSign + kArrowRoom),
-          fontMetrics().height() + Scaled(12)};
+  return {minimumSizeHint().width(), fontMetrics().height() + Scaled(12)};
+}
+
+QSize WarningLine::minimumSizeHint() const {
+  return {Scaled(2 * kMargin + kSign + kArrowRoom), fontMetrics().height() + Scaled(12)};
+}
+
+int WarningLine::heightForWidth(int width) const {
+  const QRect room = TextArea({0, 0, width, QWIDGETSIZE_MAX});
+  return fontMetrics().boundingRect(room, Qt::TextWordWrap, text()).height() + Scaled(12);
 }
 
 void WarningLine::paintEvent(QPaintEvent * /*event*/) {
@@ -57,11 +73,8 @@ void WarningLine::paintEvent(QPaintEvent * /*event*/) {
             CurrentTheme().warningText);
   painter.setFont(font());
   painter.setPen(CurrentTheme().warningText);
-  const int beforeText = Scaled(kMargin + kSign + 6);
-  const int afterText = Scaled(kArrowRoom);
-  painter.drawText(rect().adjusted(isMirrored ? afterText : beforeText, 0,
-                                   isMirrored ? -beforeText : -afterText, 0),
-                   Qt::AlignVCenter | Qt::AlignLeading, text());
+  painter.drawText(TextArea(rect()), Qt::AlignVCenter | Qt::AlignLeading | Qt::TextWordWrap,
+                   text());
   DrawFocusRing(painter, *this, QRectF(rect()).adjusted(3, 2, -3, -2), ScaledReal(6));
 }
 
@@ -80,7 +93,8 @@ WarningPanel::WarningPanel(QWidget *parent)
     text_->setVisible(isOpen);
     line_->update();
   });
-  Dress();
+  text_->setFont(ScaledFont(0.94));
+  text_->setForegroundRole(kWarningRole);
   hide();
 }
 
@@ -106,18 +120,6 @@ void WarningPanel::paintEvent(QPaintEvent * /*event*/) {
   painter.setPen(QPen(CurrentTheme().warning.line, 1));
   painter.setBrush(CurrentTheme().warning.fill);
   painter.drawPath(path);
-}
-
-void WarningPanel::changeEvent(QEvent *event) {
-  QWidget::changeEvent(event);
-  if (event->type() == QEvent::ApplicationPaletteChange) Dress();
-}
-
-void WarningPanel::Dress() {
-  text_->setFont(ScaledFont(0.94));
-  QPalette colours = text_->palette();
-  colours.setColor(QPalette::WindowText, CurrentTheme().warningText);
-  text_->setPalette(colours);
 }
 
 }  // namespace setup

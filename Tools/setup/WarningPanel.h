@@ -16,9 +16,16 @@ class WarningLine : public QPushButton {
   explicit WarningLine(QWidget *parent = nullptr);
 
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+  bool hasHeightForWidth() const override { return true; }
+  int heightForWidth(int width) const override;
 
  protected:
   void paintEvent(QPaintEvent *event) override;
+
+ private:
+  /// Where the text stands, between the sign and the arrow.
+  QRect TextArea(const QRect &area) const;
 };
 
 /// A warning at the foot of a card: a line with a sign, and what to do below it.
@@ -34,11 +41,8 @@ class WarningPanel : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent *event) override;
-  void changeEvent(QEvent *event) override;
 
  private:
-  void Dress();
-
   WarningLine *line_;
   QLabel *text_;
 };

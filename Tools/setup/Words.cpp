@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <cstring>
 
 namespace setup {
 namespace {
@@ -113,6 +114,15 @@ QString SentAllAsText(const SentAll &all) {
   QStringList names;
   for (const client::Setting &setting : all.failed) names << SettingAsText(setting);
   return Words::tr("Sent all but these; choose them anew: %1.").arg(names.join(Words::tr(", ")));
+}
+
+QString NotTurnedAsText(int reason) {
+  return Words::tr("This could not be changed: %1.")
+      .arg(QString::fromLocal8Bit(std::strerror(reason)));
+}
+
+QString AutoApplyRunAsText(const client::AutoApplyRun &run) {
+  return Words::tr("A mixer was plugged in: %1").arg(QString::fromStdString(run.line));
 }
 
 QString FirmwareAsText(uint32_t firmware) {

@@ -33,6 +33,12 @@ QString SentAsText(const client::SendResult &result);
 /// What became of all settings that were sent again.
 QString SentAllAsText(const SentAll &all);
 
+/// Why the switch for plugged in mixers did not move.
+QString NotTurnedAsText(int reason);
+
+/// What was sent to a mixer that was plugged in.
+QString AutoApplyRunAsText(const client::AutoApplyRun &run);
+
 /// The firmware's number as the mixer writes it: 0x0100 is 1.00.
 QString FirmwareAsText(uint32_t firmware);
 

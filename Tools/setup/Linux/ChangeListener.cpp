@@ -12,7 +12,9 @@
 
 #include <TRX-SELVASetup/EventLoop.h>
 
+#include "client/AutoApply.h"
 #include "client/MixerWatch.h"
+#include "client/Profiles.h"
 #include "client/SessionBus.h"
 #include "client/StoredSettings.h"
 
@@ -104,16 +106,29 @@ class Listening {
     if (--looksLeft_ > 0) laterLook_.start(kPauseBetweenLooks);
   }
 
-  // The folder may be made later: then the nearest one above it is watched until it is there.
   void WatchFolders() {
-    const auto file = client::SettingsFileOf(client::DefaultModel());
-    if (!file) return;
-    QString folder = QFileInfo(QFile::decodeName(file->c_str())).path();
+    const QStringList former = folders_.directories();
+    QStringList wanted;
+    for (const auto &file : {client::SettingsFileOf(client::DefaultModel()),
+                             client::AutoApplyOffFile(), client::ProfilesFolder()}) {
+      if (file) wanted << NearestFolder(QFile::decodeName(file->c_str()));
+    }
+    wanted.removeDuplicates();
+    for (const QString &folder : former) {
+      if (!wanted.contains(folder)) folders_.removePath(folder);
+    }
+    for (const QString &folder : wanted) {
+      if (!former.contains(folder)) folders_.addPath(folder);
+    }
+  }
+
+  /// The folder that a file is in; as long as it is not made, the nearest one above it.
+  static QString NearestFolder(const QString &file) {
+    QString folder = QFileInfo(file).path();
     while (!QDir(folder).exists() && folder != QDir::rootPath()) {
       folder = QFileInfo(folder).path();
     }
-    if (!folders_.directories().isEmpty()) folders_.removePaths(folders_.directories());
-    folders_.addPath(folder);
+    return folder;
   }
 
   void TellFiles() {

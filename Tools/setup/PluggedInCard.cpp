@@ -1,0 +1,48 @@
+#include "PluggedInCard.h"
+
+namespace setup {
+namespace {
+
+/// What keeps it from working, for the user.
+QString ObstacleAsText(client::AutoApplyObstacle obstacle) {
+  switch (obstacle) {
+    case client::AutoApplyObstacle::kNone:
+      return {};
+    case client::AutoApplyObstacle::kNoServiceManager:
+      return PluggedInCard::tr("Not possible in this session.");
+    case client::AutoApplyObstacle::kUnitMasked:
+      return PluggedInCard::tr("Turned off by an administrator.");
+    case client::AutoApplyObstacle::kNoUnit:
+    case client::AutoApplyObstacle::kNoRule:
+      break;
+  }
+  return PluggedInCard::tr("Install the package trxctl for this.");
+}
+
+}  // namespace
+
+PluggedInCard::PluggedInCard(SetupState &state, QWidget *parent)
+    : Card(tr("When a mixer is plugged in"), parent),
+      state_(state),
+      switch_(new ToggleSwitch(tr("&Send my settings to it"), this)),
+      obstacle_(new QuietLabel({}, this)) {
+  setObjectName("pluggedInCard");
+  switch_->setObjectName("sendWhenPluggedIn");
+  switch_->setAccessibleDescription(tr("When a mixer is plugged in"));
+  obstacle_->setObjectName("sendWhenPluggedInObstacle");
+  obstacle_->setWordWrap(true);
+  Add(switch_);
+  Add(obstacle_);
+  connect(switch_, &QCheckBox::clicked, &state_, &SetupState::TurnAutoApply);
+  Refresh();
+}
+
+void PluggedInCard::Refresh() {
+  switch_->setChecked(state_.IsAutoApplyOn());
+  const QString obstacle = ObstacleAsText(state_.ObstacleToAutoApply());
+  obstacle_->setText(obstacle);
+  obstacle_->setVisible(!obstacle.isEmpty());
+  switch_->setAccessibleDescription((tr("When a mixer is plugged in") + ". " + obstacle).trimmed());
+}
+
+}  // namespace setup
