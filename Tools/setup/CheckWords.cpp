@@ -149,7 +149,11 @@ QString PartAsText(CheckedPart part) {
 QString CheckAsText(const Check &check) {
   if (check.IsGood()) return GoodAsText(check);
   switch (check.finding) {
+    case Finding::kUsbHidden:
+    case Finding::kNoUsbDevice:
+      return CheckWords::tr("no USB device seen");
     case Finding::kNoMixer:
+    case Finding::kOnlyOtherProducts:
       return CheckWords::tr("but no mixer");
     case Finding::kNoRule:
     case Finding::kRuleWithoutEffect:
