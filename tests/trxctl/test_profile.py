@@ -33,6 +33,11 @@ class ProfileTest(HostTest):
     def names(self):
         return [one["profile"] for one in self.done("profile", "--json").json["profiles"]]
 
+    def files(self):
+        """The files of all profiles with what is in them."""
+        folder = self.profiles()
+        return {file.name: file.read_bytes() for file in folder.iterdir()} if folder.exists() else {}
+
     def save(self, name, settings=None, model="TRX-SELVA"):
         """A profile of these settings, made as a user makes it."""
         if settings is not None:
@@ -49,11 +54,11 @@ class ProfileTest(HostTest):
     def refused(self, words, message, hint, code=3):
         """Runs trxctl, which must fail and leave everything as it was."""
         stored = self.stored()
-        names = self.names()
+        files = self.files()
         self.assert_fails(code, words, message, hint)
         self.assertEqual(self.run_host(*words, "--json").json["error"]["message"], message)
         self.assert_nothing_sent()
-        self.assertEqual((self.stored(), self.names()), (stored, names))
+        self.assertEqual((self.stored(), self.files()), (stored, files))
 
 
 class SavingAndLooking(ProfileTest):
