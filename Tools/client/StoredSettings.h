@@ -12,7 +12,7 @@ namespace client {
 enum class FileProblem {
   kNone,        ///< It can be read, or there is none.
   kNoFile,      ///< Something else stands in its place, such as a folder.
-  kTooLarge,    ///< It is larger than the library reads.
+  kTooLarge,    ///< It is larger than the library reads, or takes too much to be looked into.
   kTooDeep,     ///< Its lists are nested deeper than the library reads.
   kUnreadable,  ///< The system does not let it be read.
   kNoList,      ///< It is no property list with a dictionary in it.
@@ -24,8 +24,7 @@ struct FileState {
   FileProblem problem = FileProblem::kNone;
   /// The system's reason for kUnreadable, where it gives one.
   int reason = 0;
-  /// The keys in it that hold a number. Nothing when the file was not looked into, as it is large
-  /// or binary.
+  /// The keys in it that hold a number. Nothing when the file could not be looked into.
   std::optional<std::vector<std::string>> keys = {};
 };
 

@@ -239,13 +239,23 @@ class Diagnose(HostTest):
         self.assert_problem(self.diagnose(1)["settings files"], "failed", "is no property list",
                             "remove it")
 
-    def test_what_was_not_looked_into_is_not_called_in_good_order(self):
-        self.store({"MaxLevel": 1}, "TRX-VOLT")
+    def test_broken_list_that_is_binary_or_large(self):
         self.store({})
         for contents in (b"bplist00" + b"garbage" * 10, b"garbage" * 10_000):
             self.settings_file().write_bytes(contents)
-            self.assertEqual(self.files(),
-                             "1 file in good order, 1 file without effect on any setting")
+            self.assert_problem(self.diagnose(1)["settings files"], "failed", "is no property list", "remove it")
+
+    def test_list_that_takes_more_memory_than_settings(self):
+        self.store({})
+        # Each array names the next one thirty times.
+        arrays = [bytes([0xAF, 0x10, 30]) + bytes([number + 2] * 30) for number in range(20)]
+        objects = [bytes([0xD1, 1, 2]), b"\x51k", *arrays[1:], b"\x09"]
+        offsets = [8 + sum(map(len, objects[:number])) for number in range(len(objects))]
+        trailer = bytes(6) + bytes([2, 1]) + b"".join(
+            number.to_bytes(8, "big") for number in (len(objects), 0, offsets[-1] + 1))
+        self.settings_file().write_bytes(
+            b"bplist00" + b"".join(objects) + b"".join(at.to_bytes(2, "big") for at in offsets) + trailer)
+        self.assert_keeps_from_storing("is too large for settings")
 
     def test_default_that_is_stored_is_in_good_order(self):
         self.store({"MaxLevel": 3})
