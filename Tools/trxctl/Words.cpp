@@ -81,7 +81,7 @@ std::string Describe(const client::Mixer &mixer) {
 std::string AccessHint(int refusal) {
   if (refusal == EACCES || refusal == EPERM) {
     return "the udev rule that comes with the library lets the user at the desk open mixers; "
-           "once it is installed, plug the mixer in again";
+           "trxctl diagnose tells what to type";
   }
   if (refusal == EBUSY) return "end the program that holds the mixer, then try again";
   return "plug the mixer out and in again, then try again";

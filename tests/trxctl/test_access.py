@@ -5,7 +5,7 @@ import unittest
 from host import HostTest
 
 RULE_HINT = ("the udev rule that comes with the library lets the user at the desk open mixers; "
-             "once it is installed, plug the mixer in again")
+             "trxctl diagnose tells what to type")
 BUSY_HINT = "end the program that holds the mixer, then try again"
 
 
