@@ -99,6 +99,9 @@ class Table:
         """A row; the promise is about time and about what can be counted of its subject."""
         cells = []
         for kind in ("calls", "instructions", "time"):
+            if costs[kind][theirs] == 0:  # the reading of a message that has arrived makes no system call
+                cells.append("")
+                continue
             ratio = costs[kind][ours] / costs[kind][theirs]
             figures = f" ({plain(costs[kind][ours])} : {plain(costs[kind][theirs])})" if kind == "calls" else ""
             # A floor has almost no instructions of its own.
