@@ -94,6 +94,15 @@ class Desk(unittest.TestCase):
         self.assertNotRegex(said, r"70-trx-selva\.rules:\d+ (Invalid|Unknown)")
         self.assertRegex(said, r"(?m)^CURRENT_TAGS=.*:uaccess:")
 
+    def test_udev_has_the_users_manager_send_what_is_stored(self):
+        said = self.root.run("trx-mixer-sim", "--", "udevadm", "test", f"{MIXER}/1-1:1.0").stdout
+        self.assertNotRegex(said, r"71-trx-reapply\.rules:\d+ (Invalid|Unknown)")
+        self.assertRegex(said, r"(?m)^CURRENT_TAGS=.*:systemd:")
+        self.assertRegex(said, r"(?m)^SYSTEMD_USER_WANTS=trx-reapply@\.service$")
+        for other in (MIXER, f"{MIXER}/1-1:1.1"):
+            said = self.root.run("trx-mixer-sim", "--", "udevadm", "test", other).stdout
+            self.assertNotIn("SYSTEMD_USER_WANTS", said, other)
+
 
 if __name__ == "__main__":
     debian_root.become_root()

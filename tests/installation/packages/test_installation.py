@@ -40,6 +40,11 @@ FILES = {
         f"{DOCUMENTATION}/html/TRX-SELVASetup_8h.html"],
     TOOLS: [
         "usr/bin/trxctl",
+        "usr/lib/udev/rules.d/71-trx-reapply.rules",
+        "usr/lib/systemd/user/trx-reapply@.service",
+        "usr/lib/systemd/user/trx-reapply@.path",
+        "usr/lib/systemd/system/trx-resume.service",
+        "usr/libexec/trx-selva/trx-resume",
         "usr/share/man/man1/trxctl.1.gz",
         "usr/share/bash-completion/completions/trxctl",
         "usr/share/zsh/vendor-completions/_trxctl",
