@@ -28,6 +28,7 @@ test_packages=(
   libglib2.0-bin mandoc zsh fish libgnustep-base-dev gnustep-base-runtime gobjc
   e2fsprogs mount libudev-dev qemu-system-x86
   busybox-static cpio zstd lz4 abigail-tools mmdebstrap debian-archive-keyring uidmap lintian
+  kmod
 )
 
 package_packages=(

@@ -17,13 +17,32 @@ import subprocess
 import sys
 import tempfile
 import time
+import typing
 
 RELEASE = "bookworm"
 SUITES = [RELEASE, f"{RELEASE}-updates", f"{RELEASE}-security"]
-# The packages of a root besides those of every Debian.
+
+
+class Recipe(typing.NamedTuple):
+    """How a root is made."""
+    # Besides those of every Debian.
+    packages: typing.Sequence[str] = ()
+    # Further options of mmdebstrap.
+    options: typing.Sequence[str] = ()
+
+
+# A machine has all of its root in memory, so it does without what no case reads.
+UNREAD = ["/usr/share/doc/*", "/usr/share/man/*", "/usr/share/locale/*", "/usr/share/info/*", "/usr/share/lintian/*",
+          "/usr/share/i18n/*", "/usr/share/zoneinfo/*", "/usr/lib/*/dri/*", "/usr/lib/*/libLLVM*"]
 ROOTS = {
-    "minimal": [],
-    "desk": ["gcc", "g++", "cmake", "make", "pkg-config", "dbus-daemon", "bash-completion", "man-db", "udev"],
+    "minimal": Recipe(),
+    "desk": Recipe(["gcc", "g++", "cmake", "make", "pkg-config", "dbus-daemon", "bash-completion", "man-db", "udev"]),
+    # With all that the project's packages depend on: the machine has no network.
+    "machine": Recipe(
+        ["systemd-sysv", "udev", "dbus", "libpam-systemd", "dbus-user-session", "acl", "kmod", "passwd",
+         "libplist3", "umockdev", "libumockdev0", "xvfb", "libqt6widgets6", "qt6-qpa-plugins"],
+        [*[f"--dpkgopt=path-exclude={path}" for path in UNREAD],
+         "--customize-hook=for user in dj eva remote; do chroot \"$1\" useradd --create-home --shell /bin/bash $user; done"]),
 }
 KEPT_FOR = 7 * 24 * 3600  # seconds
 CACHE = pathlib.Path(os.environ.get("XDG_CACHE_HOME") or pathlib.Path.home() / ".cache") / "trx-selva"
@@ -66,7 +85,7 @@ def sources_of_release(lines):
 
 
 def archive(name):
-    contents = hashlib.sha256(" ".join([RELEASE, *ROOTS[name]]).encode()).hexdigest()[:12]
+    contents = hashlib.sha256(" ".join([RELEASE, *ROOTS[name].packages, *ROOTS[name].options]).encode()).hexdigest()[:12]
     return CACHE / f"{RELEASE}-{name}-{contents}.tar"
 
 
@@ -88,10 +107,11 @@ def bootstrap(name, made):
     # No reader sees an incomplete archive, and two that are made at the same time are the same.
     with tempfile.TemporaryDirectory(dir=CACHE) as folder:
         new = pathlib.Path(folder, made.name)
-        packages = [f"--include={','.join(ROOTS[name])}"] if ROOTS[name] else []
+        recipe = ROOTS[name]
+        packages = [f"--include={','.join(recipe.packages)}"] if recipe.packages else []
         # With apt's lists, so that installing into the root needs no update.
         subprocess.run(["mmdebstrap", "--quiet", "--variant=minbase", "--skip=cleanup/apt/lists",
-                        "--dpkgopt=force-unsafe-io", *packages,
+                        "--dpkgopt=force-unsafe-io", *recipe.options, *packages,
                         RELEASE, new, *sources()], check=True)
         new.rename(made)
 
