@@ -1,8 +1,24 @@
 """trxctl reapply --plugged: what a user has stored, sent to one mixer, with one line about it."""
 
+import ctypes
 import unittest
 
 from host import HostTest
+
+# Of the system, for what the C library has no functions.
+LANDLOCK_CREATE_RULESET, LANDLOCK_RESTRICT_SELF = 444, 446
+NEVER_MADE = ctypes.c_uint64(1 << 11)  # block devices
+NO_NEW_PRIVILEGES = 38
+MOST_LAYERS = 16
+
+
+def use_up_landlock():
+    """Leaves a process as on a system without Landlock: the kernel takes no more layers of rules."""
+    library = ctypes.CDLL(None, use_errno=True)
+    library.prctl(NO_NEW_PRIVILEGES, 1, 0, 0, 0)
+    rules = library.syscall(LANDLOCK_CREATE_RULESET, ctypes.byref(NEVER_MADE), 8, 0)
+    results = [library.syscall(LANDLOCK_RESTRICT_SELF, rules, 0) for _ in range(MOST_LAYERS + 1)]
+    assert results == [0] * MOST_LAYERS + [-1], results
 
 
 class Plugged(HostTest):
@@ -29,6 +45,21 @@ class Plugged(HostTest):
         self.store({"MaxLevel": 1})
         self.assertEqual([self.line(unit) for unit in (1, 2)], ["sent boost level -10 dB"] * 2)
         self.assertEqual(self.levels_sent(), [(1, "0200"), (2, "0200")])
+
+    def test_without_landlock_mixers_of_the_same_model_get_it_too(self):
+        self.store({"MaxLevel": 1})
+        self.assertEqual(self.line(1, preexec_fn=use_up_landlock), "sent boost level -10 dB")
+        self.assertEqual(self.levels_sent(), [(1, "0200"), (2, "0200")])
+
+    def test_without_landlock_nothing_is_sent_beside_another_model(self):
+        unit = int(self.mixer("plug", "TRX-VOLT").split()[0])
+        self.addCleanup(self.mixer, "unplug", unit)
+        self.store({"MaxLevel": 1})
+        bus, address = self.place(unit)
+        self.assertEqual(self.line(1, 9, preexec_fn=use_up_landlock),
+                         f"nothing was sent: this system cannot keep TRX-VOLT (bus {bus}, address "
+                         f"{address}), another model, from getting it too")
+        self.assert_nothing_sent()
 
     def test_sends_nothing_when_nothing_is_stored(self):
         self.assertEqual(self.line(1),
