@@ -26,8 +26,7 @@ class OpeningLine : public QAccessibleWidget {
   }
 
   QString text(QAccessible::Text part) const override {
-    const QString given = QAccessibleWidget::text(part);
-    if (part != QAccessible::Name) return given;
+    if (part != QAccessible::Name) return QAccessibleWidget::text(part);
     return static_cast<WarningLine *>(widget())->text();
   }
 

@@ -44,6 +44,13 @@ QString FilesAsText(const Check &check) {
   return parts.isEmpty() ? CheckWords::tr("nothing stored yet") : Parts(parts);
 }
 
+QString AutoApplyAsText(const Check &check) {
+  if (check.autoApply != client::AutoApplyObstacle::kNone) {
+    return AutoApplyObstacleAsText(check.autoApply);
+  }
+  return check.otherCount != 0 ? CheckWords::tr("turned off") : CheckWords::tr("on");
+}
+
 QString GoodAsText(const Check &check) {
   switch (check.part) {
     case CheckedPart::kUsb:
@@ -67,6 +74,8 @@ QString GoodAsText(const Check &check) {
       return Path(check.path);
     case CheckedPart::kSettingsFiles:
       return FilesAsText(check);
+    case CheckedPart::kAutoApply:
+      return AutoApplyAsText(check);
     case CheckedPart::kInstallation:
       break;
   }
@@ -131,7 +140,7 @@ ProblemWords FileProblem(const Check &check) {
 }  // namespace
 
 QString PartAsText(CheckedPart part) {
-  static const std::array<const char *, 10> kNames{
+  static const std::array<const char *, 11> kNames{
       QT_TRANSLATE_NOOP("CheckWords", "USB"),
       QT_TRANSLATE_NOOP("CheckWords", "Other products"),
       QT_TRANSLATE_NOOP("CheckWords", "Mixer"),
@@ -142,6 +151,7 @@ QString PartAsText(CheckedPart part) {
       QT_TRANSLATE_NOOP("CheckWords", "Settings folder"),
       QT_TRANSLATE_NOOP("CheckWords", "Settings files"),
       QT_TRANSLATE_NOOP("CheckWords", "Installation"),
+      QT_TRANSLATE_NOOP("CheckWords", "At plug-in"),
   };
   return CheckWords::tr(kNames.at(static_cast<std::size_t>(part)));
 }
@@ -219,6 +229,9 @@ ProblemWords ProblemAsText(const Check &check) {
     case Finding::kNoChoice:
     case Finding::kFileKept:
       return FileProblem(check);
+    case Finding::kAutoApplyBroken:
+      return {CheckWords::tr("Settings cannot be sent to a mixer that is plugged in"),
+              AutoApplyObstacleAsText(check.autoApply)};
     case Finding::kNoLibraryVersion:
     case Finding::kNoPackageVersion:
       return {CheckWords::tr("The installation is not complete"),

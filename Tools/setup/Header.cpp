@@ -90,8 +90,9 @@ Header::Header(QWidget *parent)
   texts->addWidget(name_);
   texts->addWidget(details_);
   auto *row = new QHBoxLayout(this);
-  row->setContentsMargins(Scaled(kDotRoom), 0, 0, 0);
+  row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(Scaled(12));
+  row->addSpacing(Scaled(kDotRoom));
   row->addLayout(texts);
   row->addStretch();
   row->addWidget(profiles_, 0, Qt::AlignVCenter);

@@ -17,7 +17,7 @@ constexpr double kGapOfPlayback = 60;
 constexpr double kGapOfRecording = 78;
 constexpr double kAbove = 55;
 constexpr double kBelow = 26;
-constexpr double kSmallestScale = 0.8;
+constexpr double kSmallestScale = 0.58;
 
 constexpr double kCableWidth = 5;
 constexpr double kBadge = 9;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 namespace setup {
 namespace {
@@ -107,20 +108,19 @@ constexpr std::array<SelectorKnob, 2> kSelectors{{
 
 constexpr std::array<double, 3> kSeparators{122, 227, 329};
 
-constexpr std::size_t kLampRows = 9;
+constexpr int kLampRows = 9;
 constexpr double kFirstLamp = 84;
 constexpr double kBetweenLamps = 13;
 
-constexpr std::array<QPointF, kLampRows * 2> Lamps() {
-  std::array<QPointF, kLampRows * 2> lamps{};
-  for (std::size_t row = 0; row < kLampRows; ++row) {
-    const double height = kFirstLamp + kBetweenLamps * static_cast<double>(row);
-    lamps.at(row * 2) = {kMaster - 6, height};
-    lamps.at(row * 2 + 1) = {kMaster + 6, height};
+std::vector<QPointF> Lamps() {
+  std::vector<QPointF> lamps;
+  for (int row = 0; row < kLampRows; ++row) {
+    for (const double beside : {-6.0, 6.0}) {
+      lamps.emplace_back(kMaster + beside, kFirstLamp + kBetweenLamps * row);
+    }
   }
   return lamps;
 }
-constexpr auto kLamps = Lamps();
 
 }  // namespace
 
@@ -151,6 +151,9 @@ double SelectorAngle(int position) {
 
 std::span<const double> Separators() { return kSeparators; }
 
-std::span<const QPointF> MeterLamps() { return kLamps; }
+std::span<const QPointF> MeterLamps() {
+  static const std::vector<QPointF> kLamps = Lamps();
+  return kLamps;
+}
 
 }  // namespace setup

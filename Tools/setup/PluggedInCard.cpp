@@ -1,26 +1,8 @@
 #include "PluggedInCard.h"
 
+#include "Words.h"
+
 namespace setup {
-namespace {
-
-/// What keeps it from working, for the user.
-QString ObstacleAsText(client::AutoApplyObstacle obstacle) {
-  switch (obstacle) {
-    case client::AutoApplyObstacle::kNone:
-      return {};
-    case client::AutoApplyObstacle::kNoServiceManager:
-      return PluggedInCard::tr("Not possible in this session.");
-    case client::AutoApplyObstacle::kUnitMasked:
-      return PluggedInCard::tr("Turned off by an administrator.");
-    case client::AutoApplyObstacle::kNoUnit:
-    case client::AutoApplyObstacle::kNoRule:
-      break;
-  }
-  return PluggedInCard::tr("Install the package trxctl for this.");
-}
-
-}  // namespace
-
 PluggedInCard::PluggedInCard(SetupState &state, QWidget *parent)
     : Card(tr("When a mixer is plugged in"), parent),
       state_(state),
@@ -39,7 +21,7 @@ PluggedInCard::PluggedInCard(SetupState &state, QWidget *parent)
 
 void PluggedInCard::Refresh() {
   switch_->setChecked(state_.IsAutoApplyOn());
-  const QString obstacle = ObstacleAsText(state_.ObstacleToAutoApply());
+  const QString obstacle = AutoApplyObstacleAsText(state_.ObstacleToAutoApply());
   obstacle_->setText(obstacle);
   obstacle_->setVisible(!obstacle.isEmpty());
   switch_->setAccessibleDescription((tr("When a mixer is plugged in") + ". " + obstacle).trimmed());

@@ -59,6 +59,8 @@ void Segment::paintEvent(QPaintEvent * /*event*/) {
     letters.setWidth(width + 2);
   }
   painter.setPen(colour);
+  // Texts of choices are the mixer's own, and read from left to right in every language.
+  painter.setLayoutDirection(Qt::LeftToRight);
   painter.drawText(letters, Qt::AlignCenter, text());
   DrawFocusRing(painter, *this, area, corner);
 }

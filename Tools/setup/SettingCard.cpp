@@ -102,6 +102,15 @@ void SettingCard::MakeList(const ShownSetting &shown) {
 
 int SettingCard::PlugHeight() const { return control_->geometry().center().y(); }
 
+void SettingCard::FocusControl() {
+  const ShownSetting *shown = state_.Find(setting_);
+  if (segments_ != nullptr) {
+    segments_->SegmentFor(shown->IsChoice() ? shown->index : 0).setFocus();
+  } else {
+    list_->setFocus();
+  }
+}
+
 void SettingCard::Refresh() {
   const ShownSetting *shown = state_.Find(setting_);
   if (shown == nullptr) return;

@@ -24,6 +24,7 @@ class SettingCard : public Card {
   int PlugHeight() const;
   /// What takes the focus for this card.
   QWidget *Control() const { return control_; }
+  void FocusControl();
   void SetWarningOpen(bool isOpen) { warning_->SetOpen(isOpen); }
 
   /// Shows what the state says.

@@ -6,7 +6,7 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMimeData>
-#include <QScrollArea>
+#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <algorithm>
@@ -71,6 +71,7 @@ MixerLook LookOf(const SetupState &state) {
 SetupWindow::SetupWindow(SetupState &state)
     : state_(state),
       header_(new Header(this)),
+      frame_(MakeFrame(this)),
       status_(new StatusLine(this)),
       profiles_(new ProfileShelf(state)) {
   setObjectName("setupWindow");
@@ -79,6 +80,7 @@ SetupWindow::SetupWindow(SetupState &state)
   column->setContentsMargins(Scaled(kMargin), Scaled(14), Scaled(kMargin), Scaled(8));
   column->setSpacing(Scaled(8));
   column->addWidget(header_);
+  column->addWidget(frame_, 1);
   column->addWidget(status_);
   AddProfiles();
   FillMoreMenu();
@@ -101,28 +103,27 @@ SetupWindow::SetupWindow(SetupState &state)
 void SetupWindow::BuildCards() {
   preview_.reset();
   cards_.clear();
-  delete body_;
-  body_ = new QWidget(this);
-  drawing_ = new MixerDrawing(body_);
+  delete frame_->takeWidget();
+  auto *body = new QWidget;
+  drawing_ = new MixerDrawing(body);
   trouble_ = new TroubleCard(drawing_);
-  auto *row = new QHBoxLayout(body_);
+  auto *row = new QHBoxLayout(body);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(0);
-  if (!state_.SettingsOfKind("output").empty()) row->addWidget(MakePlaybackColumn());
+  if (!state_.SettingsOfKind("output").empty()) row->addWidget(MakePlaybackColumn(body));
   row->addWidget(drawing_, 1);
-  auto *scroll = new QScrollArea(body_);
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setWidgetResizable(true);
+  QScrollArea *scroll = MakeFrame(body);
   scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  scroll->setFocusPolicy(Qt::NoFocus);
-  scroll->setWidget(MakeRecordingColumn());
+  // It is as high as the rest, whatever is in it.
+  scroll->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+  scroll->setWidget(MakeRecordingColumn(scroll));
   scroll->setFixedWidth(qMax(Scaled(kRecordingWidth), scroll->widget()->minimumSizeHint().width()));
-  scroll->viewport()->setAutoFillBackground(false);
   scroll->widget()->setAutoFillBackground(false);
   connect(scroll->verticalScrollBar(), &QScrollBar::valueChanged, this,
           &SetupWindow::RefreshDrawing);
   row->addWidget(scroll);
-  static_cast<QVBoxLayout *>(layout())->insertWidget(1, body_, 1);
+  frame_->setWidget(body);
+  body->setAutoFillBackground(false);
   drawing_->canTake = [this](Direction direction, int channel, const Socket &socket) {
     for (const SettingCard *card : cards_) {
       if (DirectionOf(card->Setting()) != direction || card->Setting().channel != channel) continue;
@@ -146,14 +147,31 @@ void SetupWindow::BuildCards() {
   for (SettingCard *card : cards_) {
     card->SetWarningOpen(!recording.empty() && IsSame(card->Setting(), recording.front()->setting));
   }
-  const bool hasRouting = HasRouting(state_);
-  setMinimumSize(ScaledSize(hasRouting ? kSmallest : kSmallestWithoutRouting));
-  if (!isVisible()) resize(ScaledSize(hasRouting ? kSize : kSizeWithoutRouting));
+  FitToScreen();
+  // The header comes last: who works with keys begins with what the computer plays.
+  QWidget::setTabOrder(cards_.back(), &header_->ProfilesButton());
   Refresh();
 }
 
-CardColumn *SetupWindow::MakePlaybackColumn() {
-  auto *column = new CardColumn(tr("Computer &plays"), tr("to this mixer channel"), body_);
+// What does not fit can be scrolled to, as with large letters on a small screen.
+QScrollArea *SetupWindow::MakeFrame(QWidget *parent) {
+  auto *frame = new QScrollArea(parent);
+  frame->setFrameShape(QFrame::NoFrame);
+  frame->setWidgetResizable(true);
+  frame->setFocusPolicy(Qt::NoFocus);
+  frame->viewport()->setAutoFillBackground(false);
+  return frame;
+}
+
+void SetupWindow::FitToScreen() {
+  const QSize room = screen()->availableSize();
+  const bool hasRouting = HasRouting(state_);
+  setMinimumSize(ScaledSize(hasRouting ? kSmallest : kSmallestWithoutRouting).boundedTo(room));
+  if (!isVisible()) resize(ScaledSize(hasRouting ? kSize : kSizeWithoutRouting).boundedTo(room));
+}
+
+CardColumn *SetupWindow::MakePlaybackColumn(QWidget *parent) {
+  auto *column = new CardColumn(tr("Computer &plays"), tr("to this mixer channel"), parent);
   for (const ShownSetting *shown : state_.SettingsOfKind("output")) {
     AddCard(*column, shown->setting);
   }
@@ -165,10 +183,10 @@ CardColumn *SetupWindow::MakePlaybackColumn() {
   return column;
 }
 
-CardColumn *SetupWindow::MakeRecordingColumn() {
+CardColumn *SetupWindow::MakeRecordingColumn(QWidget *parent) {
   const bool hasRouting = !state_.SettingsOfKind("input").empty();
   auto *column = new CardColumn(hasRouting ? tr("Computer &records") : QString(),
-                                tr("this signal of the mixer"), body_);
+                                tr("this signal of the mixer"), parent);
   bool isFirst = true;
   for (const ShownSetting &shown : state_.Settings()) {
     if (shown.setting.kind->name == "output") continue;
@@ -235,6 +253,7 @@ void SetupWindow::RefreshProfiles() {
 
 // The text of one warning is enough to read at a time: that of the channel touched last.
 void SetupWindow::OpenWarningOf(const SettingCard *touched) {
+  if (touched->Setting().kind->extras.warning == nullptr) return;
   for (SettingCard *card : cards_) card->SetWarningOpen(card == touched);
 }
 
@@ -389,6 +408,7 @@ void SetupWindow::changeEvent(QEvent *event) {
 
 void SetupWindow::showEvent(QShowEvent *event) {
   QWidget::showEvent(event);
+  if (focusWidget() == nullptr) cards_.front()->FocusControl();
   NoteVisibility();
 }
 

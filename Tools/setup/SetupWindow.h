@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QScrollArea>
 #include <QWidget>
 #include <optional>
 #include <vector>
@@ -41,8 +42,10 @@ class SetupWindow : public QWidget {
   };
 
   void BuildCards();
-  CardColumn *MakePlaybackColumn();
-  CardColumn *MakeRecordingColumn();
+  CardColumn *MakePlaybackColumn(QWidget *parent);
+  CardColumn *MakeRecordingColumn(QWidget *parent);
+  QScrollArea *MakeFrame(QWidget *parent);
+  void FitToScreen();
   SettingCard *AddCard(CardColumn &column, const client::Setting &setting);
   void AddShortcuts();
   void FillMoreMenu();
@@ -63,7 +66,7 @@ class SetupWindow : public QWidget {
 
   SetupState &state_;
   Header *header_;
-  QWidget *body_ = nullptr;
+  QScrollArea *frame_;
   MixerDrawing *drawing_ = nullptr;
   TroubleCard *trouble_ = nullptr;
   StatusLine *status_;

@@ -121,6 +121,21 @@ QString NotTurnedAsText(int reason) {
       .arg(QString::fromLocal8Bit(std::strerror(reason)));
 }
 
+QString AutoApplyObstacleAsText(client::AutoApplyObstacle obstacle) {
+  switch (obstacle) {
+    case client::AutoApplyObstacle::kNone:
+      return {};
+    case client::AutoApplyObstacle::kNoServiceManager:
+      return Words::tr("Not possible in this session.");
+    case client::AutoApplyObstacle::kUnitMasked:
+      return Words::tr("Turned off by an administrator.");
+    case client::AutoApplyObstacle::kNoUnit:
+    case client::AutoApplyObstacle::kNoRule:
+      break;
+  }
+  return Words::tr("Install the package trxctl for this.");
+}
+
 QString AutoApplyRunAsText(const client::AutoApplyRun &run) {
   return Words::tr("A mixer was plugged in: %1").arg(QString::fromStdString(run.line));
 }

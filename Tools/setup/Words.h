@@ -36,6 +36,9 @@ QString SentAllAsText(const SentAll &all);
 /// Why the switch for plugged in mixers did not move.
 QString NotTurnedAsText(int reason);
 
+/// What keeps settings from being sent to a mixer that is plugged in; empty for nothing.
+QString AutoApplyObstacleAsText(client::AutoApplyObstacle obstacle);
+
 /// What was sent to a mixer that was plugged in.
 QString AutoApplyRunAsText(const client::AutoApplyRun &run);
 

@@ -1,93 +1,13 @@
 #include "DesktopAppearance.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusMetaType>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusVariant>
 #include <QThread>
 
+#include "PortalReader.h"
+
 namespace setup {
-namespace {
-
-constexpr char kService[] = "org.freedesktop.portal.Desktop";
-constexpr char kPath[] = "/org/freedesktop/portal/desktop";
-constexpr char kInterface[] = "org.freedesktop.portal.Settings";
-
-/// A wish of the desktop, as the portal names it.
-struct Wish {
-  const char *space;
-  const char *key;
-  bool Appearance::*member;
-};
-
-constexpr Wish kWishes[] = {
-    {"org.freedesktop.appearance", "color-scheme", &Appearance::isDark},
-    {"org.freedesktop.appearance", "contrast", &Appearance::isHighContrast},
-    {"org.gnome.desktop.a11y.interface", "high-contrast", &Appearance::isHighContrast},
-};
-
-/// Values stand in variants, one or two deep.
-QVariant Unwrapped(QVariant value) {
-  while (value.canConvert<QDBusVariant>()) value = value.value<QDBusVariant>().variant();
-  return value;
-}
-
-/// 1 is "dark" and "high contrast", 0 and 2 are not; true is yes.
-bool IsYes(const QVariant &value) { return Unwrapped(value).toInt() == 1; }
-
-}  // namespace
-
-/// Talks to the portal on a thread of its own: reaching a session bus that does not answer waits.
-class PortalReader : public QObject {
-  Q_OBJECT
-
- public:
-  explicit PortalReader(DesktopAppearance &appearance) : appearance_(appearance) {}
-
-  void Start() {
-    // Without it, Qt refuses to connect a slot that takes one, and does not say so.
-    qDBusRegisterMetaType<QDBusVariant>();
-    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "appearance");
-    if (!bus.isConnected()) return;
-    bus.connect(kService, kPath, kInterface, "SettingChanged", this,
-                SLOT(SettingChanged(QString, QString, QDBusVariant)));
-    for (const Wish &wish : kWishes) Ask(bus, wish);
-  }
-
- public Q_SLOTS:
-  void SettingChanged(const QString &space, const QString &key, const QDBusVariant &value) {
-    for (const Wish &wish : kWishes) {
-      if (space == wish.space && key == wish.key) Note(wish, IsYes(value.variant()));
-    }
-  }
-
- private:
-  void Ask(QDBusConnection &bus, const Wish &wish) {
-    QDBusMessage question = QDBusMessage::createMethodCall(kService, kPath, kInterface, "Read");
-    question << QString(wish.space) << QString(wish.key);
-    auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, &wish] {
-      const QDBusPendingReply<QVariant> reply = *watcher;
-      // Desktops that do not know a wish answer with an error.
-      if (!reply.isError() && IsYes(reply.value())) Note(wish, true);
-      watcher->deleteLater();
-    });
-  }
-
-  void Note(const Wish &wish, bool isWished) {
-    now_.*wish.member = isWished;
-    Q_EMIT appearance_.Changed(now_);
-  }
-
-  DesktopAppearance &appearance_;
-  Appearance now_;
-};
 
 struct DesktopAppearance::Machinery {
   QThread thread;
-  PortalReader *reader = nullptr;
 };
 
 DesktopAppearance::DesktopAppearance() : machinery_(std::make_unique<Machinery>()) {}
@@ -98,13 +18,12 @@ DesktopAppearance::~DesktopAppearance() {
 }
 
 void DesktopAppearance::Start() {
-  machinery_->reader = new PortalReader(*this);
-  machinery_->reader->moveToThread(&machinery_->thread);
-  connect(&machinery_->thread, &QThread::finished, machinery_->reader, &QObject::deleteLater);
+  auto *reader = new PortalReader;
+  reader->moveToThread(&machinery_->thread);
+  connect(&machinery_->thread, &QThread::finished, reader, &QObject::deleteLater);
+  connect(reader, &PortalReader::Changed, this, &DesktopAppearance::Changed);
   machinery_->thread.start();
-  QMetaObject::invokeMethod(machinery_->reader, &PortalReader::Start);
+  QMetaObject::invokeMethod(reader, &PortalReader::Start);
 }
 
 }  // namespace setup
-
-#include "DesktopAppearance.moc"
