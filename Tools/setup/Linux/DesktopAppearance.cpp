@@ -21,9 +21,9 @@ void DesktopAppearance::Start() {
   auto *reader = new PortalReader;
   reader->moveToThread(&machinery_->thread);
   connect(&machinery_->thread, &QThread::finished, reader, &QObject::deleteLater);
+  connect(&machinery_->thread, &QThread::started, reader, &PortalReader::Start);
   connect(reader, &PortalReader::Changed, this, &DesktopAppearance::Changed);
   machinery_->thread.start();
-  QMetaObject::invokeMethod(reader, &PortalReader::Start);
 }
 
 }  // namespace setup
