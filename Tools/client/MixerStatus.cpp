@@ -59,7 +59,7 @@ MixerStatus AskStatus(const Model &model) {
   for (uint32_t channel = 0; channel < kinds.selectors; ++channel) {
     number = 0;
     const bool isAnswered = Ask(status, known, [&] {
-      // A number that is no position makes it another status, and is an answer all the same.
+      // A number that is no position makes it another status, but it is an answer.
       ORV_GetMixerInputSelectorStatus(model.id, channel, &number);
       return ORV_SUCCESS;
     });

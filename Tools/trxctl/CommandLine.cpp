@@ -234,7 +234,7 @@ bool AsksForJson(int argc, char **argv) {
 
 int RunCommandLine(int argc, char **argv) noexcept {
   ReserveStandardStreams();
-  // Writing to a pipe without a reader is then an error that can be told.
+  // Writing to a pipe without a reader is then an error that can be reported.
   std::signal(SIGPIPE, SIG_IGN);
   const Output output(AsksForJson(argc, argv));
   try {

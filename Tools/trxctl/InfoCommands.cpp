@@ -115,7 +115,7 @@ Command MakeModels(CLI::App &program) {
 
 Command MakeVersions(CLI::App &program) {
   CLI::App *app = program.add_subcommand("versions", "Show the versions of what is installed");
-  app->footer(std::string("The version of trxctl itself is told by trxctl --version.\n"
+  app->footer(std::string("trxctl --version prints the version of trxctl itself.\n"
                           "\n"
                           "Examples:\n"
                           "  trxctl versions\n"

@@ -58,8 +58,8 @@ struct Action {
 
 std::string CalledProfile(const std::string &name) { return "the profile " + Quoted(name); }
 
-/// Texts that belong to settings, each told once with all settings that it belongs to.
-class Told {
+/// Texts that belong to settings, each printed once with all settings that it belongs to.
+class TextsOfSettings {
  public:
   void Add(const std::string &text, const std::string &setting) {
     const auto same = std::find_if(all_.begin(), all_.end(),
@@ -243,8 +243,7 @@ class LoadReport {
   }
 
  private:
-  static constexpr char kNoMixer[] =
-      "No mixer is connected; the settings are stored all the same.\n";
+  static constexpr char kNoMixer[] = "No mixer is connected; the settings are stored anyway.\n";
 
   std::string WarningOf(const client::Setting &setting) const {
     return client::WarningText(setting, language_)
@@ -254,8 +253,8 @@ class LoadReport {
   const client::Profile &profile_;
   int32_t language_;
   Json json_;
-  Told deliveries_;
-  Told warnings_;
+  TextsOfSettings deliveries_;
+  TextsOfSettings warnings_;
   std::vector<client::Setting> notStored_;
   client::Delivery delivery_;
 };

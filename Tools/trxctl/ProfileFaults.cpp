@@ -17,7 +17,7 @@ namespace {
 using client::ProfileFault;
 using client::ProfileProblem;
 
-/// How a problem is told; what stands in braces is filled in from the fault.
+/// The text of a problem; the fault fills in what is in braces.
 struct Wording {
   ProfileProblem problem;
   ExitCode code;
@@ -142,7 +142,7 @@ std::string Filled(std::string_view text, const Blanks &blanks) {
   return filled;
 }
 
-/// The names of the profiles that there are, as far as they can be told.
+/// The names of the profiles that there are, as far as they can be found out.
 std::vector<std::string> NamesThereAre() {
   try {
     return client::ProfileNames();

@@ -60,10 +60,10 @@ void AddAnnouncement(Answer &answer) {
   if (bus == client::SessionBusState::kNotNeeded) return;
   answer.json["announced"] = bus == client::SessionBusState::kReached;
   if (bus == client::SessionBusState::kMissing) {
-    answer.notes.emplace_back("note: there is no session bus, so no other program was told");
+    answer.notes.emplace_back("note: there is no session bus, so no other program knows of it");
   } else if (bus == client::SessionBusState::kNoAnswer) {
     answer.notes.emplace_back(
-        "note: the session bus does not answer, so no other program was told");
+        "note: the session bus does not answer, so no other program knows of it");
   }
 }
 
@@ -176,7 +176,7 @@ ExitCode SetChoice(const Session &session, const client::Setting &setting, const
   AddResult(answer, setting, result);
   if (!result.delivery.isConnected) {
     answer.text += std::string("No mixer is connected; the setting is ") +
-                   (result.isStored ? "stored all the same.\n" : "not stored either.\n");
+                   (result.isStored ? "stored anyway.\n" : "not stored either.\n");
     if (result.isStored) answer.notes.push_back(LaterHint(setting));
   }
   if (client::IsWarningFor(setting, result, choice)) {

@@ -19,7 +19,7 @@ std::string DeliveryAsText(const client::Delivery &delivery);
 
 /// What is wrong when not every connected mixer took a value; nothing when all did.
 ///
-/// @param elsewhere  what was done all the same, to follow the mixers: "; it is stored".
+/// @param elsewhere  what was done anyway, to follow the mixers: "; it is stored".
 std::optional<Failure> DeliveryFailure(const client::Delivery &delivery,
                                        const std::string &elsewhere = "");
 

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kColumn = 20;
 
-constexpr char kNotTold[] = "not told by this model";
+constexpr char kNotReported[] = "not reported by this model";
 constexpr char kNoAnswer[] = "no answer";
 
 std::string Row(std::string title, const std::string &value) {
@@ -30,7 +30,7 @@ std::string FirmwareAsText(uint32_t version) {
 void AddCertifyLevel(Answer &answer, const client::MixerStatus &status, bool isTold) {
   answer.json["certify_level"] = nullptr;
   if (status.certifyLevel) answer.json["certify_level"] = *status.certifyLevel;
-  answer.text += Row("certify level", !isTold               ? kNotTold
+  answer.text += Row("certify level", !isTold               ? kNotReported
                                       : status.certifyLevel ? std::to_string(*status.certifyLevel)
                                                             : kNoAnswer);
 }
@@ -38,7 +38,7 @@ void AddCertifyLevel(Answer &answer, const client::MixerStatus &status, bool isT
 void AddFirmware(Answer &answer, const client::MixerStatus &status, bool isTold) {
   answer.json["firmware"] = nullptr;
   if (status.firmware) answer.json["firmware"] = *status.firmware;
-  answer.text += Row("firmware", !isTold           ? kNotTold
+  answer.text += Row("firmware", !isTold           ? kNotReported
                                  : status.firmware ? FirmwareAsText(*status.firmware)
                                                    : kNoAnswer);
 }
@@ -71,7 +71,7 @@ void AddSelectors(Answer &answer, const client::Model &model, const client::Mixe
 void AddSerato(Answer &answer, const client::MixerStatus &status, bool isTold) {
   answer.json["serato"] = nullptr;
   if (status.serato) answer.json["serato"] = *status.serato;
-  answer.text += Row("Serato", !isTold          ? kNotTold
+  answer.text += Row("Serato", !isTold          ? kNotReported
                                : !status.serato ? kNoAnswer
                                : *status.serato ? "active"
                                                 : "not active");
@@ -119,7 +119,7 @@ ExitCode Run(const Session &session) {
 
 Command MakeStatus(CLI::App &program) {
   CLI::App *app = program.add_subcommand("status", "Show what the connected mixers report");
-  app->footer(std::string("What can be told depends on the model.\n"
+  app->footer(std::string("What a mixer reports depends on the model.\n"
                           "\n"
                           "Examples:\n"
                           "  trxctl status                     of a TRX-SELVA\n"

@@ -80,7 +80,7 @@ std::string TimeNow() {
   return std::string(date.data()) + fraction.data() + zone.data();
 }
 
-/// Waits for announcements and prints them, until it has seen enough or is told to end.
+/// Waits for announcements and prints them, until it has seen enough or a signal ends it.
 class Watcher {
  public:
   Watcher(const Session &session, const Request &request)

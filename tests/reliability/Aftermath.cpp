@@ -49,8 +49,8 @@ void Aftermath::ExpectRegistrationHolds() {
   const auto last = std::find_if(all.rbegin(), all.rend(), [](const Call &call) {
     return call.index == static_cast<std::int32_t>(kAreYouThere);
   });
-  const CallList told(last.base(), all.end());
-  EXPECT_EQ(told, (CallList{{"A selva", -1, 0}, {"A selva", -1, 1}, {"A selva", -1, 2}}));
+  const CallList heard(last.base(), all.end());
+  EXPECT_EQ(heard, (CallList{{"A selva", -1, 0}, {"A selva", -1, 1}, {"A selva", -1, 2}}));
 }
 
 }  // namespace trxtest

@@ -69,13 +69,13 @@ TEST_F(FullDisk, AFullDiskLeavesTheOldFileWholeAndNothingBesideIt) {
   const Mount memory = Mount::Memory(rig_->LibraryFolder(), "size=256k");
   const int unit = rig_->PlugMixer();
   Register();
-  // Three blocks of text, with room for none, one or two of them.
+  // Three blocks of text, with none, one or two of them free.
   const std::string text(9000, 'o');
   const Settings old = {{"MaxLevel", "<integer>3</integer>"},
                         {"Other", "<string>" + text + "</string>"}};
-  for (const std::uintmax_t room : {0U, 1U, 2U}) {
+  for (const std::uintmax_t free : {0U, 1U, 2U}) {
     PutLevelThree(text);
-    FillUpTo(room);
+    FillUpTo(free);
     ExpectSetButNotStored(unit, old);
     MakeRoom();
   }

@@ -204,16 +204,16 @@ int Post(std::size_t poster) {
 // --- Observers -----------------------------------------------------------------------------------
 
 std::vector<Sequence> expected = AllSequences();
-std::vector<std::uint64_t> told(kPosters);
+std::vector<std::uint64_t> heard(kPosters);
 Complaint observed;
 
 void Observe(const Choice &choice) {
   for (std::size_t poster = 0; poster < kPosters; ++poster) {
     if (!expected[poster].Has(choice)) continue;
-    ++told[poster];
+    ++heard[poster];
     const Choice next = expected[poster].Next();
     if (!(next == choice)) {
-      observed.Add("number " + std::to_string(told[poster]) + " of poster " +
+      observed.Add("number " + std::to_string(heard[poster]) + " of poster " +
                    std::to_string(poster) + " is " + Shown(choice) + " instead of " + Shown(next));
     }
     return;
@@ -263,7 +263,7 @@ int Watch() {
     if (loop[0].revents != 0) ORV_DispatchNotifications();
     if (loop[1].revents == 0) continue;
     asked = LookAtInput(0);
-    Report(told, observed.Text());
+    Report(heard, observed.Text());
   }
   return 0;
 }

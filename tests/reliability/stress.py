@@ -3,7 +3,7 @@
 stress.py SECONDS [--without-memory]
 
 Expected: every read of a settings file finds a whole property list; every getter answers with a value that somebody may
-have set; each observer is told of all that each poster set, in the poster's order; no process grows. Prints what was done
+have set; each observer hears of everything that each poster set, in the poster's order; no process grows. Prints what was done
 and ends with 1 when something was otherwise. --without-memory leaves out the bound on memory, for a build with sanitizers,
 which keep freed memory for a while.
 
@@ -239,12 +239,12 @@ def run(seconds, withMemory, folder):
             verdict.expect_well(poster.name, report)
             sets.append(report["counts"][0])
             verdict.expect(sets[-1] >= FEWEST_SETS, f"{poster.name}: only {sets[-1]} sets")
-        told = []
+        heard = []
         for observer in group.observers:
             report = wait_until_all_is_told(observer, sets)
             verdict.expect_well(observer.name, report)
-            verdict.expect(report["counts"] == sets, f"{observer.name}: told of {report['counts']} of {sets}")
-            told.append(report["counts"])
+            verdict.expect(report["counts"] == sets, f"{observer.name}: heard of {report['counts']} of {sets}")
+            heard.append(report["counts"])
             observer.end()
         reads = []
         for reader in group.readers + group.file_readers:
@@ -257,7 +257,7 @@ def run(seconds, withMemory, folder):
     finally:
         group.kill()
     print(f"{POSTERS} posters made {sum(sets)} sets in {took:.0f} s: {' '.join(map(str, sets))}")
-    print(f"{OBSERVERS} observers were told {' and '.join(str(sum(counts)) for counts in told)} times")
+    print(f"{OBSERVERS} observers heard {' and '.join(str(sum(counts)) for counts in heard)} times")
     print(f"{READERS} readers asked for all current values {' and '.join(map(str, reads[:READERS]))} times")
     print(f"{FILE_READERS} readers read {' and '.join(map(str, reads[READERS:]))} files")
     largest = max(growth, key=growth.get)

@@ -114,11 +114,11 @@ TEST_F(ControlProtocol, OverlongLineIsAnsweredAndTheConnectionClosed) {
   EXPECT_EQ(ControlClient(path_).Ask("environment"), Lines{"ONE=1"});
 }
 
-TEST_F(ControlProtocol, BinaryRubbishIsRefusedLineByLine) {
-  std::string rubbish;
-  for (int value = 0; value < 256; ++value) rubbish += static_cast<char>(value);
+TEST_F(ControlProtocol, BinaryDataIsRefusedLineByLine) {
+  std::string everyByte;
+  for (int value = 0; value < 256; ++value) everyByte += static_cast<char>(value);
   const Descriptor raw = ConnectUnixSocket(path_);
-  SendRaw(raw, rubbish + "\nenvironment\n");
+  SendRaw(raw, everyByte + "\nenvironment\n");
   shutdown(raw.Get(), SHUT_WR);
   const std::string answer = ReceiveAll(raw);
   EXPECT_TRUE(answer.starts_with("error "));

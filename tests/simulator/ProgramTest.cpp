@@ -127,7 +127,7 @@ TEST_P(SimulatorSignals, SignalsEndTheCommandAndLeaveNothingBehind) {
 INSTANTIATE_TEST_SUITE_P(AllThatAskForTheEnd, SimulatorSignals,
                          testing::Values(SIGTERM, SIGINT, SIGHUP));
 
-TEST(SimulatorProgram, TheSimulatorEndsInMidRequestWithoutFuss) {
+TEST(SimulatorProgram, TheSimulatorEndsCleanlyInMidRequest) {
   SimulatorRun run(1);
   run.Control("fault 1 no-reply");
   const std::string handle = run.Open("/dev/bus/usb/001/002");

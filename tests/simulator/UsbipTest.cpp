@@ -117,7 +117,7 @@ TEST_F(Usbip, MixerTellsItsStatus) {
 }
 
 TEST_F(Usbip, OtherStandardRequestsStall) {
-  EXPECT_EQ(mixer_->Request("00050500 00000000"), "0");    // an address, which is all the same
+  EXPECT_EQ(mixer_->Request("00050500 00000000"), "0");    // any address
   EXPECT_EQ(mixer_->Request("00030100 00000000"), "-32");  // wake up the computer
   EXPECT_EQ(mixer_->Request("02010000 81000000"), "-32");  // an endpoint that is not there
   EXPECT_EQ(mixer_->Request("80050000 00000200"), "-32");  // a read of what is written only

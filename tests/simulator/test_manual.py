@@ -50,9 +50,9 @@ class Manual(unittest.TestCase):
 
     def test_has_the_exit_codes_of_the_help(self):
         for program in PAGES:
-            told = re.search(r"^Exit codes: (.*)", output(program, "--help"), re.S | re.M).group(1)
+            documented = re.search(r"^Exit codes: (.*)", output(program, "--help"), re.S | re.M).group(1)
             self.assertEqual(set(re.findall(r"\b\d+\b", section(program, "EXIT STATUS"))),
-                             set(re.findall(r"\b\d+\b", told)))
+                             set(re.findall(r"\b\d+\b", documented)))
 
     def test_of_the_simulator_has_every_model(self):
         models = re.search(r"mixer model \((.*?)\)", output(SIMULATOR, "--help")).group(1)

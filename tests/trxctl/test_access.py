@@ -1,4 +1,4 @@
-"""Mixers that the system keeps from an ordinary user, and what the user is told to do."""
+"""Mixers that the system keeps from an ordinary user, and what trxctl advises."""
 
 import unittest
 

@@ -122,7 +122,7 @@ class Setting(HostTest):
         self.unplug_all()
         result = self.done_with_notes("boost", "-10")
         self.assertEqual(result.out, "TRX-SELVA boost level set to -10 dB.\n"
-                                     "No mixer is connected; the setting is stored all the same.\n")
+                                     "No mixer is connected; the setting is stored anyway.\n")
         self.assertEqual(result.err,
                          "hint: once a mixer is connected, send it with: trxctl boost --again\n")
         self.assertEqual(self.stored(), {"MaxLevel": 1})

@@ -151,7 +151,7 @@ class Setting(HostTest):
         result = self.done_with_notes("input", "2", "rec")
         self.assertEqual(result.out + result.err,
                          "TRX-SELVA input audio channel 2 set to REC OUT.\n"
-                         "No mixer is connected; the setting is stored all the same.\n"
+                         "No mixer is connected; the setting is stored anyway.\n"
                          "hint: once a mixer is connected, send it with: trxctl input 2 --again\n")
 
 

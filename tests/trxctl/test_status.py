@@ -1,4 +1,4 @@
-"""trxctl status, versions and models: what is told of mixers, software and models."""
+"""trxctl status, versions and models: what they print of mixers, software and models."""
 
 import unittest
 
@@ -43,15 +43,15 @@ class Status(HostTest):
 
     def test_every_model_tells_what_it_has(self):
         for model, (certify, firmware, selectors, serato) in TELLS.items():
-            told = self.done("status", "--json", "--model", model).json
+            printed = self.done("status", "--json", "--model", model).json
             level = 0 if model == "TRX-HALDEN" else 7
-            self.assertEqual(told["certify_level"], level if certify else None, model)
-            self.assertEqual(told["firmware"], 258 if firmware else None, model)
-            self.assertEqual(told["serato"], True if serato else None, model)
-            self.assertEqual(told["input_selectors"],
+            self.assertEqual(printed["certify_level"], level if certify else None, model)
+            self.assertEqual(printed["firmware"], 258 if firmware else None, model)
+            self.assertEqual(printed["serato"], True if serato else None, model)
+            self.assertEqual(printed["input_selectors"],
                              [{"channel": i + 1, "position": position}
                               for i, position in enumerate((6, 5, 0, 7)[:selectors])], model)
-            self.assertEqual(len(told["mixers"]), 2)
+            self.assertEqual(len(printed["mixers"]), 2)
 
     def test_one_mixer_needs_no_remark(self):
         self.unplug(2)
@@ -66,10 +66,10 @@ class Status(HostTest):
                      "input selector 1    no answer", "Serato              no answer",
                      f"{self.described(1)}: refused it", f"{self.described(2)}: refused it"):
             self.assertIn(f"  {line}\n", result.out)
-        told = self.run_host("status", "--json").json
-        self.assertEqual((told["certify_level"], told["firmware"], told["serato"]), (None,) * 3)
-        self.assertEqual([one["position"] for one in told["input_selectors"]], [None] * 4)
-        self.assertEqual([mixer["result"] for mixer in told["mixers"]], ["refused"] * 2)
+        printed = self.run_host("status", "--json").json
+        self.assertEqual((printed["certify_level"], printed["firmware"], printed["serato"]), (None,) * 3)
+        self.assertEqual([one["position"] for one in printed["input_selectors"]], [None] * 4)
+        self.assertEqual([mixer["result"] for mixer in printed["mixers"]], ["refused"] * 2)
 
     def test_position_out_of_range(self):
         for unit in (1, 2):
@@ -111,9 +111,9 @@ class Versions(HostTest):
 
     def test_library_and_package_serve_every_model(self):
         for model in MODELS:
-            told = self.done("versions", "--json", "--model", model).json
-            self.assertIsNotNone(told["library"], model)
-            self.assertEqual(told["setup_application"] is None, model != "TRX-SELVA")
+            printed = self.done("versions", "--json", "--model", model).json
+            self.assertIsNotNone(printed["library"], model)
+            self.assertEqual(printed["setup_application"] is None, model != "TRX-SELVA")
 
     def test_nothing_installed(self):
         self.env["TRX_SYSTEM_ROOT"] = str(self.config)

@@ -246,7 +246,7 @@ class WithoutBus(HostTest):
     def test_settings_are_set_all_the_same(self):
         result = self.done_with_notes("boost", "-10")
         self.assertEqual(result.err,
-                         "note: there is no session bus, so no other program was told\n")
+                         "note: there is no session bus, so no other program knows of it\n")
         self.assertIs(self.done("boost", "-10", "--json").json["announced"], False)
         self.assertEqual(self.stored(), {"MaxLevel": 1})
         self.assertEqual(self.levels_sent(), [(1, "0200"), (1, "0200"), (2, "0200"), (2, "0200")])
@@ -272,7 +272,7 @@ class DyingBus(HostTest):
         bus.send_signal(signal.SIGSTOP)
         result = self.done_with_notes("boost", "-10")
         self.assertEqual(result.err,
-                         "note: the session bus does not answer, so no other program was told\n")
+                         "note: the session bus does not answer, so no other program knows of it\n")
 
 
 if __name__ == "__main__":

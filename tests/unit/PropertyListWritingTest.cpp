@@ -123,11 +123,11 @@ void LimitFileSize(rlim_t bytes) {
 }
 
 TEST_F(PropertyListWriting, AFullDiskLeavesTheOldFileWhole) {
-  for (const rlim_t room : {rlim_t{0}, rlim_t{1}, rlim_t{100}}) {
+  for (const rlim_t limit : {rlim_t{0}, rlim_t{1}, rlim_t{100}}) {
     WriteBytes(path_, kOldContents);
     const ino_t before = StatusOf(path_).st_ino;
     ExpectQuietSuccess([&] {
-      LimitFileSize(room);
+      LimitFileSize(limit);
       EXPECT_FALSE(SetMaxLevel(path_, 1));
     });
     EXPECT_EQ(StatusOf(path_).st_ino, before);

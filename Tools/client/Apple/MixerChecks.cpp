@@ -3,7 +3,7 @@
 namespace client {
 
 std::vector<Check> CheckMixers() {
-  // How many mixers there are is not told here; only that there is one.
+  // The platform says only whether there is a mixer, not how many there are.
   if (!IsMixerConnected()) return {{.part = CheckedPart::kMixer, .finding = Finding::kNoMixer}};
   std::vector<Check> checks{{.part = CheckedPart::kMixer}};
   const std::vector<Check> answers = CheckAnswers();

@@ -44,7 +44,7 @@ def cache_folder():
 
 
 def find_kernel(say):
-    """The newest kernel of the cache; without one, what Debian offers today. `say` is told what takes its time."""
+    """The newest kernel of the cache; without one, what Debian offers today. `say` gets a line about what takes long."""
     cache = cache_folder()
     cache.mkdir(parents=True, exist_ok=True)
     package = newest_package(cache) or download(cache, say)

@@ -168,7 +168,7 @@ TEST_F(Diagnostics, TheObserverIsCalledBehindItsRequestAndBeforeTheNext) {
   Observe();
   EXPECT_EQ(ORV_SetBoostLevelIndex(kSelva, 0), kSuccess);
   EXPECT_EQ(requests, (std::vector<std::size_t>{1, 2}));
-  EXPECT_EQ(listing, Lines()) << "stored before the units were told";
+  EXPECT_EQ(listing, Lines()) << "stored before it was sent";
 }
 
 // --- Threads and lifetime of an observer ---------------------------------------------------------

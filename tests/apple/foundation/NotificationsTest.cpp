@@ -41,13 +41,13 @@ class Notifications : public testing::Test {
   };
 
   static void Called(std::int32_t channel, std::int32_t index, void *context) {
-    const auto *told = static_cast<const Context *>(context);
-    told->calls->push_back(std::string(told->name) + " " + std::to_string(channel) + " " +
-                           std::to_string(index));
+    const auto *listener = static_cast<const Context *>(context);
+    listener->calls->push_back(std::string(listener->name) + " " + std::to_string(channel) + " " +
+                               std::to_string(index));
   }
   static void Called(std::int32_t index, void *context) {
-    const auto *told = static_cast<const Context *>(context);
-    told->calls->push_back(std::string(told->name) + " " + std::to_string(index));
+    const auto *listener = static_cast<const Context *>(context);
+    listener->calls->push_back(std::string(listener->name) + " " + std::to_string(index));
   }
 
   // Runs another process that makes these announcements, one an argument of announcer.mm.

@@ -91,7 +91,7 @@ IOReturn Ask(void *self, const char *function, Use use) {
   return status;
 }
 
-// A read that fails has written all the same: nobody may count on the opposite.
+// A read that fails has written something: no caller may rely on an untouched buffer.
 template <typename Number>
 IOReturn Tell(IOReturn fault, Number number, Number *place) {
   *place = number;

@@ -10,7 +10,8 @@
 namespace trxtest {
 
 /// Devices of this process, numbered from 1 in the order of the registry. They answer every
-/// transfer with success and no byte unless told otherwise. Safe for any number of threads.
+/// transfer with success and no byte unless the test sets another answer. Safe for any number of
+/// threads.
 class ScriptedDevices : public DeviceSource {
  public:
   using Script = std::function<TransferAnswer(int device, const IOUSBDevRequest &request)>;
