@@ -145,13 +145,14 @@ class Models(HostTest):
                           [selectors, "certify_level", "firmware", "serato"])})
 
     def test_text_of_one(self):
-        self.assertEqual(self.done("models", "--model", "TRX-VOLT").out,
-                         "TRX-VOLT\n"
-                         "  input audio, 3 channels (to be read; to be set by raw values only)\n"
-                         "  boost level\n"
-                         "  MIDI channel\n"
-                         "  raw input values, 3 channels\n"
-                         "  status: input selectors\n")
+        text = self.done("models", "--model", "TRX-VOLT").out
+        self.assertTrue(text.startswith(
+            "TRX-VOLT\n"
+            "  input audio, 3 channels (to be read; to be set by raw values only)\n"
+            "  boost level\n"
+            "  MIDI channel\n"), text)
+        self.assertTrue(text.endswith("  raw input values, 3 channels\n"
+                                      "  status: input selectors\n"), text)
 
     def test_names_all(self):
         text = self.done("models").out
