@@ -21,7 +21,6 @@ setup_packages=(
 test_packages=(
   "${bench_packages[@]}"
   "${setup_packages[@]}"
-  xvfb fonts-inter fonts-noto-cjk
   ccache
   libgtest-dev libgmock-dev
   clang libclang-rt-dev dbus-bin doxygen locales binutils util-linux procps
@@ -29,14 +28,16 @@ test_packages=(
   e2fsprogs mount libudev-dev qemu-system-x86
   busybox-static cpio zstd lz4 abigail-tools mmdebstrap debian-archive-keyring uidmap lintian
   kmod
+  xvfb at-spi2-core python3-gi gir1.2-atspi-2.0 fonts-inter fonts-noto-cjk
 )
 
 package_packages=(
+  "${setup_packages[@]}"
   dpkg-dev fakeroot file binutils gzip doxygen
 )
 
 lint_packages=(
-  clang-format clang-tidy cppcheck shellcheck
+  clang-format clang-tidy cppcheck shellcheck appstream desktop-file-utils
 )
 
 # Installs the missing ones of the named packages. When none is missing, it needs no network and no rights.
@@ -66,9 +67,9 @@ if command -v ccache >/dev/null; then
   export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS-pch_defines,time_macros}
 fi
 
-# Configures a preset, with or without the tests (ON or OFF), and builds it.
+# Configures a preset, with or without the tests and the setup application (ON or OFF), and builds it.
 build_preset() {
-  cmake --preset "$1" -DBUILD_TESTING="$2" --log-level=WARNING >/dev/null
+  cmake --preset "$1" -DBUILD_TESTING="$2" -DTRX_BUILD_SETUP="${3-ON}" --log-level=WARNING >/dev/null
   cmake --build --preset "$1"
 }
 

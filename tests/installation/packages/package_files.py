@@ -4,8 +4,8 @@ import os
 import pathlib
 
 FOLDER = pathlib.Path(os.environ["PACKAGES"])
-LIBRARY, DEVELOPMENT, TOOLS, SIMULATOR = NAMES = [
-    "libtrx-selvasetup1", "libtrx-selvasetup-dev", "trxctl", "trx-mixer-sim"]
+LIBRARY, DEVELOPMENT, TOOLS, SETUP, SIMULATOR = NAMES = [
+    "libtrx-selvasetup1", "libtrx-selvasetup-dev", "trxctl", "trx-setup", "trx-mixer-sim"]
 
 
 def files(*names):

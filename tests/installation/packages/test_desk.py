@@ -79,7 +79,7 @@ class Desk(unittest.TestCase):
         self.assertIn(f"TRX-SELVASetupConfig.cmake, version: {VERSION}", tried.stdout)
 
     def test_man_shows_the_pages(self):
-        for program in ("trxctl", "trx-mixer-sim", "trx-mixer-ctl"):
+        for program in ("trxctl", "trx-setup", "trx-mixer-sim", "trx-mixer-ctl"):
             shown = self.as_user(f"man {program}")
             self.assertRegex(shown, rf"(?m)^NAME\n +{program} [-–—]+ \w")
 

@@ -2,18 +2,20 @@
 
 import gzip
 import os
+import plistlib
 import re
 import unittest
 
 import debian_root
 import package_files
-from package_files import DEVELOPMENT, LIBRARY, NAMES, SIMULATOR, TOOLS
+from package_files import DEVELOPMENT, LIBRARY, NAMES, SETUP, SIMULATOR, TOOLS
 
 VERSION = os.environ["VERSION"]
 TRIPLET = os.environ["TRIPLET"]
 LANGUAGES = ["Dutch", "English", "French", "German", "Italian", "Japanese", "Spanish", "ko", "pt", "ru",
              "zh_CN", "zh_TW"]
 FRAMEWORK = "usr/share/orvikaudio/Library/Frameworks/TRX-SELVASetup.framework"
+SETUP_INFO = "usr/share/orvikaudio/Applications/Orvik/TRX-SELVA/TRX-SELVA Setup.app/Contents/Info.plist"
 DOCUMENTATION = f"usr/share/doc/{DEVELOPMENT}"
 
 FILES = {
@@ -22,7 +24,6 @@ FILES = {
         "usr/lib/udev/rules.d/70-trx-selva.rules",
         "usr/share/orvikaudio/System/Library/CoreServices/SystemVersion.plist",
         "usr/share/orvikaudio/private/var/db/receipts/com.orvikaudio.TRX-SELVA.pkg.plist",
-        "usr/share/orvikaudio/Applications/Orvik/TRX-SELVA/TRX-SELVA Setup.app/Contents/Info.plist",
         f"{FRAMEWORK}/Resources/Info.plist",
         *[f"{FRAMEWORK}/Resources/{language}.lproj/Localizable.strings" for language in LANGUAGES]],
     DEVELOPMENT: [
@@ -49,6 +50,13 @@ FILES = {
         "usr/share/bash-completion/completions/trxctl",
         "usr/share/zsh/vendor-completions/_trxctl",
         "usr/share/fish/vendor_completions.d/trxctl.fish"],
+    SETUP: [
+        "usr/bin/trx-setup",
+        "usr/share/man/man1/trx-setup.1.gz",
+        "usr/share/applications/trx-setup.desktop",
+        "usr/share/metainfo/com.orvikaudio.TrxSetup.metainfo.xml",
+        "usr/share/icons/hicolor/scalable/apps/trx-setup.svg",
+        SETUP_INFO],
     SIMULATOR: [
         "usr/bin/trx-mixer-sim",
         "usr/bin/trx-mixer-ctl",
@@ -57,7 +65,13 @@ FILES = {
 }
 
 
-class Installed(unittest.TestCase):
+class PackagesTest(unittest.TestCase):
+    def setup_program(self):
+        """The program that the installation calls its setup application."""
+        return plistlib.loads((self.root.path / SETUP_INFO).read_bytes())["CFBundleExecutable"]
+
+
+class Installed(PackagesTest):
     @classmethod
     def setUpClass(cls):
         cls.root = debian_root.DebianRoot("minimal")
@@ -104,6 +118,24 @@ class Installed(unittest.TestCase):
                          f"  setup application   {VERSION}\n"
                          f"  library             {VERSION}\n")
 
+    def test_the_setup_application_is_trx_setup(self):
+        self.assertEqual(self.setup_program(), "trx-setup")
+
+    def test_the_window_opens_and_asks_the_mixer(self):
+        # No desktop, no session bus, no folder of the user's own: the window has to do without.
+        said = self.said("trx-mixer-sim", "--", "sh", "-ec", "QT_QPA_PLATFORM=offscreen trx-setup & window=$!; "
+                         "until trx-mixer-ctl log | grep 'firmware'; do kill -0 $window; sleep 0.1; done; kill $window")
+        self.assertIn("unit 1  IN ", said)
+
+    def test_menu_entry_and_icon_name_what_is_installed(self):
+        entry = (self.root.path / "usr/share/applications/trx-setup.desktop").read_text(encoding="utf-8")
+        self.assertIn("\nExec=trx-setup\n", entry)
+        self.assertIn("\nIcon=trx-setup\n", entry)
+
+    def test_software_centres_show_this_version(self):
+        described = (self.root.path / "usr/share/metainfo/com.orvikaudio.TrxSetup.metainfo.xml").read_text(encoding="utf-8")
+        self.assertEqual(re.findall(r'<release version="([^"]+)"', described)[0], VERSION)
+
     def test_a_mixer_is_set_without_anything_from_elsewhere(self):
         self.root.run("mkdir", "--mode=1777", "--parents", "/tmp/home")
         said = self.said("trx-mixer-sim", "--units", "2", "--", "trxctl", "boost", "-10")
@@ -123,7 +155,7 @@ class Installed(unittest.TestCase):
                 self.said("dpkg-query", "--show", "--showformat=${Multi-Arch}", package), "same")
 
 
-class Removed(unittest.TestCase):
+class Removed(PackagesTest):
     def setUp(self):
         self.root = debian_root.DebianRoot("minimal")
         self.addCleanup(self.root.remove)
@@ -142,6 +174,18 @@ class Removed(unittest.TestCase):
         self.assertEqual({name: look for name, look in left.items() if contents.get(name) != look}, {})
         self.assertEqual([name for name in contents if name not in left], [])
         self.assertNotIn("TRX-SELVASetup", self.root.run("ldconfig", "--print-cache").stdout)
+
+    def test_without_trx_setup_the_setup_application_is_trxctl(self):
+        others = [name for name in NAMES if name != SETUP]
+        self.root.install(package_files.files(*others))
+        self.assertEqual(self.setup_program(), "trxctl")
+        before = self.root.contents()
+        self.root.install(package_files.files(SETUP))
+        self.assertEqual(self.setup_program(), "trx-setup")
+        self.root.run("apt-get", "purge", "--yes", "--autoremove", SETUP)
+        self.assertEqual(self.setup_program(), "trxctl")
+        self.assertEqual(self.root.contents(), before)
+        self.assertIn(f"setup application   {VERSION}\n", self.root.run("trxctl", "versions").stdout)
 
 
 if __name__ == "__main__":
