@@ -26,9 +26,10 @@ void Check(long result, const char *what) {
   if (result < 0) throw std::system_error(errno, std::generic_category(), what);
 }
 
-// The registers that hold the number of the pending system call, and its result.
+// The registers that hold the number of the pending system call, its third argument, its result.
 #ifdef __x86_64__
 constexpr std::size_t kNumberOfCall = offsetof(user, regs.orig_rax);
+constexpr std::size_t kThirdArgument = offsetof(user, regs.rdx);
 constexpr std::size_t kResultOfCall = offsetof(user, regs.rax);
 
 void SetRegister(pid_t process, std::size_t which, long value) {
@@ -36,6 +37,7 @@ void SetRegister(pid_t process, std::size_t which, long value) {
 }
 #else
 constexpr std::size_t kNumberOfCall = 0;
+constexpr std::size_t kThirdArgument = 0;
 constexpr std::size_t kResultOfCall = 0;
 
 void SetRegister(pid_t /*process*/, std::size_t /*which*/, long /*value*/) {
@@ -117,6 +119,10 @@ void SteppedProcess::Fail(int error) {
   SetRegister(id_, kNumberOfCall, -1);
   if (!Continue(PTRACE_SYSCALL)) throw std::system_error(ECHILD, std::generic_category(), "fail");
   SetRegister(id_, kResultOfCall, -error);
+}
+
+void SteppedProcess::Shorten(std::size_t bytes) {
+  SetRegister(id_, kThirdArgument, static_cast<long>(bytes));
 }
 
 void SteppedProcess::Kill() {

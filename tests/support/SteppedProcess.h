@@ -39,6 +39,9 @@ class SteppedProcess {
   /// is not made; the next step continues after it.
   void Fail(int error);
 
+  /// Lets the read or write before which the child has stopped ask for no more than these bytes.
+  void Shorten(std::size_t bytes);
+
   /// Kills the child where it has stopped: the pending system call does not happen.
   void Kill();
 

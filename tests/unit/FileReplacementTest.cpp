@@ -452,11 +452,11 @@ TEST_F(FileReplacement, AChangeWithAnySystemCallFailingOnceLosesNothing) {
   }
 }
 
-// Runs a writer up to the first of these system calls. Returns whether it came there.
-bool StepToCall(SteppedProcess &writer, long number) {
+// Runs a writer up to the first of these system calls; nothing when it does not make one.
+std::optional<SystemCall> StepToCall(SteppedProcess &writer, long number) {
   std::optional<SystemCall> call = writer.Step();
   while (call && static_cast<long>(call->number) != number) call = writer.Step();
-  return call.has_value();
+  return call;
 }
 
 TEST_F(FileReplacement, AChangeInterruptedWhileReadingOrWritingGoesOn) {
@@ -470,6 +470,29 @@ TEST_F(FileReplacement, AChangeInterruptedWhileReadingOrWritingGoesOn) {
     EXPECT_TRUE(writer.RunToEnd());
     EXPECT_EQ(ReadBytes(path_), "olda");
   }
+}
+
+TEST_F(FileReplacement, AChangeReadsOnWhereAReadWasShort) {
+  WriteBytes(path_, "old");
+  SteppedProcess writer(Adding("a", kSystems.front()));
+  ASSERT_TRUE(StepToCall(writer, SYS_pread64));
+  writer.Shorten(1);
+  const std::optional<SystemCall> next = StepToCall(writer, SYS_pread64);
+  ASSERT_TRUE(next);
+  EXPECT_EQ(next->arguments[2], 2U) << "no more than is left in the buffer";
+  EXPECT_TRUE(writer.RunToEnd());
+  EXPECT_EQ(ReadBytes(path_), "olda");
+}
+
+TEST_F(FileReplacement, AChangeReadsAFileThatGetsShorterToItsNewEnd) {
+  WriteBytes(path_, "old");
+  SteppedProcess writer(Adding("a", kSystems.front()));
+  ASSERT_TRUE(StepToCall(writer, SYS_pread64));
+  writer.Shorten(1);
+  ASSERT_TRUE(StepToCall(writer, SYS_pread64));
+  ASSERT_EQ(truncate(path_.c_str(), 1), 0);
+  EXPECT_TRUE(writer.RunToEnd());
+  EXPECT_EQ(ReadBytes(path_), "oa");
 }
 
 TEST_F(FileReplacement, AChangeLeavesTheFileWhenItCannotSeeWhoElseWrites) {
