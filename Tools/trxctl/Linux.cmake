@@ -11,9 +11,4 @@ target_precompile_headers(trxctl-parts PRIVATE <CLI/CLI.hpp> <nlohmann/json.hpp>
 
 add_executable(trxctl main.cpp)
 target_link_libraries(trxctl PRIVATE trxctl-parts)
-
-# Below another prefix than these the system does not look for the library by itself.
-if(NOT CMAKE_INSTALL_PREFIX MATCHES "^/usr(/local)?/?$")
-  file(RELATIVE_PATH library_folder "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
-  set_target_properties(trxctl PROPERTIES INSTALL_RPATH "$ORIGIN/${library_folder}")
-endif()
+find_libraries_relative_to_program(trxctl)
