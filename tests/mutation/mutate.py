@@ -80,7 +80,7 @@ NEAREST = (
     ("*/InputAudio*", "", "InputAudio"),
     ("*/InputRoutingWarning*", "", "InputRoutingWarning"),
     ("*/OutputAudio*", "", "OutputAudio"),
-    ("*/ORVFunc/Setting*", "Settings", "BoostLevel|Midi|SettingsFile"),
+    ("*/ORVFunc/Setting*", "Settings", "Each/Setting|SettingsFile"),
     ("*/ChangeKind*", "ChangeKind", "Callback"),
     ("*/MixerStatus*", "", "MixerStatus"),
     ("*/VersionTexts*", "", "VersionTexts"),
