@@ -164,7 +164,9 @@ void SetupState::TakeSent(const client::Setting &setting, unsigned order,
   // A newer choice is on its way, or another model is shown.
   if (shown == nullptr || shown->order != order) return;
   shown->order = 0;
-  shown->index = shown->stored = result.stored;
+  shown->stored = result.stored;
+  // What a mixer has is shown also where this computer could not keep it.
+  if (result.sent.delivery.CountTaken() == 0) shown->index = result.stored;
   storageProblem_.reset();
   if (result.storage && !result.storage->IsGood()) storageProblem_ = result.storage;
   Q_EMIT Told(SentAsText(result.sent));
@@ -291,8 +293,10 @@ void SetupState::TakeLook(const Look &look) {
 void SetupState::TakeStored(const std::vector<StoredChoice> &stored) {
   for (const StoredChoice &choice : stored) {
     ShownSetting *shown = Editable(choice.setting);
-    if (shown == nullptr || shown->IsSending() || shown->index == choice.index) continue;
-    shown->index = shown->stored = choice.index;
+    if (shown == nullptr || shown->IsSending() || shown->stored == choice.index) continue;
+    shown->stored = choice.index;
+    if (shown->index == choice.index) continue;
+    shown->index = choice.index;
     DropWarnings();
     Q_EMIT Changed();
     Q_EMIT ChangedElsewhere(choice.setting);

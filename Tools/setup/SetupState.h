@@ -20,9 +20,9 @@ struct ShownSetting {
   client::Setting setting;
   /// The texts of all choices.
   QStringList choices;
-  /// What was chosen last; not necessarily a choice.
+  /// What was chosen last, and where the cable is; not necessarily a choice.
   int32_t index = -1;
-  /// What the computer kept last: where the cable is.
+  /// What this computer kept last.
   int32_t stored = -1;
   /// The number of the order that is on its way; 0 for none.
   unsigned order = 0;

@@ -73,6 +73,7 @@ SetupWindow::SetupWindow(SetupState &state)
       header_(new Header(this)),
       frame_(MakeFrame(this)),
       status_(new StatusLine(this)),
+      details_(new ActionButton(tr("Show &details"), this)),
       profiles_(new ProfileShelf(state)) {
   setObjectName("setupWindow");
   setWindowTitle(tr("TRX Setup"));
@@ -81,7 +82,12 @@ SetupWindow::SetupWindow(SetupState &state)
   column->setSpacing(Scaled(8));
   column->addWidget(header_);
   column->addWidget(frame_, 1);
-  column->addWidget(status_);
+  auto *foot = new QHBoxLayout;
+  foot->addWidget(status_, 1);
+  foot->addWidget(details_);
+  column->addLayout(foot);
+  details_->setObjectName("statusDetails");
+  connect(details_, &QPushButton::clicked, this, &SetupWindow::ShowDetails);
   AddProfiles();
   FillMoreMenu();
   BuildCards();
@@ -296,6 +302,7 @@ void SetupWindow::RefreshStatus() {
            "later.");
   }
   status_->SetLasting(lasting);
+  details_->setVisible(state_.StorageProblem().has_value());
 }
 
 void SetupWindow::PlaceTrouble() {
@@ -315,7 +322,7 @@ std::vector<ShownCable> SetupWindow::PlanCables() const {
   for (const SettingCard *card : cards_) {
     if (!DirectionOf(card->Setting())) continue;
     const ShownSetting &shown = *state_.Find(card->Setting());
-    if (preview_ && preview_->card == card) {
+    if (preview_ && preview_->card == card && preview_->index != shown.index) {
       cables.push_back(CableOf(*card, preview_->index, CableLook::kPreview));
       continue;
     }

@@ -70,6 +70,7 @@ class SetupWindow : public QWidget {
   MixerDrawing *drawing_ = nullptr;
   TroubleCard *trouble_ = nullptr;
   StatusLine *status_;
+  ActionButton *details_;
   std::vector<SettingCard *> cards_;
   PluggedInCard *pluggedIn_ = nullptr;
   ProfileShelf *profiles_;
