@@ -95,7 +95,7 @@ constexpr SceneryFader ChannelFader(double middle) {
   return {{middle - 2.5, 351, 5, 83}, {middle - 14.5, 383, 29, 17}};
 }
 
-const std::array<SceneryFader, 3> kFaders{{
+constexpr std::array<SceneryFader, 3> kFaders{{
     ChannelFader(kCh1),
     ChannelFader(kCh2),
     {{146, kCrossfaderRow - 2.5, 162, 5}, {219, kCrossfaderRow - 14.5, 16, 29}},

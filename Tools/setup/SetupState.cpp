@@ -266,9 +266,7 @@ void SetupState::TakeLook(const Look &look) {
   if (isOtherModel) Show(*look.model);
   const Look former = std::exchange(look_, look);
   const bool isPlugged = isReady_ && look.mixers.size() > former.mixers.size();
-  const bool isSentByItself =
-      look.isAutoApplyOn && autoApplyObstacle_ == client::AutoApplyObstacle::kNone;
-  if (isPlugged && isSentByItself) plugTimer_.start(kUntilPlugInSent);
+  if (isPlugged && IsAutoApplyWorking()) plugTimer_.start(kUntilPlugInSent);
   if (!look.isAsked && HaveSameMixers(former, look)) {
     look_.isAsked = former.isAsked;
     look_.silent = former.silent;

@@ -73,6 +73,9 @@ class SetupState : public QObject {
   /// Whether the settings are sent to a mixer that is plugged in, and what keeps that from working.
   bool IsAutoApplyOn() const { return look_.isAutoApplyOn; }
   client::AutoApplyObstacle ObstacleToAutoApply() const { return autoApplyObstacle_; }
+  bool IsAutoApplyWorking() const {
+    return IsAutoApplyOn() && autoApplyObstacle_ == client::AutoApplyObstacle::kNone;
+  }
   void TurnAutoApply(bool on);
 
   /// Shows a choice and sends it. What is chosen already is left alone.

@@ -146,6 +146,7 @@ void SetupWindow::BuildCards() {
             OfferChannels(direction, *socket, at);
           });
   connect(trouble_, &TroubleCard::DetailsWanted, this, &SetupWindow::ShowDetails);
+  connect(trouble_, &TroubleCard::Told, status_, &StatusLine::Tell);
   drawing_->installEventFilter(this);
   trouble_->installEventFilter(this);
   for (SettingCard *card : cards_) card->installEventFilter(this);

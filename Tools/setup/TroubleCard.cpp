@@ -77,8 +77,10 @@ TroubleCard::TroubleCard(QWidget *parent)
   column->addLayout(checks_);
   column->addWidget(command_);
   column->addLayout(buttons);
-  connect(copy_, &QPushButton::clicked, this,
-          [this] { QGuiApplication::clipboard()->setText(command_->text()); });
+  connect(copy_, &QPushButton::clicked, this, [this] {
+    QGuiApplication::clipboard()->setText(command_->text());
+    Q_EMIT Told(tr("The command is copied."));
+  });
   connect(details_, &QPushButton::clicked, this, &TroubleCard::DetailsWanted);
   title_->setFont(ScaledFont(1.15, QFont::DemiBold));
   QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -94,7 +96,10 @@ void TroubleCard::Refresh(const SetupState &state) {
   if (problem == nullptr) return;
   const ProblemWords words = ProblemAsText(*problem);
   title_->setText(words.title);
-  text_->setText(words.text);
+  text_->setText(problem->finding == client::Finding::kNoMixer && state.IsAutoApplyWorking()
+                     ? tr("Connect the mixer by USB and switch it on. What you choose meanwhile is "
+                          "kept, and sent as soon as it is there.")
+                     : words.text);
   ShowChecks(look.checks);
   command_->setText(words.command);
   command_->setVisible(!words.command.isEmpty());

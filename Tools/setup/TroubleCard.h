@@ -21,6 +21,7 @@ class TroubleCard : public QWidget {
 
  Q_SIGNALS:
   void DetailsWanted();
+  void Told(const QString &text);
 
  protected:
   void paintEvent(QPaintEvent *event) override;
