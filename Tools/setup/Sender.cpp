@@ -18,8 +18,15 @@ Sender::~Sender() {
 void Sender::Enqueue(const std::string &key, std::function<void()> run) {
   {
     const std::lock_guard lock(mutex_);
-    if (!key.empty()) std::erase_if(waiting_, [&key](const Job &job) { return job.key == key; });
-    waiting_.push_back({key, std::move(run)});
+    const auto former = std::find_if(waiting_.begin(), waiting_.end(), [&key](const Job &job) {
+      return !key.empty() && job.key == key;
+    });
+    // It takes the place of the former one: whoever asks again and again must not wait for ever.
+    if (former != waiting_.end()) {
+      former->run = std::move(run);
+    } else {
+      waiting_.push_back({key, std::move(run)});
+    }
   }
   changed_.notify_all();
 }

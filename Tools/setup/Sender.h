@@ -25,8 +25,8 @@ class Sender {
   ~Sender();
 
   /// Runs a job after those that wait, then hands its result to a function on the receiver's
-  /// thread. A job that still waits under the same key is dropped; without a key none is. The
-  /// receiver must outlive the sender.
+  /// thread. It takes the place of a job that still waits under the same key; without a key of
+  /// none. The receiver must outlive the sender.
   template <typename Work, typename Done>
   void Run(const std::string &key, QObject *receiver, Work work, Done done) {
     Enqueue(key, [receiver, work = std::move(work), done = std::move(done)] {

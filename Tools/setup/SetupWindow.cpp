@@ -234,11 +234,17 @@ void SetupWindow::AddShortcuts() {
 void SetupWindow::FillMoreMenu() {
   auto *menu = new QMenu(&header_->MoreButton());
   menu->setObjectName("moreMenu");
-  QAction *undo = menu->addAction(tr("&Undo"), &state_, &SetupState::Undo);
+  // The window has the keys; the menu only names them.
+  const auto withKey = [](const QString &text, const QKeySequence &keys) {
+    return text + '\t' + keys.toString(QKeySequence::NativeText);
+  };
+  QAction *undo =
+      menu->addAction(withKey(tr("&Undo"), QKeySequence::Undo), &state_, &SetupState::Undo);
   menu->addAction(tr("&Send all settings again"), &state_, &SetupState::SendAllAgain);
-  menu->addAction(tr("&Look again"), &state_, &SetupState::LookAgain);
+  menu->addAction(withKey(tr("&Look again"), Qt::Key_F5), &state_, &SetupState::LookAgain);
   menu->addSeparator();
-  menu->addAction(tr("&Why is my mixer not found?"), this, &SetupWindow::ShowDetails);
+  menu->addAction(withKey(tr("&Why is my mixer not found?"), Qt::Key_F1), this,
+                  &SetupWindow::ShowDetails);
   menu->addAction(tr("&About and versions"), this,
                   [this] { (new VersionsDialog(state_, this))->open(); });
   connect(menu, &QMenu::aboutToShow, this, [this, undo] { undo->setEnabled(state_.CanUndo()); });
