@@ -289,6 +289,20 @@ class Machine(unittest.TestCase):
         self.box.run(f"/root/ctl unplug {unit}")
         self.box.wait_for(f"grep -F '{{\"event\":\"unplugged\",{place}}}' /run/watched", "the unplug to be seen")
 
+    def test_setup_application_opens_its_window_and_follows(self):
+        self.box.run("systemd-run --unit=display --collect --uid=dj Xvfb :9 -screen 0 1280x1024x24")
+        self.addCleanup(self.box.run, "systemctl stop display")
+        self.box.wait_for("test -S /tmp/.X11-unix/X9", "the display")
+        self.box.run("systemd-run --unit=window --collect --uid=dj --setenv=DISPLAY=:9 --setenv=HOME=/home/dj "
+                     "--setenv=XDG_RUNTIME_DIR=/run/user/$(id -u dj) --setenv=LC_ALL=C.UTF-8 trx-setup")
+        self.addCleanup(self.box.run, "systemctl stop window")
+        self.box.wait_for("runuser -u dj -- env DISPLAY=:9 xwininfo -root -tree | grep 'TRX Setup'", "the window")
+        self.assertNotIn(" IN ", self.box.run("/root/ctl log"))
+        unit = self.plug()
+        # It asks the mixer that it sees.
+        self.box.wait_for(f"/root/ctl log | grep '^unit {unit} '", "the window to see the mixer")
+        self.assertEqual(self.box.run("systemctl is-active window"), "active\n")
+
     # --- The end ----------------------------------------------------------------------------------------------------
 
     def test_zz_removed_packages_leave_nothing(self):

@@ -40,7 +40,7 @@ ROOTS = {
     # With all that the project's packages depend on: the machine has no network.
     "machine": Recipe(
         ["systemd-sysv", "udev", "dbus", "libpam-systemd", "dbus-user-session", "acl", "kmod", "passwd",
-         "libplist3", "umockdev", "libumockdev0", "xvfb", "libqt6widgets6", "qt6-qpa-plugins"],
+         "libplist3", "umockdev", "libumockdev0", "xvfb", "x11-utils", "libqt6widgets6", "qt6-qpa-plugins"],
         [*[f"--dpkgopt=path-exclude={path}" for path in UNREAD],
          "--customize-hook=for user in dj eva remote; do chroot \"$1\" useradd --create-home --shell /bin/bash $user; done"]),
 }
