@@ -107,7 +107,7 @@ void ProfileShelf::TakeLoaded(const client::Profile &profile) {
 void ProfileShelf::Save(const QString &name, client::OldFile oldFile) {
   Do(
       [model = &state_.Model(), name = name.trimmed().toStdString(), oldFile] {
-        const client::Profile profile = client::ProfileOfStored(*model, name);
+        client::Profile profile = client::ProfileOfStored(*model, name);
         client::SaveProfile(profile, oldFile);
         return profile;
       },

@@ -9,10 +9,8 @@
 namespace setup {
 namespace {
 
-using std::chrono_literals::operator""ms;
-
-constexpr std::chrono::milliseconds kGlow = 2600ms;
-constexpr std::chrono::milliseconds kNote = 4000ms;
+constexpr std::chrono::milliseconds kGlow{2600};
+constexpr std::chrono::milliseconds kNote{4000};
 
 /// More choices than these stand in a list.
 constexpr qsizetype kMostSegments = 5;
@@ -43,10 +41,7 @@ const Warning *WarningOf(const Look &look, const client::Setting &setting) {
 }  // namespace
 
 SettingCard::SettingCard(SetupState &state, const client::Setting &setting, QWidget *parent)
-    : Card(TitleOf(setting), parent),
-      state_(state),
-      setting_(setting),
-      warning_(new WarningPanel(this)) {
+    : Card(TitleOf(setting), parent), state_(state), setting_(setting) {
   const std::string name = std::string(setting.kind->name) +
                            (setting.kind->hasChannels ? std::to_string(setting.channel + 1) : "");
   setObjectName(QString::fromStdString(name) + "Card");
@@ -58,7 +53,10 @@ SettingCard::SettingCard(SetupState &state, const client::Setting &setting, QWid
   }
   control_->setObjectName(QString::fromStdString(name));
   Add(control_);
-  AddWide(warning_);
+  if (setting.kind->extras.warning != nullptr) {
+    warning_ = new WarningPanel(this);
+    AddWide(warning_);
+  }
   glow_.setSingleShot(true);
   note_.setSingleShot(true);
   connect(&glow_, &QTimer::timeout, this, &SettingCard::Mark);
@@ -75,9 +73,11 @@ void SettingCard::MakeSegments(const ShownSetting &shown) {
     segment.setObjectName(QString("choice%1").arg(index + 1));
     segment.setAccessibleName(
         tr("%1: %2", "setting: choice").arg(SettingAsText(setting_), shown.choices.at(index)));
+    segment.setAccessibleDescription(SettingAsDescription(setting_));
     if (IsBoost(setting_)) segment.SetBars(count - index);
   }
   segments_->setAccessibleName(SettingAsText(setting_));
+  segments_->setAccessibleDescription(SettingAsDescription(setting_));
   connect(segments_, &SegmentedChoice::Chosen, this, &SettingCard::Choose);
   connect(segments_, &SegmentedChoice::Pointed, this, [this](int index) {
     Q_EMIT PointedAt(true, index < 0 ? std::nullopt : std::optional(index));
@@ -90,6 +90,7 @@ void SettingCard::MakeList(const ShownSetting &shown) {
   Title().setBuddy(list_);
   Title().setAccessibleName(SettingAsText(setting_));
   list_->setAccessibleName(SettingAsText(setting_));
+  list_->setAccessibleDescription(SettingAsDescription(setting_));
   connect(list_, &SignalList::Chosen, this, &SettingCard::Choose);
   connect(list_, &SignalList::Pointed, this, [this](int index) {
     isPreviewing_ = index >= 0;
@@ -111,12 +112,16 @@ void SettingCard::FocusControl() {
   }
 }
 
+void SettingCard::SetWarningOpen(bool isOpen) {
+  if (warning_ != nullptr) warning_->SetOpen(isOpen);
+}
+
 void SettingCard::Refresh() {
   const ShownSetting *shown = state_.Find(setting_);
   if (shown == nullptr) return;
   if (segments_ != nullptr) segments_->Show(shown->index);
   if (list_ != nullptr) list_->Show(shown->index);
-  warning_->Show(WarningOf(state_.LastLook(), setting_));
+  if (warning_ != nullptr) warning_->Show(WarningOf(state_.LastLook(), setting_));
   const QString hint = IsBoost(setting_) ? tr("how loud you record") : QString();
   SetNote(note_.isActive() ? tr("set by another program") : hint);
   Mark();

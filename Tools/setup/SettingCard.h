@@ -25,7 +25,7 @@ class SettingCard : public Card {
   /// What takes the focus for this card.
   QWidget *Control() const { return control_; }
   void FocusControl();
-  void SetWarningOpen(bool isOpen) { warning_->SetOpen(isOpen); }
+  void SetWarningOpen(bool isOpen);
 
   /// Shows what the state says.
   void Refresh();
@@ -54,7 +54,8 @@ class SettingCard : public Card {
   SegmentedChoice *segments_ = nullptr;
   SignalList *list_ = nullptr;
   QWidget *control_ = nullptr;
-  WarningPanel *warning_;
+  /// Null for a setting that no warning is for.
+  WarningPanel *warning_ = nullptr;
   bool isPreviewing_ = false;
   QTimer glow_;
   QTimer note_;

@@ -37,6 +37,15 @@ std::string KeyOf(const client::Setting &setting) {
   return std::string(setting.kind->name) + std::to_string(setting.channel);
 }
 
+/// The setting among those shown; null when the model that is shown does not have it.
+template <typename Settings>
+auto FindIn(Settings &settings, const client::Setting &setting) {
+  const auto found = std::find_if(
+      settings.begin(), settings.end(),
+      [&setting](const ShownSetting &shown) { return IsSame(shown.setting, setting); });
+  return found == settings.end() ? nullptr : &*found;
+}
+
 }  // namespace
 
 bool IsSame(const client::Setting &left, const client::Setting &right) {
@@ -85,14 +94,11 @@ std::vector<const ShownSetting *> SetupState::SettingsOfKind(std::string_view ki
 }
 
 const ShownSetting *SetupState::Find(const client::Setting &setting) const {
-  const auto found = std::find_if(
-      settings_.begin(), settings_.end(),
-      [&setting](const ShownSetting &shown) { return IsSame(shown.setting, setting); });
-  return found == settings_.end() ? nullptr : &*found;
+  return FindIn(settings_, setting);
 }
 
 ShownSetting *SetupState::Editable(const client::Setting &setting) {
-  return const_cast<ShownSetting *>(Find(setting));
+  return FindIn(settings_, setting);
 }
 
 bool SetupState::IsAnySending() const {

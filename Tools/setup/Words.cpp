@@ -77,6 +77,18 @@ QString SettingAsText(const client::Setting &setting) {
   return Words::tr("MIDI channel");
 }
 
+QString SettingAsDescription(const client::Setting &setting) {
+  const QString channel = UsbChannelAsText(setting.channel);
+  if (setting.kind->name == "input") {
+    return Words::tr("The signal of the mixer that the computer records on %1.").arg(channel);
+  }
+  if (setting.kind->name == "output") {
+    return Words::tr("The mixer channel that the computer plays %1 to.").arg(channel);
+  }
+  if (setting.kind->name == "boost") return Words::tr("How loud you record.");
+  return Words::tr("The MIDI channel that the mixer uses.");
+}
+
 QString ChoiceAsText(const ShownSetting &shown) {
   return shown.IsChoice() ? shown.choices.at(shown.index) : Words::tr("Unknown choice");
 }

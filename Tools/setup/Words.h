@@ -15,6 +15,9 @@ QString UsbChannelAsText(int32_t channel);
 /// A setting in a sentence: "USB 1 records".
 QString SettingAsText(const client::Setting &setting);
 
+/// What a setting is, for those who hear it.
+QString SettingAsDescription(const client::Setting &setting);
+
 /// A choice as the library calls it, or that it is none.
 QString ChoiceAsText(const ShownSetting &shown);
 
