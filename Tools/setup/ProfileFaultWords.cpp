@@ -22,49 +22,50 @@ QString SettingIn(const client::ProfileFault &fault) {
 }  // namespace
 
 QString FaultAsText(const client::ProfileFault &fault) {
-  using Words = ProfileFaultWords;
   const QString what = QString::fromStdString(fault.what);
   const QString reason = QString::fromLocal8Bit(std::strerror(fault.reason));
   switch (fault.problem) {
     case ProfileProblem::kNameEmpty:
-      return Words::tr("A profile needs a name.");
+      return ProfileFaultWords::tr("A profile needs a name.");
     case ProfileProblem::kNameTooLong:
-      return Words::tr("This name is too long.");
+      return ProfileFaultWords::tr("This name is too long.");
     case ProfileProblem::kNameNotPrintable:
-      return Words::tr("This name has characters that a name cannot have.");
+      return ProfileFaultWords::tr("This name has characters that a name cannot have.");
     case ProfileProblem::kNoHome:
-      return Words::tr("This user has no home folder to keep profiles in.");
+      return ProfileFaultWords::tr("This user has no home folder to keep profiles in.");
     case ProfileProblem::kNoSuchProfile:
-      return Words::tr("There is no profile %1 any more.").arg(what);
+      return ProfileFaultWords::tr("There is no profile %1 any more.").arg(what);
     case ProfileProblem::kNameTaken:
-      return Words::tr("There is a profile %1 already.").arg(what);
+      return ProfileFaultWords::tr("There is a profile %1 already.").arg(what);
     case ProfileProblem::kFileTaken:
-      return Words::tr("There is a file %1 already.").arg(what);
+      return ProfileFaultWords::tr("There is a file %1 already.").arg(what);
     case ProfileProblem::kMisplaced:
-      return Words::tr("The file is named for another profile, %1. Import it.").arg(what);
+      return ProfileFaultWords::tr("The file is named for another profile, %1. Import it.")
+          .arg(what);
     case ProfileProblem::kUnreadable:
-      return Words::tr("%1 cannot be read: %2.").arg(what, reason);
+      return ProfileFaultWords::tr("%1 cannot be read: %2.").arg(what, reason);
     case ProfileProblem::kUnwritable:
-      return Words::tr("%1 cannot be written: %2.").arg(what, reason);
+      return ProfileFaultWords::tr("%1 cannot be written: %2.").arg(what, reason);
     case ProfileProblem::kStoredIsNoChoice:
-      return Words::tr("%1 is set to an unknown choice. Choose it anew first.")
+      return ProfileFaultWords::tr("%1 is set to an unknown choice. Choose it anew first.")
           .arg(SettingIn(fault));
     case ProfileProblem::kOtherFormat:
-      return Words::tr("This profile is from a newer version of this program.");
+      return ProfileFaultWords::tr("This profile is from a newer version of this program.");
     case ProfileProblem::kUnknownModel:
-      return Words::tr("This profile is for a mixer that is not known here: %1.").arg(what);
+      return ProfileFaultWords::tr("This profile is for a mixer that is not known here: %1.")
+          .arg(what);
     case ProfileProblem::kUnknownText:
-      return Words::tr("The mixer has no choice \"%1\".").arg(what);
+      return ProfileFaultWords::tr("The mixer has no choice \"%1\".").arg(what);
     case ProfileProblem::kUnknownSetting:
     case ProfileProblem::kNotTaken:
     case ProfileProblem::kUnknownChannel:
     case ProfileProblem::kNoChannels:
     case ProfileProblem::kDisagree:
     case ProfileProblem::kSettingTwice:
-      return Words::tr("This profile holds something that the mixer does not have: %1.")
+      return ProfileFaultWords::tr("This profile holds something that the mixer does not have: %1.")
           .arg(SettingIn(fault));
     case ProfileProblem::kNoSettings:
-      return Words::tr("This profile holds no settings.");
+      return ProfileFaultWords::tr("This profile holds no settings.");
     case ProfileProblem::kTooLarge:
     case ProfileProblem::kNoUtf8:
     case ProfileProblem::kNoJson:
@@ -77,7 +78,7 @@ QString FaultAsText(const client::ProfileFault &fault) {
     case ProfileProblem::kNotNumber:
       break;
   }
-  return Words::tr("This file is no profile.");
+  return ProfileFaultWords::tr("This file is no profile.");
 }
 
 }  // namespace setup

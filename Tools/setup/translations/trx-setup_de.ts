@@ -2,77 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>A profile needs a name.</source>
-        <translation>Ein Profil braucht einen Namen.</translation>
-    </message>
-    <message>
-        <source>This name is too long.</source>
-        <translation>Dieser Name ist zu lang.</translation>
-    </message>
-    <message>
-        <source>This name has characters that a name cannot have.</source>
-        <translation>Dieser Name enthält Zeichen, die ein Name nicht haben kann.</translation>
-    </message>
-    <message>
-        <source>This user has no home folder to keep profiles in.</source>
-        <translation>Dieser Benutzer hat keinen persönlichen Ordner für Profile.</translation>
-    </message>
-    <message>
-        <source>There is no profile %1 any more.</source>
-        <translation>Das Profil %1 gibt es nicht mehr.</translation>
-    </message>
-    <message>
-        <source>There is a profile %1 already.</source>
-        <translation>Es gibt schon ein Profil %1.</translation>
-    </message>
-    <message>
-        <source>There is a file %1 already.</source>
-        <translation>Es gibt schon eine Datei %1.</translation>
-    </message>
-    <message>
-        <source>The file is named for another profile, %1. Import it.</source>
-        <translation>Die Datei trägt den Namen eines anderen Profils, %1. Importieren Sie sie.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>%1 kann nicht gelesen werden: %2.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>%1 kann nicht geschrieben werden: %2.</translation>
-    </message>
-    <message>
-        <source>%1 is set to an unknown choice. Choose it anew first.</source>
-        <translation>%1 hat eine unbekannte Auswahl. Wählen Sie dort zuerst neu.</translation>
-    </message>
-    <message>
-        <source>This profile is from a newer version of this program.</source>
-        <translation>Dieses Profil stammt von einer neueren Version dieses Programms.</translation>
-    </message>
-    <message>
-        <source>This profile is for a mixer that is not known here: %1.</source>
-        <translation>Dieses Profil ist für ein Mischpult, das hier nicht bekannt ist: %1.</translation>
-    </message>
-    <message>
-        <source>The mixer has no choice &quot;%1&quot;.</source>
-        <translation>Das Mischpult hat die Auswahl „%1“ nicht.</translation>
-    </message>
-    <message>
-        <source>This profile holds something that the mixer does not have: %1.</source>
-        <translation>Dieses Profil enthält etwas, was das Mischpult nicht hat: %1.</translation>
-    </message>
-    <message>
-        <source>This profile holds no settings.</source>
-        <translation>Dieses Profil enthält keine Einstellungen.</translation>
-    </message>
-    <message>
-        <source>This file is no profile.</source>
-        <translation>Diese Datei ist kein Profil.</translation>
-    </message>
-</context>
-<context>
     <name>CheckWords</name>
     <message>
         <source>, </source>
@@ -314,6 +243,22 @@
         <source>Files with versions are missing. Install the package again.</source>
         <translation>Dateien mit Versionen fehlen. Installieren Sie das Paket neu.</translation>
     </message>
+    <message>
+        <source>turned off</source>
+        <translation>ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>eingeschaltet</translation>
+    </message>
+    <message>
+        <source>At plug-in</source>
+        <translation>Beim Anschließen</translation>
+    </message>
+    <message>
+        <source>Settings cannot be sent to a mixer that is plugged in</source>
+        <translation>Einstellungen können nicht an ein angeschlossenes Mischpult gesendet werden</translation>
+    </message>
 </context>
 <context>
     <name>HeaderWords</name>
@@ -375,6 +320,77 @@
     <message>
         <source>Use light, dark, light-contrast or dark-contrast colours, whatever the desktop uses.</source>
         <translation>Die Farben light, dark, light-contrast oder dark-contrast benutzen, unabhängig vom Desktop.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFaultWords</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>Ein Profil braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>Dieser Name ist zu lang.</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>Dieser Name enthält Zeichen, die ein Name nicht haben kann.</translation>
+    </message>
+    <message>
+        <source>This user has no home folder to keep profiles in.</source>
+        <translation>Dieser Benutzer hat keinen persönlichen Ordner für Profile.</translation>
+    </message>
+    <message>
+        <source>There is no profile %1 any more.</source>
+        <translation>Das Profil %1 gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>There is a profile %1 already.</source>
+        <translation>Es gibt schon ein Profil %1.</translation>
+    </message>
+    <message>
+        <source>There is a file %1 already.</source>
+        <translation>Es gibt schon eine Datei %1.</translation>
+    </message>
+    <message>
+        <source>The file is named for another profile, %1. Import it.</source>
+        <translation>Die Datei trägt den Namen eines anderen Profils, %1. Importieren Sie sie.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is set to an unknown choice. Choose it anew first.</source>
+        <translation>%1 hat eine unbekannte Auswahl. Wählen Sie dort zuerst neu.</translation>
+    </message>
+    <message>
+        <source>This profile is from a newer version of this program.</source>
+        <translation>Dieses Profil stammt von einer neueren Version dieses Programms.</translation>
+    </message>
+    <message>
+        <source>This profile is for a mixer that is not known here: %1.</source>
+        <translation>Dieses Profil ist für ein Mischpult, das hier nicht bekannt ist: %1.</translation>
+    </message>
+    <message>
+        <source>The mixer has no choice &quot;%1&quot;.</source>
+        <translation>Das Mischpult hat die Auswahl „%1“ nicht.</translation>
+    </message>
+    <message>
+        <source>This profile holds something that the mixer does not have: %1.</source>
+        <translation>Dieses Profil enthält etwas, was das Mischpult nicht hat: %1.</translation>
+    </message>
+    <message>
+        <source>This profile holds no settings.</source>
+        <translation>Dieses Profil enthält keine Einstellungen.</translation>
+    </message>
+    <message>
+        <source>This file is no profile.</source>
+        <translation>Diese Datei ist kein Profil.</translation>
     </message>
 </context>
 <context>
@@ -499,6 +515,34 @@
         <source>The input selector of CH%1 is not on USB</source>
         <translation>Der Eingangswahlschalter von CH%1 steht nicht auf USB</translation>
     </message>
+    <message>
+        <source>The signal of the mixer that the computer records on %1.</source>
+        <translation>Das Signal des Mischpults, das der Computer auf %1 aufnimmt.</translation>
+    </message>
+    <message>
+        <source>The mixer channel that the computer plays %1 to.</source>
+        <translation>Der Kanal des Mischpults, auf dem der Computer %1 spielt.</translation>
+    </message>
+    <message>
+        <source>How loud you record.</source>
+        <translation>Wie laut aufgenommen wird.</translation>
+    </message>
+    <message>
+        <source>The MIDI channel that the mixer uses.</source>
+        <translation>Der MIDI-Kanal, den das Mischpult verwendet.</translation>
+    </message>
+    <message>
+        <source>Not possible in this session.</source>
+        <translation>In dieser Sitzung nicht möglich.</translation>
+    </message>
+    <message>
+        <source>Turned off by an administrator.</source>
+        <translation>Von einem Administrator ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>Install the package trxctl for this.</source>
+        <translation>Installieren Sie dafür das Paket trxctl.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -551,18 +595,6 @@
 </context>
 <context>
     <name>setup::PluggedInCard</name>
-    <message>
-        <source>Not possible in this session.</source>
-        <translation>In dieser Sitzung nicht möglich.</translation>
-    </message>
-    <message>
-        <source>Turned off by an administrator.</source>
-        <translation>Von einem Administrator ausgeschaltet.</translation>
-    </message>
-    <message>
-        <source>Install the package trxctl for this.</source>
-        <translation>Installieren Sie dafür das Paket trxctl.</translation>
-    </message>
     <message>
         <source>When a mixer is plugged in</source>
         <translation>Beim Anstecken</translation>
@@ -740,6 +772,10 @@
         <source>Record on %1</source>
         <translation>Auf %1 aufnehmen</translation>
     </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>&amp;Details zeigen</translation>
+    </message>
 </context>
 <context>
     <name>setup::SignalList</name>
@@ -765,6 +801,14 @@
     <message>
         <source>Show &amp;details</source>
         <translation>&amp;Details zeigen</translation>
+    </message>
+    <message>
+        <source>The command is copied.</source>
+        <translation>Der Befehl ist kopiert.</translation>
+    </message>
+    <message>
+        <source>Connect the mixer by USB and switch it on. What you choose meanwhile is kept, and sent as soon as it is there.</source>
+        <translation>Schließen Sie das Mischpult per USB an und schalten Sie es ein. Was Sie inzwischen wählen, bleibt gespeichert und wird gesendet, sobald es da ist.</translation>
     </message>
 </context>
 <context>

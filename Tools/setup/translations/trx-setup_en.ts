@@ -2,77 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>A profile needs a name.</source>
-        <translation>A profile needs a name.</translation>
-    </message>
-    <message>
-        <source>This name is too long.</source>
-        <translation>This name is too long.</translation>
-    </message>
-    <message>
-        <source>This name has characters that a name cannot have.</source>
-        <translation>This name has characters that a name cannot have.</translation>
-    </message>
-    <message>
-        <source>This user has no home folder to keep profiles in.</source>
-        <translation>This user has no home folder to keep profiles in.</translation>
-    </message>
-    <message>
-        <source>There is no profile %1 any more.</source>
-        <translation>There is no profile %1 any more.</translation>
-    </message>
-    <message>
-        <source>There is a profile %1 already.</source>
-        <translation>There is a profile %1 already.</translation>
-    </message>
-    <message>
-        <source>There is a file %1 already.</source>
-        <translation>There is a file %1 already.</translation>
-    </message>
-    <message>
-        <source>The file is named for another profile, %1. Import it.</source>
-        <translation>The file is named for another profile, %1. Import it.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>%1 cannot be read: %2.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>%1 cannot be written: %2.</translation>
-    </message>
-    <message>
-        <source>%1 is set to an unknown choice. Choose it anew first.</source>
-        <translation>%1 is set to an unknown choice. Choose it anew first.</translation>
-    </message>
-    <message>
-        <source>This profile is from a newer version of this program.</source>
-        <translation>This profile is from a newer version of this program.</translation>
-    </message>
-    <message>
-        <source>This profile is for a mixer that is not known here: %1.</source>
-        <translation>This profile is for a mixer that is not known here: %1.</translation>
-    </message>
-    <message>
-        <source>The mixer has no choice &quot;%1&quot;.</source>
-        <translation>The mixer has no choice &quot;%1&quot;.</translation>
-    </message>
-    <message>
-        <source>This profile holds something that the mixer does not have: %1.</source>
-        <translation>This profile holds something that the mixer does not have: %1.</translation>
-    </message>
-    <message>
-        <source>This profile holds no settings.</source>
-        <translation>This profile holds no settings.</translation>
-    </message>
-    <message>
-        <source>This file is no profile.</source>
-        <translation>This file is no profile.</translation>
-    </message>
-</context>
-<context>
     <name>CheckWords</name>
     <message>
         <source>, </source>
@@ -314,6 +243,22 @@
         <source>Files with versions are missing. Install the package again.</source>
         <translation>Files with versions are missing. Install the package again.</translation>
     </message>
+    <message>
+        <source>turned off</source>
+        <translation>turned off</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>on</translation>
+    </message>
+    <message>
+        <source>At plug-in</source>
+        <translation>At plug-in</translation>
+    </message>
+    <message>
+        <source>Settings cannot be sent to a mixer that is plugged in</source>
+        <translation>Settings cannot be sent to a mixer that is plugged in</translation>
+    </message>
 </context>
 <context>
     <name>HeaderWords</name>
@@ -375,6 +320,77 @@
     <message>
         <source>Use light, dark, light-contrast or dark-contrast colours, whatever the desktop uses.</source>
         <translation>Use light, dark, light-contrast or dark-contrast colours, whatever the desktop uses.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFaultWords</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>A profile needs a name.</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>This name is too long.</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>This name has characters that a name cannot have.</translation>
+    </message>
+    <message>
+        <source>This user has no home folder to keep profiles in.</source>
+        <translation>This user has no home folder to keep profiles in.</translation>
+    </message>
+    <message>
+        <source>There is no profile %1 any more.</source>
+        <translation>There is no profile %1 any more.</translation>
+    </message>
+    <message>
+        <source>There is a profile %1 already.</source>
+        <translation>There is a profile %1 already.</translation>
+    </message>
+    <message>
+        <source>There is a file %1 already.</source>
+        <translation>There is a file %1 already.</translation>
+    </message>
+    <message>
+        <source>The file is named for another profile, %1. Import it.</source>
+        <translation>The file is named for another profile, %1. Import it.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 cannot be read: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 cannot be written: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is set to an unknown choice. Choose it anew first.</source>
+        <translation>%1 is set to an unknown choice. Choose it anew first.</translation>
+    </message>
+    <message>
+        <source>This profile is from a newer version of this program.</source>
+        <translation>This profile is from a newer version of this program.</translation>
+    </message>
+    <message>
+        <source>This profile is for a mixer that is not known here: %1.</source>
+        <translation>This profile is for a mixer that is not known here: %1.</translation>
+    </message>
+    <message>
+        <source>The mixer has no choice &quot;%1&quot;.</source>
+        <translation>The mixer has no choice &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>This profile holds something that the mixer does not have: %1.</source>
+        <translation>This profile holds something that the mixer does not have: %1.</translation>
+    </message>
+    <message>
+        <source>This profile holds no settings.</source>
+        <translation>This profile holds no settings.</translation>
+    </message>
+    <message>
+        <source>This file is no profile.</source>
+        <translation>This file is no profile.</translation>
     </message>
 </context>
 <context>
@@ -499,6 +515,34 @@
         <source>The input selector of CH%1 is not on USB</source>
         <translation>The input selector of CH%1 is not on USB</translation>
     </message>
+    <message>
+        <source>The signal of the mixer that the computer records on %1.</source>
+        <translation>The signal of the mixer that the computer records on %1.</translation>
+    </message>
+    <message>
+        <source>The mixer channel that the computer plays %1 to.</source>
+        <translation>The mixer channel that the computer plays %1 to.</translation>
+    </message>
+    <message>
+        <source>How loud you record.</source>
+        <translation>How loud you record.</translation>
+    </message>
+    <message>
+        <source>The MIDI channel that the mixer uses.</source>
+        <translation>The MIDI channel that the mixer uses.</translation>
+    </message>
+    <message>
+        <source>Not possible in this session.</source>
+        <translation>Not possible in this session.</translation>
+    </message>
+    <message>
+        <source>Turned off by an administrator.</source>
+        <translation>Turned off by an administrator.</translation>
+    </message>
+    <message>
+        <source>Install the package trxctl for this.</source>
+        <translation>Install the package trxctl for this.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -551,18 +595,6 @@
 </context>
 <context>
     <name>setup::PluggedInCard</name>
-    <message>
-        <source>Not possible in this session.</source>
-        <translation>Not possible in this session.</translation>
-    </message>
-    <message>
-        <source>Turned off by an administrator.</source>
-        <translation>Turned off by an administrator.</translation>
-    </message>
-    <message>
-        <source>Install the package trxctl for this.</source>
-        <translation>Install the package trxctl for this.</translation>
-    </message>
     <message>
         <source>When a mixer is plugged in</source>
         <translation>When a mixer is plugged in</translation>
@@ -740,6 +772,10 @@
         <source>Record on %1</source>
         <translation>Record on %1</translation>
     </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>Show &amp;details</translation>
+    </message>
 </context>
 <context>
     <name>setup::SignalList</name>
@@ -765,6 +801,14 @@
     <message>
         <source>Show &amp;details</source>
         <translation>Show &amp;details</translation>
+    </message>
+    <message>
+        <source>The command is copied.</source>
+        <translation>The command is copied.</translation>
+    </message>
+    <message>
+        <source>Connect the mixer by USB and switch it on. What you choose meanwhile is kept, and sent as soon as it is there.</source>
+        <translation>Connect the mixer by USB and switch it on. What you choose meanwhile is kept, and sent as soon as it is there.</translation>
     </message>
 </context>
 <context>

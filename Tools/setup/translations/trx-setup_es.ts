@@ -2,77 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>A profile needs a name.</source>
-        <translation>Un perfil necesita un nombre.</translation>
-    </message>
-    <message>
-        <source>This name is too long.</source>
-        <translation>Este nombre es demasiado largo.</translation>
-    </message>
-    <message>
-        <source>This name has characters that a name cannot have.</source>
-        <translation>Este nombre contiene caracteres no permitidos.</translation>
-    </message>
-    <message>
-        <source>This user has no home folder to keep profiles in.</source>
-        <translation>Este usuario no tiene carpeta personal para los perfiles.</translation>
-    </message>
-    <message>
-        <source>There is no profile %1 any more.</source>
-        <translation>El perfil %1 ya no existe.</translation>
-    </message>
-    <message>
-        <source>There is a profile %1 already.</source>
-        <translation>Ya hay un perfil %1.</translation>
-    </message>
-    <message>
-        <source>There is a file %1 already.</source>
-        <translation>Ya hay un archivo %1.</translation>
-    </message>
-    <message>
-        <source>The file is named for another profile, %1. Import it.</source>
-        <translation>El archivo lleva el nombre de otro perfil, %1. Impórtelo.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>No se puede leer %1: %2.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>No se puede escribir %1: %2.</translation>
-    </message>
-    <message>
-        <source>%1 is set to an unknown choice. Choose it anew first.</source>
-        <translation>%1 tiene una opción desconocida. Elíjala antes de nuevo.</translation>
-    </message>
-    <message>
-        <source>This profile is from a newer version of this program.</source>
-        <translation>Este perfil es de una versión más nueva de este programa.</translation>
-    </message>
-    <message>
-        <source>This profile is for a mixer that is not known here: %1.</source>
-        <translation>Este perfil es para un mezclador que aquí no se conoce: %1.</translation>
-    </message>
-    <message>
-        <source>The mixer has no choice &quot;%1&quot;.</source>
-        <translation>El mezclador no tiene la opción «%1».</translation>
-    </message>
-    <message>
-        <source>This profile holds something that the mixer does not have: %1.</source>
-        <translation>Este perfil contiene algo que el mezclador no tiene: %1.</translation>
-    </message>
-    <message>
-        <source>This profile holds no settings.</source>
-        <translation>Este perfil no contiene ajustes.</translation>
-    </message>
-    <message>
-        <source>This file is no profile.</source>
-        <translation>Este archivo no es un perfil.</translation>
-    </message>
-</context>
-<context>
     <name>CheckWords</name>
     <message>
         <source>, </source>
@@ -314,6 +243,22 @@
         <source>Files with versions are missing. Install the package again.</source>
         <translation>Faltan archivos con versiones. Instale de nuevo el paquete.</translation>
     </message>
+    <message>
+        <source>turned off</source>
+        <translation>desactivado</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>activado</translation>
+    </message>
+    <message>
+        <source>At plug-in</source>
+        <translation>Al conectar</translation>
+    </message>
+    <message>
+        <source>Settings cannot be sent to a mixer that is plugged in</source>
+        <translation>No se pueden enviar los ajustes a un mezclador que se conecta</translation>
+    </message>
 </context>
 <context>
     <name>HeaderWords</name>
@@ -375,6 +320,77 @@
     <message>
         <source>Use light, dark, light-contrast or dark-contrast colours, whatever the desktop uses.</source>
         <translation>Usar los colores light, dark, light-contrast o dark-contrast, sean cuales sean los del escritorio.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFaultWords</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>Un perfil necesita un nombre.</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>Este nombre es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>Este nombre contiene caracteres no permitidos.</translation>
+    </message>
+    <message>
+        <source>This user has no home folder to keep profiles in.</source>
+        <translation>Este usuario no tiene carpeta personal para los perfiles.</translation>
+    </message>
+    <message>
+        <source>There is no profile %1 any more.</source>
+        <translation>El perfil %1 ya no existe.</translation>
+    </message>
+    <message>
+        <source>There is a profile %1 already.</source>
+        <translation>Ya hay un perfil %1.</translation>
+    </message>
+    <message>
+        <source>There is a file %1 already.</source>
+        <translation>Ya hay un archivo %1.</translation>
+    </message>
+    <message>
+        <source>The file is named for another profile, %1. Import it.</source>
+        <translation>El archivo lleva el nombre de otro perfil, %1. Impórtelo.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>No se puede leer %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>No se puede escribir %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is set to an unknown choice. Choose it anew first.</source>
+        <translation>%1 tiene una opción desconocida. Elíjala antes de nuevo.</translation>
+    </message>
+    <message>
+        <source>This profile is from a newer version of this program.</source>
+        <translation>Este perfil es de una versión más nueva de este programa.</translation>
+    </message>
+    <message>
+        <source>This profile is for a mixer that is not known here: %1.</source>
+        <translation>Este perfil es para un mezclador que aquí no se conoce: %1.</translation>
+    </message>
+    <message>
+        <source>The mixer has no choice &quot;%1&quot;.</source>
+        <translation>El mezclador no tiene la opción «%1».</translation>
+    </message>
+    <message>
+        <source>This profile holds something that the mixer does not have: %1.</source>
+        <translation>Este perfil contiene algo que el mezclador no tiene: %1.</translation>
+    </message>
+    <message>
+        <source>This profile holds no settings.</source>
+        <translation>Este perfil no contiene ajustes.</translation>
+    </message>
+    <message>
+        <source>This file is no profile.</source>
+        <translation>Este archivo no es un perfil.</translation>
     </message>
 </context>
 <context>
@@ -499,6 +515,34 @@
         <source>The input selector of CH%1 is not on USB</source>
         <translation>El selector de entrada de CH%1 no está en USB</translation>
     </message>
+    <message>
+        <source>The signal of the mixer that the computer records on %1.</source>
+        <translation>La señal del mezclador que el ordenador graba en %1.</translation>
+    </message>
+    <message>
+        <source>The mixer channel that the computer plays %1 to.</source>
+        <translation>El canal del mezclador en el que el ordenador reproduce %1.</translation>
+    </message>
+    <message>
+        <source>How loud you record.</source>
+        <translation>El volumen de la grabación.</translation>
+    </message>
+    <message>
+        <source>The MIDI channel that the mixer uses.</source>
+        <translation>El canal MIDI que usa el mezclador.</translation>
+    </message>
+    <message>
+        <source>Not possible in this session.</source>
+        <translation>No es posible en esta sesión.</translation>
+    </message>
+    <message>
+        <source>Turned off by an administrator.</source>
+        <translation>Un administrador lo ha desactivado.</translation>
+    </message>
+    <message>
+        <source>Install the package trxctl for this.</source>
+        <translation>Instale para ello el paquete trxctl.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -551,18 +595,6 @@
 </context>
 <context>
     <name>setup::PluggedInCard</name>
-    <message>
-        <source>Not possible in this session.</source>
-        <translation>No es posible en esta sesión.</translation>
-    </message>
-    <message>
-        <source>Turned off by an administrator.</source>
-        <translation>Un administrador lo ha desactivado.</translation>
-    </message>
-    <message>
-        <source>Install the package trxctl for this.</source>
-        <translation>Instale para ello el paquete trxctl.</translation>
-    </message>
     <message>
         <source>When a mixer is plugged in</source>
         <translation>Al conectarlo</translation>
@@ -740,6 +772,10 @@
         <source>Record on %1</source>
         <translation>Grabar en %1</translation>
     </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>Ver &amp;detalles</translation>
+    </message>
 </context>
 <context>
     <name>setup::SignalList</name>
@@ -765,6 +801,14 @@
     <message>
         <source>Show &amp;details</source>
         <translation>Ver &amp;detalles</translation>
+    </message>
+    <message>
+        <source>The command is copied.</source>
+        <translation>El comando se ha copiado.</translation>
+    </message>
+    <message>
+        <source>Connect the mixer by USB and switch it on. What you choose meanwhile is kept, and sent as soon as it is there.</source>
+        <translation>Conecte el mezclador por USB y enciéndalo. Lo que elija mientras tanto se guarda y se envía en cuanto esté conectado.</translation>
     </message>
 </context>
 <context>

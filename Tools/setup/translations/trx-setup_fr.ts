@@ -2,77 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>A profile needs a name.</source>
-        <translation>Un profil a besoin d’un nom.</translation>
-    </message>
-    <message>
-        <source>This name is too long.</source>
-        <translation>Ce nom est trop long.</translation>
-    </message>
-    <message>
-        <source>This name has characters that a name cannot have.</source>
-        <translation>Ce nom contient des caractères interdits dans un nom.</translation>
-    </message>
-    <message>
-        <source>This user has no home folder to keep profiles in.</source>
-        <translation>Cet utilisateur n’a pas de dossier personnel pour les profils.</translation>
-    </message>
-    <message>
-        <source>There is no profile %1 any more.</source>
-        <translation>Le profil %1 n’existe plus.</translation>
-    </message>
-    <message>
-        <source>There is a profile %1 already.</source>
-        <translation>Il existe déjà un profil %1.</translation>
-    </message>
-    <message>
-        <source>There is a file %1 already.</source>
-        <translation>Il existe déjà un fichier %1.</translation>
-    </message>
-    <message>
-        <source>The file is named for another profile, %1. Import it.</source>
-        <translation>Le fichier porte le nom d’un autre profil, %1. Importez-le.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>Impossible de lire %1 : %2.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>Impossible d’écrire %1 : %2.</translation>
-    </message>
-    <message>
-        <source>%1 is set to an unknown choice. Choose it anew first.</source>
-        <translation>%1 a un choix inconnu. Refaites d’abord ce choix.</translation>
-    </message>
-    <message>
-        <source>This profile is from a newer version of this program.</source>
-        <translation>Ce profil vient d’une version plus récente de ce programme.</translation>
-    </message>
-    <message>
-        <source>This profile is for a mixer that is not known here: %1.</source>
-        <translation>Ce profil est fait pour une table de mixage inconnue ici : %1.</translation>
-    </message>
-    <message>
-        <source>The mixer has no choice &quot;%1&quot;.</source>
-        <translation>La table de mixage n’a pas le choix « %1 ».</translation>
-    </message>
-    <message>
-        <source>This profile holds something that the mixer does not have: %1.</source>
-        <translation>Ce profil contient un réglage que la table de mixage n’a pas : %1.</translation>
-    </message>
-    <message>
-        <source>This profile holds no settings.</source>
-        <translation>Ce profil ne contient aucun réglage.</translation>
-    </message>
-    <message>
-        <source>This file is no profile.</source>
-        <translation>Ce fichier n’est pas un profil.</translation>
-    </message>
-</context>
-<context>
     <name>CheckWords</name>
     <message>
         <source>, </source>
@@ -314,6 +243,22 @@
         <source>Files with versions are missing. Install the package again.</source>
         <translation>Des fichiers de version manquent. Réinstallez le paquet.</translation>
     </message>
+    <message>
+        <source>turned off</source>
+        <translation>désactivé</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>activé</translation>
+    </message>
+    <message>
+        <source>At plug-in</source>
+        <translation>Au branchement</translation>
+    </message>
+    <message>
+        <source>Settings cannot be sent to a mixer that is plugged in</source>
+        <translation>Les réglages ne peuvent pas être envoyés à une table de mixage branchée</translation>
+    </message>
 </context>
 <context>
     <name>HeaderWords</name>
@@ -375,6 +320,77 @@
     <message>
         <source>Use light, dark, light-contrast or dark-contrast colours, whatever the desktop uses.</source>
         <translation>Utiliser les couleurs light, dark, light-contrast ou dark-contrast, quelles que soient celles du bureau.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFaultWords</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>Un profil a besoin d’un nom.</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>Ce nom est trop long.</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>Ce nom contient des caractères interdits dans un nom.</translation>
+    </message>
+    <message>
+        <source>This user has no home folder to keep profiles in.</source>
+        <translation>Cet utilisateur n’a pas de dossier personnel pour les profils.</translation>
+    </message>
+    <message>
+        <source>There is no profile %1 any more.</source>
+        <translation>Le profil %1 n’existe plus.</translation>
+    </message>
+    <message>
+        <source>There is a profile %1 already.</source>
+        <translation>Il existe déjà un profil %1.</translation>
+    </message>
+    <message>
+        <source>There is a file %1 already.</source>
+        <translation>Il existe déjà un fichier %1.</translation>
+    </message>
+    <message>
+        <source>The file is named for another profile, %1. Import it.</source>
+        <translation>Le fichier porte le nom d’un autre profil, %1. Importez-le.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Impossible de lire %1 : %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>Impossible d’écrire %1 : %2.</translation>
+    </message>
+    <message>
+        <source>%1 is set to an unknown choice. Choose it anew first.</source>
+        <translation>%1 a un choix inconnu. Refaites d’abord ce choix.</translation>
+    </message>
+    <message>
+        <source>This profile is from a newer version of this program.</source>
+        <translation>Ce profil vient d’une version plus récente de ce programme.</translation>
+    </message>
+    <message>
+        <source>This profile is for a mixer that is not known here: %1.</source>
+        <translation>Ce profil est fait pour une table de mixage inconnue ici : %1.</translation>
+    </message>
+    <message>
+        <source>The mixer has no choice &quot;%1&quot;.</source>
+        <translation>La table de mixage n’a pas le choix « %1 ».</translation>
+    </message>
+    <message>
+        <source>This profile holds something that the mixer does not have: %1.</source>
+        <translation>Ce profil contient un réglage que la table de mixage n’a pas : %1.</translation>
+    </message>
+    <message>
+        <source>This profile holds no settings.</source>
+        <translation>Ce profil ne contient aucun réglage.</translation>
+    </message>
+    <message>
+        <source>This file is no profile.</source>
+        <translation>Ce fichier n’est pas un profil.</translation>
     </message>
 </context>
 <context>
@@ -499,6 +515,34 @@
         <source>The input selector of CH%1 is not on USB</source>
         <translation>Le sélecteur d’entrée de CH%1 n’est pas sur USB</translation>
     </message>
+    <message>
+        <source>The signal of the mixer that the computer records on %1.</source>
+        <translation>Le signal de la table de mixage que l’ordinateur enregistre sur %1.</translation>
+    </message>
+    <message>
+        <source>The mixer channel that the computer plays %1 to.</source>
+        <translation>Le canal de la table de mixage sur lequel l’ordinateur joue %1.</translation>
+    </message>
+    <message>
+        <source>How loud you record.</source>
+        <translation>Le niveau de l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>The MIDI channel that the mixer uses.</source>
+        <translation>Le canal MIDI utilisé par la table de mixage.</translation>
+    </message>
+    <message>
+        <source>Not possible in this session.</source>
+        <translation>Impossible dans cette session.</translation>
+    </message>
+    <message>
+        <source>Turned off by an administrator.</source>
+        <translation>Désactivé par un administrateur.</translation>
+    </message>
+    <message>
+        <source>Install the package trxctl for this.</source>
+        <translation>Installez pour cela le paquet trxctl.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -551,18 +595,6 @@
 </context>
 <context>
     <name>setup::PluggedInCard</name>
-    <message>
-        <source>Not possible in this session.</source>
-        <translation>Impossible dans cette session.</translation>
-    </message>
-    <message>
-        <source>Turned off by an administrator.</source>
-        <translation>Désactivé par un administrateur.</translation>
-    </message>
-    <message>
-        <source>Install the package trxctl for this.</source>
-        <translation>Installez pour cela le paquet trxctl.</translation>
-    </message>
     <message>
         <source>When a mixer is plugged in</source>
         <translation>Au branchement</translation>
@@ -740,6 +772,10 @@
         <source>Record on %1</source>
         <translation>Enregistrer sur %1</translation>
     </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>Voir les &amp;détails</translation>
+    </message>
 </context>
 <context>
     <name>setup::SignalList</name>
@@ -765,6 +801,14 @@
     <message>
         <source>Show &amp;details</source>
         <translation>Voir les &amp;détails</translation>
+    </message>
+    <message>
+        <source>The command is copied.</source>
+        <translation>La commande est copiée.</translation>
+    </message>
+    <message>
+        <source>Connect the mixer by USB and switch it on. What you choose meanwhile is kept, and sent as soon as it is there.</source>
+        <translation>Connectez la table de mixage en USB et allumez-la. Ce que vous choisissez entre-temps est conservé, puis envoyé dès qu’elle est là.</translation>
     </message>
 </context>
 <context>

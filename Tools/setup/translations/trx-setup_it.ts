@@ -2,77 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>A profile needs a name.</source>
-        <translation>Un profilo ha bisogno di un nome.</translation>
-    </message>
-    <message>
-        <source>This name is too long.</source>
-        <translation>Questo nome è troppo lungo.</translation>
-    </message>
-    <message>
-        <source>This name has characters that a name cannot have.</source>
-        <translation>Questo nome contiene caratteri non ammessi.</translation>
-    </message>
-    <message>
-        <source>This user has no home folder to keep profiles in.</source>
-        <translation>Questo utente non ha una cartella personale per i profili.</translation>
-    </message>
-    <message>
-        <source>There is no profile %1 any more.</source>
-        <translation>Il profilo %1 non esiste più.</translation>
-    </message>
-    <message>
-        <source>There is a profile %1 already.</source>
-        <translation>Esiste già un profilo %1.</translation>
-    </message>
-    <message>
-        <source>There is a file %1 already.</source>
-        <translation>Esiste già un file %1.</translation>
-    </message>
-    <message>
-        <source>The file is named for another profile, %1. Import it.</source>
-        <translation>Il file ha il nome di un altro profilo, %1. Importalo.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>Impossibile leggere %1: %2.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>Impossibile scrivere %1: %2.</translation>
-    </message>
-    <message>
-        <source>%1 is set to an unknown choice. Choose it anew first.</source>
-        <translation>%1 ha una scelta sconosciuta. Prima scegli di nuovo.</translation>
-    </message>
-    <message>
-        <source>This profile is from a newer version of this program.</source>
-        <translation>Questo profilo viene da una versione più recente di questo programma.</translation>
-    </message>
-    <message>
-        <source>This profile is for a mixer that is not known here: %1.</source>
-        <translation>Questo profilo è per un mixer che qui non è noto: %1.</translation>
-    </message>
-    <message>
-        <source>The mixer has no choice &quot;%1&quot;.</source>
-        <translation>Il mixer non ha la scelta «%1».</translation>
-    </message>
-    <message>
-        <source>This profile holds something that the mixer does not have: %1.</source>
-        <translation>Questo profilo contiene qualcosa che il mixer non ha: %1.</translation>
-    </message>
-    <message>
-        <source>This profile holds no settings.</source>
-        <translation>Questo profilo non contiene impostazioni.</translation>
-    </message>
-    <message>
-        <source>This file is no profile.</source>
-        <translation>Questo file non è un profilo.</translation>
-    </message>
-</context>
-<context>
     <name>CheckWords</name>
     <message>
         <source>, </source>
@@ -314,6 +243,22 @@
         <source>Files with versions are missing. Install the package again.</source>
         <translation>Mancano file con le versioni. Reinstalla il pacchetto.</translation>
     </message>
+    <message>
+        <source>turned off</source>
+        <translation>disattivato</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>attivato</translation>
+    </message>
+    <message>
+        <source>At plug-in</source>
+        <translation>Al collegamento</translation>
+    </message>
+    <message>
+        <source>Settings cannot be sent to a mixer that is plugged in</source>
+        <translation>Le impostazioni non possono essere inviate a un mixer che viene collegato</translation>
+    </message>
 </context>
 <context>
     <name>HeaderWords</name>
@@ -375,6 +320,77 @@
     <message>
         <source>Use light, dark, light-contrast or dark-contrast colours, whatever the desktop uses.</source>
         <translation>Usa i colori light, dark, light-contrast o dark-contrast, qualunque siano quelli del desktop.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFaultWords</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>Un profilo ha bisogno di un nome.</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>Questo nome è troppo lungo.</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>Questo nome contiene caratteri non ammessi.</translation>
+    </message>
+    <message>
+        <source>This user has no home folder to keep profiles in.</source>
+        <translation>Questo utente non ha una cartella personale per i profili.</translation>
+    </message>
+    <message>
+        <source>There is no profile %1 any more.</source>
+        <translation>Il profilo %1 non esiste più.</translation>
+    </message>
+    <message>
+        <source>There is a profile %1 already.</source>
+        <translation>Esiste già un profilo %1.</translation>
+    </message>
+    <message>
+        <source>There is a file %1 already.</source>
+        <translation>Esiste già un file %1.</translation>
+    </message>
+    <message>
+        <source>The file is named for another profile, %1. Import it.</source>
+        <translation>Il file ha il nome di un altro profilo, %1. Importalo.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Impossibile leggere %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>Impossibile scrivere %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is set to an unknown choice. Choose it anew first.</source>
+        <translation>%1 ha una scelta sconosciuta. Prima scegli di nuovo.</translation>
+    </message>
+    <message>
+        <source>This profile is from a newer version of this program.</source>
+        <translation>Questo profilo viene da una versione più recente di questo programma.</translation>
+    </message>
+    <message>
+        <source>This profile is for a mixer that is not known here: %1.</source>
+        <translation>Questo profilo è per un mixer che qui non è noto: %1.</translation>
+    </message>
+    <message>
+        <source>The mixer has no choice &quot;%1&quot;.</source>
+        <translation>Il mixer non ha la scelta «%1».</translation>
+    </message>
+    <message>
+        <source>This profile holds something that the mixer does not have: %1.</source>
+        <translation>Questo profilo contiene qualcosa che il mixer non ha: %1.</translation>
+    </message>
+    <message>
+        <source>This profile holds no settings.</source>
+        <translation>Questo profilo non contiene impostazioni.</translation>
+    </message>
+    <message>
+        <source>This file is no profile.</source>
+        <translation>Questo file non è un profilo.</translation>
     </message>
 </context>
 <context>
@@ -499,6 +515,34 @@
         <source>The input selector of CH%1 is not on USB</source>
         <translation>Il selettore d’ingresso di CH%1 non è su USB</translation>
     </message>
+    <message>
+        <source>The signal of the mixer that the computer records on %1.</source>
+        <translation>Il segnale del mixer che il computer registra su %1.</translation>
+    </message>
+    <message>
+        <source>The mixer channel that the computer plays %1 to.</source>
+        <translation>Il canale del mixer su cui il computer riproduce %1.</translation>
+    </message>
+    <message>
+        <source>How loud you record.</source>
+        <translation>Il volume della registrazione.</translation>
+    </message>
+    <message>
+        <source>The MIDI channel that the mixer uses.</source>
+        <translation>Il canale MIDI usato dal mixer.</translation>
+    </message>
+    <message>
+        <source>Not possible in this session.</source>
+        <translation>Non possibile in questa sessione.</translation>
+    </message>
+    <message>
+        <source>Turned off by an administrator.</source>
+        <translation>Disattivato da un amministratore.</translation>
+    </message>
+    <message>
+        <source>Install the package trxctl for this.</source>
+        <translation>Installa per questo il pacchetto trxctl.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -551,18 +595,6 @@
 </context>
 <context>
     <name>setup::PluggedInCard</name>
-    <message>
-        <source>Not possible in this session.</source>
-        <translation>Non possibile in questa sessione.</translation>
-    </message>
-    <message>
-        <source>Turned off by an administrator.</source>
-        <translation>Disattivato da un amministratore.</translation>
-    </message>
-    <message>
-        <source>Install the package trxctl for this.</source>
-        <translation>Installa per questo il pacchetto trxctl.</translation>
-    </message>
     <message>
         <source>When a mixer is plugged in</source>
         <translation>Al collegamento</translation>
@@ -740,6 +772,10 @@
         <source>Record on %1</source>
         <translation>Registra su %1</translation>
     </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>Mostra &amp;dettagli</translation>
+    </message>
 </context>
 <context>
     <name>setup::SignalList</name>
@@ -765,6 +801,14 @@
     <message>
         <source>Show &amp;details</source>
         <translation>Mostra &amp;dettagli</translation>
+    </message>
+    <message>
+        <source>The command is copied.</source>
+        <translation>Il comando è stato copiato.</translation>
+    </message>
+    <message>
+        <source>Connect the mixer by USB and switch it on. What you choose meanwhile is kept, and sent as soon as it is there.</source>
+        <translation>Collega il mixer via USB e accendilo. Quello che scegli intanto viene salvato e inviato appena il mixer è collegato.</translation>
     </message>
 </context>
 <context>

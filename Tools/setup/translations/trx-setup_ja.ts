@@ -2,77 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>A profile needs a name.</source>
-        <translation>プロファイルには名前が必要です。</translation>
-    </message>
-    <message>
-        <source>This name is too long.</source>
-        <translation>この名前は長すぎます。</translation>
-    </message>
-    <message>
-        <source>This name has characters that a name cannot have.</source>
-        <translation>この名前には使えない文字があります。</translation>
-    </message>
-    <message>
-        <source>This user has no home folder to keep profiles in.</source>
-        <translation>このユーザーには、プロファイルを保存するホームフォルダーがありません。</translation>
-    </message>
-    <message>
-        <source>There is no profile %1 any more.</source>
-        <translation>プロファイル「%1」はもうありません。</translation>
-    </message>
-    <message>
-        <source>There is a profile %1 already.</source>
-        <translation>プロファイル「%1」はすでにあります。</translation>
-    </message>
-    <message>
-        <source>There is a file %1 already.</source>
-        <translation>ファイル「%1」はすでにあります。</translation>
-    </message>
-    <message>
-        <source>The file is named for another profile, %1. Import it.</source>
-        <translation>このファイルの名前は別のプロファイル「%1」のものです。インポートしてください。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>%1を読み込めません：%2。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>%1に書き込めません：%2。</translation>
-    </message>
-    <message>
-        <source>%1 is set to an unknown choice. Choose it anew first.</source>
-        <translation>%1の設定が不明です。先に選び直してください。</translation>
-    </message>
-    <message>
-        <source>This profile is from a newer version of this program.</source>
-        <translation>このプロファイルは、このプログラムの新しいバージョンで作られています。</translation>
-    </message>
-    <message>
-        <source>This profile is for a mixer that is not known here: %1.</source>
-        <translation>このプロファイルは、ここでは扱えないミキサー用です：%1。</translation>
-    </message>
-    <message>
-        <source>The mixer has no choice &quot;%1&quot;.</source>
-        <translation>このミキサーには「%1」がありません。</translation>
-    </message>
-    <message>
-        <source>This profile holds something that the mixer does not have: %1.</source>
-        <translation>このプロファイルには、このミキサーにない項目があります：%1。</translation>
-    </message>
-    <message>
-        <source>This profile holds no settings.</source>
-        <translation>このプロファイルには設定がありません。</translation>
-    </message>
-    <message>
-        <source>This file is no profile.</source>
-        <translation>このファイルはプロファイルではありません。</translation>
-    </message>
-</context>
-<context>
     <name>CheckWords</name>
     <message>
         <source>, </source>
@@ -314,6 +243,22 @@
         <source>Files with versions are missing. Install the package again.</source>
         <translation>バージョンのファイルがありません。パッケージをインストールし直してください。</translation>
     </message>
+    <message>
+        <source>turned off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>At plug-in</source>
+        <translation>接続時</translation>
+    </message>
+    <message>
+        <source>Settings cannot be sent to a mixer that is plugged in</source>
+        <translation>接続されたミキサーに設定を送信できません</translation>
+    </message>
 </context>
 <context>
     <name>HeaderWords</name>
@@ -375,6 +320,77 @@
     <message>
         <source>Use light, dark, light-contrast or dark-contrast colours, whatever the desktop uses.</source>
         <translation>デスクトップの設定にかかわらず、light、dark、light-contrast、dark-contrastの配色を使います。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFaultWords</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>プロファイルには名前が必要です。</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>この名前は長すぎます。</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>この名前には使えない文字があります。</translation>
+    </message>
+    <message>
+        <source>This user has no home folder to keep profiles in.</source>
+        <translation>このユーザーには、プロファイルを保存するホームフォルダーがありません。</translation>
+    </message>
+    <message>
+        <source>There is no profile %1 any more.</source>
+        <translation>プロファイル「%1」はもうありません。</translation>
+    </message>
+    <message>
+        <source>There is a profile %1 already.</source>
+        <translation>プロファイル「%1」はすでにあります。</translation>
+    </message>
+    <message>
+        <source>There is a file %1 already.</source>
+        <translation>ファイル「%1」はすでにあります。</translation>
+    </message>
+    <message>
+        <source>The file is named for another profile, %1. Import it.</source>
+        <translation>このファイルの名前は別のプロファイル「%1」のものです。インポートしてください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1を読み込めません：%2。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1に書き込めません：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is set to an unknown choice. Choose it anew first.</source>
+        <translation>%1の設定が不明です。先に選び直してください。</translation>
+    </message>
+    <message>
+        <source>This profile is from a newer version of this program.</source>
+        <translation>このプロファイルは、このプログラムの新しいバージョンで作られています。</translation>
+    </message>
+    <message>
+        <source>This profile is for a mixer that is not known here: %1.</source>
+        <translation>このプロファイルは、ここでは扱えないミキサー用です：%1。</translation>
+    </message>
+    <message>
+        <source>The mixer has no choice &quot;%1&quot;.</source>
+        <translation>このミキサーには「%1」がありません。</translation>
+    </message>
+    <message>
+        <source>This profile holds something that the mixer does not have: %1.</source>
+        <translation>このプロファイルには、このミキサーにない項目があります：%1。</translation>
+    </message>
+    <message>
+        <source>This profile holds no settings.</source>
+        <translation>このプロファイルには設定がありません。</translation>
+    </message>
+    <message>
+        <source>This file is no profile.</source>
+        <translation>このファイルはプロファイルではありません。</translation>
     </message>
 </context>
 <context>
@@ -499,6 +515,34 @@
         <source>The input selector of CH%1 is not on USB</source>
         <translation>CH%1のインプットセレクターがUSBになっていません</translation>
     </message>
+    <message>
+        <source>The signal of the mixer that the computer records on %1.</source>
+        <translation>コンピューターが %1 に録音するミキサーの信号。</translation>
+    </message>
+    <message>
+        <source>The mixer channel that the computer plays %1 to.</source>
+        <translation>コンピューターが %1 を再生するミキサーチャンネル。</translation>
+    </message>
+    <message>
+        <source>How loud you record.</source>
+        <translation>録音の音量。</translation>
+    </message>
+    <message>
+        <source>The MIDI channel that the mixer uses.</source>
+        <translation>ミキサーが使う MIDI チャンネル。</translation>
+    </message>
+    <message>
+        <source>Not possible in this session.</source>
+        <translation>このセッションでは使えません。</translation>
+    </message>
+    <message>
+        <source>Turned off by an administrator.</source>
+        <translation>管理者がオフにしています。</translation>
+    </message>
+    <message>
+        <source>Install the package trxctl for this.</source>
+        <translation>パッケージtrxctlが必要です。</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -551,18 +595,6 @@
 </context>
 <context>
     <name>setup::PluggedInCard</name>
-    <message>
-        <source>Not possible in this session.</source>
-        <translation>このセッションでは使えません。</translation>
-    </message>
-    <message>
-        <source>Turned off by an administrator.</source>
-        <translation>管理者がオフにしています。</translation>
-    </message>
-    <message>
-        <source>Install the package trxctl for this.</source>
-        <translation>パッケージtrxctlが必要です。</translation>
-    </message>
     <message>
         <source>When a mixer is plugged in</source>
         <translation>ミキサーの接続時</translation>
@@ -740,6 +772,10 @@
         <source>Record on %1</source>
         <translation>%1に録音</translation>
     </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>詳細を表示(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>setup::SignalList</name>
@@ -765,6 +801,14 @@
     <message>
         <source>Show &amp;details</source>
         <translation>詳細を表示(&amp;D)</translation>
+    </message>
+    <message>
+        <source>The command is copied.</source>
+        <translation>コマンドをコピーしました。</translation>
+    </message>
+    <message>
+        <source>Connect the mixer by USB and switch it on. What you choose meanwhile is kept, and sent as soon as it is there.</source>
+        <translation>ミキサーをUSBで接続し、電源を入れてください。その間に選んだ内容は保存され、接続されるとすぐに送信されます。</translation>
     </message>
 </context>
 <context>

@@ -2,77 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>A profile needs a name.</source>
-        <translation>프로필에는 이름이 필요합니다.</translation>
-    </message>
-    <message>
-        <source>This name is too long.</source>
-        <translation>이 이름은 너무 깁니다.</translation>
-    </message>
-    <message>
-        <source>This name has characters that a name cannot have.</source>
-        <translation>이 이름에는 쓸 수 없는 문자가 있습니다.</translation>
-    </message>
-    <message>
-        <source>This user has no home folder to keep profiles in.</source>
-        <translation>이 사용자에게는 프로필을 저장할 홈 폴더가 없습니다.</translation>
-    </message>
-    <message>
-        <source>There is no profile %1 any more.</source>
-        <translation>프로필 %1이(가) 더 이상 없습니다.</translation>
-    </message>
-    <message>
-        <source>There is a profile %1 already.</source>
-        <translation>프로필 %1이(가) 이미 있습니다.</translation>
-    </message>
-    <message>
-        <source>There is a file %1 already.</source>
-        <translation>파일 %1이(가) 이미 있습니다.</translation>
-    </message>
-    <message>
-        <source>The file is named for another profile, %1. Import it.</source>
-        <translation>이 파일은 다른 프로필 %1의 이름을 쓰고 있습니다. 가져오십시오.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>%1을(를) 읽을 수 없습니다: %2.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>%1에 쓸 수 없습니다: %2.</translation>
-    </message>
-    <message>
-        <source>%1 is set to an unknown choice. Choose it anew first.</source>
-        <translation>%1의 설정을 알 수 없습니다. 먼저 다시 선택하십시오.</translation>
-    </message>
-    <message>
-        <source>This profile is from a newer version of this program.</source>
-        <translation>이 프로필은 이 프로그램의 새 버전에서 만든 것입니다.</translation>
-    </message>
-    <message>
-        <source>This profile is for a mixer that is not known here: %1.</source>
-        <translation>이 프로필은 여기서 알 수 없는 믹서용입니다: %1.</translation>
-    </message>
-    <message>
-        <source>The mixer has no choice &quot;%1&quot;.</source>
-        <translation>믹서에 “%1” 선택 항목이 없습니다.</translation>
-    </message>
-    <message>
-        <source>This profile holds something that the mixer does not have: %1.</source>
-        <translation>이 프로필에는 믹서에 없는 내용이 있습니다: %1.</translation>
-    </message>
-    <message>
-        <source>This profile holds no settings.</source>
-        <translation>이 프로필에는 설정이 없습니다.</translation>
-    </message>
-    <message>
-        <source>This file is no profile.</source>
-        <translation>이 파일은 프로필이 아닙니다.</translation>
-    </message>
-</context>
-<context>
     <name>CheckWords</name>
     <message>
         <source>, </source>
@@ -314,6 +243,22 @@
         <source>Files with versions are missing. Install the package again.</source>
         <translation>버전 파일이 없습니다. 패키지를 다시 설치하십시오.</translation>
     </message>
+    <message>
+        <source>turned off</source>
+        <translation>꺼짐</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>켜짐</translation>
+    </message>
+    <message>
+        <source>At plug-in</source>
+        <translation>연결할 때</translation>
+    </message>
+    <message>
+        <source>Settings cannot be sent to a mixer that is plugged in</source>
+        <translation>연결된 믹서로 설정을 보낼 수 없습니다</translation>
+    </message>
 </context>
 <context>
     <name>HeaderWords</name>
@@ -375,6 +320,77 @@
     <message>
         <source>Use light, dark, light-contrast or dark-contrast colours, whatever the desktop uses.</source>
         <translation>데스크톱과 관계없이 light, dark, light-contrast, dark-contrast 색상을 씁니다.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFaultWords</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>프로필에는 이름이 필요합니다.</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>이 이름은 너무 깁니다.</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>이 이름에는 쓸 수 없는 문자가 있습니다.</translation>
+    </message>
+    <message>
+        <source>This user has no home folder to keep profiles in.</source>
+        <translation>이 사용자에게는 프로필을 저장할 홈 폴더가 없습니다.</translation>
+    </message>
+    <message>
+        <source>There is no profile %1 any more.</source>
+        <translation>프로필 %1이(가) 더 이상 없습니다.</translation>
+    </message>
+    <message>
+        <source>There is a profile %1 already.</source>
+        <translation>프로필 %1이(가) 이미 있습니다.</translation>
+    </message>
+    <message>
+        <source>There is a file %1 already.</source>
+        <translation>파일 %1이(가) 이미 있습니다.</translation>
+    </message>
+    <message>
+        <source>The file is named for another profile, %1. Import it.</source>
+        <translation>이 파일은 다른 프로필 %1의 이름을 쓰고 있습니다. 가져오십시오.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1을(를) 읽을 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1에 쓸 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is set to an unknown choice. Choose it anew first.</source>
+        <translation>%1의 설정을 알 수 없습니다. 먼저 다시 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>This profile is from a newer version of this program.</source>
+        <translation>이 프로필은 이 프로그램의 새 버전에서 만든 것입니다.</translation>
+    </message>
+    <message>
+        <source>This profile is for a mixer that is not known here: %1.</source>
+        <translation>이 프로필은 여기서 알 수 없는 믹서용입니다: %1.</translation>
+    </message>
+    <message>
+        <source>The mixer has no choice &quot;%1&quot;.</source>
+        <translation>믹서에 “%1” 선택 항목이 없습니다.</translation>
+    </message>
+    <message>
+        <source>This profile holds something that the mixer does not have: %1.</source>
+        <translation>이 프로필에는 믹서에 없는 내용이 있습니다: %1.</translation>
+    </message>
+    <message>
+        <source>This profile holds no settings.</source>
+        <translation>이 프로필에는 설정이 없습니다.</translation>
+    </message>
+    <message>
+        <source>This file is no profile.</source>
+        <translation>이 파일은 프로필이 아닙니다.</translation>
     </message>
 </context>
 <context>
@@ -499,6 +515,34 @@
         <source>The input selector of CH%1 is not on USB</source>
         <translation>CH%1의 입력 셀렉터가 USB에 있지 않습니다</translation>
     </message>
+    <message>
+        <source>The signal of the mixer that the computer records on %1.</source>
+        <translation>컴퓨터가 %1에 녹음하는 믹서의 신호입니다.</translation>
+    </message>
+    <message>
+        <source>The mixer channel that the computer plays %1 to.</source>
+        <translation>컴퓨터가 %1을(를) 재생하는 믹서 채널입니다.</translation>
+    </message>
+    <message>
+        <source>How loud you record.</source>
+        <translation>녹음 음량입니다.</translation>
+    </message>
+    <message>
+        <source>The MIDI channel that the mixer uses.</source>
+        <translation>믹서가 사용하는 MIDI 채널입니다.</translation>
+    </message>
+    <message>
+        <source>Not possible in this session.</source>
+        <translation>이 세션에서는 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Turned off by an administrator.</source>
+        <translation>관리자가 껐습니다.</translation>
+    </message>
+    <message>
+        <source>Install the package trxctl for this.</source>
+        <translation>패키지 trxctl이 필요합니다.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -551,18 +595,6 @@
 </context>
 <context>
     <name>setup::PluggedInCard</name>
-    <message>
-        <source>Not possible in this session.</source>
-        <translation>이 세션에서는 쓸 수 없습니다.</translation>
-    </message>
-    <message>
-        <source>Turned off by an administrator.</source>
-        <translation>관리자가 껐습니다.</translation>
-    </message>
-    <message>
-        <source>Install the package trxctl for this.</source>
-        <translation>패키지 trxctl이 필요합니다.</translation>
-    </message>
     <message>
         <source>When a mixer is plugged in</source>
         <translation>믹서를 연결할 때</translation>
@@ -740,6 +772,10 @@
         <source>Record on %1</source>
         <translation>%1에 녹음</translation>
     </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>자세히 보기(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>setup::SignalList</name>
@@ -765,6 +801,14 @@
     <message>
         <source>Show &amp;details</source>
         <translation>자세히 보기(&amp;D)</translation>
+    </message>
+    <message>
+        <source>The command is copied.</source>
+        <translation>명령을 복사했습니다.</translation>
+    </message>
+    <message>
+        <source>Connect the mixer by USB and switch it on. What you choose meanwhile is kept, and sent as soon as it is there.</source>
+        <translation>믹서를 USB로 연결하고 전원을 켜십시오. 그동안 선택한 것은 저장되고, 믹서가 연결되면 바로 전송됩니다.</translation>
     </message>
 </context>
 <context>

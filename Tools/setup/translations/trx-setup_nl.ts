@@ -2,77 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>A profile needs a name.</source>
-        <translation>Een profiel heeft een naam nodig.</translation>
-    </message>
-    <message>
-        <source>This name is too long.</source>
-        <translation>Deze naam is te lang.</translation>
-    </message>
-    <message>
-        <source>This name has characters that a name cannot have.</source>
-        <translation>Deze naam bevat tekens die niet in een naam mogen.</translation>
-    </message>
-    <message>
-        <source>This user has no home folder to keep profiles in.</source>
-        <translation>Deze gebruiker heeft geen persoonlijke map voor profielen.</translation>
-    </message>
-    <message>
-        <source>There is no profile %1 any more.</source>
-        <translation>Het profiel %1 bestaat niet meer.</translation>
-    </message>
-    <message>
-        <source>There is a profile %1 already.</source>
-        <translation>Er is al een profiel %1.</translation>
-    </message>
-    <message>
-        <source>There is a file %1 already.</source>
-        <translation>Er is al een bestand %1.</translation>
-    </message>
-    <message>
-        <source>The file is named for another profile, %1. Import it.</source>
-        <translation>Het bestand draagt de naam van een ander profiel, %1. Importeer het.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>%1 kan niet worden gelezen: %2.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>%1 kan niet worden geschreven: %2.</translation>
-    </message>
-    <message>
-        <source>%1 is set to an unknown choice. Choose it anew first.</source>
-        <translation>%1 staat op een onbekende keuze. Kies daar eerst opnieuw.</translation>
-    </message>
-    <message>
-        <source>This profile is from a newer version of this program.</source>
-        <translation>Dit profiel komt van een nieuwere versie van dit programma.</translation>
-    </message>
-    <message>
-        <source>This profile is for a mixer that is not known here: %1.</source>
-        <translation>Dit profiel is voor een mengpaneel dat hier niet bekend is: %1.</translation>
-    </message>
-    <message>
-        <source>The mixer has no choice &quot;%1&quot;.</source>
-        <translation>Het mengpaneel heeft de keuze ‘%1’ niet.</translation>
-    </message>
-    <message>
-        <source>This profile holds something that the mixer does not have: %1.</source>
-        <translation>Dit profiel bevat iets wat het mengpaneel niet heeft: %1.</translation>
-    </message>
-    <message>
-        <source>This profile holds no settings.</source>
-        <translation>Dit profiel bevat geen instellingen.</translation>
-    </message>
-    <message>
-        <source>This file is no profile.</source>
-        <translation>Dit bestand is geen profiel.</translation>
-    </message>
-</context>
-<context>
     <name>CheckWords</name>
     <message>
         <source>, </source>
@@ -314,6 +243,22 @@
         <source>Files with versions are missing. Install the package again.</source>
         <translation>Er ontbreken bestanden met versies. Installeer het pakket opnieuw.</translation>
     </message>
+    <message>
+        <source>turned off</source>
+        <translation>uitgeschakeld</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ingeschakeld</translation>
+    </message>
+    <message>
+        <source>At plug-in</source>
+        <translation>Bij het aansluiten</translation>
+    </message>
+    <message>
+        <source>Settings cannot be sent to a mixer that is plugged in</source>
+        <translation>Instellingen kunnen niet naar een aangesloten mengpaneel worden gestuurd</translation>
+    </message>
 </context>
 <context>
     <name>HeaderWords</name>
@@ -375,6 +320,77 @@
     <message>
         <source>Use light, dark, light-contrast or dark-contrast colours, whatever the desktop uses.</source>
         <translation>De kleuren light, dark, light-contrast of dark-contrast gebruiken, wat het bureaublad ook gebruikt.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFaultWords</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>Een profiel heeft een naam nodig.</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>Deze naam is te lang.</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>Deze naam bevat tekens die niet in een naam mogen.</translation>
+    </message>
+    <message>
+        <source>This user has no home folder to keep profiles in.</source>
+        <translation>Deze gebruiker heeft geen persoonlijke map voor profielen.</translation>
+    </message>
+    <message>
+        <source>There is no profile %1 any more.</source>
+        <translation>Het profiel %1 bestaat niet meer.</translation>
+    </message>
+    <message>
+        <source>There is a profile %1 already.</source>
+        <translation>Er is al een profiel %1.</translation>
+    </message>
+    <message>
+        <source>There is a file %1 already.</source>
+        <translation>Er is al een bestand %1.</translation>
+    </message>
+    <message>
+        <source>The file is named for another profile, %1. Import it.</source>
+        <translation>Het bestand draagt de naam van een ander profiel, %1. Importeer het.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 kan niet worden gelezen: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 kan niet worden geschreven: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is set to an unknown choice. Choose it anew first.</source>
+        <translation>%1 staat op een onbekende keuze. Kies daar eerst opnieuw.</translation>
+    </message>
+    <message>
+        <source>This profile is from a newer version of this program.</source>
+        <translation>Dit profiel komt van een nieuwere versie van dit programma.</translation>
+    </message>
+    <message>
+        <source>This profile is for a mixer that is not known here: %1.</source>
+        <translation>Dit profiel is voor een mengpaneel dat hier niet bekend is: %1.</translation>
+    </message>
+    <message>
+        <source>The mixer has no choice &quot;%1&quot;.</source>
+        <translation>Het mengpaneel heeft de keuze ‘%1’ niet.</translation>
+    </message>
+    <message>
+        <source>This profile holds something that the mixer does not have: %1.</source>
+        <translation>Dit profiel bevat iets wat het mengpaneel niet heeft: %1.</translation>
+    </message>
+    <message>
+        <source>This profile holds no settings.</source>
+        <translation>Dit profiel bevat geen instellingen.</translation>
+    </message>
+    <message>
+        <source>This file is no profile.</source>
+        <translation>Dit bestand is geen profiel.</translation>
     </message>
 </context>
 <context>
@@ -499,6 +515,34 @@
         <source>The input selector of CH%1 is not on USB</source>
         <translation>De ingangskeuzeschakelaar van CH%1 staat niet op USB</translation>
     </message>
+    <message>
+        <source>The signal of the mixer that the computer records on %1.</source>
+        <translation>Het signaal van het mengpaneel dat de computer op %1 opneemt.</translation>
+    </message>
+    <message>
+        <source>The mixer channel that the computer plays %1 to.</source>
+        <translation>Het kanaal van het mengpaneel waarop de computer %1 afspeelt.</translation>
+    </message>
+    <message>
+        <source>How loud you record.</source>
+        <translation>Hoe luid er wordt opgenomen.</translation>
+    </message>
+    <message>
+        <source>The MIDI channel that the mixer uses.</source>
+        <translation>Het MIDI-kanaal dat het mengpaneel gebruikt.</translation>
+    </message>
+    <message>
+        <source>Not possible in this session.</source>
+        <translation>In deze sessie niet mogelijk.</translation>
+    </message>
+    <message>
+        <source>Turned off by an administrator.</source>
+        <translation>Uitgezet door een beheerder.</translation>
+    </message>
+    <message>
+        <source>Install the package trxctl for this.</source>
+        <translation>Installeer hiervoor het pakket trxctl.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -551,18 +595,6 @@
 </context>
 <context>
     <name>setup::PluggedInCard</name>
-    <message>
-        <source>Not possible in this session.</source>
-        <translation>In deze sessie niet mogelijk.</translation>
-    </message>
-    <message>
-        <source>Turned off by an administrator.</source>
-        <translation>Uitgezet door een beheerder.</translation>
-    </message>
-    <message>
-        <source>Install the package trxctl for this.</source>
-        <translation>Installeer hiervoor het pakket trxctl.</translation>
-    </message>
     <message>
         <source>When a mixer is plugged in</source>
         <translation>Bij het aansluiten</translation>
@@ -740,6 +772,10 @@
         <source>Record on %1</source>
         <translation>Opnemen op %1</translation>
     </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>&amp;Details tonen</translation>
+    </message>
 </context>
 <context>
     <name>setup::SignalList</name>
@@ -765,6 +801,14 @@
     <message>
         <source>Show &amp;details</source>
         <translation>&amp;Details tonen</translation>
+    </message>
+    <message>
+        <source>The command is copied.</source>
+        <translation>De opdracht is gekopieerd.</translation>
+    </message>
+    <message>
+        <source>Connect the mixer by USB and switch it on. What you choose meanwhile is kept, and sent as soon as it is there.</source>
+        <translation>Sluit het mengpaneel aan via USB en zet het aan. Wat je intussen kiest, wordt bewaard en gestuurd zodra het er is.</translation>
     </message>
 </context>
 <context>

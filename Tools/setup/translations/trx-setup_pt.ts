@@ -2,77 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>A profile needs a name.</source>
-        <translation>Um perfil precisa de um nome.</translation>
-    </message>
-    <message>
-        <source>This name is too long.</source>
-        <translation>Este nome é demasiado longo.</translation>
-    </message>
-    <message>
-        <source>This name has characters that a name cannot have.</source>
-        <translation>Este nome tem caracteres que um nome não pode ter.</translation>
-    </message>
-    <message>
-        <source>This user has no home folder to keep profiles in.</source>
-        <translation>Este utilizador não tem pasta pessoal para perfis.</translation>
-    </message>
-    <message>
-        <source>There is no profile %1 any more.</source>
-        <translation>O perfil %1 já não existe.</translation>
-    </message>
-    <message>
-        <source>There is a profile %1 already.</source>
-        <translation>Já existe um perfil %1.</translation>
-    </message>
-    <message>
-        <source>There is a file %1 already.</source>
-        <translation>Já existe um ficheiro %1.</translation>
-    </message>
-    <message>
-        <source>The file is named for another profile, %1. Import it.</source>
-        <translation>O ficheiro tem o nome de outro perfil, %1. Importar o ficheiro.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>Não é possível ler %1: %2.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>Não é possível escrever %1: %2.</translation>
-    </message>
-    <message>
-        <source>%1 is set to an unknown choice. Choose it anew first.</source>
-        <translation>%1 tem uma opção desconhecida. Escolher primeiro de novo.</translation>
-    </message>
-    <message>
-        <source>This profile is from a newer version of this program.</source>
-        <translation>Este perfil é de uma versão mais recente deste programa.</translation>
-    </message>
-    <message>
-        <source>This profile is for a mixer that is not known here: %1.</source>
-        <translation>Este perfil é para um mixer que aqui não é conhecido: %1.</translation>
-    </message>
-    <message>
-        <source>The mixer has no choice &quot;%1&quot;.</source>
-        <translation>O mixer não tem a opção “%1”.</translation>
-    </message>
-    <message>
-        <source>This profile holds something that the mixer does not have: %1.</source>
-        <translation>Este perfil contém algo que o mixer não tem: %1.</translation>
-    </message>
-    <message>
-        <source>This profile holds no settings.</source>
-        <translation>Este perfil não contém definições.</translation>
-    </message>
-    <message>
-        <source>This file is no profile.</source>
-        <translation>Este ficheiro não é um perfil.</translation>
-    </message>
-</context>
-<context>
     <name>CheckWords</name>
     <message>
         <source>, </source>
@@ -314,6 +243,22 @@
         <source>Files with versions are missing. Install the package again.</source>
         <translation>Faltam ficheiros com versões. Instalar o pacote de novo.</translation>
     </message>
+    <message>
+        <source>turned off</source>
+        <translation>desativado</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ativado</translation>
+    </message>
+    <message>
+        <source>At plug-in</source>
+        <translation>Ao ligar</translation>
+    </message>
+    <message>
+        <source>Settings cannot be sent to a mixer that is plugged in</source>
+        <translation>Não é possível enviar as definições para um mixer que é ligado</translation>
+    </message>
 </context>
 <context>
     <name>HeaderWords</name>
@@ -375,6 +320,77 @@
     <message>
         <source>Use light, dark, light-contrast or dark-contrast colours, whatever the desktop uses.</source>
         <translation>Usar as cores light, dark, light-contrast ou dark-contrast, sejam quais forem as do ambiente de trabalho.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFaultWords</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>Um perfil precisa de um nome.</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>Este nome é demasiado longo.</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>Este nome tem caracteres que um nome não pode ter.</translation>
+    </message>
+    <message>
+        <source>This user has no home folder to keep profiles in.</source>
+        <translation>Este utilizador não tem pasta pessoal para perfis.</translation>
+    </message>
+    <message>
+        <source>There is no profile %1 any more.</source>
+        <translation>O perfil %1 já não existe.</translation>
+    </message>
+    <message>
+        <source>There is a profile %1 already.</source>
+        <translation>Já existe um perfil %1.</translation>
+    </message>
+    <message>
+        <source>There is a file %1 already.</source>
+        <translation>Já existe um ficheiro %1.</translation>
+    </message>
+    <message>
+        <source>The file is named for another profile, %1. Import it.</source>
+        <translation>O ficheiro tem o nome de outro perfil, %1. Importar o ficheiro.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Não é possível ler %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>Não é possível escrever %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is set to an unknown choice. Choose it anew first.</source>
+        <translation>%1 tem uma opção desconhecida. Escolher primeiro de novo.</translation>
+    </message>
+    <message>
+        <source>This profile is from a newer version of this program.</source>
+        <translation>Este perfil é de uma versão mais recente deste programa.</translation>
+    </message>
+    <message>
+        <source>This profile is for a mixer that is not known here: %1.</source>
+        <translation>Este perfil é para um mixer que aqui não é conhecido: %1.</translation>
+    </message>
+    <message>
+        <source>The mixer has no choice &quot;%1&quot;.</source>
+        <translation>O mixer não tem a opção “%1”.</translation>
+    </message>
+    <message>
+        <source>This profile holds something that the mixer does not have: %1.</source>
+        <translation>Este perfil contém algo que o mixer não tem: %1.</translation>
+    </message>
+    <message>
+        <source>This profile holds no settings.</source>
+        <translation>Este perfil não contém definições.</translation>
+    </message>
+    <message>
+        <source>This file is no profile.</source>
+        <translation>Este ficheiro não é um perfil.</translation>
     </message>
 </context>
 <context>
@@ -499,6 +515,34 @@
         <source>The input selector of CH%1 is not on USB</source>
         <translation>O seletor de entrada de CH%1 não está em USB</translation>
     </message>
+    <message>
+        <source>The signal of the mixer that the computer records on %1.</source>
+        <translation>O sinal do mixer que o computador grava em %1.</translation>
+    </message>
+    <message>
+        <source>The mixer channel that the computer plays %1 to.</source>
+        <translation>O canal do mixer em que o computador reproduz %1.</translation>
+    </message>
+    <message>
+        <source>How loud you record.</source>
+        <translation>O volume da gravação.</translation>
+    </message>
+    <message>
+        <source>The MIDI channel that the mixer uses.</source>
+        <translation>O canal MIDI que o mixer usa.</translation>
+    </message>
+    <message>
+        <source>Not possible in this session.</source>
+        <translation>Não é possível nesta sessão.</translation>
+    </message>
+    <message>
+        <source>Turned off by an administrator.</source>
+        <translation>Desativado por um administrador.</translation>
+    </message>
+    <message>
+        <source>Install the package trxctl for this.</source>
+        <translation>Instalar para isso o pacote trxctl.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -551,18 +595,6 @@
 </context>
 <context>
     <name>setup::PluggedInCard</name>
-    <message>
-        <source>Not possible in this session.</source>
-        <translation>Não é possível nesta sessão.</translation>
-    </message>
-    <message>
-        <source>Turned off by an administrator.</source>
-        <translation>Desativado por um administrador.</translation>
-    </message>
-    <message>
-        <source>Install the package trxctl for this.</source>
-        <translation>Instalar para isso o pacote trxctl.</translation>
-    </message>
     <message>
         <source>When a mixer is plugged in</source>
         <translation>Ao conectar o mixer</translation>
@@ -740,6 +772,10 @@
         <source>Record on %1</source>
         <translation>Gravar em %1</translation>
     </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>Mostrar &amp;detalhes</translation>
+    </message>
 </context>
 <context>
     <name>setup::SignalList</name>
@@ -765,6 +801,14 @@
     <message>
         <source>Show &amp;details</source>
         <translation>Mostrar &amp;detalhes</translation>
+    </message>
+    <message>
+        <source>The command is copied.</source>
+        <translation>O comando foi copiado.</translation>
+    </message>
+    <message>
+        <source>Connect the mixer by USB and switch it on. What you choose meanwhile is kept, and sent as soon as it is there.</source>
+        <translation>Conectar o mixer por USB e ligá-lo. O que for escolhido entretanto fica guardado e é enviado assim que o mixer estiver presente.</translation>
     </message>
 </context>
 <context>

@@ -2,77 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>A profile needs a name.</source>
-        <translation>Профилю нужно имя.</translation>
-    </message>
-    <message>
-        <source>This name is too long.</source>
-        <translation>Это имя слишком длинное.</translation>
-    </message>
-    <message>
-        <source>This name has characters that a name cannot have.</source>
-        <translation>В этом имени есть недопустимые символы.</translation>
-    </message>
-    <message>
-        <source>This user has no home folder to keep profiles in.</source>
-        <translation>У этого пользователя нет домашней папки для профилей.</translation>
-    </message>
-    <message>
-        <source>There is no profile %1 any more.</source>
-        <translation>Профиля %1 больше нет.</translation>
-    </message>
-    <message>
-        <source>There is a profile %1 already.</source>
-        <translation>Профиль %1 уже есть.</translation>
-    </message>
-    <message>
-        <source>There is a file %1 already.</source>
-        <translation>Файл %1 уже есть.</translation>
-    </message>
-    <message>
-        <source>The file is named for another profile, %1. Import it.</source>
-        <translation>Файл назван именем другого профиля, %1. Импортируйте его.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>Не удаётся прочитать %1: %2.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>Не удаётся записать %1: %2.</translation>
-    </message>
-    <message>
-        <source>%1 is set to an unknown choice. Choose it anew first.</source>
-        <translation>%1: значение неизвестно. Сначала выберите заново.</translation>
-    </message>
-    <message>
-        <source>This profile is from a newer version of this program.</source>
-        <translation>Этот профиль создан более новой версией программы.</translation>
-    </message>
-    <message>
-        <source>This profile is for a mixer that is not known here: %1.</source>
-        <translation>Этот профиль для микшера, который здесь неизвестен: %1.</translation>
-    </message>
-    <message>
-        <source>The mixer has no choice &quot;%1&quot;.</source>
-        <translation>У микшера нет варианта «%1».</translation>
-    </message>
-    <message>
-        <source>This profile holds something that the mixer does not have: %1.</source>
-        <translation>В этом профиле есть то, чего нет у микшера: %1.</translation>
-    </message>
-    <message>
-        <source>This profile holds no settings.</source>
-        <translation>В этом профиле нет настроек.</translation>
-    </message>
-    <message>
-        <source>This file is no profile.</source>
-        <translation>Этот файл не профиль.</translation>
-    </message>
-</context>
-<context>
     <name>CheckWords</name>
     <message>
         <source>, </source>
@@ -314,6 +243,22 @@
         <source>Files with versions are missing. Install the package again.</source>
         <translation>Нет файлов с версиями. Установите пакет заново.</translation>
     </message>
+    <message>
+        <source>turned off</source>
+        <translation>выключено</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>включено</translation>
+    </message>
+    <message>
+        <source>At plug-in</source>
+        <translation>При подключении</translation>
+    </message>
+    <message>
+        <source>Settings cannot be sent to a mixer that is plugged in</source>
+        <translation>Настройки нельзя отправить на подключаемый микшер</translation>
+    </message>
 </context>
 <context>
     <name>HeaderWords</name>
@@ -375,6 +320,77 @@
     <message>
         <source>Use light, dark, light-contrast or dark-contrast colours, whatever the desktop uses.</source>
         <translation>Использовать цвета light, dark, light-contrast или dark-contrast независимо от рабочего стола.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFaultWords</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>Профилю нужно имя.</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>Это имя слишком длинное.</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>В этом имени есть недопустимые символы.</translation>
+    </message>
+    <message>
+        <source>This user has no home folder to keep profiles in.</source>
+        <translation>У этого пользователя нет домашней папки для профилей.</translation>
+    </message>
+    <message>
+        <source>There is no profile %1 any more.</source>
+        <translation>Профиля %1 больше нет.</translation>
+    </message>
+    <message>
+        <source>There is a profile %1 already.</source>
+        <translation>Профиль %1 уже есть.</translation>
+    </message>
+    <message>
+        <source>There is a file %1 already.</source>
+        <translation>Файл %1 уже есть.</translation>
+    </message>
+    <message>
+        <source>The file is named for another profile, %1. Import it.</source>
+        <translation>Файл назван именем другого профиля, %1. Импортируйте его.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Не удаётся прочитать %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>Не удаётся записать %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is set to an unknown choice. Choose it anew first.</source>
+        <translation>%1: значение неизвестно. Сначала выберите заново.</translation>
+    </message>
+    <message>
+        <source>This profile is from a newer version of this program.</source>
+        <translation>Этот профиль создан более новой версией программы.</translation>
+    </message>
+    <message>
+        <source>This profile is for a mixer that is not known here: %1.</source>
+        <translation>Этот профиль для микшера, который здесь неизвестен: %1.</translation>
+    </message>
+    <message>
+        <source>The mixer has no choice &quot;%1&quot;.</source>
+        <translation>У микшера нет варианта «%1».</translation>
+    </message>
+    <message>
+        <source>This profile holds something that the mixer does not have: %1.</source>
+        <translation>В этом профиле есть то, чего нет у микшера: %1.</translation>
+    </message>
+    <message>
+        <source>This profile holds no settings.</source>
+        <translation>В этом профиле нет настроек.</translation>
+    </message>
+    <message>
+        <source>This file is no profile.</source>
+        <translation>Этот файл не профиль.</translation>
     </message>
 </context>
 <context>
@@ -499,6 +515,34 @@
         <source>The input selector of CH%1 is not on USB</source>
         <translation>Селектор входа CH%1 не стоит на USB</translation>
     </message>
+    <message>
+        <source>The signal of the mixer that the computer records on %1.</source>
+        <translation>Сигнал микшера, который компьютер записывает на %1.</translation>
+    </message>
+    <message>
+        <source>The mixer channel that the computer plays %1 to.</source>
+        <translation>Канал микшера, на котором компьютер воспроизводит %1.</translation>
+    </message>
+    <message>
+        <source>How loud you record.</source>
+        <translation>Громкость записи.</translation>
+    </message>
+    <message>
+        <source>The MIDI channel that the mixer uses.</source>
+        <translation>MIDI-канал, который использует микшер.</translation>
+    </message>
+    <message>
+        <source>Not possible in this session.</source>
+        <translation>В этом сеансе невозможно.</translation>
+    </message>
+    <message>
+        <source>Turned off by an administrator.</source>
+        <translation>Выключено администратором.</translation>
+    </message>
+    <message>
+        <source>Install the package trxctl for this.</source>
+        <translation>Для этого установите пакет trxctl.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -551,18 +595,6 @@
 </context>
 <context>
     <name>setup::PluggedInCard</name>
-    <message>
-        <source>Not possible in this session.</source>
-        <translation>В этом сеансе невозможно.</translation>
-    </message>
-    <message>
-        <source>Turned off by an administrator.</source>
-        <translation>Выключено администратором.</translation>
-    </message>
-    <message>
-        <source>Install the package trxctl for this.</source>
-        <translation>Для этого установите пакет trxctl.</translation>
-    </message>
     <message>
         <source>When a mixer is plugged in</source>
         <translation>При подключении</translation>
@@ -740,6 +772,10 @@
         <source>Record on %1</source>
         <translation>Записывать на %1</translation>
     </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>По&amp;дробности</translation>
+    </message>
 </context>
 <context>
     <name>setup::SignalList</name>
@@ -765,6 +801,14 @@
     <message>
         <source>Show &amp;details</source>
         <translation>По&amp;дробности</translation>
+    </message>
+    <message>
+        <source>The command is copied.</source>
+        <translation>Команда скопирована.</translation>
+    </message>
+    <message>
+        <source>Connect the mixer by USB and switch it on. What you choose meanwhile is kept, and sent as soon as it is there.</source>
+        <translation>Подключите микшер по USB и включите его. То, что вы пока выберете, сохранится и будет отправлено, как только он появится.</translation>
     </message>
 </context>
 <context>

@@ -2,77 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>A profile needs a name.</source>
-        <translation>配置需要一个名称。</translation>
-    </message>
-    <message>
-        <source>This name is too long.</source>
-        <translation>此名称太长。</translation>
-    </message>
-    <message>
-        <source>This name has characters that a name cannot have.</source>
-        <translation>此名称中有不能使用的字符。</translation>
-    </message>
-    <message>
-        <source>This user has no home folder to keep profiles in.</source>
-        <translation>此用户没有可以保存配置的主文件夹。</translation>
-    </message>
-    <message>
-        <source>There is no profile %1 any more.</source>
-        <translation>配置“%1”已不存在。</translation>
-    </message>
-    <message>
-        <source>There is a profile %1 already.</source>
-        <translation>已有配置“%1”。</translation>
-    </message>
-    <message>
-        <source>There is a file %1 already.</source>
-        <translation>已有文件“%1”。</translation>
-    </message>
-    <message>
-        <source>The file is named for another profile, %1. Import it.</source>
-        <translation>此文件用的是另一个配置“%1”的名称。请导入它。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>无法读取 %1：%2。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>无法写入 %1：%2。</translation>
-    </message>
-    <message>
-        <source>%1 is set to an unknown choice. Choose it anew first.</source>
-        <translation>%1 的选项未知。请先重新选择。</translation>
-    </message>
-    <message>
-        <source>This profile is from a newer version of this program.</source>
-        <translation>此配置来自本程序的较新版本。</translation>
-    </message>
-    <message>
-        <source>This profile is for a mixer that is not known here: %1.</source>
-        <translation>此配置用于这里不认识的混音台：%1。</translation>
-    </message>
-    <message>
-        <source>The mixer has no choice &quot;%1&quot;.</source>
-        <translation>混音台没有选项“%1”。</translation>
-    </message>
-    <message>
-        <source>This profile holds something that the mixer does not have: %1.</source>
-        <translation>此配置中有混音台没有的内容：%1。</translation>
-    </message>
-    <message>
-        <source>This profile holds no settings.</source>
-        <translation>此配置中没有设置。</translation>
-    </message>
-    <message>
-        <source>This file is no profile.</source>
-        <translation>此文件不是配置。</translation>
-    </message>
-</context>
-<context>
     <name>CheckWords</name>
     <message>
         <source>, </source>
@@ -314,6 +243,22 @@
         <source>Files with versions are missing. Install the package again.</source>
         <translation>缺少版本文件。请重新安装软件包。</translation>
     </message>
+    <message>
+        <source>turned off</source>
+        <translation>已关闭</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>已开启</translation>
+    </message>
+    <message>
+        <source>At plug-in</source>
+        <translation>接入时</translation>
+    </message>
+    <message>
+        <source>Settings cannot be sent to a mixer that is plugged in</source>
+        <translation>无法将设置发送到接入的混音台</translation>
+    </message>
 </context>
 <context>
     <name>HeaderWords</name>
@@ -375,6 +320,77 @@
     <message>
         <source>Use light, dark, light-contrast or dark-contrast colours, whatever the desktop uses.</source>
         <translation>使用 light、dark、light-contrast 或 dark-contrast 颜色，不随桌面变化。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFaultWords</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>配置需要一个名称。</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>此名称太长。</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>此名称中有不能使用的字符。</translation>
+    </message>
+    <message>
+        <source>This user has no home folder to keep profiles in.</source>
+        <translation>此用户没有可以保存配置的主文件夹。</translation>
+    </message>
+    <message>
+        <source>There is no profile %1 any more.</source>
+        <translation>配置“%1”已不存在。</translation>
+    </message>
+    <message>
+        <source>There is a profile %1 already.</source>
+        <translation>已有配置“%1”。</translation>
+    </message>
+    <message>
+        <source>There is a file %1 already.</source>
+        <translation>已有文件“%1”。</translation>
+    </message>
+    <message>
+        <source>The file is named for another profile, %1. Import it.</source>
+        <translation>此文件用的是另一个配置“%1”的名称。请导入它。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>无法读取 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is set to an unknown choice. Choose it anew first.</source>
+        <translation>%1 的选项未知。请先重新选择。</translation>
+    </message>
+    <message>
+        <source>This profile is from a newer version of this program.</source>
+        <translation>此配置来自本程序的较新版本。</translation>
+    </message>
+    <message>
+        <source>This profile is for a mixer that is not known here: %1.</source>
+        <translation>此配置用于这里不认识的混音台：%1。</translation>
+    </message>
+    <message>
+        <source>The mixer has no choice &quot;%1&quot;.</source>
+        <translation>混音台没有选项“%1”。</translation>
+    </message>
+    <message>
+        <source>This profile holds something that the mixer does not have: %1.</source>
+        <translation>此配置中有混音台没有的内容：%1。</translation>
+    </message>
+    <message>
+        <source>This profile holds no settings.</source>
+        <translation>此配置中没有设置。</translation>
+    </message>
+    <message>
+        <source>This file is no profile.</source>
+        <translation>此文件不是配置。</translation>
     </message>
 </context>
 <context>
@@ -499,6 +515,34 @@
         <source>The input selector of CH%1 is not on USB</source>
         <translation>CH%1 的输入选择开关不在 USB 位置</translation>
     </message>
+    <message>
+        <source>The signal of the mixer that the computer records on %1.</source>
+        <translation>计算机在 %1 上录制的混音台信号。</translation>
+    </message>
+    <message>
+        <source>The mixer channel that the computer plays %1 to.</source>
+        <translation>计算机播放 %1 的混音台通道。</translation>
+    </message>
+    <message>
+        <source>How loud you record.</source>
+        <translation>录音的音量。</translation>
+    </message>
+    <message>
+        <source>The MIDI channel that the mixer uses.</source>
+        <translation>混音台使用的 MIDI 通道。</translation>
+    </message>
+    <message>
+        <source>Not possible in this session.</source>
+        <translation>在此会话中不可用。</translation>
+    </message>
+    <message>
+        <source>Turned off by an administrator.</source>
+        <translation>已被管理员关闭。</translation>
+    </message>
+    <message>
+        <source>Install the package trxctl for this.</source>
+        <translation>需要安装软件包 trxctl。</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -551,18 +595,6 @@
 </context>
 <context>
     <name>setup::PluggedInCard</name>
-    <message>
-        <source>Not possible in this session.</source>
-        <translation>在此会话中不可用。</translation>
-    </message>
-    <message>
-        <source>Turned off by an administrator.</source>
-        <translation>已被管理员关闭。</translation>
-    </message>
-    <message>
-        <source>Install the package trxctl for this.</source>
-        <translation>需要安装软件包 trxctl。</translation>
-    </message>
     <message>
         <source>When a mixer is plugged in</source>
         <translation>插上混音台时</translation>
@@ -740,6 +772,10 @@
         <source>Record on %1</source>
         <translation>录制到 %1</translation>
     </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>显示详情(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>setup::SignalList</name>
@@ -765,6 +801,14 @@
     <message>
         <source>Show &amp;details</source>
         <translation>显示详情(&amp;D)</translation>
+    </message>
+    <message>
+        <source>The command is copied.</source>
+        <translation>命令已复制。</translation>
+    </message>
+    <message>
+        <source>Connect the mixer by USB and switch it on. What you choose meanwhile is kept, and sent as soon as it is there.</source>
+        <translation>请用 USB 连接混音台并打开电源。这期间您所选的内容会保存下来，并在混音台接入后立即发送。</translation>
     </message>
 </context>
 <context>

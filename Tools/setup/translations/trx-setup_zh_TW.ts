@@ -2,77 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>A profile needs a name.</source>
-        <translation>設定檔需要名稱。</translation>
-    </message>
-    <message>
-        <source>This name is too long.</source>
-        <translation>這個名稱太長。</translation>
-    </message>
-    <message>
-        <source>This name has characters that a name cannot have.</source>
-        <translation>這個名稱含有不能使用的字元。</translation>
-    </message>
-    <message>
-        <source>This user has no home folder to keep profiles in.</source>
-        <translation>這位使用者沒有可存放設定檔的家目錄。</translation>
-    </message>
-    <message>
-        <source>There is no profile %1 any more.</source>
-        <translation>設定檔「%1」已不存在。</translation>
-    </message>
-    <message>
-        <source>There is a profile %1 already.</source>
-        <translation>已有設定檔「%1」。</translation>
-    </message>
-    <message>
-        <source>There is a file %1 already.</source>
-        <translation>已有檔案「%1」。</translation>
-    </message>
-    <message>
-        <source>The file is named for another profile, %1. Import it.</source>
-        <translation>這個檔案用的是另一個設定檔「%1」的名稱。請匯入它。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2.</source>
-        <translation>無法讀取 %1：%2。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2.</source>
-        <translation>無法寫入 %1：%2。</translation>
-    </message>
-    <message>
-        <source>%1 is set to an unknown choice. Choose it anew first.</source>
-        <translation>%1 的選項不明。請先重新選擇。</translation>
-    </message>
-    <message>
-        <source>This profile is from a newer version of this program.</source>
-        <translation>這個設定檔來自本程式的較新版本。</translation>
-    </message>
-    <message>
-        <source>This profile is for a mixer that is not known here: %1.</source>
-        <translation>這個設定檔適用於這裡不認得的混音器：%1。</translation>
-    </message>
-    <message>
-        <source>The mixer has no choice &quot;%1&quot;.</source>
-        <translation>混音器沒有「%1」這個選項。</translation>
-    </message>
-    <message>
-        <source>This profile holds something that the mixer does not have: %1.</source>
-        <translation>這個設定檔有混音器沒有的內容：%1。</translation>
-    </message>
-    <message>
-        <source>This profile holds no settings.</source>
-        <translation>這個設定檔沒有任何設定。</translation>
-    </message>
-    <message>
-        <source>This file is no profile.</source>
-        <translation>這個檔案不是設定檔。</translation>
-    </message>
-</context>
-<context>
     <name>CheckWords</name>
     <message>
         <source>, </source>
@@ -314,6 +243,22 @@
         <source>Files with versions are missing. Install the package again.</source>
         <translation>缺少版本檔案。請重新安裝套件。</translation>
     </message>
+    <message>
+        <source>turned off</source>
+        <translation>已關閉</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>已開啟</translation>
+    </message>
+    <message>
+        <source>At plug-in</source>
+        <translation>連接時</translation>
+    </message>
+    <message>
+        <source>Settings cannot be sent to a mixer that is plugged in</source>
+        <translation>無法將設定傳送到連接的混音器</translation>
+    </message>
 </context>
 <context>
     <name>HeaderWords</name>
@@ -375,6 +320,77 @@
     <message>
         <source>Use light, dark, light-contrast or dark-contrast colours, whatever the desktop uses.</source>
         <translation>使用 light、dark、light-contrast 或 dark-contrast 色彩，不隨桌面改變。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileFaultWords</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>設定檔需要名稱。</translation>
+    </message>
+    <message>
+        <source>This name is too long.</source>
+        <translation>這個名稱太長。</translation>
+    </message>
+    <message>
+        <source>This name has characters that a name cannot have.</source>
+        <translation>這個名稱含有不能使用的字元。</translation>
+    </message>
+    <message>
+        <source>This user has no home folder to keep profiles in.</source>
+        <translation>這位使用者沒有可存放設定檔的家目錄。</translation>
+    </message>
+    <message>
+        <source>There is no profile %1 any more.</source>
+        <translation>設定檔「%1」已不存在。</translation>
+    </message>
+    <message>
+        <source>There is a profile %1 already.</source>
+        <translation>已有設定檔「%1」。</translation>
+    </message>
+    <message>
+        <source>There is a file %1 already.</source>
+        <translation>已有檔案「%1」。</translation>
+    </message>
+    <message>
+        <source>The file is named for another profile, %1. Import it.</source>
+        <translation>這個檔案用的是另一個設定檔「%1」的名稱。請匯入它。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>無法讀取 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>無法寫入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is set to an unknown choice. Choose it anew first.</source>
+        <translation>%1 的選項不明。請先重新選擇。</translation>
+    </message>
+    <message>
+        <source>This profile is from a newer version of this program.</source>
+        <translation>這個設定檔來自本程式的較新版本。</translation>
+    </message>
+    <message>
+        <source>This profile is for a mixer that is not known here: %1.</source>
+        <translation>這個設定檔適用於這裡不認得的混音器：%1。</translation>
+    </message>
+    <message>
+        <source>The mixer has no choice &quot;%1&quot;.</source>
+        <translation>混音器沒有「%1」這個選項。</translation>
+    </message>
+    <message>
+        <source>This profile holds something that the mixer does not have: %1.</source>
+        <translation>這個設定檔有混音器沒有的內容：%1。</translation>
+    </message>
+    <message>
+        <source>This profile holds no settings.</source>
+        <translation>這個設定檔沒有任何設定。</translation>
+    </message>
+    <message>
+        <source>This file is no profile.</source>
+        <translation>這個檔案不是設定檔。</translation>
     </message>
 </context>
 <context>
@@ -499,6 +515,34 @@
         <source>The input selector of CH%1 is not on USB</source>
         <translation>CH%1 的輸入選擇開關不在 USB 位置</translation>
     </message>
+    <message>
+        <source>The signal of the mixer that the computer records on %1.</source>
+        <translation>電腦在 %1 上錄製的混音器訊號。</translation>
+    </message>
+    <message>
+        <source>The mixer channel that the computer plays %1 to.</source>
+        <translation>電腦播放 %1 的混音器聲道。</translation>
+    </message>
+    <message>
+        <source>How loud you record.</source>
+        <translation>錄音的音量。</translation>
+    </message>
+    <message>
+        <source>The MIDI channel that the mixer uses.</source>
+        <translation>混音器使用的 MIDI 頻道。</translation>
+    </message>
+    <message>
+        <source>Not possible in this session.</source>
+        <translation>在這個工作階段中無法使用。</translation>
+    </message>
+    <message>
+        <source>Turned off by an administrator.</source>
+        <translation>已由管理員關閉。</translation>
+    </message>
+    <message>
+        <source>Install the package trxctl for this.</source>
+        <translation>需要安裝套件 trxctl。</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -551,18 +595,6 @@
 </context>
 <context>
     <name>setup::PluggedInCard</name>
-    <message>
-        <source>Not possible in this session.</source>
-        <translation>在這個工作階段中無法使用。</translation>
-    </message>
-    <message>
-        <source>Turned off by an administrator.</source>
-        <translation>已由管理員關閉。</translation>
-    </message>
-    <message>
-        <source>Install the package trxctl for this.</source>
-        <translation>需要安裝套件 trxctl。</translation>
-    </message>
     <message>
         <source>When a mixer is plugged in</source>
         <translation>接上混音器時</translation>
@@ -740,6 +772,10 @@
         <source>Record on %1</source>
         <translation>錄製到 %1</translation>
     </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>顯示詳細資料(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>setup::SignalList</name>
@@ -765,6 +801,14 @@
     <message>
         <source>Show &amp;details</source>
         <translation>顯示詳細資料(&amp;D)</translation>
+    </message>
+    <message>
+        <source>The command is copied.</source>
+        <translation>指令已複製。</translation>
+    </message>
+    <message>
+        <source>Connect the mixer by USB and switch it on. What you choose meanwhile is kept, and sent as soon as it is there.</source>
+        <translation>請用 USB 連接混音器並開啟電源。這段期間您所選的內容會儲存下來，並在混音器連接後立即傳送。</translation>
     </message>
 </context>
 <context>
