@@ -133,7 +133,7 @@ class Machine(unittest.TestCase):
         self.assertEqual((status, said), (
             7, f"trxctl: error: nothing was sent: {self.described(unit)}, may not be opened (Permission denied)\n"
                "hint: the udev rule that comes with the library lets the user at the desk open mixers; "
-               "once it is installed, plug the mixer in again\n"))
+               "trxctl diagnose tells what to type\n"))
         self.assertEqual(self.sent(), [(unit, "0200")])
 
     def test_audio_driver_stays_bound(self):
