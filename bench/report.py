@@ -67,14 +67,14 @@ def times(subject, only=".", repetitions=REPETITIONS, figure=statistics.median):
     return {name: figure([run["cpu_time"] for run in runs if run["run_name"] == run_name]) for run_name, name in names.items()}
 
 
-def processor_time(*command):
+def processor_time(*command, accepted=(0,)):
     """The median processor time of a command as a whole, in milliseconds."""
     taken = []
     for _ in range(WHOLE_PROCESS_RUNS):
         process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
         _, status, usage = os.wait4(process.pid, 0)
         process.returncode = os.waitstatus_to_exitcode(status)
-        if process.returncode != 0:
+        if process.returncode not in accepted:
             raise RuntimeError(f"{command} ended with {process.returncode}")
         taken.append((usage.ru_utime + usage.ru_stime) * 1000)
     return statistics.median(taken)
@@ -126,7 +126,7 @@ def costs_of_operations():
 
 def whole_commands(table):
     desk.plug(mixers=1, strangers=11)
-    ours = processor_time(str(counts.PROGRAMS / "trxctl"), "boost", "1")
+    ours = processor_time(str(counts.PROGRAMS / "trxctl"), "boost", "1", accepted=counts.STORED)
     # Debian's pyusb needs Debian's Python, even if another one is found first.
     theirs = processor_time("/usr/bin/python3", str(pathlib.Path(__file__).parent / "pyusb_host.py"), "1", VENDOR)
     promise = f"< {MOST_CPU_OF_A_COMMAND} ms"
