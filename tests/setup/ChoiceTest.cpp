@@ -6,6 +6,9 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
+/// Wide enough for every choice, whatever the font.
+constexpr QSize kWide{1160, 700};
+
 /// A setting in the window, and what each of its choices sends, in the order of the library.
 struct Row {
   const char *setting;
@@ -87,6 +90,7 @@ TEST_F(Choice, EveryOneOfSelvaIsSentStoredAndShown) {
 TEST_F(Choice, EveryOneOfVoltIsSentStoredAndShown) {
   Plug("TRX-VOLT");
   OpenWindow();
+  Window().resize(kWide);
   ExpectSettings({"boost", "midi"});
   ExpectEveryChoice(BoostLevel());
   ExpectEveryChoice(MidiChannel());
@@ -97,6 +101,7 @@ class ChoiceOfModel : public Choice, public testing::WithParamInterface<std::str
 TEST_P(ChoiceOfModel, EveryLevelIsSentStoredAndShown) {
   Plug(GetParam());
   OpenWindow();
+  Window().resize(kWide);
   ExpectSettings({"boost"});
   ExpectEveryChoice(BoostLevel());
 }

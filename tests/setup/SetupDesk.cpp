@@ -7,13 +7,17 @@
 #include <sstream>
 
 #include "../acceptance/simulated/CaseRunner.h"
+#include "Accessibility.h"
+#include "FocusRing.h"
+#include "SetupStyle.h"
+#include "Theme.h"
 #include "Translations.h"
 
 namespace trxtest {
 namespace {
 
 /// Until a test that waits gives up: not how fast the program must be.
-constexpr int kPatienceMilliseconds = 20'000;
+constexpr int kPatienceMilliseconds = 90'000;
 
 constexpr int kUsbPosition = 6;
 // TRX-VOLT has as many, the others more; only these two channels have control tones here.
@@ -50,7 +54,12 @@ QApplication *MakeApplication() {
 }  // namespace
 
 SetupDesk::SetupDesk() : mixers_(ControlSocketIn(PrivateFolder())) {
-  setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  // A display with room for the window at the double scale.
+  const std::string display = PrivateFolder() + "/display.json";
+  WriteBytes(display,
+             R"({"screens": [{"name": "desk", "x": 0, "y": 0, "width": 3200, "height": 2000,
+                          "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+  setenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + display).c_str(), 1);
   setenv("TRX_SYSTEM_ROOT", BUILT_SYSTEM_ROOT, 1);
 }
 
@@ -79,6 +88,13 @@ std::vector<std::string> SetupDesk::Written() {
 
 void SetupDesk::OpenWindow() {
   if (!application_) application_.reset(MakeApplication());
+  constexpr int kPointSize = 10;
+  if (!font_.isEmpty()) QApplication::setFont(QFont(font_, kPointSize));
+  QApplication::setStyle(new setup::SetupStyle);
+  setup::UseTheme(colours_);
+  setup::InstallAccessibility();
+  // Owned by the application, as its other filters are.
+  new setup::KeyboardUse(application_.get());
   const int32_t language = setup::InstallTranslations(*application_);
   state_ = std::make_unique<setup::SetupState>(client::DefaultModel(), language);
   window_ = std::make_unique<setup::SetupWindow>(*state_);
@@ -120,6 +136,13 @@ QAbstractItemView &SetupDesk::OpenList(const QString &setting) {
   return *list.view();
 }
 
+void SetupDesk::PointAtEntry(QAbstractItemView &entries, int row) {
+  const QModelIndex entry = entries.model()->index(row, 0);
+  QWidget &place = *entries.viewport();
+  QWidget *top = place.window();
+  QTest::mouseMove(top->windowHandle(), place.mapTo(top, entries.visualRect(entry).center()));
+}
+
 void SetupDesk::ClickEntry(QAbstractItemView &entries, int row) {
   const QModelIndex entry = entries.model()->index(row, 0);
   entries.scrollTo(entry);
@@ -146,6 +169,20 @@ void SetupDesk::WaitUntil(const std::string &what, const std::function<bool()> &
   if (!QTest::qWaitFor(isSo, kPatienceMilliseconds)) {
     throw std::runtime_error("this never happens: " + what);
   }
+}
+
+void SetupDesk::Settle() {
+  WaitUntil("the window comes to rest", [this] {
+    // What a job found may ask for another one.
+    for (int round = 0; round < 3; ++round) {
+      if (!state_->Jobs().WaitUntilDone(std::chrono::milliseconds(kPatienceMilliseconds)))
+        return false;
+      QCoreApplication::processEvents();
+    }
+    const QImage before = window_->grab().toImage();
+    QCoreApplication::processEvents();
+    return window_->grab().toImage() == before;
+  });
 }
 
 void SetupDesk::WaitForStatus(const QString &text) {

@@ -43,6 +43,10 @@ class SetupDesk : public testing::Test {
 
   // --- The window ---
 
+  /// The font and the colours, before the window is opened.
+  void UseFont(const QString &family) { font_ = family; }
+  void UseColours(const setup::Appearance &colours) { colours_ = colours; }
+
   /// Opens the window and waits until mixers and stored settings are shown.
   void OpenWindow();
   void CloseWindow();
@@ -64,6 +68,8 @@ class SetupDesk : public testing::Test {
   void Choose(const QString &setting, int index);
   /// Opens a list and leaves it open.
   QAbstractItemView &OpenList(const QString &setting);
+  /// Points at an entry of an open list.
+  void PointAtEntry(QAbstractItemView &entries, int row);
   /// Clicks an entry of an open list.
   void ClickEntry(QAbstractItemView &entries, int row);
   /// Presses a key where the focus is.
@@ -76,6 +82,8 @@ class SetupDesk : public testing::Test {
 
   /// Lets the program run until something is so; a failure of the test when it never is.
   void WaitUntil(const std::string &what, const std::function<bool()> &isSo);
+  /// Waits until every look and every choice is done, and the window shows it.
+  void Settle();
   /// The same for a text that has to be told at the foot of the window.
   void WaitForStatus(const QString &text);
 
@@ -91,6 +99,8 @@ class SetupDesk : public testing::Test {
  private:
   PrivateSessionBus bus_;
   trxsim::ControlClient mixers_;
+  QString font_;
+  setup::Appearance colours_;
   std::unique_ptr<QApplication> application_;
   std::unique_ptr<setup::SetupState> state_;
   std::unique_ptr<setup::SetupWindow> window_;

@@ -711,7 +711,7 @@
     </message>
     <message>
         <source>set by another program</source>
-        <translation>von anderem Programm gesetzt</translation>
+        <translation>von anderem Programm</translation>
     </message>
 </context>
 <context>

@@ -711,7 +711,7 @@
     </message>
     <message>
         <source>set by another program</source>
-        <translation>changé par un autre programme</translation>
+        <translation>par un autre programme</translation>
     </message>
 </context>
 <context>

@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>The input selector of CH%1 is not on USB</source>
-        <translation>CH%1のインプットセレクターがUSBになっていません</translation>
+        <translation>CH%1のインプットセレクターがUSB以外です</translation>
     </message>
     <message>
         <source>The signal of the mixer that the computer records on %1.</source>
