@@ -100,5 +100,23 @@ TEST_F(State, SettingsFolderNotWritable) {
       << Status().toStdString();
 }
 
+TEST_F(State, DetailsAreThoseOfDiagnose) {
+  Plug();
+  OpenWindow();
+  Press(Qt::Key_F1);
+  WaitUntil("the details are there", [this] {
+    const auto *details = Window().findChild<QLabel *>("detailsText");
+    return details != nullptr && details->text().contains("SIM00001");
+  });
+  const QString text = TextOf("detailsText");
+  for (const char *part :
+       {"USB", "Mixer", "Permission", "Answer", "Session bus", "Settings folder", "Installation"}) {
+    EXPECT_TRUE(text.contains(QString("<b>%1:</b>").arg(part))) << part;
+  }
+  Click(Find("closeDetails"));
+  WaitUntil("they are closed",
+            [this] { return Window().findChild<QLabel *>("detailsText") == nullptr; });
+}
+
 }  // namespace
 }  // namespace trxtest
