@@ -170,11 +170,17 @@ QScrollArea *SetupWindow::MakeFrame(QWidget *parent) {
   return frame;
 }
 
+// Never narrower than the cards, except on a screen that is.
 void SetupWindow::FitToScreen() {
   const QSize room = screen()->availableSize();
   const bool hasRouting = HasRouting(state_);
-  setMinimumSize(ScaledSize(hasRouting ? kSmallest : kSmallestWithoutRouting).boundedTo(room));
-  if (!isVisible()) resize(ScaledSize(hasRouting ? kSize : kSizeWithoutRouting).boundedTo(room));
+  const int cards = frame_->widget()->minimumSizeHint().width() + 2 * Scaled(kMargin);
+  const QSize needed{qMax(cards, layout()->minimumSize().width()), 0};
+  const auto fitted = [&](const QSize &size) {
+    return ScaledSize(size).expandedTo(needed).boundedTo(room);
+  };
+  setMinimumSize(fitted(hasRouting ? kSmallest : kSmallestWithoutRouting));
+  if (!isVisible()) resize(fitted(hasRouting ? kSize : kSizeWithoutRouting));
 }
 
 CardColumn *SetupWindow::MakePlaybackColumn(QWidget *parent) {

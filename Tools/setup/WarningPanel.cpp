@@ -61,6 +61,19 @@ int WarningLine::heightForWidth(int width) const {
   return fontMetrics().boundingRect(room, Qt::TextWordWrap, text()).height() + Scaled(12);
 }
 
+void WarningLine::SetText(const QString &text) {
+  setText(text);
+  FitText();
+}
+
+// The column can be scrolled, and a scroll area does not ask for the height that a width needs.
+void WarningLine::FitText() { setMinimumHeight(heightForWidth(width())); }
+
+void WarningLine::resizeEvent(QResizeEvent *event) {
+  QPushButton::resizeEvent(event);
+  FitText();
+}
+
 void WarningLine::paintEvent(QPaintEvent * /*event*/) {
   const bool isMirrored = layoutDirection() == Qt::RightToLeft;
   QPainter painter(this);
@@ -101,7 +114,7 @@ WarningPanel::WarningPanel(QWidget *parent)
 void WarningPanel::Show(const Warning *warning) {
   setVisible(warning != nullptr);
   if (warning == nullptr) return;
-  line_->setText(WarningAsTitle(*warning));
+  line_->SetText(WarningAsTitle(*warning));
   text_->setText(QString::fromStdString(warning->text));
   line_->setAccessibleDescription(text_->text());
 }

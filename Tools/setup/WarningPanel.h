@@ -19,13 +19,16 @@ class WarningLine : public QPushButton {
   QSize minimumSizeHint() const override;
   bool hasHeightForWidth() const override { return true; }
   int heightForWidth(int width) const override;
+  void SetText(const QString &text);
 
  protected:
   void paintEvent(QPaintEvent *event) override;
+  void resizeEvent(QResizeEvent *event) override;
 
  private:
   /// Where the text stands, between the sign and the arrow.
   QRect TextArea(const QRect &area) const;
+  void FitText();
 };
 
 /// A warning at the foot of a card: a line with a sign, and what to do below it.

@@ -37,6 +37,10 @@ class TextFit : public SetupDesk, public testing::WithParamInterface<std::string
       ++seen;
       EXPECT_LE(button->sizeHint().width(), button->width())
           << GetParam() << ": " << button->text().toStdString();
+      if (button->hasHeightForWidth()) {
+        EXPECT_LE(button->heightForWidth(button->width()), button->height())
+            << GetParam() << ": " << button->text().toStdString();
+      }
       ExpectInWindow(*button, button->text());
     }
     EXPECT_GT(seen, 10);
@@ -58,6 +62,12 @@ TEST_P(TextFit, OfAMixerWithWarnings) {
   WaitUntil("the warnings are there",
             [this] { return FindIn("input2Card", "warningLine").isVisible(); });
   Click(FindIn("input2Card", "warningLine"));
+  ExpectEverythingFits();
+}
+
+TEST_P(TextFit, OfAModelWithoutRouting) {
+  Plug("TRX-VOLT");
+  OpenWindow();
   ExpectEverythingFits();
 }
 
